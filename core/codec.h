@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/block_image.h"
+#include "core/record/mux_data.h"
+#include "core/record_environment.h"
+
+namespace quorvel {
+
+/// Wall-clock time of day that may replace the record's clock when block 61 is encoded.
+struct TimeOfDay {
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+};
+
+/// Fills `rec` and the identity of `env` from the image, and lowers all commit flags. Settings that
+/// the model does not have keep their values. Compression nibbles above 8 are repaired in the image
+/// as well. Throws ImageError before anything changes when the image cannot be decoded (see
+/// ReadIdentity).
+void DecodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec);
+
+/// Writes block `number` of the image anew from the record. Bytes that carry no setting keep their
+/// content; blocks that hold no editable setting, or that the image does not hold, stay as they
+/// are. Encoding the change-mask blocks 213 and 217 clears their masks in the record.
+void EncodeBlock(int number, BlockImage& image, RecordEnvironment& env, MuxData& rec);
+
+/// Encodes every listed block, in list order. With `pc_time`, block 61 takes the clock from it.
+void EncodeModifiedBlocks(BlockImage& image, RecordEnvironment& env, MuxData& rec,
+                          const TimeOfDay* pc_time = nullptr);
+
+}  // namespace quorvel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "core/setting.h"
+
+namespace quorvel::layout {
+
+/// One setting of every element of a collection, indexed by camera, alarm input or entry.
+template <class Element, std::size_t N, class SettingType>
+struct EachElement {
+  static constexpr int kSize = static_cast<int>(N);
+  std::array<Element, N>& elements;
+  SettingType Element::*setting;
+  SettingType& operator[](int k) const { return elements.at(static_cast<std::size_t>(k)).*setting; }
+};
+
+template <class Element, std::size_t N, class SettingType>
+EachElement<Element, N, SettingType> Each(std::array<Element, N>& elements,
+                                          SettingType Element::*setting) {
+  return {elements, setting};
+}
+
+/// A run of entries of a setting array, the first at `first`.
+template <class Array>
+struct EachEntry {
+  Array& array;
+  int first = 0;
+  auto operator[](int k) const { return array[first + k]; }
+};
+
+template <class Array>
+EachEntry<Array> Each(Array& array, int first = 0) {
+  return {array, first};
+}
+
+/// Which state of a bit means "set": some device bits say "enabled" where the setting says
+/// "disable".
+enum class Sense : bool { kDirect, kInverted };
+
+}  // namespace quorvel::layout

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "quorvel/widgets/controls.h"
+#include "quorvel/widgets/layout.h"
+#include "quorvel/widgets/widget.h"
+
+namespace quorvel {
+
+class Platform;
+struct Picture;
+
+/// A window as a value: its controls, their layout, and whether it is on screen. Editors derive
+/// from it and hold their controls as members. A dialog lives in a std::shared_ptr; while one of
+/// its handlers runs it stays alive, whoever lets go of it meanwhile.
+class Dialog : public std::enable_shared_from_this<Dialog> {
+ public:
+  /// `name` is the window's name in the code, as "frm_CameraSetup".
+  Dialog(Platform& platform, std::string name);
+  /// Takes the dialog off the screen; calls no handler.
+  virtual ~Dialog();
+  Dialog(const Dialog&) = delete;
+  Dialog& operator=(const Dialog&) = delete;
+
+  [[nodiscard]] const std::string& Name() const { return name_; }
+  [[nodiscard]] const std::string& Caption() const { return caption_; }
+  [[nodiscard]] const Picture* Icon() const { return icon_; }
+  [[nodiscard]] const Layout& Contents() const { return layout_; }
+  [[nodiscard]] bool Shown() const { return shown_; }
+  /// The controls in the order of their declaration.
+  [[nodiscard]] const std::vector<Widget*>& Widgets() const { return widgets_; }
+  /// The control of that name, or a null pointer.
+  [[nodiscard]] Widget* FindWidget(std::string_view name) const;
+  /// The control of that name and kind; throws std::invalid_argument when there is none.
+  template <class Control>
+  [[nodiscard]] Control& Find(std::string_view name) const {
+    auto* const control = dynamic_cast<Control*>(FindWidget(name));
+    if (control == nullptr) ThrowNoControl(name);
+    return *control;
+  }
+  /// The buttons that Ctrl+Enter and Escape press; none by default. Escape closes a dialog without
+  /// a cancel button.
+  [[nodiscard]] Button* DefaultButton() const { return default_button_; }
+  [[nodiscard]] Button* CancelButton() const { return cancel_button_; }
+
+  void SetCaption(std::string caption);
+  void SetIcon(const Picture* icon) { icon_ = icon; }
+  void SetLayout(Layout layout);
+  void SetKeyButtons(Button* default_button, Button* cancel_button);
+  /// Shows the dialog modeless, or brings it to the front when it is on screen.
+  void Show();
+  /// Shows the dialog and returns when it has been closed.
+  void ShowModal();
+  /// Takes the dialog off the screen and raises on_closed; nothing when it is not shown.
+  void Close();
+
+  /// What a person does with the window's own close button, or Escape.
+  Answer CloseWindow();
+
+  /// Raised each time the dialog leaves the screen, whatever closed it.
+  Handler on_closed;
+
+  void AttachView(WidgetView* view) { view_ = view; }
+  /// Keeps `life` alive, as long as it lives, while a handler of this dialog runs.
+  void KeepAliveWith(std::weak_ptr<const void> life) { life_ = std::move(life); }
+
+  /// Runs a handler so that nothing is destroyed under it and no failure leaves it: a failure is
+  /// told in a message box, "Error found in " and the place.
+  void RunHandler(const std::string& place, const Handler& handler);
+
+  /// For widgets, as they are constructed.
+  void Register(Widget& widget) { widgets_.push_back(&widget); }
+  [[nodiscard]] Platform& GetPlatform() const { return platform_; }
+
+ private:
+  [[noreturn]] void ThrowNoControl(std::string_view name) const;
+  void Place(const Layout& layout, Widget* container, int page);
+
+  Platform& platform_;
+  std::string name_;
+  std::string caption_;
+  const Picture* icon_ = nullptr;
+  Layout layout_;
+  std::vector<Widget*> widgets_;
+  Button* default_button_ = nullptr;
+  Button* cancel_button_ = nullptr;
+  WidgetView* view_ = nullptr;
+  std::weak_ptr<const void> life_;
+  bool shown_ = false;
+};
+
+}  // namespace quorvel

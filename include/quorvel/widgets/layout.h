@@ -1,0 +1,125 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "quorvel/widgets/controls.h"
+#include "quorvel/widgets/widget.h"
+
+namespace quorvel {
+
+/// Where the controls of a dialog stand, told so that it reads like the window:
+///
+///     Column(Tabs(SSTab1, Page("Titles", Row(Framed(Frame2, Lines(m_CameraTitle))))),
+///            Row(Stretch(), cmd_OK, cmd_Cancel))
+///
+/// A control array stands for all its elements. Hidden controls take no space.
+struct Layout {
+  enum class Kind {
+    kWidget,   ///< one control; a frame or tab strip brings its own contents
+    kRow,      ///< side by side
+    kColumn,   ///< one below the other
+    kLines,    ///< one below the other, every part one text-box line high, so that the lines of
+               ///< frames side by side meet
+    kStretch,  ///< takes the space that is left
+  };
+  Kind kind = Kind::kColumn;
+  Widget* widget = nullptr;
+  std::vector<Layout> parts;
+};
+
+namespace layout_detail {
+
+inline void Add(Layout& to, Layout part) { to.parts.push_back(std::move(part)); }
+inline void Add(Layout& to, Widget& widget) {
+  to.parts.push_back({Layout::Kind::kWidget, &widget, {}});
+}
+template <class Control>
+void Add(Layout& to, ControlArray<Control>& controls) {
+  for (Control& control : controls) Add(to, control);
+}
+template <class... Parts>
+Layout Make(Layout::Kind kind, Parts&&... parts) {
+  Layout layout{kind, nullptr, {}};
+  (Add(layout, std::forward<Parts>(parts)), ...);
+  return layout;
+}
+
+}  // namespace layout_detail
+
+template <class... Parts>
+Layout Row(Parts&&... parts) {
+  return layout_detail::Make(Layout::Kind::kRow, std::forward<Parts>(parts)...);
+}
+template <class... Parts>
+Layout Column(Parts&&... parts) {
+  return layout_detail::Make(Layout::Kind::kColumn, std::forward<Parts>(parts)...);
+}
+template <class... Parts>
+Layout Lines(Parts&&... parts) {
+  return layout_detail::Make(Layout::Kind::kLines, std::forward<Parts>(parts)...);
+}
+inline Layout Stretch() { return {Layout::Kind::kStretch, nullptr, {}}; }
+
+/// A captioned border around a group of controls.
+class Frame : public Widget {
+ public:
+  Frame(Dialog& dialog, std::string name, std::string caption = {});
+  [[nodiscard]] const Layout& Content() const { return content_; }
+  /// Sets what stands inside; before the dialog's own layout is set.
+  void SetContent(Layout content) { content_ = std::move(content); }
+
+ private:
+  Layout content_;
+};
+
+/// A frame with its contents, as part of a layout.
+inline Layout Framed(Frame& frame, Layout content) {
+  frame.SetContent(std::move(content));
+  return {Layout::Kind::kWidget, &frame, {}};
+}
+
+/// One page of a tab strip.
+struct Page {
+  std::string caption;
+  Layout content;
+  bool visible = true;
+};
+
+/// Pages behind one another, numbered from 0; one is in front.
+class TabStrip : public Widget {
+ public:
+  TabStrip(Dialog& dialog, std::string name);
+  [[nodiscard]] const std::vector<Page>& Pages() const { return pages_; }
+  [[nodiscard]] int Count() const { return static_cast<int>(pages_.size()); }
+  /// The page in front.
+  [[nodiscard]] int Current() const { return current_; }
+  [[nodiscard]] std::string ValueText() const override;
+
+  /// Sets the pages; before the dialog's own layout is set. Page 0 comes to the front.
+  void SetPages(std::vector<Page> pages);
+  void SetPageCaption(int page, std::string caption);
+  void SetPageVisible(int page, bool visible);
+  void SetCurrent(int page);
+
+  /// A click on a page's tab; on_change follows when another page comes to the front.
+  Answer Choose(int page);
+  Handler on_change;
+
+ private:
+  [[nodiscard]] bool IsPage(int page) const { return page >= 0 && page < Count(); }
+  std::vector<Page> pages_;
+  int current_ = 0;
+};
+
+/// A tab strip with its pages, as part of a layout.
+template <class... Pages>
+Layout Tabs(TabStrip& tabs, Pages&&... pages) {
+  std::vector<Page> list;
+  (list.push_back(std::forward<Pages>(pages)), ...);
+  tabs.SetPages(std::move(list));
+  return {Layout::Kind::kWidget, &tabs, {}};
+}
+
+}  // namespace quorvel

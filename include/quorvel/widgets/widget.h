@@ -1,0 +1,114 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace quorvel {
+
+class Dialog;
+class TabStrip;
+
+/// What a user verb answers. A verb that is refused changes nothing and calls no handler.
+enum class Answer {
+  kDone,
+  kHidden,       ///< the control, or a frame or page around it, is not on screen
+  kDisabled,     ///< the control, or its dialog behind a modal one, takes no input
+  kNoSuchPlace,  ///< no such row, column, item or page, or one that cannot be picked
+};
+
+/// The answer in words, for scripts and messages.
+[[nodiscard]] const char* Describe(Answer answer);
+
+/// What of a widget changed, so that a view redraws no more than needed.
+enum class Aspect {
+  kState,      ///< caption, visible, enabled, limits
+  kContent,    ///< items, cells, pages
+  kSelection,  ///< value, selected item, current cell or page
+};
+
+/// A toolkit's drawing of one widget or dialog. The model calls it after every change.
+class WidgetView {
+ public:
+  virtual ~WidgetView() = default;
+  virtual void Refresh(Aspect what) = 0;
+};
+
+enum class WidgetKind {
+  kLabel,
+  kButton,
+  kCheckBox,
+  kOptionButton,
+  kTextBox,
+  kListBox,
+  kGrid,
+  kTabStrip,
+  kFrame,
+  kProgressBar,
+  kStatusBar,
+};
+
+using Handler = std::function<void()>;
+
+/// A control of a dialog: its state and value, without any drawing.
+///
+/// Program verbs (SetCaption, SetText, Select, ...) change the model and redraw; they never call
+/// handlers. User verbs (Click, Choose, Type, Press, ...) do what a person does, call the handlers,
+/// and are refused by a control that is hidden or disabled. Toolkits and tests use user verbs only.
+/// A user verb may end with the dialog destroyed; its caller must not touch the widget afterwards.
+///
+/// All texts are UTF-8.
+class Widget {
+ public:
+  /// Registers the widget with its dialog. `name` is the control's name in the code; an element of
+  /// an array is named with its index, as in "opt_AlLatch(2)".
+  Widget(Dialog& dialog, WidgetKind kind, std::string name);
+  virtual ~Widget() = default;
+  Widget(const Widget&) = delete;
+  Widget& operator=(const Widget&) = delete;
+
+  [[nodiscard]] WidgetKind Kind() const { return kind_; }
+  [[nodiscard]] const std::string& Name() const { return name_; }
+  [[nodiscard]] Dialog& Owner() const { return dialog_; }
+  [[nodiscard]] const std::string& Caption() const { return caption_; }
+  [[nodiscard]] bool Visible() const { return visible_; }
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+
+  /// Visible, in visible containers, on the page in front.
+  [[nodiscard]] bool Showing() const;
+  /// What a person can change, as one line of text: "" for kinds without a value.
+  [[nodiscard]] virtual std::string ValueText() const { return {}; }
+
+  void SetCaption(std::string caption);
+  void SetVisible(bool visible);
+  void SetEnabled(bool enabled);
+
+  /// The view that draws this widget, or none. The view detaches itself before it goes.
+  void AttachView(WidgetView* view) { view_ = view; }
+
+  /// The frame or tab strip that holds the widget, none at the top; set by the dialog's layout.
+  void PlaceIn(Widget* container, int page) {
+    container_ = container;
+    page_ = page;
+  }
+
+ protected:
+  [[nodiscard]] Answer Refusal() const;
+  void Redraw(Aspect what) const {
+    if (view_ != nullptr) view_->Refresh(what);
+  }
+  /// Calls a handler of this widget as the dialog's edge does: no failure leaves it.
+  void Raise(const Handler& handler);
+
+ private:
+  Dialog& dialog_;
+  WidgetKind kind_;
+  std::string name_;
+  std::string caption_;
+  bool visible_ = true;
+  bool enabled_ = true;
+  WidgetView* view_ = nullptr;
+  Widget* container_ = nullptr;
+  int page_ = -1;
+};
+
+}  // namespace quorvel

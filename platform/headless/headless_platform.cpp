@@ -1,0 +1,211 @@
+#include "quorvel/headless_platform.h"
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+#include "platform/common/code_page.h"
+#include "platform/common/whole_files.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr int kTooManyTurns = 1'000'000;
+constexpr std::int64_t kEndOfTime = std::numeric_limits<std::int64_t>::max();
+
+class VirtualTimer : public Timer {
+ public:
+  VirtualTimer(HeadlessPlatform& platform, std::function<void()> tick)
+      : state_(std::make_shared<State>(State{platform, std::move(tick)})) {}
+  ~VirtualTimer() override { Stop(); }
+  VirtualTimer(const VirtualTimer&) = delete;
+  VirtualTimer& operator=(const VirtualTimer&) = delete;
+
+  void SetInterval(int milliseconds) override {
+    state_->interval = milliseconds;
+    if (state_->running) Start();
+  }
+  [[nodiscard]] int Interval() const override { return state_->interval; }
+  void Start() override {
+    state_->running = true;
+    Schedule(state_);
+  }
+  void Stop() override {
+    state_->running = false;
+    ++state_->round;
+  }
+
+ private:
+  struct State {
+    HeadlessPlatform& platform;
+    std::function<void()> tick;
+    int interval = 0;
+    bool running = false;
+    int round = 0;  ///< tells a tick that is due from one that a stop or restart has cancelled
+  };
+
+  static void Schedule(const std::shared_ptr<State>& state) {
+    const int round = ++state->round;
+    if (state->interval <= 0) return;
+    state->platform.PostIn(state->interval, [weak = std::weak_ptr<State>(state), round] {
+      const auto live = weak.lock();
+      if (!live || !live->running || live->round != round) return;
+      Schedule(live);
+      live->tick();
+    });
+  }
+
+  std::shared_ptr<State> state_;
+};
+
+}  // namespace
+
+HeadlessPlatform::HeadlessPlatform() = default;
+HeadlessPlatform::~HeadlessPlatform() = default;
+
+void HeadlessPlatform::PostIn(int milliseconds, std::function<void()> task) {
+  tasks_.emplace(now_ + std::max(milliseconds, 0), std::move(task));
+}
+
+bool HeadlessPlatform::RunNext(std::int64_t limit) {
+  if (tasks_.empty() || tasks_.begin()->first > limit) return false;
+  auto node = tasks_.extract(tasks_.begin());
+  now_ = std::max(now_, node.key());
+  node.mapped()();
+  return true;
+}
+
+void HeadlessPlatform::RunUntilIdle() {
+  for (int turn = 0; RunNext(kEndOfTime); ++turn) {
+    if (turn == kTooManyTurns) throw std::runtime_error("the loop does not come to rest");
+  }
+}
+
+void HeadlessPlatform::Advance(int milliseconds) {
+  const std::int64_t until = now_ + milliseconds;
+  while (RunNext(until)) {
+  }
+  now_ = std::max(now_, until);
+}
+
+Dialog& HeadlessPlatform::Window(std::string_view name) const {
+  const auto found = std::find_if(windows_.rbegin(), windows_.rend(),
+                                  [name](const Dialog* dialog) { return dialog->Name() == name; });
+  if (found == windows_.rend()) {
+    throw std::invalid_argument("no window " + std::string(name) + " is open");
+  }
+  return **found;
+}
+
+PopupMenu& HeadlessPlatform::Menu() const {
+  if (menu_ == nullptr) throw std::logic_error("no menu is up");
+  return *menu_;
+}
+
+Answer HeadlessPlatform::ChooseMenu(std::string_view name) {
+  if (menu_ == nullptr) throw std::logic_error("no menu is up");
+  if (!modal_.empty()) return Answer::kDisabled;
+  const auto menu = menu_;
+  // The menu goes down before the item acts, so that an action can pop it up again.
+  menu_.reset();
+  const Answer answer = menu->Choose(name);
+  if (answer != Answer::kDone) menu_ = menu;
+  return answer;
+}
+
+void HeadlessPlatform::Show(Dialog& dialog) {
+  std::erase(windows_, &dialog);
+  windows_.push_back(&dialog);
+}
+
+void HeadlessPlatform::ShowModal(Dialog& dialog) {
+  const auto keep = dialog.shared_from_this();
+  Show(dialog);
+  modal_.push_back(&dialog);
+  while (dialog.Shown()) {
+    if (RunNext(now_)) continue;
+    if (at_modal && at_modal(dialog)) continue;
+    if (RunNext(kEndOfTime)) continue;
+    stalled_.push_back(dialog.Name());
+    dialog.Close();
+  }
+  std::erase(modal_, &dialog);
+}
+
+void HeadlessPlatform::Hide(Dialog& dialog) noexcept {
+  std::erase(windows_, &dialog);
+  std::erase(modal_, &dialog);
+}
+
+bool HeadlessPlatform::TakesInput(const Dialog& dialog) const {
+  return modal_.empty() || modal_.back() == &dialog;
+}
+
+void HeadlessPlatform::PopUp(std::shared_ptr<PopupMenu> menu, int /*x*/, int /*y*/) {
+  menu_ = std::move(menu);
+}
+
+void HeadlessPlatform::TakeDown(const PopupMenu& menu) noexcept {
+  if (menu_.get() == &menu) menu_.reset();
+}
+
+bool HeadlessPlatform::Ask(const Message& message) {
+  messages_.push_back(message);
+  if (answers_.empty()) return message.buttons == Message::Buttons::kOk;
+  const bool ok = answers_.front();
+  answers_.pop_front();
+  return ok;
+}
+
+std::optional<std::string> HeadlessPlatform::AskFile(const FileRequest& request) {
+  requests_.push_back(request);
+  if (files_.empty()) return std::nullopt;
+  auto path = std::move(files_.front());
+  files_.pop_front();
+  return path;
+}
+
+std::unique_ptr<Timer> HeadlessPlatform::NewTimer(std::function<void()> tick) {
+  return std::make_unique<VirtualTimer>(*this, std::move(tick));
+}
+
+LocalTime HeadlessPlatform::Now() const {
+  using std::chrono::days;
+  using std::chrono::sys_days;
+  const std::chrono::year_month_day start{
+      std::chrono::year(wall_clock_.year),
+      std::chrono::month(static_cast<unsigned>(wall_clock_.month)),
+      std::chrono::day(static_cast<unsigned>(wall_clock_.day))};
+  const auto moment = sys_days(start) + std::chrono::hours(wall_clock_.hour) +
+                      std::chrono::minutes(wall_clock_.minute) +
+                      std::chrono::seconds(wall_clock_.second + now_ / 1000);
+  const auto midnight = std::chrono::floor<days>(moment);
+  const std::chrono::year_month_day date(midnight);
+  const std::chrono::hh_mm_ss time(moment - midnight);
+  return {static_cast<int>(date.year()),
+          static_cast<int>(static_cast<unsigned>(date.month())),
+          static_cast<int>(static_cast<unsigned>(date.day())),
+          static_cast<int>(time.hours().count()),
+          static_cast<int>(time.minutes().count()),
+          static_cast<int>(time.seconds().count())};
+}
+
+std::vector<std::uint8_t> HeadlessPlatform::ReadFile(const std::string& path) {
+  return ReadWholeFile(path);
+}
+
+void HeadlessPlatform::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+  ReplaceWholeFile(path, bytes);
+}
+
+Size HeadlessPlatform::MeasureText(const quorvel::Font& /*font*/, std::string_view text) const {
+  constexpr int kCharacterWidth = 7;
+  constexpr int kLineHeight = 15;
+  return {kCharacterWidth * static_cast<int>(text.size()), kLineHeight};
+}
+
+std::string HeadlessPlatform::ToUtf8(std::string_view bytes) const { return CodePageToUtf8(bytes); }
+std::string HeadlessPlatform::FromUtf8(std::string_view text) const { return Utf8ToCodePage(text); }
+
+}  // namespace quorvel

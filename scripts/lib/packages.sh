@@ -1,0 +1,30 @@
+# Sourced by the scripts: installs Debian packages that are missing, as root or through sudo.
+
+install_missing() {
+  local missing=()
+  local package
+  for package in "$@"; do
+    if ! dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed; then
+      missing+=("$package")
+    fi
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "These Debian packages are missing and neither root nor sudo is at hand: ${missing[*]}" >&2
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+  echo "Installing Debian packages: ${missing[*]}" >&2
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -q >&2
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -q -y --no-install-recommends "${missing[@]}" >&2
+}
+
+# What building needs; what testing needs on top.
+BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
+RUN_PACKAGES=(fonts-dejavu-core)
+TEST_PACKAGES=(libgtest-dev clang-format)

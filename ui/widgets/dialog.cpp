@@ -1,0 +1,91 @@
+#include "quorvel/widgets/dialog.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "quorvel/platform.h"
+#include "ui/widgets/failure.h"
+
+namespace quorvel {
+
+Dialog::Dialog(Platform& platform, std::string name)
+    : platform_(platform), name_(std::move(name)) {}
+
+Dialog::~Dialog() {
+  if (shown_) platform_.Hide(*this);
+}
+
+Widget* Dialog::FindWidget(std::string_view name) const {
+  const auto found = std::find_if(widgets_.begin(), widgets_.end(),
+                                  [name](const Widget* widget) { return widget->Name() == name; });
+  return found == widgets_.end() ? nullptr : *found;
+}
+
+void Dialog::ThrowNoControl(std::string_view name) const {
+  throw std::invalid_argument(name_ + " has no such control: " + std::string(name));
+}
+
+void Dialog::SetCaption(std::string caption) {
+  caption_ = std::move(caption);
+  if (view_ != nullptr) view_->Refresh(Aspect::kState);
+}
+
+void Dialog::SetLayout(Layout layout) {
+  layout_ = std::move(layout);
+  Place(layout_, nullptr, -1);
+  if (view_ != nullptr) view_->Refresh(Aspect::kContent);
+}
+
+void Dialog::Place(const Layout& layout, Widget* container, int page) {
+  for (const Layout& part : layout.parts) Place(part, container, page);
+  if (layout.widget == nullptr) return;
+  layout.widget->PlaceIn(container, page);
+  if (const auto* frame = dynamic_cast<const Frame*>(layout.widget)) {
+    Place(frame->Content(), layout.widget, -1);
+  }
+  if (const auto* tabs = dynamic_cast<const TabStrip*>(layout.widget)) {
+    int number = 0;
+    for (const Page& it : tabs->Pages()) Place(it.content, layout.widget, number++);
+  }
+}
+
+void Dialog::SetKeyButtons(Button* default_button, Button* cancel_button) {
+  default_button_ = default_button;
+  cancel_button_ = cancel_button;
+}
+
+void Dialog::Show() {
+  shown_ = true;
+  platform_.Show(*this);
+}
+
+void Dialog::ShowModal() {
+  const auto keep = shared_from_this();
+  shown_ = true;
+  platform_.ShowModal(*this);
+}
+
+void Dialog::Close() {
+  if (!shown_) return;
+  const auto keep = shared_from_this();
+  shown_ = false;
+  platform_.Hide(*this);
+  RunHandler("on_closed", on_closed);
+}
+
+Answer Dialog::CloseWindow() {
+  if (!shown_) return Answer::kHidden;
+  if (!platform_.TakesInput(*this)) return Answer::kDisabled;
+  Close();
+  return Answer::kDone;
+}
+
+void Dialog::RunHandler(const std::string& place, const Handler& handler) {
+  if (!handler) return;
+  const Handler copy = handler;  // the handler may replace or destroy the one that is stored
+  const auto keep = weak_from_this().lock();
+  const auto life = life_.lock();
+  GuardEdge(platform_, name_ + "." + place, copy);
+}
+
+}  // namespace quorvel
