@@ -1,0 +1,118 @@
+#include "host/component.h"
+
+#include <cstdint>
+#include <stdexcept>
+
+#include "core/byte_order.h"
+#include "host/model_catalogue.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr std::int16_t kCommandTextSource = 191;
+
+template <class Value>
+Value Property(const PropertyBag& bag, std::string_view name, Value otherwise) {
+  const auto stored = bag.Read(name);
+  if (!stored) return otherwise;
+  const Value* const value = std::get_if<Value>(&*stored);
+  return value != nullptr ? *value : otherwise;
+}
+
+}  // namespace
+
+std::shared_ptr<Component> Component::Create(Platform& platform, MainMenuEvents& host) {
+  auto component = std::make_shared<Component>(platform, host);
+  component->context.life = component;
+  return component;
+}
+
+Component::Component(Platform& platform, MainMenuEvents& host)
+    : context(platform), host_(host), upload_(context, host_), download_(context, host_) {
+  surface.SetLabel(kComponentName);
+  surface.on_click = [this] { Call("Click", [this] { host_.Click(); }); };
+  surface.on_double_click = [this] { Call("DblClick", [this] { host_.DblClick(); }); };
+}
+
+void Component::InitProperties() {
+  surface.SetFont(context.platform.AmbientFont());
+  static_cast<void>(context.Record());
+  surface.SetExtent(context.platform.MeasureText(surface.LabelFont(), surface.Label1()));
+  context.HostCommId = 0;
+  properties_changed = true;
+}
+
+void Component::ReadProperties(const PropertyBag& bag) {
+  surface.SetEnabled(Property(bag, "Enabled", true));
+  surface.SetFont(Property(bag, "Font", context.platform.AmbientFont()));
+  surface.SetExtent(context.platform.MeasureText(surface.LabelFont(), surface.Label1()));
+  context.HostCommId = Property(bag, "HostCommId", Byte{0});
+  properties_changed = false;
+}
+
+void Component::WriteProperties(PropertyBag& bag) {
+  bag.Write("Enabled", surface.Enabled());
+  bag.Write("Font", surface.LabelFont());
+  bag.Write("HostCommId", context.HostCommId);
+  properties_changed = false;
+}
+
+void Component::Terminate() {
+  context.terminated = true;
+  host_.Detach();
+  upload_.CloseDialog();
+  download_.CloseDialog();
+  if (frmMPop != nullptr) frmMPop->Unload();
+}
+
+void Component::Custom(std::int16_t command, std::int32_t param1, std::int32_t param2) {
+  switch (command) {
+    case 10: return download_.Receive();
+    case 11: return upload_.Send();
+    case 15: return OpenMenu(static_cast<std::int16_t>(param1));
+    case 17: return SendActivityGrid(param1);
+    case 18:
+      context.HostType = static_cast<std::int16_t>(param1);
+      context.HostIsDvr = static_cast<Byte>(param2);
+      return;
+    default: return;
+  }
+}
+
+void Component::CustomWithString(std::int16_t command, std::string_view text) {
+  if (command == kCommandTextSource) {
+    context.texts.CreateTextSource(context.platform.Classes(), text);
+  }
+}
+
+void Component::OpenMenu(std::int16_t link) {
+  context.MenuParam = link;
+  context.MenuHostCommId = context.HostCommId;
+  if (frmMPop != nullptr) frmMPop->Unload();
+  frmMPop = std::make_shared<frm_Menu>(context);
+  frmMPop->ActGridRequest = [this] { host_.ActGridPop(context.env.identity.MaxCam); };
+  frmMPop->Load();
+}
+
+void Component::SendActivityGrid(int camera) {
+  if (ReadActivityGrid(context, camera, ActGridBuf)) host_.ActGridData(ActGridBuf);
+}
+
+void Component::FillComboInfo(std::span<const Byte> data) {
+  constexpr std::size_t kSizesLength = 7;
+  if (data.size() < kSizesLength) return;
+  context.combo_sizes = {FromDeviceOrder(data.subspan<0, 2>()), data[2],
+                         FromDeviceOrder(data.subspan<3, 2>()), data[5], data[6]};
+  context.ComboMode = true;
+}
+
+void Component::FillDataBlk(std::span<const Byte> data) {
+  if (context.HostCommId != 0) {
+    download_.TakeWholeImage(data);
+  } else {
+    download_.TakeBlock(data);
+  }
+}
+
+}  // namespace quorvel

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "host/activity_grid.h"
+#include "host/download.h"
+#include "host/host_events.h"
+#include "host/upload.h"
+#include "quorvel/control_surface.h"
+#include "quorvel/property_bag.h"
+#include "ui/context.h"
+#include "ui/menu/frm_menu.h"
+#include "ui/widgets/failure.h"
+
+namespace quorvel {
+
+/// What is behind a MainMenuCtrl. It outlives a control that is destroyed from inside an event or a
+/// dialog, until the last of its routines has returned.
+class Component : public std::enable_shared_from_this<Component> {
+ public:
+  static std::shared_ptr<Component> Create(Platform& platform, MainMenuEvents& host);
+  Component(Platform& platform, MainMenuEvents& host);
+
+  /// Runs a call of the host as an edge, and keeps the component alive meanwhile.
+  template <class Body>
+  void Call(std::string_view routine, Body&& body) {
+    const auto keep = shared_from_this();
+    GuardEdge(context.platform, routine, body);
+  }
+
+  void InitProperties();
+  void ReadProperties(const PropertyBag& bag);
+  void WriteProperties(PropertyBag& bag);
+  /// The control is gone: no more events, no dialogs, no menu.
+  void Terminate();
+
+  void Custom(std::int16_t command, std::int32_t param1, std::int32_t param2);
+  void CustomWithString(std::int16_t command, std::string_view text);
+  void FillComboInfo(std::span<const Byte> data);
+  void FillDataBlk(std::span<const Byte> data);
+  void TriggerUploadTimer() { upload_.TriggerTimer(); }
+
+  Context context;
+  ControlSurface surface;
+  bool properties_changed = false;
+
+ private:
+  void OpenMenu(std::int16_t link);
+  void SendActivityGrid(int camera);
+
+  HostEvents host_;
+  Upload upload_;
+  Download download_;
+  std::shared_ptr<frm_Menu> frmMPop;
+  ActivityGridBytes ActGridBuf{};
+};
+
+}  // namespace quorvel

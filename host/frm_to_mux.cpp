@@ -1,0 +1,145 @@
+#include "host/frm_to_mux.h"
+
+#include <array>
+#include <cstdio>
+
+#include "resources/icon.h"
+
+namespace quorvel {
+
+namespace {
+
+std::string ThreeDigits(int number) {
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "%03d", number);
+  return text.data();
+}
+
+}  // namespace
+
+frm_ToMux::frm_ToMux(Context& context) : Dialog(context.platform, "frm_ToMux"), context_(context) {
+  KeepAliveWith(context.life);
+  SetIcon(&Icon101());
+  ArrangeControls();
+  BindHandlers();
+}
+
+void frm_ToMux::ArrangeControls() {
+  SetCaption(context_.GetText(266) + context_.CaptionSuffix());
+  chkMacro(kMacros).SetCaption(context_.GetText(264));
+  chkMacro(kData).SetCaption(context_.GetText(261));
+  chkMacro(kData).SetChecked(true);
+  optBlk(kAll).SetCaption(context_.GetText(262));
+  optBlk(kModified).SetCaption(context_.GetText(263));
+  optBlk(kAll).Select();
+  lstBlkSav.SetVisible(false);
+  cmdStop.SetVisible(false);
+  cmdClearBlk.SetCaption(context_.GetText(258));
+  cmdClearBlk.SetVisible(false);
+  StatusBar1.SetPanel(kStatus, Caption());
+  SetLayout(Column(chkMacro, Row(Column(optBlk, Stretch()), lstBlkSav),
+                   Row(cmdClearBlk, Stretch(), cmdOK, cmdStop, cmdCancel), StatusBar1));
+  SetKeyButtons(&cmdOK, &cmdCancel);
+}
+
+void frm_ToMux::BindHandlers() {
+  optBlk(kAll).on_click = [this] { ChooseAll(); };
+  optBlk(kModified).on_click = [this] { ChooseModified(); };
+  chkMacro(kMacros).on_click = [this] { IncludeClicked(false); };
+  chkMacro(kData).on_click = [this] { IncludeClicked(true); };
+  cmdOK.on_click = [this] { Start(); };
+  cmdStop.on_click = [this] { Stop(); };
+  cmdClearBlk.on_click = [this] { ClearBlocks(); };
+  cmdCancel.on_click = [this] { Close(); };
+  on_closed = [this] {
+    if (StopDL) StopDL();
+  };
+}
+
+void frm_ToMux::ChooseAll() {
+  all_blocks_ = true;
+  optBlk(kAll).Select();
+  lstBlkSav.SetVisible(false);
+}
+
+void frm_ToMux::ChooseModified() {
+  std::vector<std::string> numbers;
+  const clsBlkSave& list = context_.env.blocks;
+  for (Byte i = 0; i < list.BlkSavIdx(); ++i) {
+    if (list.BlkNumSav(i) != 0) numbers.push_back(ThreeDigits(list.BlkNumSav(i)));
+  }
+  const bool empty = numbers.empty();
+  lstBlkSav.SetItems(std::move(numbers));
+  if (empty) {
+    ChooseAll();
+  } else {
+    all_blocks_ = false;
+    lstBlkSav.SetVisible(true);
+  }
+}
+
+void frm_ToMux::IncludeClicked(bool data) {
+  if (data && !context_.ComboMode) {
+    chkMacro(kData).SetChecked(true);  // block by block, the data cannot be left out
+  } else if (data) {
+    const bool with_data = chkMacro(kData).Checked();
+    optBlk(kAll).SetVisible(with_data);
+    optBlk(kModified).SetVisible(with_data && context_.env.blocks.BlkSavIdx() != 0);
+  }
+  cmdOK.SetEnabled(chkMacro(kMacros).Checked() || chkMacro(kData).Checked());
+}
+
+void frm_ToMux::Start() {
+  context_.IncludeMacros = chkMacro(kMacros).Checked();
+  context_.IncludeData = chkMacro(kData).Checked();
+  if (context_.IncludeData) {
+    if (!all_blocks_) lstBlkSav.Select(0);
+    optBlk(all_blocks_ ? kModified : kAll).SetEnabled(false);
+  }
+  StatusBar1.SetPanel(kStatus, context_.GetText(265));
+  cmdOK.SetEnabled(false);
+  if (StartDL) StartDL();
+}
+
+void frm_ToMux::Stop() {
+  StatusBar1.SetPanel(kBlock, context_.GetText(260));
+  EnableChoice();
+  cmdOK.SetEnabled(true);
+  if (StopDL) StopDL();
+}
+
+void frm_ToMux::ClearBlocks() {
+  StatusBar1.SetPanel(kStatus, context_.GetText(259));
+  StatusBar1.SetPanel(kBlock, {});
+  context_.env.blocks.BlkSavIdx(0);
+  lstBlkSav.SetItems({});
+  ChooseAll();
+  cmdClearBlk.SetVisible(false);
+}
+
+void frm_ToMux::EnableChoice() {
+  optBlk(kAll).SetEnabled(true);
+  optBlk(kModified).SetEnabled(true);
+}
+
+void frm_ToMux::ShowBlock(int number, bool last) {
+  StatusBar1.SetPanel(kBlock, std::to_string(number));
+  if (!all_blocks_) lstBlkSav.Select(lstBlkSav.IndexOf(ThreeDigits(number)));
+  if (last) {
+    ShowFinished();
+  } else {
+    StatusBar1.SetPanel(kResult, {});
+  }
+}
+
+void frm_ToMux::ShowFinished() {
+  StatusBar1.SetPanel(kResult, context_.GetText(271));
+  EnableChoice();
+}
+
+void frm_ToMux::ShowEnded() {
+  cmdClearBlk.SetVisible(true);
+  cmdStop.SetVisible(false);
+}
+
+}  // namespace quorvel

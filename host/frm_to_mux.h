@@ -1,0 +1,55 @@
+#pragma once
+
+#include "quorvel/widgets.h"
+#include "ui/context.h"
+
+namespace quorvel {
+
+/// The send dialog: what to send, START and STOP, and how far it has come.
+class frm_ToMux : public Dialog {
+ public:
+  explicit frm_ToMux(Context& context);
+
+  [[nodiscard]] bool AllBlocks() const { return all_blocks_; }
+
+  /// START was pressed; IncludeMacros and IncludeData of the context are set.
+  Handler StartDL;
+  /// STOP was pressed, or the dialog has been closed.
+  Handler StopDL;
+
+  void ShowSending() { cmdStop.SetVisible(true); }
+  /// Block `number` is on its way; `last` when nothing follows it.
+  void ShowBlock(int number, bool last);
+  /// Everything has been sent.
+  void ShowFinished();
+  /// The end packet has been sent.
+  void ShowEnded();
+
+ private:
+  enum Choice { kMacros = 0, kData = 1, kAll = 0, kModified = 1 };
+  enum Panel { kStatus = 1, kBlock = 2, kResult = 3 };
+
+  void ArrangeControls();
+  void BindHandlers();
+  void ChooseAll();
+  void ChooseModified();
+  void IncludeClicked(bool data);
+  void Start();
+  void Stop();
+  void ClearBlocks();
+  void EnableChoice();
+
+  Context& context_;
+  bool all_blocks_ = true;
+
+  ControlArray<CheckBox> chkMacro{*this, "chkMacro", 2};
+  ControlArray<OptionButton> optBlk{*this, "optBlk", 2};
+  ListBox lstBlkSav{*this, "lstBlkSav"};
+  Button cmdOK{*this, "cmdOK", "START"};
+  Button cmdStop{*this, "cmdStop", "STOP"};
+  Button cmdClearBlk{*this, "cmdClearBlk"};
+  Button cmdCancel{*this, "cmdCancel", "CLOSE"};
+  StatusBar StatusBar1{*this, "StatusBar1", 3};
+};
+
+}  // namespace quorvel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+
+#include "quorvel/widgets.h"
+#include "ui/context.h"
+
+namespace quorvel {
+
+/// How far a receive has come; a dialog opened later shows it as well.
+struct ReceiveProgress {
+  int maximum = 0;     ///< blocks to come, 0 until block 1 has told
+  int value = 0;       ///< last block received
+  std::string status;  ///< UTF-8
+  std::int32_t bytes = 0;
+  bool finished = false;
+};
+
+/// The receive dialog: progress, and at the end OK and "Save File".
+class frm_ULFrMux : public Dialog {
+ public:
+  explicit frm_ULFrMux(Context& context);
+  void ShowProgress(const ReceiveProgress& progress);
+
+  /// The dialog has been closed, in whatever way.
+  Handler StopUL;
+  /// "Save File" was pressed.
+  Handler SaveFile;
+
+ private:
+  Label Label1{*this, "Label1"};
+  Label Label3{*this, "Label3"};
+  Label Label2{*this, "Label2"};
+  Label Label4{*this, "Label4"};
+  ProgressBar prgBar1{*this, "prgBar1"};
+  Button cmdSaveFile{*this, "cmdSaveFile"};
+  Button cmdOK{*this, "cmdOK"};
+};
+
+}  // namespace quorvel

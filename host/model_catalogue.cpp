@@ -1,0 +1,123 @@
+#include "host/model_catalogue.h"
+
+#include <array>
+#include <utility>
+
+namespace quorvel {
+
+namespace {
+
+constexpr std::array<std::string_view, 21> kModelTexts = {
+    "Mux model",
+    "DVR model",
+    "Duplex NTSC",
+    "Duplex PAL",
+    "Duplex NTSC, Lite/EZ",
+    "Duplex PAL, Lite/EZ",
+    "Triplex NTSC",
+    "Triplex PAL",
+    "Triplex NTSC, Lite/EZ",
+    "Triplex PAL, Lite/EZ",
+    "Triplex NTSC, Vaultline",
+    "Triplex PAL, Vaultline",
+    "Triplex NTSC, Advance Vaultline",
+    "Triplex PAL, Advance Vaultline",
+    "Triplex NTSC, Matrix",
+    "Triplex PAL, Matrix",
+    "Triplex NTSC, 4L",
+    "Triplex PAL, 4L",
+    "Triplex NTSC, Plexar Pro",
+    "Triplex PAL, Plexar Pro",
+    "Triplex PAL, Brevmoor Airport",
+};
+
+constexpr Byte kModelCodeMask = 0x7F;
+constexpr int kOfConnected = 0;
+constexpr int kOfImage = 1;
+
+/// A name as devices hold it: the first character as it is, of the others those that are not 0.
+std::string NameOf(std::span<const Byte> bytes) {
+  std::string name(1, static_cast<char>(bytes[0]));
+  for (const Byte byte : bytes.subspan(1)) {
+    if (byte != 0) name.push_back(static_cast<char>(byte));
+  }
+  return name;
+}
+
+std::string_view Trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// The two editions of one product that carry different names.
+bool AreVaultlineEditions(std::string_view a, std::string_view b) {
+  constexpr std::string_view kAdvanced = "Vaultline Adv";
+  constexpr std::string_view kPro = "Vaultline Pro";
+  a = Trimmed(a);
+  b = Trimmed(b);
+  return (a == kAdvanced && b == kPro) || (a == kPro && b == kAdvanced);
+}
+
+bool IdentityFits(const Context& context, std::span<const Byte, kBlockSize> identity,
+                  const std::string& name) {
+  const ConnectedIdentity& connected = context.connected;
+  if (identity[0] != connected.ConnChannels) return false;
+  const Byte code = identity[1] & kModelCodeMask;
+  if (code != connected.ConnModelCode && !IsVideoTwin(context, code)) return false;
+  return name == connected.ConnModelName || AreVaultlineEditions(name, connected.ConnModelName);
+}
+
+}  // namespace
+
+std::string_view ModelText(int code) {
+  const bool known = code >= 0 && code < static_cast<int>(kModelTexts.size());
+  return known ? kModelTexts[static_cast<std::size_t>(code)] : std::string_view();
+}
+
+void SaveConnectedIdentity(Context& context, std::span<const Byte> data) {
+  if (data.size() < 4) return;
+  context.connected = {data[1], static_cast<Byte>(data[2] & kModelCodeMask),
+                       NameOf(data.subspan(3))};
+  context.ComboMode = false;
+  context.combo_sizes.ComboExtraA = 0;
+  context.combo_sizes.ComboExtraB = 0;
+}
+
+std::string ModelDescription(const Context& context, int which) {
+  int channels = 0;
+  int code = 0;
+  if (which == kOfConnected) {
+    channels = context.connected.ConnChannels;
+    code = context.connected.ConnModelCode;
+  } else if (which == kOfImage) {
+    const auto identity = context.BlkImage.Block(kIdentityBlock);
+    channels = identity[0];
+    code = identity[1] & kModelCodeMask;
+  }
+  return " (" + std::to_string(channels) + " ch, " + std::string(ModelText(code)) + ")";
+}
+
+bool IsVideoTwin(const Context& context, Byte code) {
+  const Byte connected = context.connected.ConnModelCode;
+  const auto has_twin = [](Byte it) { return it >= 2 && it <= 19; };
+  return has_twin(code) && has_twin(connected) && code == (connected ^ 1);
+}
+
+bool CheckLoadedIdentity(Context& context) {
+  if (!context.LoadedFromFile) return true;
+  const auto identity = std::as_const(context.BlkImage).Block(kIdentityBlock);
+  const std::string name = NameOf(identity.subspan<2>());
+  if (IdentityFits(context, identity, name)) return true;
+  const auto shown = [&context](const std::string& bytes) {
+    return context.platform.ToUtf8(bytes);
+  };
+  context.platform.Ask({context.GetText(267) + "\r" + context.GetText(320) + "  " +
+                            shown(context.connected.ConnModelName) +
+                            ModelDescription(context, kOfConnected) + "\r" + context.GetText(321) +
+                            "  " + shown(name) + ModelDescription(context, kOfImage),
+                        context.GetText(270), Message::Buttons::kOk});
+  return false;
+}
+
+}  // namespace quorvel

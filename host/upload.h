@@ -1,0 +1,48 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "host/frm_to_mux.h"
+#include "host/host_events.h"
+#include "ui/context.h"
+
+namespace quorvel {
+
+/// Writes the edited configuration back to the device, one block a packet, paced by Timer1 and the
+/// host's acknowledgements: at most one packet is outstanding.
+class Upload {
+ public:
+  Upload(Context& context, HostEvents& host);
+  Upload(const Upload&) = delete;
+  Upload& operator=(const Upload&) = delete;
+  ~Upload() = default;
+
+  /// Command 11. Encodes the listed blocks, checks that the data fits the device, and shows the
+  /// send dialog; returns when it is closed.
+  void Send();
+  /// The host is ready for the next packet.
+  void TriggerTimer();
+
+  /// Takes the dialog off the screen and ends the send.
+  void CloseDialog();
+
+ private:
+  [[nodiscard]] bool FamilyFits() const;
+  void EncodeListedBlocks();
+  void StartDL();
+  void StopDL();
+  void Tick();
+  void SendBlock(Byte number);
+  void SendEndPacket();
+
+  Context& context_;
+  HostEvents& host_;
+  std::shared_ptr<frm_ToMux> frmDL;
+  /// Its interval is also the state of the send: 0 before any, 50 ms running, 500 ms ended.
+  std::unique_ptr<Timer> Timer1;
+  std::vector<Byte> plan_;
+  std::size_t next_ = 0;  ///< place in the plan; at its end, the end packet follows
+};
+
+}  // namespace quorvel

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "quorvel/control_surface.h"
+#include "quorvel/events.h"
+#include "quorvel/platform.h"
+#include "quorvel/property_bag.h"
+
+namespace quorvel {
+
+class Component;
+
+/// The identifier under which class-based hosts create the control.
+inline constexpr std::string_view kMainMenuCtrlClassId = "Quorvel.MainMenuCtrl";
+
+/// The configuration menu of a video multiplexer or multiplexer-recorder, as a control that a host
+/// application embeds. The host owns the link to the device: the control asks for blocks and hands
+/// blocks back through MainMenuEvents, the host answers through the calls below. Results travel in
+/// events; every call returns 0 and none throws. All calls are made on one thread. Each control
+/// edits a device of its own.
+class MainMenuCtrl {
+ public:
+  /// Both must outlive the control. A new control has no font and no record yet: call
+  /// InitProperties, or ReadProperties for one that was saved.
+  MainMenuCtrl(Platform& platform, MainMenuEvents& host);
+  ~MainMenuCtrl();
+  MainMenuCtrl(const MainMenuCtrl&) = delete;
+  MainMenuCtrl& operator=(const MainMenuCtrl&) = delete;
+
+  /// A control newly placed in a host: ambient font, HostCommId 0, the size of its label.
+  void InitProperties();
+  /// Restores "Enabled" (True), "Font" (the ambient font) and "HostCommId" (0); in brackets what a
+  /// property is that the bag lacks, or holds with another type.
+  void ReadProperties(const PropertyBag& bag);
+  /// Stores the same three.
+  void WriteProperties(PropertyBag& bag) const;
+  /// True when a property was set since the properties were last read or written.
+  [[nodiscard]] bool PropertiesChanged() const;
+
+  /// Gives a numbered command:
+  ///   10 receive the device's image       11 send to the device
+  ///   12 restore a settings file          14 save a settings file
+  ///   15 open the popup menu; param1: 1 when the host has a network link, else 0
+  ///   16 build factory defaults           17 raise ActGridData for camera param1
+  ///   18 param1: device family code; param2: 1 when captions name a DVR, else 0
+  /// Other numbers do nothing. Commands 12, 14 and 16 are not served by this version and do
+  /// nothing.
+  std::int32_t Custom(std::int16_t command, std::int32_t param1, std::int32_t param2);
+  /// 191: takes the texts from a new object of class `str` (see Platform::Classes), whose method
+  /// "getresourcestring" returns the text of an id. Other commands do nothing.
+  std::int32_t CustomWithString(std::int16_t command, std::int32_t param1, std::int32_t param2,
+                                std::string_view str);
+
+  /// Identity of the connected device for the block-by-block exchange: [1] cameras, [2] model code,
+  /// from [3] the model name. Shorter than 4 bytes: nothing changes.
+  std::int32_t SaveConnectedInfo(std::span<const std::uint8_t> data);
+  /// Sizes for the combined exchange: [0..1] macro record size, [2] macro records, [3..4] blocks,
+  /// [5..6] firmware version; 16-bit values most significant byte first. Shorter than 7 bytes:
+  /// nothing changes.
+  std::int32_t FillComboInfo(std::span<const std::uint8_t> data);
+  /// The answer to RequestComboBlocks. The combined exchange is not served by this version: the
+  /// call says so with its message box and changes nothing.
+  std::int32_t FillComboBlk(std::span<const std::uint8_t> data);
+  /// The answer to RequestBlk: [0] block number, then its 16 bytes. With non-zero HostCommId the
+  /// whole image and one further byte that is not read.
+  std::int32_t FillDataBlk(std::span<const std::uint8_t> bdata);
+  /// An edited activity grid: [0] camera, 0-based, then 32 grid bytes. Changed bytes list their
+  /// blocks. Shorter than 33 bytes, or a camera that the device lacks: nothing changes.
+  std::int32_t UpdateActGrid(std::span<const std::uint8_t> bdata);
+  /// The host has written the last packet of DownLoadData and is ready for the next.
+  std::int32_t TriggerUploadTimer();
+
+  /// Draws the surface anew.
+  void Refresh();
+  [[nodiscard]] bool Enabled() const;
+  void Enabled(bool enabled);
+  [[nodiscard]] quorvel::Font Font() const;
+  void Font(const quorvel::Font& font);
+  /// 0: interactive host; otherwise the host moves the whole image in one call.
+  [[nodiscard]] std::uint8_t HostCommId() const;
+  void HostCommId(std::uint8_t id);
+
+  /// What the host places in its window.
+  [[nodiscard]] ControlSurface& Surface();
+
+  /// Numbers of the blocks that hold changes, in the order of the changes.
+  [[nodiscard]] std::vector<std::uint8_t> ModifiedBlocks() const;
+  /// The configuration image as last received and encoded, block 1 first.
+  [[nodiscard]] std::vector<std::uint8_t> Image() const;
+
+ private:
+  std::shared_ptr<Component> component_;
+};
+
+/// Creates a control by class identifier, with its properties initialised; nothing for an unknown
+/// identifier.
+[[nodiscard]] std::unique_ptr<MainMenuCtrl> CreateControl(std::string_view class_id,
+                                                          Platform& platform, MainMenuEvents& host);
+
+}  // namespace quorvel

@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include "host/model_catalogue.h"
+#include "tests/host/test_host.h"
+
+namespace quorvel {
+namespace {
+
+TEST(Control, UnknownCommandsAndEarlyCallsDoNothing) {
+  TestHost host;
+  for (const int command : {-1, 0, 9, 12, 13, 14, 16, 19, 191}) {
+    EXPECT_EQ(host.control->Custom(static_cast<std::int16_t>(command), 1, 1), 0);
+  }
+  EXPECT_EQ(host.control->CustomWithString(190, 0, 0, "Some.Class"), 0);
+  EXPECT_EQ(host.control->CustomWithString(191, 0, 0, "No.Such.Class"), 0);
+  EXPECT_EQ(host.control->TriggerUploadTimer(), 0);
+  host.platform.RunUntilIdle();
+  EXPECT_TRUE(host.log.empty());
+  EXPECT_TRUE(host.sent.empty());
+  EXPECT_TRUE(host.platform.Windows().empty());
+  EXPECT_TRUE(host.platform.TakeMessages().empty());
+}
+
+TEST(Control, ExchangeThatIsNotServedSaysSo) {
+  TestHost host;
+  host.control->FillComboBlk({});
+  const auto messages = host.platform.TakeMessages();
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_EQ(messages[0].text, "Error found in FillComboBlk");
+}
+
+TEST(Control, PropertiesAndSurface) {
+  TestHost host;
+  EXPECT_EQ(host.control->Surface().Label1(), "Quorvel");
+  EXPECT_EQ(host.control->Surface().Extent(), (Size{49, 15}));
+  MemoryPropertyBag bag;
+  host.control->Enabled(false);
+  host.control->HostCommId(9);
+  host.control->Font({"Mono", 12.0, true, false});
+  EXPECT_TRUE(host.control->PropertiesChanged());
+  host.control->WriteProperties(bag);
+  EXPECT_FALSE(host.control->PropertiesChanged());
+  EXPECT_EQ(host.control->Surface().Click(), Answer::kDisabled);
+
+  host.NewControl();
+  EXPECT_EQ(host.control->HostCommId(), 0);
+  host.control->ReadProperties(bag);
+  EXPECT_FALSE(host.control->Enabled());
+  EXPECT_EQ(host.control->HostCommId(), 9);
+  EXPECT_EQ(host.control->Font(), (Font{"Mono", 12.0, true, false}));
+
+  MemoryPropertyBag odd;
+  odd.Write("HostCommId", true);
+  host.control->ReadProperties(odd);
+  EXPECT_TRUE(host.control->Enabled());
+  EXPECT_EQ(host.control->HostCommId(), 0);
+  EXPECT_EQ(host.control->Font().family, "Sans");
+  host.control->Surface().Click();
+  host.control->Surface().DoubleClick();
+  EXPECT_EQ(host.log, (std::vector<std::string>{"Click", "DblClick"}));
+
+  EXPECT_NE(CreateControl("Quorvel.MainMenuCtrl", host.platform, host), nullptr);
+  EXPECT_EQ(CreateControl("Quorvel.Other", host.platform, host), nullptr);
+}
+
+TEST(Control, ActivityGrids) {
+  TestHost host;
+  host.Download();
+  std::vector<Byte> grid(33);
+  host.control->Custom(17, 2, 0);
+  ASSERT_EQ(host.grid.size(), 32U);
+  std::copy(host.grid.begin(), host.grid.end(), grid.begin() + 1);
+  grid[0] = 2;
+  grid[1 + 30] ^= 1;
+  grid[1 + 3] ^= 1;
+  host.control->UpdateActGrid(grid);
+  host.control->UpdateActGrid(grid);
+  EXPECT_EQ(host.Modified(), (std::vector<int>{89, 90}));
+  host.control->Custom(17, 2, 0);
+  EXPECT_TRUE(std::equal(host.grid.begin(), host.grid.end(), grid.begin() + 1));
+
+  host.grid.clear();
+  host.control->Custom(17, 16, 0);
+  grid[0] = 16;
+  host.control->UpdateActGrid(grid);
+  host.control->UpdateActGrid({});
+  EXPECT_TRUE(host.grid.empty());
+  EXPECT_EQ(host.Modified(), (std::vector<int>{89, 90}));
+}
+
+class Identities : public ::testing::Test {
+ protected:
+  void Connect(Byte channels, Byte code, std::string_view name) {
+    std::vector<Byte> data{0, channels, code};
+    data.insert(data.end(), name.begin(), name.end());
+    SaveConnectedIdentity(context_, data);
+  }
+  bool Loads(Byte channels, Byte code, std::string_view name) {
+    context_.BlkImage.ResizeBlocks(185);
+    WriteIdentityBlock(context_.BlkImage, channels, code, name);
+    return CheckLoadedIdentity(context_);
+  }
+  HeadlessPlatform platform_;
+  Context context_{platform_};
+};
+
+TEST_F(Identities, AreStored) {
+  Connect(16, 0x87, std::string_view("DVR\0\0", 5));
+  EXPECT_EQ(context_.connected.ConnChannels, 16);
+  EXPECT_EQ(context_.connected.ConnModelCode, 7);
+  EXPECT_EQ(context_.connected.ConnModelName, "DVR");
+  EXPECT_EQ(ModelDescription(context_, 0), " (16 ch, Triplex PAL)");
+  EXPECT_EQ(ModelDescription(context_, 2), " (0 ch, Mux model)");
+  SaveConnectedIdentity(context_, std::vector<Byte>{0, 4, 2});
+  EXPECT_EQ(context_.connected.ConnChannels, 16);
+  Connect(4, 21, std::string_view("\0A", 2));
+  EXPECT_EQ(context_.connected.ConnModelName, std::string("\0A", 2));
+  EXPECT_EQ(ModelDescription(context_, 0), " (4 ch, )");
+}
+
+TEST_F(Identities, OfARestoredImageMustFit) {
+  context_.LoadedFromFile = false;
+  EXPECT_TRUE(Loads(4, 0, "OTHER"));
+  context_.LoadedFromFile = true;
+  const struct {
+    const char* connected_name;
+    Byte connected_code;
+    Byte channels, code;
+    const char* name;
+    bool fits;
+  } cases[] = {{"TX16", 7, 16, 7, "TX16", true},
+               {"TX16", 7, 16, 6, "TX16", true},
+               {"TX16", 7, 16, 0x86, "TX16", true},
+               {"TX16", 7, 16, 8, "TX16", false},
+               {"TX16", 7, 4, 7, "TX16", false},
+               {"TX16", 7, 16, 7, "tx16", false},
+               {"MX", 1, 16, 0, "MX", false},
+               {"MX", 20, 16, 21, "MX", false},
+               {"Vaultline Adv  ", 12, 16, 13, "Vaultline Pro", true},
+               {"Vaultline Pro", 12, 16, 12, "Vaultline Adv", true},
+               {"Vaultline Adv", 12, 16, 12, "Vaultline", false}};
+  for (const auto& it : cases) {
+    Connect(16, it.connected_code, it.connected_name);
+    EXPECT_EQ(Loads(it.channels, it.code, it.name), it.fits) << it.name << int{it.code};
+  }
+  platform_.TakeMessages();
+  Connect(16, 7, "TX16");
+  EXPECT_FALSE(Loads(16, 8, "TX16"));
+  EXPECT_EQ(platform_.TakeMessages().at(0).text,
+            "The current data does not match the data of the remote device\r"
+            "You are connected to model:  TX16 (16 ch, Triplex PAL)\r"
+            "You are loading data from model:  TX16 (16 ch, Triplex NTSC, Lite/EZ)");
+}
+
+}  // namespace
+}  // namespace quorvel

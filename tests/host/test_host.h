@@ -1,0 +1,117 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/block_image.h"
+#include "core/identity.h"
+#include "quorvel/headless_platform.h"
+#include "quorvel/main_menu_ctrl.h"
+#include "resources/default_images.h"
+
+namespace quorvel {
+
+/// A host with a device in memory. It answers on the next turn of the loop, or inside the event.
+class TestHost : public MainMenuEvents {
+ public:
+  explicit TestHost(int resource = 401) : device(LoadDefaultImage(resource)) { NewControl(); }
+
+  void NewControl() {
+    control = std::make_unique<MainMenuCtrl>(platform, *this);
+    control->InitProperties();
+  }
+  /// Command 10, as somebody does who waits for the end and presses OK.
+  void Download() {
+    platform.at_modal = [](Dialog& dialog) {
+      return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+    };
+    control->Custom(10, 0, 0);
+    platform.at_modal = nullptr;
+  }
+  /// Command 15 and the popup.
+  void OpenMenu(std::int32_t link = 1) {
+    control->Custom(15, link, 0);
+    platform.RunUntilIdle();
+  }
+  Dialog& OpenCameraSetup() {
+    OpenMenu();
+    platform.ChooseMenu("mnu_CSetup");
+    return platform.Window("frm_CameraSetup");
+  }
+  void Identify(Byte cameras, Byte model_code, Byte variant = '4') {
+    WriteIdentityBlock(device, cameras, model_code, "UNIT 1");
+    device.Block(183)[7] = variant;
+  }
+
+  void RequestBlk(std::uint8_t blknum) override {
+    log.push_back("RequestBlk " + std::to_string(blknum));
+    if (blknum == silent_from) return;
+    if (sync) {
+      Reply(blknum);
+    } else {
+      platform.Post([this, blknum] { Reply(blknum); });
+    }
+  }
+  void UploadSucceeded() override { log.push_back("UploadSucceeded"); }
+  void ULSucceededWithStr(std::string_view mname, std::uint8_t param1,
+                          std::uint8_t param2) override {
+    log.push_back("ULSucceededWithStr " + std::string(mname) + " " + std::to_string(param1) + " " +
+                  std::to_string(param2));
+  }
+  void DownLoadData(std::span<std::uint8_t> bdata) override {
+    EXPECT_EQ(bdata.size(), 18U);
+    EXPECT_EQ(bdata[17], 0);
+    sent.push_back(bdata[0]);
+    if (bdata[0] != 255 && device.Holds(bdata[0])) {
+      std::copy(bdata.begin() + 1, bdata.begin() + 17, device.Block(bdata[0]).begin());
+    }
+    if (acknowledge) control->TriggerUploadTimer();
+  }
+  void ActGridPop(std::uint8_t maxcam) override {
+    log.push_back("ActGridPop " + std::to_string(maxcam));
+    if (on_act_grid_pop) on_act_grid_pop();
+  }
+  void ActGridData(std::span<const std::uint8_t> barray) override {
+    grid.assign(barray.begin(), barray.end());
+  }
+  void Click() override { log.push_back("Click"); }
+  void DblClick() override { log.push_back("DblClick"); }
+
+  [[nodiscard]] int Count(std::string_view event) const {
+    return static_cast<int>(std::count(log.begin(), log.end(), event));
+  }
+  [[nodiscard]] std::vector<int> Modified() const {
+    const auto numbers = control->ModifiedBlocks();
+    return {numbers.begin(), numbers.end()};
+  }
+
+  HeadlessPlatform platform;
+  BlockImage device;
+  std::unique_ptr<MainMenuCtrl> control;
+  bool sync = false;
+  bool acknowledge = true;
+  int silent_from = 0;  ///< the request that gets no answer
+  std::size_t reply_bytes = kBlockSize;
+  std::function<void()> on_act_grid_pop;
+  std::vector<std::string> log;
+  std::vector<int> sent;  ///< block numbers of the packets
+  std::vector<Byte> grid;
+
+ private:
+  void Reply(Byte number) {
+    if (control == nullptr || !device.Holds(number)) return;
+    std::vector<Byte> reply{number};
+    const auto block = device.Block(number);
+    // Block 1 is whole, so that the count is known.
+    const auto bytes = number == 1 ? std::size_t{kBlockSize} : reply_bytes;
+    reply.insert(reply.end(), block.begin(), block.begin() + static_cast<std::ptrdiff_t>(bytes));
+    control->FillDataBlk(reply);
+  }
+};
+
+}  // namespace quorvel

@@ -1,0 +1,217 @@
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "host/send_plan.h"
+#include "tests/host/test_host.h"
+
+namespace quorvel {
+namespace {
+
+std::vector<int> Range(int first, int last) {
+  std::vector<int> numbers(static_cast<std::size_t>(last - first + 1));
+  std::iota(numbers.begin(), numbers.end(), first);
+  return numbers;
+}
+
+std::vector<int> operator+(std::vector<int> a, const std::vector<int>& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+std::vector<int> Ints(const std::vector<Byte>& bytes) { return {bytes.begin(), bytes.end()}; }
+
+BlockImage ImageOf(int blocks, int counted) {
+  BlockImage image;
+  image.ResizeBlocks(blocks);
+  if (blocks > 0) image.Block(1)[15] = static_cast<Byte>(counted);
+  return image;
+}
+
+TEST(SendPlan, AllBlocks) {
+  const struct {
+    int blocks;
+    bool macros;
+    std::vector<int> plan;
+  } cases[] = {
+      {185, false, Range(1, 149) + Range(182, 185)},
+      {185, true, Range(1, 185)},
+      {149, false, Range(1, 149)},
+      {160, false, Range(1, 149) + Range(160, 160)},
+      {194, false, Range(1, 149) + Range(182, 193)},
+      {200, true, Range(1, 193) + Range(195, 200)},
+      {218, true, Range(1, 193) + Range(195, 217)},
+      {225, true, Range(1, 193) + Range(195, 217) + Range(219, 225)},
+      {0, false, {}},
+  };
+  for (const auto& it : cases) {
+    EXPECT_EQ(Ints(PlanAllBlocks(ImageOf(it.blocks, it.blocks), it.macros)), it.plan) << it.blocks;
+  }
+  EXPECT_EQ(Ints(PlanAllBlocks(ImageOf(5, 185), false)), Range(1, 5));
+}
+
+TEST(SendPlan, ListedBlocksInListOrder) {
+  clsBlkSave list;
+  for (const Byte blk : {40, 5, 194, 150, 12, 217, 218, 1}) list.AddBlk(blk);
+  EXPECT_EQ(Ints(PlanListedBlocks(list, ImageOf(200, 200), false)),
+            (std::vector<int>{40, 5, 12, 1}));
+  EXPECT_EQ(Ints(PlanListedBlocks(list, ImageOf(225, 225), true)),
+            (std::vector<int>{40, 5, 150, 12, 217, 1}));
+}
+
+class Send : public ::testing::Test {
+ protected:
+  void SetUp() override { host_.Download(); }
+
+  /// Command 11; `act` is called whenever nothing is due, with the number of the call from 0.
+  void Command11(std::function<bool(Dialog&, int)> act) {
+    int call = 0;
+    host_.platform.at_modal = [&call, act](Dialog& dialog) { return act(dialog, call++); };
+    host_.control->Custom(11, 0, 0);
+    host_.platform.at_modal = nullptr;
+  }
+  static Answer Click(Dialog& dialog, const char* button) {
+    return dialog.Find<Button>(button).Click();
+  }
+  static std::string Status(Dialog& dialog) {
+    return dialog.Find<StatusBar>("StatusBar1").ValueText();
+  }
+  void EditTitle(int camera, const char* title) {
+    auto& editor = host_.OpenCameraSetup();
+    editor.Find<TextBox>("m_CameraTitle(" + std::to_string(camera) + ")").Type(title);
+    editor.Find<Button>("cmd_OK").Click();
+  }
+
+  TestHost host_;
+};
+
+TEST_F(Send, AllBlocksThenTheEndPacketThenNothing) {
+  Command11([&](Dialog& dialog, int call) {
+    if (call == 0) {
+      EXPECT_EQ(dialog.Caption(), "Uploading Data to Plexar");
+      EXPECT_EQ(Status(dialog), "\"Uploading Data to Plexar\" | \"\" | \"\"");
+      EXPECT_FALSE(dialog.Find<Button>("cmdStop").Visible());
+      return Click(dialog, "cmdOK") == Answer::kDone;
+    }
+    if (!dialog.Find<Button>("cmdClearBlk").Visible()) return false;
+    EXPECT_EQ(Status(dialog), "\"Upload block number :\" | \"200\" | \"Finished\"");
+    EXPECT_FALSE(dialog.Find<Button>("cmdOK").Enabled());
+    EXPECT_FALSE(dialog.Find<Button>("cmdStop").Visible());
+    return Click(dialog, "cmdCancel") == Answer::kDone;
+  });
+  EXPECT_EQ(host_.sent, Range(1, 149) + Range(182, 193) + Range(195, 200) + Range(255, 255));
+  host_.control->TriggerUploadTimer();
+  host_.platform.RunUntilIdle();
+  EXPECT_EQ(host_.sent.back(), 255);
+  EXPECT_EQ(host_.sent.size(), 168U);
+}
+
+TEST_F(Send, ModifiedBlocksInListOrderAndTheListSurvives) {
+  EditTitle(11, "Twelve");
+  EditTitle(4, "Five");
+  EXPECT_EQ(host_.Modified(), (std::vector<int>{12, 5}));
+  const auto before = host_.device;
+  Command11([&](Dialog& dialog, int call) {
+    if (call == 0) {
+      dialog.Find<OptionButton>("optBlk(1)").Click();
+      EXPECT_EQ(dialog.Find<ListBox>("lstBlkSav").Items(),
+                (std::vector<std::string>{"012", "005"}));
+      return Click(dialog, "cmdOK") == Answer::kDone;
+    }
+    if (!dialog.Find<Button>("cmdClearBlk").Visible()) return false;
+    if (call < 100) {
+      EXPECT_EQ(host_.Modified(), (std::vector<int>{12, 5}));
+      Click(dialog, "cmdClearBlk");
+      EXPECT_EQ(Status(dialog), "\"Delete all blocks being saved\" | \"\" | \"Finished\"");
+      EXPECT_TRUE(dialog.Find<OptionButton>("optBlk(0)").Selected());
+    }
+    return dialog.CloseWindow() == Answer::kDone;
+  });
+  EXPECT_EQ(host_.sent, (std::vector<int>{12, 5, 255}));
+  EXPECT_EQ(host_.Modified(), std::vector<int>{});
+  for (int block = 1; block <= 200; ++block) {
+    const bool edited = block == 12 || block == 5;
+    const auto now = host_.device.Block(block);
+    EXPECT_EQ(std::equal(now.begin(), now.end(), before.Block(block).begin()), !edited) << block;
+  }
+  EXPECT_EQ(host_.device.Block(5)[0], 'F');
+}
+
+TEST_F(Send, ChoosesAndBoxesFollowTheExchange) {
+  Command11([&](Dialog& dialog, int) {
+    dialog.Find<OptionButton>("optBlk(1)").Click();  // nothing is modified
+    EXPECT_TRUE(dialog.Find<OptionButton>("optBlk(0)").Selected());
+    EXPECT_FALSE(dialog.Find<ListBox>("lstBlkSav").Visible());
+    auto& data = dialog.Find<CheckBox>("chkMacro(1)");
+    data.Click();
+    EXPECT_TRUE(data.Checked());
+    EXPECT_FALSE(dialog.Find<CheckBox>("chkMacro(0)").Checked());
+    return dialog.CloseWindow() == Answer::kDone;
+  });
+}
+
+TEST_F(Send, StopEndsTheSendAndStartBeginsAnew) {
+  host_.acknowledge = false;
+  Command11([&](Dialog& dialog, int call) {
+    if (call == 0) {
+      Click(dialog, "cmdOK");
+      return true;
+    }
+    if (host_.sent.empty()) return false;
+    if (call < 10 && dialog.Find<Button>("cmdOK").Enabled()) return false;
+    Click(dialog, "cmdStop");
+    EXPECT_EQ(Status(dialog), "\"Upload block number :\" | \"Abort\" | \"\"");
+    host_.control->TriggerUploadTimer();
+    host_.platform.RunUntilIdle();
+    EXPECT_EQ(host_.sent, std::vector<int>{1});
+    host_.acknowledge = true;
+    Click(dialog, "cmdOK");
+    host_.platform.RunUntilIdle();
+    return dialog.CloseWindow() == Answer::kDone;
+  });
+  EXPECT_EQ(host_.sent.size(), 169U);
+  EXPECT_EQ(host_.sent[1], 1);
+  EXPECT_EQ(host_.sent.back(), 255);
+}
+
+TEST_F(Send, TheFamilyMustFit) {
+  const struct {
+    Byte code;
+    std::int32_t family;
+    bool fits;
+  } cases[] = {{2, 48, false}, {2, 112, false}, {2, 16, true},   {6, 16, false},
+               {6, 48, true},  {6, 112, true},  {5, 112, false}, {20, 0, true}};
+  for (const auto& it : cases) {
+    host_.Identify(16, it.code);
+    host_.Download();
+    for (const Byte comm_id : {0, 1}) {
+      host_.control->HostCommId(comm_id);
+      host_.control->Custom(18, it.family, 1);
+      bool opened = false;
+      Command11([&opened](Dialog& dialog, int) {
+        opened = true;
+        return dialog.CloseWindow() == Answer::kDone;
+      });
+      const auto messages = host_.platform.TakeMessages();
+      EXPECT_EQ(opened, it.fits || comm_id != 0) << int{it.code} << " " << it.family;
+      EXPECT_EQ(messages.size(), opened ? 0U : 1U);
+      if (opened) continue;
+      EXPECT_EQ(messages[0].text, "The current data does not match the data of the remote device");
+      EXPECT_EQ(messages[0].title, "Error Message");
+    }
+    host_.control->HostCommId(0);
+  }
+}
+
+TEST_F(Send, WithoutAnImageOnlyTheEndPacket) {
+  TestHost empty;
+  empty.platform.at_modal = [&empty](Dialog& dialog) {
+    if (empty.sent.empty() && dialog.Find<Button>("cmdOK").Click() == Answer::kDone) return true;
+    return !empty.sent.empty() && dialog.CloseWindow() == Answer::kDone;
+  };
+  empty.control->Custom(11, 0, 0);
+  EXPECT_EQ(empty.sent, std::vector<int>{255});
+}
+
+}  // namespace
+}  // namespace quorvel

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "core/block_image.h"
+#include "core/codec.h"
+#include "core/record/mux_data.h"
+#include "core/record_environment.h"
+#include "quorvel/platform.h"
+#include "ui/menu/text_catalogue.h"
+
+namespace quorvel {
+
+/// The device that the host is connected to, as the host states it.
+struct ConnectedIdentity {
+  Byte ConnChannels = 0;
+  Byte ConnModelCode = 0;
+  std::string ConnModelName;  ///< code-page bytes
+};
+
+/// Sizes of the combined exchange, as the host states them.
+struct ComboSizes {
+  std::uint16_t ComboMacroSize = 0;
+  Byte ComboMacroCount = 0;
+  std::uint16_t ComboBlockCount = 0;
+  Byte ComboExtraA = 0;  ///< firmware version: A * 100 + B
+  Byte ComboExtraB = 0;
+};
+
+/// The shared state of one control. Each control owns one, so two controls in a process edit two
+/// devices. It outlives every dialog and sequence that refers to it.
+struct Context {
+  explicit Context(Platform& the_platform) : platform(the_platform) {}
+  Context(const Context&) = delete;
+  Context& operator=(const Context&) = delete;
+
+  Platform& platform;
+  TextCatalogue texts;
+
+  BlockImage BlkImage;
+  std::int32_t ImageByteCount = 0;  ///< bytes received
+  RecordEnvironment env;            ///< commit flags, modified-block list, identity of the image
+
+  // What the host has said.
+  std::int16_t HostType = 0;  ///< device family
+  Byte HostIsDvr = 0;         ///< 1: captions end in " DVR", else " Plexar"
+  Byte HostCommId = 0;        ///< 0: interactive host
+  bool ComboMode = false;     ///< combined exchange instead of block by block
+  ConnectedIdentity connected;
+  ComboSizes combo_sizes;
+  std::int16_t MenuParam = 0;  ///< below 1: no network link
+  Byte MenuHostCommId = 0;
+
+  // The image and what is sent of it.
+  bool LoadedFromFile = false;
+  bool IncludeMacros = false;
+  bool IncludeData = false;
+  bool UsePcTime = false;  ///< block 61 takes the computer's clock when it is encoded
+  Byte ExtraA = 0;         ///< firmware version of the combined header: A * 100 + B; 0 without one
+  Byte ExtraB = 0;
+
+  /// The host has destroyed the control; what still runs must show nothing more.
+  bool terminated = false;
+  /// Alive as long as the control; handlers of dialogs hold on to it.
+  std::weak_ptr<const void> life;
+
+  /// The record; created at first use.
+  [[nodiscard]] MuxData& Record() {
+    if (record_ == nullptr) record_ = std::make_unique<MuxData>(env);
+    return *record_;
+  }
+  [[nodiscard]] bool HasRecord() const { return record_ != nullptr; }
+  /// Counts the images that have begun to arrive: an editor that opened on the settings of an
+  /// earlier one must not write into the present ones.
+  [[nodiscard]] int ImageGeneration() const { return generation_; }
+  /// A new image begins to arrive; what the present one held is out of date.
+  void BeginImage() {
+    BlkImage.Clear();
+    ImageByteCount = 0;
+    env.identity.MaxCam = kMostCameras;
+    ++generation_;
+  }
+
+  /// Decodes the image into a fresh record, which then replaces the present one. Throws ImageError
+  /// and keeps the present record when the image cannot be decoded.
+  void DecodeIntoFreshRecord() {
+    auto fresh = std::make_unique<MuxData>(env);
+    DecodeImage(BlkImage, env, *fresh);
+    record_ = std::move(fresh);
+    ++generation_;
+  }
+
+  /// Before a new image comes: the computer's clock is no longer wanted, the ready-made texts
+  /// exist.
+  void InitGlobals() {
+    UsePcTime = false;
+    texts.CreateCatalogues();
+  }
+
+  [[nodiscard]] std::string GetText(int id) const { return texts.GetText(id); }
+  /// How dialog captions name the device.
+  [[nodiscard]] const char* CaptionSuffix() const { return HostIsDvr == 1 ? " DVR" : " Plexar"; }
+
+ private:
+  std::unique_ptr<MuxData> record_;
+  int generation_ = 0;
+};
+
+}  // namespace quorvel

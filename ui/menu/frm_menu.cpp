@@ -1,0 +1,202 @@
+#include "ui/menu/frm_menu.h"
+
+#include <algorithm>
+
+#include "core/commit.h"
+#include "ui/menu/frm_msg.h"
+#include "ui/menu/menu_items.h"
+#include "ui/setup/frm_camera_setup.h"
+#include "ui/widgets/failure.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr int kFormWidth = 320;
+constexpr int kFormHeight = 240;
+constexpr int kPopupDelay = 3;  // milliseconds, until the form has loaded or an action returned
+constexpr int kManyLanguagesFirmware = 501;
+
+template <class EditorType>
+std::shared_ptr<Dialog> Create(Context& context) {
+  return std::make_shared<EditorType>(context);
+}
+
+}  // namespace
+
+frm_Menu::frm_Menu(Context& context)
+    : context_(context),
+      menu_(std::make_shared<PopupMenu>(MainMenuItems())),
+      editors_{{"fCamera", "mnu_CSetup", Create<frm_CameraSetup>, nullptr},
+               {"fMsg", "", Create<frmMsg>, nullptr}} {}
+
+frm_Menu::~frm_Menu() { Unload(); }
+
+void frm_Menu::Load() {
+  // The menu outlives its form for the moment in which a choice unloads the form.
+  menu_->edge = [weak = weak_from_this(), life = context_.life](const std::string& place,
+                                                                const Handler& handler) {
+    const auto keep_context = life.lock();
+    const auto keep = weak.lock();
+    if (keep && handler) GuardEdge(keep->context_.platform, place, handler);
+  };
+  BuildItems();
+  SetUpKeyboardLock();
+  SetUpForModel();
+  SetUpCaptions();
+  SetUpLanguages();
+
+  tmPopup = context_.platform.NewTimer([this] {
+    GuardEdge(context_.platform, "tmPopup", [this] {
+      tmPopup->Stop();
+      context_.platform.PopUp(menu_, kFormWidth / 2, kFormHeight / 2);
+    });
+  });
+  tmPopup->SetInterval(kPopupDelay);
+  PopUpSoon();
+}
+
+void frm_Menu::PopUpSoon() {
+  if (tmPopup != nullptr) tmPopup->Start();
+}
+
+void frm_Menu::Unload() {
+  tmPopup.reset();
+  context_.platform.TakeDown(*menu_);
+  menu_->Root().children.clear();  // a choice that is still on its way finds nothing
+  for (EditorReference& reference : editors_) {
+    if (reference.dialog == nullptr) continue;
+    reference.dialog->on_closed = nullptr;
+    reference.dialog->Close();
+    reference.dialog.reset();
+  }
+}
+
+void frm_Menu::BindItem(std::string_view item, Handler action) {
+  menu_->Item(item).on_choose = std::move(action);
+}
+
+/// Items without an action here open editors that do not exist; they are shown as the model asks,
+/// and disabled.
+void frm_Menu::BuildItems() {
+  for (EditorReference& reference : editors_) {
+    if (!reference.item.empty()) BindItem(reference.item, [this, &reference] { Open(reference); });
+  }
+  BindItem("mnuActGrid", [this] { ChooseActiveZones(); });
+  BindItem("mnu_LockKB", [this] { LockKeyboard(true); });
+  BindItem("mnu_UnLock", [this] { LockKeyboard(false); });
+  BindItem("mnu_Exit", [this] { Unload(); });
+  for (int code = 0; code < kLanguages; ++code) {
+    BindItem(LanguageItem(code), [this, code] { ChooseLanguage(code); });
+  }
+  DisableItemsWithoutAction(menu_->Root());
+}
+
+void frm_Menu::SetUpKeyboardLock() {
+  MuxData& record = context_.Record();
+  const bool lockable = context_.MenuHostCommId != 0 || context_.env.identity.IsTriplex();
+  if (context_.MenuHostCommId != 0) HideItem("mnuActGrid");
+  if (!lockable) {
+    // These devices keep their keyboard locked while a host is connected; no flag is raised, so
+    // this is not an edit.
+    menu_->Item("mnu_UnLock").enabled = false;
+    if (record.LockKeyBoard() == 0) record.LockKeyBoard(1);
+  }
+  TickKeyboardLock(record.LockKeyBoard() != 0);
+}
+
+void frm_Menu::SetUpForModel() {
+  const Identity& id = context_.env.identity;
+  const char variant = static_cast<char>(id.VariantChar);
+  if (id.IsMultiplexer()) {
+    const bool basic = variant == 'A' || variant == 'C';
+    HideItem("mnu_VArchive");
+    if (basic) HideItem("mnu_Macro");
+    if (basic || variant == '0' || (variant == '2' && id.RecorderKind != 2)) {
+      HideItem("mnu_Telemetry");
+    }
+    return;
+  }
+  HideItem("mnuVCR");
+  if (id.ModelCode == 4 || id.ModelCode == 5) HideItem("mnu_VArchive");
+  if (id.IsTriplex() && id.LiteRecordModel) {
+    HideItem("mnu_Sequence");
+    if (id.Model4L) {
+      HideItem("mnu_VArchive");
+      HideItem("mnu_Macro");
+    }
+  }
+  if (variant == 'C' || variant == '0') HideItem("mnu_Telemetry");
+}
+
+void frm_Menu::SetUpCaptions() {
+  for (const ItemText& text : kItemTexts) {
+    menu_->Item(text.item).caption = context_.GetText(text.id);
+  }
+  const bool lumacast = context_.env.identity.LumacastModel;
+  menu_->Item("mnu_VArchive").caption = context_.GetText(lumacast ? 309 : 168);
+  menu_->Item("mnu_Exit").caption = context_.texts.Objects().objstExit;
+}
+
+void frm_Menu::SetUpLanguages() {
+  const int firmware = context_.ExtraA * 100 + context_.ExtraB;
+  const Byte variant = context_.env.identity.VariantChar;
+  if (firmware > kManyLanguagesFirmware) {
+    TickLanguage(std::min<int>(context_.Record().MuxLang(), kLanguages - 1));
+  } else if (variant == '1' || variant == '2') {
+    TickLanguage(0);
+    menu_->Item("mnu_French").enabled = false;
+    menu_->Item("mnu_German").enabled = false;
+    for (int code = 3; code < kLanguages - 1; ++code) HideItem(LanguageItem(code));
+  }
+}
+
+void frm_Menu::Open(EditorReference& reference) {
+  if (reference.dialog == nullptr) {
+    reference.dialog = reference.create(context_);
+    reference.dialog->on_closed = [this, &reference] {
+      reference.dialog.reset();
+      PopUpSoon();
+    };
+  }
+  reference.dialog->Show();
+}
+
+void frm_Menu::ChooseLanguage(int code) {
+  {
+    const CommitScope commit(context_.env.commit, CommitMenu);
+    context_.Record().MuxLang(static_cast<Byte>(code));
+  }
+  TickLanguage(code);
+  PopUpSoon();
+}
+
+void frm_Menu::LockKeyboard(bool lock) {
+  {
+    const CommitScope commit(context_.env.commit, CommitMenu);
+    context_.Record().LockKeyBoard(lock ? 1 : 0);
+  }
+  TickKeyboardLock(lock);
+  PopUpSoon();
+}
+
+void frm_Menu::ChooseActiveZones() {
+  if (context_.MenuParam < 1) {
+    const auto message = std::find_if(editors_.begin(), editors_.end(),
+                                      [](const auto& it) { return it.name == "fMsg"; });
+    Open(*message);
+  } else if (ActGridRequest) {
+    ActGridRequest();
+  }
+}
+
+void frm_Menu::TickLanguage(int code) {
+  for (int i = 0; i < kLanguages; ++i) menu_->Item(LanguageItem(i)).checked = i == code;
+}
+
+void frm_Menu::TickKeyboardLock(bool locked) {
+  menu_->Item("mnu_LockKB").checked = locked;
+  menu_->Item("mnu_UnLock").checked = !locked;
+}
+
+}  // namespace quorvel

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "quorvel/widgets.h"
+#include "ui/context.h"
+
+namespace quorvel {
+
+/// The popup menu: the user's entry to every editor, and the language and keyboard-lock commands.
+/// The form itself is never seen; it shows the menu in the middle of its own area.
+class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
+ public:
+  explicit frm_Menu(Context& context);
+  ~frm_Menu();
+  frm_Menu(const frm_Menu&) = delete;
+  frm_Menu& operator=(const frm_Menu&) = delete;
+
+  /// Sets the items up for the model and the host, and starts the timer that pops the menu up.
+  void Load();
+  /// Takes menu and editors off the screen; what an open editor holds is discarded as by Cancel.
+  void Unload();
+
+  /// The user wants to edit activity zones, and the host has a network link.
+  Handler ActGridRequest;
+
+ private:
+  /// A dialog that the menu opens, one instance at a time.
+  struct EditorReference {
+    std::string_view name;
+    std::string_view item;  ///< the item that opens it
+    std::function<std::shared_ptr<Dialog>(Context&)> create;
+    std::shared_ptr<Dialog> dialog;
+  };
+
+  void BuildItems();
+  void BindItem(std::string_view item, Handler action);
+  void PopUpSoon();
+  void SetUpKeyboardLock();
+  void SetUpForModel();
+  void SetUpCaptions();
+  void SetUpLanguages();
+
+  void Open(EditorReference& reference);
+  void ChooseLanguage(int code);
+  void LockKeyboard(bool lock);
+  void ChooseActiveZones();
+  void TickLanguage(int code);
+  void TickKeyboardLock(bool locked);
+  void HideItem(std::string_view name) { menu_->Item(name).visible = false; }
+
+  Context& context_;
+  std::shared_ptr<PopupMenu> menu_;
+  std::unique_ptr<Timer> tmPopup;
+  std::vector<EditorReference> editors_;
+};
+
+}  // namespace quorvel

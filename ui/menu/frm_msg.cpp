@@ -1,0 +1,18 @@
+#include "ui/menu/frm_msg.h"
+
+#include "resources/icon.h"
+
+namespace quorvel {
+
+frmMsg::frmMsg(Context& context) : Dialog(context.platform, "frmMsg") {
+  KeepAliveWith(context.life);
+  SetCaption(context.GetText(304));
+  SetIcon(&Icon101());
+  Label1.SetCaption(context.GetText(307));
+  cmdOK.SetCaption(context.texts.Constants().cnstrOK);
+  cmdOK.on_click = [this] { Close(); };
+  SetKeyButtons(&cmdOK, &cmdOK);
+  SetLayout(Column(Label1, Row(Stretch(), cmdOK, Stretch())));
+}
+
+}  // namespace quorvel

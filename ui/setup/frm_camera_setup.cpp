@@ -1,0 +1,201 @@
+#include "ui/setup/frm_camera_setup.h"
+
+#include <charconv>
+
+#include "core/layout/cameras_layout.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr int kSettingColumn = 1;
+
+std::vector<std::string> Numbers(int first, int last) {
+  std::vector<std::string> texts;
+  for (int number = first; number <= last; ++number) texts.push_back(std::to_string(number));
+  return texts;
+}
+
+int NumberIn(const std::string& cell) {
+  int number = 0;
+  std::from_chars(cell.data(), cell.data() + cell.size(), number);
+  return number;
+}
+
+/// A header over one line for every camera, numbered from 1.
+void BuildCameraGrid(Grid& grid, int cameras, std::string camera, std::string setting) {
+  grid.SetSize(cameras + 1, 2);
+  grid.SetCell(0, 0, std::move(camera));
+  grid.SetCell(0, kSettingColumn, std::move(setting));
+  for (int row = 1; row <= cameras; ++row) grid.SetCell(row, 0, std::to_string(row));
+}
+
+}  // namespace
+
+frm_CameraSetup::frm_CameraSetup(Context& context)
+    : Editor(context, "frm_CameraSetup", CommitCamera) {
+  SetCaption(Text(121));
+  ArrangeControls();
+  ShowWhatTheModelHas();
+  FillCameras();
+  FillDisplaySettings();
+  BindButtons(cmd_OK, cmd_Cancel);
+  gain_editing_.Bind(kSettingColumn, lstSnlGain);
+  gain_editing_.GoTo(1, kSettingColumn);
+  text_position_editing_.Bind(kSettingColumn, lstTextpos);
+  text_position_editing_.GoTo(1, kSettingColumn);
+  SSTab1.on_change = [this] { TabChanged(); };
+}
+
+void frm_CameraSetup::ArrangeControls() {
+  Frame2.SetCaption(Text(148));
+  Frame3.SetCaption(Text(126));
+  Frame4.SetCaption(Text(124));
+  Frame1.SetCaption(Text(73));
+  Frame6.SetCaption(Text(149));
+  Frame5.SetCaption(Text(130));
+  Frame7.SetCaption(Text(139));
+  frmSVHSMonB.SetCaption(Text(323));
+  frmPubMonitor.SetCaption(Text(322));
+
+  Layout titles{Layout::Kind::kLines, nullptr, {}};
+  for (int c = 0; c < kMostCameras; ++c) {
+    lblCam(c).SetCaption(std::to_string(c + 1));
+    titles.parts.push_back(Row(lblCam(c), m_CameraTitle(c)));
+  }
+  SetLayout(
+      Column(Tabs(SSTab1,
+                  Page{Text(121),
+                       Row(Framed(Frame2, std::move(titles)), Framed(Frame3, Lines(m_CameraCovert)),
+                           Framed(Frame4, Lines(m_CameraColor)),
+                           Framed(Frame1, Lines(m_CameraDisable)), Stretch())},
+                  Page{Text(120), Row(MSFG_SnlGain, lstSnlGain)},
+                  Page{Text(92), Column(Row(MSFG_TextPos, lstTextpos,
+                                            Framed(Frame6, Column(m_TitleDisplay, Stretch()))),
+                                        Row(Framed(Frame5, Column(optFldFrame, Stretch())),
+                                            Framed(Frame7, Column(optPwrDis, Stretch())),
+                                            Framed(frmSVHSMonB, Column(optMonBSvhs, Stretch())),
+                                            Framed(frmPubMonitor, Column(chkPubMon)), Stretch()))}),
+             Row(Stretch(), cmd_OK, cmd_Cancel)));
+}
+
+void frm_CameraSetup::ShowWhatTheModelHas() {
+  const Identity& id = Id();
+  const bool basic_variant = id.VariantChar == 'A';
+  const bool public_monitors = id.IsTriplex() && id.VariantChar == '1' && id.MatrixModel == 1;
+
+  Frame1.SetVisible(!basic_variant);
+  Frame4.SetVisible(!basic_variant);
+  Frame3.SetVisible(!(id.LiteRecordModel && id.Model4L));
+  Frame5.SetVisible(id.IsMultiplexer() && !basic_variant);
+  frmPubMonitor.SetVisible(public_monitors);
+  frmSVHSMonB.SetVisible(id.IsTriplex() && !id.LiteRecordModel);
+
+  for (int c = 0; c < kMostCameras; ++c) {
+    const bool exists = c < id.MaxCam;
+    lblCam(c).SetVisible(exists);
+    m_CameraTitle(c).SetVisible(exists);
+    m_CameraCovert(c).SetVisible(exists);
+    m_CameraColor(c).SetVisible(exists);
+    m_CameraColor(c).SetEnabled(!id.IsTriplex());
+    m_CameraDisable(c).SetVisible(exists);
+  }
+  for (int i = 2; i < kMonitors; ++i) m_TitleDisplay(i).SetEnabled(id.IsTriplexMatrix());
+  for (OptionButton& option : optPwrDis) option.SetEnabled(!id.LiteRecordModel);
+}
+
+std::string frm_CameraSetup::ShownTitle(const Cameras& camera) const {
+  std::string_view title = camera.title();
+  title = title.substr(0, title.find('\0'));
+  title = title.substr(0, title.find_last_not_of(' ') + 1);
+  return GetPlatform().ToUtf8(title);
+}
+
+void frm_CameraSetup::FillCameras() {
+  const auto& words = Ctx().texts.Constants();
+  const std::string& camera_word = Ctx().texts.Objects().objstCam;
+  const int cameras = Id().MaxCam;
+  gain_offset_ = Id().IsTriplex() ? 50 : 1;
+  lstSnlGain.SetItems(Id().IsTriplex() ? Numbers(50, 150) : Numbers(1, 10));
+  lstTextpos.SetItems({words.cnstrTop, words.cnstrBottom});
+  BuildCameraGrid(MSFG_SnlGain, cameras, camera_word, Text(143));
+  BuildCameraGrid(MSFG_TextPos, cameras, camera_word, Text(145));
+
+  for (int c = 0; c < cameras; ++c) {
+    const Cameras& camera = *Ctx().Record().CamInfo(c);
+    m_CameraTitle(c).SetMaxLength(layout::kTitleLength);
+    m_CameraTitle(c).SetText(ShownTitle(camera));
+    // Shows at once what the device's code page can keep of a text.
+    m_CameraTitle(c).on_change = [this, c] {
+      TextBox& box = m_CameraTitle(c);
+      const auto kept = GetPlatform().ToUtf8(GetPlatform().FromUtf8(box.Text()));
+      if (kept != box.Text()) box.RewriteText(kept);
+    };
+    m_CameraCovert(c).SetChecked(camera.covert());
+    m_CameraColor(c).SetChecked(camera.color());
+    m_CameraDisable(c).SetChecked(camera.disable());
+    MSFG_SnlGain.SetCell(c + 1, kSettingColumn, std::to_string(camera.SignalGain() + gain_offset_));
+    const int position = camera.TextPos();
+    if (position <= 2) {
+      MSFG_TextPos.SetCell(c + 1, kSettingColumn,
+                           position == 0 ? words.cnstrTop : words.cnstrBottom);
+    }
+  }
+}
+
+void frm_CameraSetup::FillDisplaySettings() {
+  const auto& words = Ctx().texts.Constants();
+  MuxData& record = Ctx().Record();
+  for (int i = 0; i < kMonitors; ++i) {
+    const std::string monitor = Ctx().texts.Objects().objstMon + " " + static_cast<char>('A' + i);
+    m_TitleDisplay(i).SetCaption(monitor);
+    if (m_TitleDisplay(i).Enabled()) m_TitleDisplay(i).SetChecked(record.TitleDisplay(i) == 1);
+    chkPubMon(i).SetCaption(monitor);
+    chkPubMon(i).SetChecked(record.PubMonitor(i) == 1);
+  }
+  optFldFrame(0).SetCaption(words.cnstrField);
+  optFldFrame(1).SetCaption(words.cnstrFrame);
+  optFldFrame(record.FullScrResolution() == 1 ? 1 : 0).Select();
+  optPwrDis(0).SetCaption(words.cnstrOFF);
+  optPwrDis(1).SetCaption(words.cnstrON);
+  optPwrDis(record.AutoDisable() == 1 ? 1 : 0).Select();
+  optMonBSvhs(0).SetCaption(words.cnstrDisable);
+  optMonBSvhs(1).SetCaption(words.cnstrEnable);
+  optMonBSvhs(record.SVHS_MonB() == 1 ? 1 : 0).Select();
+}
+
+void frm_CameraSetup::TabChanged() {
+  if (SSTab1.Current() == 1) gain_editing_.GoTo(1, kSettingColumn);
+  if (SSTab1.Current() == 2) text_position_editing_.GoTo(1, kSettingColumn);
+}
+
+void frm_CameraSetup::WriteCamera(int c, Cameras& camera) {
+  camera.covert(m_CameraCovert(c).Checked());
+  camera.disable(m_CameraDisable(c).Checked());
+
+  // An untouched box says nothing about the title's bytes that it cannot show.
+  TextBox& box = m_CameraTitle(c);
+  if (box.Edited() && box.Text() != ShownTitle(camera)) {
+    camera.title(GetPlatform().FromUtf8(box.Text()).substr(0, layout::kTitleLength));
+    Ctx().env.blocks.AddBlk(static_cast<Byte>(c + 1));
+  }
+  if (!Id().IsTriplex()) camera.color(m_CameraColor(c).Checked());
+  const int gain = NumberIn(MSFG_SnlGain.Cell(c + 1, kSettingColumn)) - gain_offset_;
+  camera.SignalGain(static_cast<Byte>(gain));
+  const bool top = MSFG_TextPos.Cell(c + 1, kSettingColumn) == Ctx().texts.Constants().cnstrTop;
+  camera.TextPos(top ? 0 : 1);
+}
+
+void frm_CameraSetup::WriteBack(MuxData& record) {
+  for (int c = 0; c < Id().MaxCam; ++c) WriteCamera(c, *record.CamInfo(c));
+  const int monitors = Id().IsTriplexMatrix() ? kMonitors : 2;
+  for (int i = 0; i < monitors; ++i) record.TitleDisplay(i, m_TitleDisplay(i).Checked() ? 1 : 0);
+  if (Id().IsMultiplexer()) record.FullScrResolution(optFldFrame(0).Selected() ? 0 : 1);
+  if (!Id().LiteRecordModel) record.AutoDisable(optPwrDis(0).Selected() ? 0 : 1);
+  if (frmSVHSMonB.Visible()) record.SVHS_MonB(optMonBSvhs(0).Selected() ? 0 : 1);
+  if (frmPubMonitor.Visible()) {
+    for (int i = 0; i < kMonitors; ++i) record.PubMonitor(i, chkPubMon(i).Checked() ? 1 : 0);
+  }
+}
+
+}  // namespace quorvel
