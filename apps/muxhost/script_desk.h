@@ -1,0 +1,47 @@
+#pragma once
+
+#include <exception>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "apps/muxhost/host_session.h"
+#include "quorvel/headless_platform.h"
+
+namespace quorvel::muxhost {
+
+/// Somebody who works a modal dialog while a command waits for it.
+class Attendant {
+ public:
+  /// `window` is the name of the dialog to work.
+  explicit Attendant(std::string window) : window_(std::move(window)) {}
+  virtual ~Attendant() = default;
+  Attendant(const Attendant&) = delete;
+  Attendant& operator=(const Attendant&) = delete;
+
+  [[nodiscard]] const std::string& Window() const { return window_; }
+  /// Acts on the dialog and returns true, or returns false to let time pass.
+  virtual bool Act(Dialog& dialog) = 0;
+
+ private:
+  std::string window_;
+};
+
+/// What the commands of a script act on: a host without a screen, and whoever sits before it.
+struct Desk {
+  explicit Desk(std::ostream& output);
+
+  std::ostream& out;
+  HeadlessPlatform platform;
+  HostSession session;
+  /// Message boxes shown since the script last asked.
+  std::vector<Message> messages;
+  /// Who works the modal dialog of the running command; nobody: the script's next lines do.
+  Attendant* attendant = nullptr;
+  /// What the attendant failed at; it cannot be thrown through the control.
+  std::exception_ptr failure;
+  /// Modal dialogs inside whose loops lines are running.
+  int modal_depth = 0;
+};
+
+}  // namespace quorvel::muxhost
