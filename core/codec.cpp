@@ -25,7 +25,7 @@ void DecodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec) {
     layout::ReadingPass block(image, number, id.MaxCam);
     layout::Describe(block, number, rec, id);
   }
-  if (id.IsMultiplexer() && image.BlkCount() >= kIdentityBlock) {
+  if (id.IsMultiplexer()) {
     id.RecorderKind = RecorderKindByName(rec.MuxModelName());
   }
 }
@@ -45,7 +45,7 @@ void EncodeModifiedBlocks(BlockImage& image, RecordEnvironment& env, MuxData& re
       rec.TDInfo.CurrentMin.Load(static_cast<std::int16_t>(pc_time->minute));
       rec.TDInfo.CurrentSec.Load(static_cast<std::int16_t>(pc_time->second));
     }
-    if (number != 0) EncodeBlock(number, image, env, rec);
+    EncodeBlock(number, image, env, rec);
   }
 }
 

@@ -23,7 +23,7 @@ struct Identity {
 
   /// Model families by code: 0 multiplexer, 1 DVR, 2 to 5 duplex, 6 and above triplex.
   [[nodiscard]] bool IsMultiplexer() const { return ModelCode == 0; }
-  [[nodiscard]] bool IsRecorder() const { return ModelCode >= 2; }
+  [[nodiscard]] bool HasEventRecording() const { return ModelCode >= 2; }
   [[nodiscard]] bool IsTriplex() const { return ModelCode >= 6; }
   [[nodiscard]] bool IsTriplexMatrix() const { return IsTriplex() && MatrixModel == 1; }
 };

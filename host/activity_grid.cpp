@@ -24,6 +24,10 @@ void UpdateActivityGrid(Context& context, std::span<const Byte> data) {
     const int block = kFirstGridBlock + 2 * number + k / kBlockSize;
     context.env.blocks.AddBlk(static_cast<Byte>(block));
     camera->ActGrid(k, cell);
+    // A send may be under way that has encoded its blocks already.
+    if (context.ImageIsDecoded()) {
+      EncodeBlock(block, context.BlkImage, context.env, context.Record());
+    }
   }
 }
 

@@ -1,7 +1,6 @@
 #include "host/component.h"
 
 #include <cstdint>
-#include <stdexcept>
 
 #include "core/byte_order.h"
 #include "host/model_catalogue.h"
@@ -31,8 +30,8 @@ std::shared_ptr<Component> Component::Create(Platform& platform, MainMenuEvents&
 Component::Component(Platform& platform, MainMenuEvents& host)
     : context(platform), host_(host), upload_(context, host_), download_(context, host_) {
   surface.SetLabel(kComponentName);
-  surface.on_click = [this] { Call("Click", [this] { host_.Click(); }); };
-  surface.on_double_click = [this] { Call("DblClick", [this] { host_.DblClick(); }); };
+  surface.on_click = [this] { Call("Click", [this] { host_->Click(); }); };
+  surface.on_double_click = [this] { Call("DblClick", [this] { host_->DblClick(); }); };
 }
 
 void Component::InitProperties() {
@@ -90,13 +89,15 @@ void Component::OpenMenu(std::int16_t link) {
   context.MenuParam = link;
   context.MenuHostCommId = context.HostCommId;
   if (frmMPop != nullptr) frmMPop->Unload();
-  frmMPop = std::make_shared<frm_Menu>(context);
-  frmMPop->ActGridRequest = [this] { host_.ActGridPop(context.env.identity.MaxCam); };
-  frmMPop->Load();
+  // Loading asks the host for texts, which may open another menu.
+  const auto menu = std::make_shared<frm_Menu>(context);
+  frmMPop = menu;
+  menu->ActGridRequest = [this] { host_->ActGridPop(context.env.identity.MaxCam); };
+  menu->Load();
 }
 
 void Component::SendActivityGrid(int camera) {
-  if (ReadActivityGrid(context, camera, ActGridBuf)) host_.ActGridData(ActGridBuf);
+  if (ReadActivityGrid(context, camera, ActGridBuf)) host_->ActGridData(ActGridBuf);
 }
 
 void Component::FillComboInfo(std::span<const Byte> data) {

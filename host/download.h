@@ -30,6 +30,7 @@ class Download {
   void CloseDialog();
 
  private:
+  void Request(int number);
   void OpenDialog();
   void ShowProgress();
   void Finish();
@@ -39,7 +40,9 @@ class Download {
   HostEvents& host_;
   std::shared_ptr<frm_ULFrMux> frmUL;
   ReceiveProgress progress_;
-  Byte BlkCount = 0;         ///< blocks to expect: byte 15 of block 1
+  static constexpr int kNothing = 0;
+  int awaited_ = kNothing;   ///< block that was asked for and has not come
+  int round_ = 0;            ///< tells this receive from one that a host starts inside its event
   bool StopReceive = false;  ///< the user has closed the dialog; no further block is asked for
 };
 

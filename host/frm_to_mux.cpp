@@ -34,6 +34,9 @@ void frm_ToMux::ArrangeControls() {
   optBlk(kAll).Select();
   lstBlkSav.SetVisible(false);
   cmdStop.SetVisible(false);
+  cmdOK.SetCaption(context_.GetText(217));
+  cmdStop.SetCaption(context_.GetText(218));
+  cmdCancel.SetCaption(context_.GetText(257));
   cmdClearBlk.SetCaption(context_.GetText(258));
   cmdClearBlk.SetVisible(false);
   StatusBar1.SetPanel(kStatus, Caption());
@@ -57,7 +60,6 @@ void frm_ToMux::BindHandlers() {
 }
 
 void frm_ToMux::ChooseAll() {
-  all_blocks_ = true;
   optBlk(kAll).Select();
   lstBlkSav.SetVisible(false);
 }
@@ -73,7 +75,6 @@ void frm_ToMux::ChooseModified() {
   if (empty) {
     ChooseAll();
   } else {
-    all_blocks_ = false;
     lstBlkSav.SetVisible(true);
   }
 }
@@ -86,15 +87,16 @@ void frm_ToMux::IncludeClicked(bool data) {
     optBlk(kAll).SetVisible(with_data);
     optBlk(kModified).SetVisible(with_data && context_.env.blocks.BlkSavIdx() != 0);
   }
-  cmdOK.SetEnabled(chkMacro(kMacros).Checked() || chkMacro(kData).Checked());
+  const bool something = chkMacro(kMacros).Checked() || chkMacro(kData).Checked();
+  cmdOK.SetEnabled(something && !sending_);  // at most one packet is on its way
 }
 
 void frm_ToMux::Start() {
   context_.IncludeMacros = chkMacro(kMacros).Checked();
   context_.IncludeData = chkMacro(kData).Checked();
   if (context_.IncludeData) {
-    if (!all_blocks_) lstBlkSav.Select(0);
-    optBlk(all_blocks_ ? kModified : kAll).SetEnabled(false);
+    if (!AllBlocks()) lstBlkSav.Select(0);
+    optBlk(AllBlocks() ? kModified : kAll).SetEnabled(false);
   }
   StatusBar1.SetPanel(kStatus, context_.GetText(265));
   cmdOK.SetEnabled(false);
@@ -102,6 +104,7 @@ void frm_ToMux::Start() {
 }
 
 void frm_ToMux::Stop() {
+  sending_ = false;
   StatusBar1.SetPanel(kBlock, context_.GetText(260));
   EnableChoice();
   cmdOK.SetEnabled(true);
@@ -122,9 +125,14 @@ void frm_ToMux::EnableChoice() {
   optBlk(kModified).SetEnabled(true);
 }
 
+void frm_ToMux::ShowSending() {
+  sending_ = true;
+  cmdStop.SetVisible(true);
+}
+
 void frm_ToMux::ShowBlock(int number, bool last) {
   StatusBar1.SetPanel(kBlock, std::to_string(number));
-  if (!all_blocks_) lstBlkSav.Select(lstBlkSav.IndexOf(ThreeDigits(number)));
+  if (!AllBlocks()) lstBlkSav.Select(lstBlkSav.IndexOf(ThreeDigits(number)));
   if (last) {
     ShowFinished();
   } else {
@@ -138,6 +146,7 @@ void frm_ToMux::ShowFinished() {
 }
 
 void frm_ToMux::ShowEnded() {
+  sending_ = false;
   cmdClearBlk.SetVisible(true);
   cmdStop.SetVisible(false);
 }

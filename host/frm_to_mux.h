@@ -10,14 +10,15 @@ class frm_ToMux : public Dialog {
  public:
   explicit frm_ToMux(Context& context);
 
-  [[nodiscard]] bool AllBlocks() const { return all_blocks_; }
+  [[nodiscard]] bool AllBlocks() const { return optBlk(kAll).Selected(); }
 
   /// START was pressed; IncludeMacros and IncludeData of the context are set.
   Handler StartDL;
   /// STOP was pressed, or the dialog has been closed.
   Handler StopDL;
 
-  void ShowSending() { cmdStop.SetVisible(true); }
+  /// A block-by-block send has begun.
+  void ShowSending();
   /// Block `number` is on its way; `last` when nothing follows it.
   void ShowBlock(int number, bool last);
   /// Everything has been sent.
@@ -40,15 +41,15 @@ class frm_ToMux : public Dialog {
   void EnableChoice();
 
   Context& context_;
-  bool all_blocks_ = true;
+  bool sending_ = false;  ///< until the end packet or STOP; START waits for it
 
   ControlArray<CheckBox> chkMacro{*this, "chkMacro", 2};
   ControlArray<OptionButton> optBlk{*this, "optBlk", 2};
   ListBox lstBlkSav{*this, "lstBlkSav"};
-  Button cmdOK{*this, "cmdOK", "START"};
-  Button cmdStop{*this, "cmdStop", "STOP"};
+  Button cmdOK{*this, "cmdOK"};
+  Button cmdStop{*this, "cmdStop"};
   Button cmdClearBlk{*this, "cmdClearBlk"};
-  Button cmdCancel{*this, "cmdCancel", "CLOSE"};
+  Button cmdCancel{*this, "cmdCancel"};
   StatusBar StatusBar1{*this, "StatusBar1", 3};
 };
 

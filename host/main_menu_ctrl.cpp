@@ -75,20 +75,26 @@ std::int32_t MainMenuCtrl::TriggerUploadTimer() {
   return 0;
 }
 
-void MainMenuCtrl::Refresh() { component_->surface.Repaint(); }
+void MainMenuCtrl::Refresh() {
+  component_->Call("Refresh", [&it = *component_] { it.surface.Repaint(); });
+}
 
 bool MainMenuCtrl::Enabled() const { return component_->surface.Enabled(); }
 
 void MainMenuCtrl::Enabled(bool enabled) {
-  component_->surface.SetEnabled(enabled);
-  component_->properties_changed = true;
+  component_->Call("Enabled", [&it = *component_, enabled] {
+    it.properties_changed = true;
+    it.surface.SetEnabled(enabled);
+  });
 }
 
 quorvel::Font MainMenuCtrl::Font() const { return component_->surface.LabelFont(); }
 
 void MainMenuCtrl::Font(const quorvel::Font& font) {
-  component_->surface.SetFont(font);
-  component_->properties_changed = true;
+  component_->Call("Font", [&it = *component_, &font] {
+    it.properties_changed = true;
+    it.surface.SetFont(font);
+  });
 }
 
 std::uint8_t MainMenuCtrl::HostCommId() const { return component_->context.HostCommId; }

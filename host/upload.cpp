@@ -6,7 +6,6 @@
 
 #include "host/model_catalogue.h"
 #include "host/send_plan.h"
-#include "ui/widgets/failure.h"
 
 namespace quorvel {
 
@@ -20,10 +19,7 @@ constexpr std::size_t kPacketSize = 18;
 }  // namespace
 
 Upload::Upload(Context& context, HostEvents& host) : context_(context), host_(host) {
-  Timer1 = context_.platform.NewTimer([this] {
-    const auto keep = context_.life.lock();
-    GuardEdge(context_.platform, "Timer1", [this] { Tick(); });
-  });
+  Timer1 = context_.platform.NewTimer([this] { context_.Guard("Timer1", [this] { Tick(); }); });
 }
 
 void Upload::EncodeListedBlocks() {
@@ -40,18 +36,21 @@ bool Upload::FamilyFits() const {
 }
 
 void Upload::Send() {
-  EncodeListedBlocks();
-  if (!FamilyFits()) {
+  // A download that was stopped or refused left bytes behind that no device may be given.
+  const bool usable = context_.ImageIsDecoded() || context_.BlkImage.Size() == 0;
+  if (usable) EncodeListedBlocks();
+  if (!usable || !FamilyFits()) {
     context_.platform.Ask({context_.GetText(267), context_.GetText(270), Message::Buttons::kOk});
     return;
   }
-  if (!CheckLoadedIdentity(context_) || context_.terminated) return;
+  if (!CheckLoadedIdentity(context_)) return;
   CloseDialog();
   const auto dialog = std::make_shared<frm_ToMux>(context_);
-  frmDL = dialog;
   dialog->StartDL = [this] { StartDL(); };
   dialog->StopDL = [this] { StopDL(); };
-  dialog->ShowModal();
+  frmDL = dialog;
+  // The host's texts are host code, too: they may have destroyed the control.
+  if (!context_.terminated) dialog->ShowModal();
 }
 
 void Upload::CloseDialog() {
@@ -97,14 +96,14 @@ void Upload::SendBlock(Byte number) {
   std::array<Byte, kPacketSize> packet{number};
   const auto block = context_.BlkImage.Block(number);
   std::copy(block.begin(), block.end(), packet.begin() + 1);
-  host_.DownLoadData(packet);
+  host_->DownLoadData(packet);
 }
 
 void Upload::SendEndPacket() {
   StopDL();
   if (frmDL != nullptr) frmDL->ShowEnded();
   std::array<Byte, kPacketSize> packet{kEndPacket};
-  host_.DownLoadData(packet);
+  host_->DownLoadData(packet);
 }
 
 }  // namespace quorvel

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "core/block_image.h"
 #include "core/codec.h"
@@ -10,6 +12,7 @@
 #include "core/record_environment.h"
 #include "quorvel/platform.h"
 #include "ui/menu/text_catalogue.h"
+#include "ui/widgets/failure.h"
 
 namespace quorvel {
 
@@ -71,25 +74,44 @@ struct Context {
     if (record_ == nullptr) record_ = std::make_unique<MuxData>(env);
     return *record_;
   }
-  [[nodiscard]] bool HasRecord() const { return record_ != nullptr; }
   /// Counts the images that have begun to arrive: an editor that opened on the settings of an
   /// earlier one must not write into the present ones.
   [[nodiscard]] int ImageGeneration() const { return generation_; }
-  /// A new image begins to arrive; what the present one held is out of date.
+  /// True while the record was decoded from the image: only then may the image be sent. An image
+  /// that was refused, or of which a part is missing, is nobody's configuration.
+  [[nodiscard]] bool ImageIsDecoded() const { return image_is_decoded_; }
+
+  /// A new image begins to arrive. Block by block it starts from nothing; a combined array replaces
+  /// the present image once it is there.
   void BeginImage() {
-    BlkImage.Clear();
+    if (!ComboMode) BlkImage.Clear();
     ImageByteCount = 0;
     env.identity.MaxCam = kMostCameras;
+    image_is_decoded_ = false;
     ++generation_;
   }
 
-  /// Decodes the image into a fresh record, which then replaces the present one. Throws ImageError
-  /// and keeps the present record when the image cannot be decoded.
-  void DecodeIntoFreshRecord() {
+  /// Decodes `image` into a fresh record; both then replace the present ones. Throws ImageError,
+  /// and keeps what is there, when the image cannot be decoded.
+  void Adopt(BlockImage image) {
     auto fresh = std::make_unique<MuxData>(env);
-    DecodeImage(BlkImage, env, *fresh);
+    DecodeImage(image, env, *fresh);
     record_ = std::move(fresh);
+    BlkImage = std::move(image);
+    image_is_decoded_ = true;
     ++generation_;
+  }
+
+  /// Runs `body` as an edge of the component, which stays alive meanwhile: a host call, a timer
+  /// tick, a menu choice. A failure is reported unless the host has destroyed the control.
+  template <class Body>
+  void Guard(std::string_view routine, Body&& body) {
+    const auto keep = life.lock();
+    try {
+      body();
+    } catch (...) {
+      if (!terminated) ReportFailure(platform, routine);
+    }
   }
 
   /// Before a new image comes: the computer's clock is no longer wanted, the ready-made texts
@@ -106,6 +128,7 @@ struct Context {
  private:
   std::unique_ptr<MuxData> record_;
   int generation_ = 0;
+  bool image_is_decoded_ = false;
 };
 
 }  // namespace quorvel

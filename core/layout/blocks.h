@@ -43,13 +43,14 @@ void Describe(Pass& block, int number, MuxData& rec, Identity& id) {
     case 56:
     case 57:
     case 58:
-      return id.IsRecorder() ? EventRecording(block, number, rec) : RecordList(block, number, rec);
+      return id.HasEventRecording() ? EventRecording(block, number, rec)
+                                    : RecordList(block, number, rec);
     case 59: return DisplaysAndAlarmMode(block, rec, id);
     case 60: return VcrOrRecorder(block, rec, id);
     case 61: return Clock(block, rec, id);
     case 62:
     case 63:
-      if (id.IsRecorder()) EventRecording(block, number, rec);
+      if (id.HasEventRecording()) EventRecording(block, number, rec);
       return;
     case 64:
     case 65:

@@ -5,8 +5,6 @@
 
 namespace quorvel::layout {
 
-inline constexpr int kTitleLength = 13;
-
 /// Camera titles: block c + 1 for camera c.
 template <class Pass>
 void Title(Pass& block, Cameras& camera) {

@@ -13,8 +13,9 @@ void TimedMacros(Pass& block, int number, MuxData& rec) {
   constexpr Byte kDays = 9;
   constexpr Byte kHours = 24;
   constexpr Byte kMinutes = 59;  // as the device counts: minute 59 is not taken
+  const int first = (number - 64) * kEntries;
   for (int j = 0; j < kEntries; ++j) {
-    auto& macro = rec.AllTimedMacros().at(static_cast<std::size_t>((number - 64) * kEntries + j));
+    auto& macro = rec.AllTimedMacros().at(static_cast<std::size_t>(first + j));
     const int at = j * kEntries;
     if constexpr (Pass::kReading) {
       const auto load_below = [&block](int place, Byte limit, auto& setting) {
@@ -58,8 +59,9 @@ void SubMacro(Pass& block, int number, MuxData& rec, const Identity& id) {
 /// Blocks 195 to 199 of triplex models: record timers, two entries of eight bytes.
 template <class Pass>
 void RecTimers(Pass& block, int number, MuxData& rec) {
+  const int first = (number - 195) * 2;
   for (int j = 0; j < 2; ++j) {
-    auto& timer = rec.AllRecTimers().at(static_cast<std::size_t>((number - 195) * 2 + j));
+    auto& timer = rec.AllRecTimers().at(static_cast<std::size_t>(first + j));
     const int at = 8 * j;
     block.Byte(at, timer.RTdate);
     block.Byte(at + 1, timer.RTstart_hh);

@@ -4,6 +4,9 @@
 
 namespace quorvel {
 
+/// Characters of a camera title in its block.
+inline constexpr int kTitleLength = 13;
+
 /// One camera: title, picture and motion-detection settings. Camera c's title is block c + 1.
 class Cameras : public SettingOwner {
  public:

@@ -65,7 +65,8 @@ void clsEmailNotify::PutEmailBlocks(int first_block, std::string_view text) {
   for (int i = 0; i < kBlocksPerHalf; ++i) {
     const auto piece = text.substr(0, kTextBlockLength);
     text.remove_prefix(piece.size());
-    // Emptied blocks are cleared without recording; the piece before them lists the whole half.
+    // Blocks that become empty are not listed for that: devices read a half up to its first short
+    // block.
     if (i > 0 && piece.empty()) {
       LoadText(first_block + i, {});
     } else {

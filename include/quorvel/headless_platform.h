@@ -49,7 +49,8 @@ class HeadlessPlatform : public Platform {
 
   /// Called while a modal dialog waits and nothing is due at this moment: acts on the dialog and
   /// returns true, or returns false to let time pass. When nobody acts and nothing is left to
-  /// happen, the dialog is closed as by its window's close button and its name noted in Stalled.
+  /// happen, or a million turns were not enough, the dialog is closed as by its window's close
+  /// button and its name is noted (TakeStalled).
   std::function<bool(Dialog&)> at_modal;
   /// Answers the next message boxes and file dialogs, in order. Without an answer, a message box
   /// with one button gets OK, one with two Cancel, and a file dialog Cancel.
@@ -85,6 +86,7 @@ class HeadlessPlatform : public Platform {
  private:
   /// Runs the first task due at or before `limit`; false when there is none.
   bool RunNext(std::int64_t limit);
+  void RunUntil(std::int64_t limit);
 
   std::int64_t now_ = 0;
   LocalTime wall_clock_;

@@ -76,16 +76,17 @@ bool HeadlessPlatform::RunNext(std::int64_t limit) {
   return true;
 }
 
-void HeadlessPlatform::RunUntilIdle() {
-  for (int turn = 0; RunNext(kEndOfTime); ++turn) {
+void HeadlessPlatform::RunUntilIdle() { RunUntil(kEndOfTime); }
+
+void HeadlessPlatform::RunUntil(std::int64_t limit) {
+  for (int turn = 0; RunNext(limit); ++turn) {
     if (turn == kTooManyTurns) throw std::runtime_error("the loop does not come to rest");
   }
 }
 
 void HeadlessPlatform::Advance(int milliseconds) {
   const std::int64_t until = now_ + milliseconds;
-  while (RunNext(until)) {
-  }
+  RunUntil(until);
   now_ = std::max(now_, until);
 }
 
@@ -123,10 +124,13 @@ void HeadlessPlatform::ShowModal(Dialog& dialog) {
   const auto keep = dialog.shared_from_this();
   Show(dialog);
   modal_.push_back(&dialog);
-  while (dialog.Shown()) {
-    if (RunNext(now_)) continue;
-    if (at_modal && at_modal(dialog)) continue;
-    if (RunNext(kEndOfTime)) continue;
+  for (int turn = 0; dialog.Shown(); ++turn) {
+    if (turn < kTooManyTurns) {
+      if (RunNext(now_)) continue;
+      const auto act = at_modal;  // it may replace itself
+      if (act && act(dialog)) continue;
+      if (RunNext(kEndOfTime)) continue;
+    }
     stalled_.push_back(dialog.Name());
     dialog.Close();
   }

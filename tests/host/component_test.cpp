@@ -88,6 +88,105 @@ TEST(Control, ActivityGrids) {
   EXPECT_EQ(host.Modified(), (std::vector<int>{89, 90}));
 }
 
+TEST(Control, MayBeDestroyedInAnyEvent) {
+  for (const char* event :
+       {"RequestBlk 1", "RequestBlk 9", "UploadSucceeded", "ULSucceededWithStr TX16 6 16",
+        "DownLoadData 1", "DownLoadData 255", "ActGridPop 16", "ActGridData", "Click"}) {
+    for (const bool sync : {false, true}) {
+      SCOPED_TRACE(event);
+      TestHost host;
+      host.sync = sync;
+      host.act_in = event;
+      host.act = [&host] {
+        host.control.reset();
+        throw std::runtime_error("and the host fails");
+      };
+      const bool whole = std::string_view(event).starts_with("UL");
+      if (whole) {
+        host.control->HostCommId(1);
+        std::vector<Byte> image(host.device.Bytes().begin(), host.device.Bytes().end());
+        image.push_back(0);
+        host.control->FillDataBlk(image);
+      } else {
+        host.Download();
+      }
+      if (host.control) {
+        host.OpenMenu();
+        host.platform.ChooseMenu("mnuActGrid");
+      }
+      if (host.control) host.control->Custom(17, 0, 0);
+      if (host.control) host.control->Surface().Click();
+      if (host.control) {
+        host.platform.at_modal = [](Dialog& dialog) {
+          return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+        };
+        host.control->Custom(11, 0, 0);
+      }
+      EXPECT_EQ(host.control, nullptr);
+      host.platform.RunUntilIdle();
+      EXPECT_TRUE(host.platform.Windows().empty());
+      EXPECT_TRUE(host.platform.TakeMessages().empty());
+    }
+  }
+}
+
+TEST(Control, AHostThatFailsInAnEventIsToldAndTheSequenceCanBeRepeated) {
+  TestHost host;
+  host.act_in = "UploadSucceeded";
+  host.act = [] { throw std::runtime_error("host"); };
+  host.Download();
+  EXPECT_EQ(host.platform.TakeMessages().at(0).text, "Error found in FillDataBlk");
+  host.Download();
+  EXPECT_EQ(host.Count("UploadSucceeded"), 2);
+}
+
+TEST(Control, ATextSourceMayCallBackOrDestroyTheControl) {
+  class Caller : public AutomationObject {
+   public:
+    explicit Caller(TestHost& host, int call) : host_(host), call_(call) {}
+    std::string Call(std::string_view, std::int32_t) override {
+      if (host_.control == nullptr || done_) return "X";
+      done_ = true;
+      if (call_ == 0) {
+        host_.control.reset();
+      } else {
+        host_.control->Custom(static_cast<std::int16_t>(call_), 0, 0);
+      }
+      return "X";
+    }
+
+   private:
+    TestHost& host_;
+    int call_;
+    bool done_ = false;
+  };
+  for (const int call : {0, 10, 11, 15}) {
+    for (const std::int16_t command : {10, 11, 15}) {
+      TestHost host;
+      host.platform.Classes().Register(
+          "Caller", [&host, call] { return std::make_shared<Caller>(host, call); });
+      host.control->CustomWithString(191, 0, 0, "Caller");
+      host.control->Custom(command, 0, 0);
+      host.platform.RunUntilIdle();
+      EXPECT_TRUE(host.platform.Windows().empty());
+    }
+  }
+}
+
+TEST(Control, TwoControlsEditTwoDevices) {
+  TestHost first;
+  TestHost second(301);
+  first.Download();
+  second.Download();
+  auto& editor = first.OpenCameraSetup();
+  editor.Find<TextBox>("m_CameraTitle(0)").Type("First");
+  editor.Find<Button>("cmd_OK").Click();
+  EXPECT_EQ(first.Modified(), std::vector<int>{1});
+  EXPECT_TRUE(second.Modified().empty());
+  second.OpenMenu();
+  EXPECT_FALSE(second.platform.Menu().Item("mnu_UnLock").enabled);
+}
+
 class Identities : public ::testing::Test {
  protected:
   void Connect(Byte channels, Byte code, std::string_view name) {
@@ -146,7 +245,9 @@ TEST_F(Identities, OfARestoredImageMustFit) {
   platform_.TakeMessages();
   Connect(16, 7, "TX16");
   EXPECT_FALSE(Loads(16, 8, "TX16"));
-  EXPECT_EQ(platform_.TakeMessages().at(0).text,
+  const Message message = platform_.TakeMessages().at(0);
+  EXPECT_EQ(message.title, "Error Message");
+  EXPECT_EQ(message.text,
             "The current data does not match the data of the remote device\r"
             "You are connected to model:  TX16 (16 ch, Triplex PAL)\r"
             "You are loading data from model:  TX16 (16 ch, Triplex NTSC, Lite/EZ)");

@@ -157,18 +157,33 @@ TEST(Download, SavesWhatWasReceived) {
   std::remove(path.c_str());
 }
 
-TEST(Download, AHostMayDestroyTheControlInAnyEvent) {
-  class Destroyer : public TestHost {
-   public:
-    void UploadSucceeded() override { control.reset(); }
+TEST(Download, OnlyTheAwaitedBlockIsTaken) {
+  TestHost host;
+  host.silent_from = 5;
+  host.platform.at_modal = [&host](Dialog& dialog) {
+    return host.log.back() == "RequestBlk 5" && dialog.CloseWindow() == Answer::kDone;
   };
-  for (const bool sync : {false, true}) {
-    Destroyer host;
-    host.sync = sync;
-    host.Download();
-    EXPECT_EQ(host.control, nullptr);
-    EXPECT_TRUE(host.platform.Windows().empty());
-  }
+  host.control->Custom(10, 0, 0);
+  host.silent_from = 0;
+  // The answer to the stopped receive comes while the next one waits for block 1, and others twice.
+  const auto stray = [&host](Byte number) {
+    std::vector<Byte> reply{number};
+    reply.resize(17);
+    host.control->FillDataBlk(reply);
+  };
+  host.platform.Post([stray] { stray(5); });
+  host.act_in = "RequestBlk 100";
+  host.act = [stray] {
+    stray(99);
+    stray(101);
+  };
+  host.Download();
+  stray(200);
+  EXPECT_EQ(host.Count("UploadSucceeded"), 1);
+  const auto image = host.control->Image();
+  EXPECT_TRUE(std::equal(image.begin(), image.end(), host.device.Bytes().begin(),
+                         host.device.Bytes().end()));
+  EXPECT_TRUE(host.platform.TakeMessages().empty());
 }
 
 TEST(Download, ACommandInsideTheDialogRestarts) {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/block_image.h"
@@ -49,7 +50,8 @@ class TestHost : public MainMenuEvents {
   }
 
   void RequestBlk(std::uint8_t blknum) override {
-    log.push_back("RequestBlk " + std::to_string(blknum));
+    Log("RequestBlk " + std::to_string(blknum));
+    if (control == nullptr) return;
     if (blknum == silent_from) return;
     if (sync) {
       Reply(blknum);
@@ -57,11 +59,11 @@ class TestHost : public MainMenuEvents {
       platform.Post([this, blknum] { Reply(blknum); });
     }
   }
-  void UploadSucceeded() override { log.push_back("UploadSucceeded"); }
+  void UploadSucceeded() override { Log("UploadSucceeded"); }
   void ULSucceededWithStr(std::string_view mname, std::uint8_t param1,
                           std::uint8_t param2) override {
-    log.push_back("ULSucceededWithStr " + std::string(mname) + " " + std::to_string(param1) + " " +
-                  std::to_string(param2));
+    Log("ULSucceededWithStr " + std::string(mname) + " " + std::to_string(param1) + " " +
+        std::to_string(param2));
   }
   void DownLoadData(std::span<std::uint8_t> bdata) override {
     EXPECT_EQ(bdata.size(), 18U);
@@ -70,17 +72,16 @@ class TestHost : public MainMenuEvents {
     if (bdata[0] != 255 && device.Holds(bdata[0])) {
       std::copy(bdata.begin() + 1, bdata.begin() + 17, device.Block(bdata[0]).begin());
     }
-    if (acknowledge) control->TriggerUploadTimer();
+    Log("DownLoadData " + std::to_string(bdata[0]));
+    if (acknowledge && control != nullptr) control->TriggerUploadTimer();
   }
-  void ActGridPop(std::uint8_t maxcam) override {
-    log.push_back("ActGridPop " + std::to_string(maxcam));
-    if (on_act_grid_pop) on_act_grid_pop();
-  }
+  void ActGridPop(std::uint8_t maxcam) override { Log("ActGridPop " + std::to_string(maxcam)); }
   void ActGridData(std::span<const std::uint8_t> barray) override {
     grid.assign(barray.begin(), barray.end());
+    Log("ActGridData");
   }
-  void Click() override { log.push_back("Click"); }
-  void DblClick() override { log.push_back("DblClick"); }
+  void Click() override { Log("Click"); }
+  void DblClick() override { Log("DblClick"); }
 
   [[nodiscard]] int Count(std::string_view event) const {
     return static_cast<int>(std::count(log.begin(), log.end(), event));
@@ -97,12 +98,18 @@ class TestHost : public MainMenuEvents {
   bool acknowledge = true;
   int silent_from = 0;  ///< the request that gets no answer
   std::size_t reply_bytes = kBlockSize;
-  std::function<void()> on_act_grid_pop;
+  /// Called inside the event whose log entry this is.
+  std::string act_in;
+  std::function<void()> act;
   std::vector<std::string> log;
   std::vector<int> sent;  ///< block numbers of the packets
   std::vector<Byte> grid;
 
  private:
+  void Log(const std::string& entry) {
+    log.push_back(entry);
+    if (act && entry == act_in) std::exchange(act, nullptr)();
+  }
   void Reply(Byte number) {
     if (control == nullptr || !device.Holds(number)) return;
     std::vector<Byte> reply{number};

@@ -203,6 +203,43 @@ TEST_F(Send, TheFamilyMustFit) {
   }
 }
 
+TEST_F(Send, AnImageThatWasNotDecodedIsNotSent) {
+  host_.reply_bytes = 8;
+  host_.control->Custom(10, 0, 0);
+  bool opened = false;
+  Command11([&opened](Dialog& dialog, int) {
+    opened = true;
+    return dialog.CloseWindow() == Answer::kDone;
+  });
+  EXPECT_FALSE(opened);
+  EXPECT_EQ(host_.platform.TakeMessages().at(0).text,
+            "The current data does not match the data of the remote device");
+}
+
+TEST_F(Send, StartWaitsWhileASendRunsAndGridsEditedMeanwhileAreSent) {
+  EditTitle(0, "One");
+  std::vector<Byte> grid(33, 0x5A);
+  grid[0] = 0;
+  host_.acknowledge = false;
+  Command11([&](Dialog& dialog, int call) {
+    if (call == 0) {
+      host_.control->UpdateActGrid(grid);
+      dialog.Find<OptionButton>("optBlk(1)").Click();
+      return Click(dialog, "cmdOK") == Answer::kDone;
+    }
+    if (host_.sent.empty()) return false;
+    dialog.Find<CheckBox>("chkMacro(0)").Click();
+    EXPECT_FALSE(dialog.Find<Button>("cmdOK").Enabled());
+    for (int packet = 0; packet < 3; ++packet) {
+      host_.control->TriggerUploadTimer();
+      host_.platform.RunUntilIdle();
+    }
+    return dialog.CloseWindow() == Answer::kDone;
+  });
+  EXPECT_EQ(host_.sent, (std::vector<int>{1, 85, 86, 255}));
+  EXPECT_EQ(host_.device.Block(86)[15], 0x5A);
+}
+
 TEST_F(Send, WithoutAnImageOnlyTheEndPacket) {
   TestHost empty;
   empty.platform.at_modal = [&empty](Dialog& dialog) {

@@ -118,7 +118,7 @@ TEST_F(CameraSetup, TitlesMarkOnlyWhatWasTypedAnew) {
   EXPECT_EQ(host_.device.Block(4)[2], '?');
 }
 
-TEST_F(CameraSetup, CancelEscapeAndCloseWriteNothing) {
+TEST_F(CameraSetup, CancelAndCloseWriteNothing) {
   for (const int way : {0, 1}) {
     Open(6);
     It<TextBox>("m_CameraTitle(0)").Type("Typed");

@@ -147,7 +147,8 @@ TEST(Menu, TheControlMayBeDestroyedFromAChoice) {
   TestHost host;
   host.Download();
   host.OpenMenu();
-  host.on_act_grid_pop = [&host] { host.control.reset(); };
+  host.act_in = "ActGridPop 16";
+  host.act = [&host] { host.control.reset(); };
   host.platform.ChooseMenu("mnuActGrid");
   EXPECT_EQ(host.control, nullptr);
   host.platform.RunUntilIdle();

@@ -6,7 +6,6 @@
 #include "ui/menu/frm_msg.h"
 #include "ui/menu/menu_items.h"
 #include "ui/setup/frm_camera_setup.h"
-#include "ui/widgets/failure.h"
 
 namespace quorvel {
 
@@ -28,7 +27,8 @@ frm_Menu::frm_Menu(Context& context)
     : context_(context),
       menu_(std::make_shared<PopupMenu>(MainMenuItems())),
       editors_{{"fCamera", "mnu_CSetup", Create<frm_CameraSetup>, nullptr},
-               {"fMsg", "", Create<frmMsg>, nullptr}} {}
+               {"fMsg", "", Create<frmMsg>, nullptr}},
+      message_(editors_.back()) {}
 
 frm_Menu::~frm_Menu() { Unload(); }
 
@@ -38,16 +38,17 @@ void frm_Menu::Load() {
                                                                 const Handler& handler) {
     const auto keep_context = life.lock();
     const auto keep = weak.lock();
-    if (keep && handler) GuardEdge(keep->context_.platform, place, handler);
+    if (keep && handler) keep->context_.Guard(place, handler);
   };
   BuildItems();
   SetUpKeyboardLock();
   SetUpForModel();
   SetUpCaptions();
   SetUpLanguages();
+  if (unloaded_) return;
 
   tmPopup = context_.platform.NewTimer([this] {
-    GuardEdge(context_.platform, "tmPopup", [this] {
+    context_.Guard("tmPopup", [this] {
       tmPopup->Stop();
       context_.platform.PopUp(menu_, kFormWidth / 2, kFormHeight / 2);
     });
@@ -61,9 +62,11 @@ void frm_Menu::PopUpSoon() {
 }
 
 void frm_Menu::Unload() {
+  unloaded_ = true;
   tmPopup.reset();
   context_.platform.TakeDown(*menu_);
-  menu_->Root().children.clear();  // a choice that is still on its way finds nothing
+  // A choice that is still on its way is refused.
+  for (MenuItem& item : menu_->Root().children) item.enabled = false;
   for (EditorReference& reference : editors_) {
     if (reference.dialog == nullptr) continue;
     reference.dialog->on_closed = nullptr;
@@ -182,9 +185,7 @@ void frm_Menu::LockKeyboard(bool lock) {
 
 void frm_Menu::ChooseActiveZones() {
   if (context_.MenuParam < 1) {
-    const auto message = std::find_if(editors_.begin(), editors_.end(),
-                                      [](const auto& it) { return it.name == "fMsg"; });
-    Open(*message);
+    Open(message_);
   } else if (ActGridRequest) {
     ActGridRequest();
   }

@@ -56,6 +56,8 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   std::shared_ptr<PopupMenu> menu_;
   std::unique_ptr<Timer> tmPopup;
   std::vector<EditorReference> editors_;
+  EditorReference& message_;  ///< fMsg, which no item of its own opens
+  bool unloaded_ = false;
 };
 
 }  // namespace quorvel

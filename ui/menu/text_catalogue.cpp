@@ -88,8 +88,15 @@ void TextCatalogue::CreateTextSource(const ClassFactory& classes, std::string_vi
 }
 
 void TextCatalogue::CreateCatalogues() {
-  if (!constants_) constants_.emplace(*this);
-  if (!objects_) objects_.emplace(*this);
+  // A text source may call back and have the catalogues created meanwhile; the first ones stay.
+  if (constants_ == nullptr) {
+    auto constants = std::make_unique<GlobalCnst>(*this);
+    if (constants_ == nullptr) constants_ = std::move(constants);
+  }
+  if (objects_ == nullptr) {
+    auto objects = std::make_unique<ObjStr>(*this);
+    if (objects_ == nullptr) objects_ = std::move(objects);
+  }
 }
 
 const GlobalCnst& TextCatalogue::Constants() {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -61,15 +60,14 @@ class TextCatalogue {
 
   /// Creates the two catalogues of ready-made texts, if they are not there yet.
   void CreateCatalogues();
-  [[nodiscard]] bool HasCatalogues() const { return constants_.has_value(); }
   /// The catalogues, created when they are missing.
   [[nodiscard]] const GlobalCnst& Constants();
   [[nodiscard]] const ObjStr& Objects();
 
  private:
   std::shared_ptr<AutomationObject> source_;
-  std::optional<GlobalCnst> constants_;
-  std::optional<ObjStr> objects_;
+  std::unique_ptr<GlobalCnst> constants_;
+  std::unique_ptr<ObjStr> objects_;
 };
 
 }  // namespace quorvel

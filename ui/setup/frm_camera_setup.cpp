@@ -2,8 +2,6 @@
 
 #include <charconv>
 
-#include "core/layout/cameras_layout.h"
-
 namespace quorvel {
 
 namespace {
@@ -123,7 +121,7 @@ void frm_CameraSetup::FillCameras() {
 
   for (int c = 0; c < cameras; ++c) {
     const Cameras& camera = *Ctx().Record().CamInfo(c);
-    m_CameraTitle(c).SetMaxLength(layout::kTitleLength);
+    m_CameraTitle(c).SetMaxLength(kTitleLength);
     m_CameraTitle(c).SetText(ShownTitle(camera));
     // Shows at once what the device's code page can keep of a text.
     m_CameraTitle(c).on_change = [this, c] {
@@ -176,7 +174,7 @@ void frm_CameraSetup::WriteCamera(int c, Cameras& camera) {
   // An untouched box says nothing about the title's bytes that it cannot show.
   TextBox& box = m_CameraTitle(c);
   if (box.Edited() && box.Text() != ShownTitle(camera)) {
-    camera.title(GetPlatform().FromUtf8(box.Text()).substr(0, layout::kTitleLength));
+    camera.title(GetPlatform().FromUtf8(box.Text()).substr(0, kTitleLength));
     Ctx().env.blocks.AddBlk(static_cast<Byte>(c + 1));
   }
   if (!Id().IsTriplex()) camera.color(m_CameraColor(c).Checked());

@@ -62,7 +62,13 @@ void Dialog::Show() {
 void Dialog::ShowModal() {
   const auto keep = shared_from_this();
   shown_ = true;
-  platform_.ShowModal(*this);
+  try {
+    platform_.ShowModal(*this);
+  } catch (...) {  // whatever failed, no window stays locked behind it
+    shown_ = false;
+    platform_.Hide(*this);
+    throw;
+  }
 }
 
 void Dialog::Close() {
@@ -82,10 +88,14 @@ Answer Dialog::CloseWindow() {
 
 void Dialog::RunHandler(const std::string& place, const Handler& handler) {
   if (!handler) return;
-  const Handler copy = handler;  // the handler may replace or destroy the one that is stored
+  const Handler copy = handler;    // the handler may replace or destroy the one that is stored
+  const auto life = life_.lock();  // goes last: the dialog refers to it
   const auto keep = weak_from_this().lock();
-  const auto life = life_.lock();
-  GuardEdge(platform_, name_ + "." + place, copy);
+  try {
+    copy();
+  } catch (...) {
+    ReportFailure(platform_, name_ + "." + place);
+  }
 }
 
 }  // namespace quorvel

@@ -10,6 +10,10 @@ Frame::Frame(Dialog& dialog, std::string name, std::string caption)
 TabStrip::TabStrip(Dialog& dialog, std::string name)
     : Widget(dialog, WidgetKind::kTabStrip, std::move(name)) {}
 
+bool TabStrip::InFront(int page) const {
+  return page == current_ && IsPage(page) && pages_[static_cast<std::size_t>(page)].visible;
+}
+
 std::string TabStrip::ValueText() const {
   std::string text;
   for (int page = 0; page < Count(); ++page) {

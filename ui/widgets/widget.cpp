@@ -25,7 +25,7 @@ bool Widget::Showing() const {
   if (!visible_) return false;
   if (container_ == nullptr) return true;
   if (container_->kind_ == WidgetKind::kTabStrip &&
-      static_cast<const TabStrip*>(container_)->Current() != page_) {
+      !static_cast<const TabStrip*>(container_)->InFront(page_)) {
     return false;
   }
   return container_->Showing();

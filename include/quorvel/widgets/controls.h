@@ -160,6 +160,9 @@ class ControlArray {
   ~ControlArray() = default;
 
   [[nodiscard]] Control& operator()(int i) { return controls_.at(static_cast<std::size_t>(i)); }
+  [[nodiscard]] const Control& operator()(int i) const {
+    return controls_.at(static_cast<std::size_t>(i));
+  }
   [[nodiscard]] int Count() const { return static_cast<int>(controls_.size()); }
   [[nodiscard]] auto begin() { return controls_.begin(); }
   [[nodiscard]] auto end() { return controls_.end(); }

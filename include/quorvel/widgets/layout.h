@@ -95,6 +95,8 @@ class TabStrip : public Widget {
   [[nodiscard]] int Count() const { return static_cast<int>(pages_.size()); }
   /// The page in front.
   [[nodiscard]] int Current() const { return current_; }
+  /// True when `page` is in front and not hidden.
+  [[nodiscard]] bool InFront(int page) const;
   [[nodiscard]] std::string ValueText() const override;
 
   /// Sets the pages; before the dialog's own layout is set. Page 0 comes to the front.
