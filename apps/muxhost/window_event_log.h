@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QListWidget>
+#include <QString>
+#include <string>
+
+namespace quorvel::muxhost {
+
+/// What crossed between control and host, in plain words. A run of block numbers takes one line.
+class EventLog : public QListWidget {
+ public:
+  explicit EventLog(QWidget* parent = nullptr);
+  /// An entry of the session's log.
+  void Add(const std::string& entry);
+
+ private:
+  void AddLine(const QString& text);
+
+  QString run_;  ///< event whose numbers are being counted, or empty
+  int run_first_ = 0;
+  int run_last_ = 0;
+  QString run_time_;
+};
+
+}  // namespace quorvel::muxhost

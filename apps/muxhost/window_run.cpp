@@ -1,0 +1,27 @@
+#include <QApplication>
+#include <QTimer>
+
+#include "apps/muxhost/main_window.h"
+#include "apps/muxhost/run_window.h"
+
+namespace quorvel::muxhost {
+
+int RunWindow(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  QtPlatform platform;
+  QObject turns;  // what is still scheduled ends with it
+  HostSession session(platform, [&turns](int milliseconds, std::function<void()> task) {
+    auto* const timer = new QTimer(&turns);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, task = std::move(task)] {
+      timer->deleteLater();
+      task();
+    });
+    timer->start(milliseconds);
+  });
+  MainWindow window(platform, session);
+  window.show();
+  return QApplication::exec();
+}
+
+}  // namespace quorvel::muxhost

@@ -1,0 +1,58 @@
+#include "platform/qt/container_views.h"
+
+#include <QTabBar>
+#include <algorithm>
+
+#include "platform/qt/fitted_scroll_area.h"
+#include "platform/qt/view_builder.h"
+
+namespace quorvel::qt {
+
+FrameView::FrameView(ViewBuilder& builder, Frame& model, QWidget& parent)
+    : ViewOf(builder.Verbs(), model, new QGroupBox(&parent)) {
+  builder.Build(model.Content(), *GetBody());
+  DrawAll();
+}
+
+void FrameView::Draw(Aspect) {
+  // A border without a caption leaves out the caption's line; beside one that has a caption, its
+  // lines would stand higher.
+  const QString caption = Captioned(GetModel()->Caption());
+  GetBody()->setTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
+}
+
+QSize WideTabs::sizeHint() const {
+  constexpr int kEnds = 8;
+  return QTabWidget::sizeHint().expandedTo({tabBar()->sizeHint().width() + kEnds, 0});
+}
+
+TabStripView::TabStripView(ViewBuilder& builder, TabStrip& model, QWidget& parent)
+    : ViewOf(builder.Verbs(), model, new WideTabs(parent)) {
+  GetBody()->setElideMode(Qt::ElideNone);
+  for (const Page& page : model.Pages()) {
+    auto* const area = new FittedScrollArea(*GetBody());
+    builder.Build(page.content, *area->widget());
+    GetBody()->addTab(area, QString());
+  }
+  QObject::connect(GetBody(), &QTabWidget::currentChanged, Context(),
+                   [this](int page) { Act([page](TabStrip& tabs) { tabs.Choose(page); }); });
+  DrawAll();
+}
+
+void TabStripView::Draw(Aspect) {
+  QTabWidget& tabs = *GetBody();
+  const int pages = std::min(GetModel()->Count(), tabs.count());
+  for (int i = 0; i < pages; ++i) {
+    const Page& page = GetModel()->Pages()[static_cast<std::size_t>(i)];
+    if (tabs.tabText(i) != Captioned(page.caption)) tabs.setTabText(i, Captioned(page.caption));
+    tabs.setTabVisible(i, page.visible);
+    tabs.setTabEnabled(i, page.visible);  // Ctrl+Tab would reach a tab that is only hidden
+    tabs.widget(i)->setAccessibleName(Shown(page.caption));
+    // A hidden page does not make the window larger.
+    const auto policy = page.visible ? QSizePolicy::Expanding : QSizePolicy::Ignored;
+    tabs.widget(i)->setSizePolicy(policy, policy);
+  }
+  tabs.setCurrentIndex(GetModel()->Current());
+}
+
+}  // namespace quorvel::qt

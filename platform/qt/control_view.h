@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QObject>
+#include <QSignalBlocker>
+#include <QWidget>
+
+#include "platform/qt/texts.h"
+#include "platform/qt/verbs_under_way.h"
+#include "quorvel/widgets/widget.h"
+
+namespace quorvel::qt {
+
+/// One control on screen. It draws its model and turns what a person does into user verbs.
+class ControlView : public WidgetView {
+ public:
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+
+  /// The toolkit's widget; its parent owns it.
+  [[nodiscard]] virtual QWidget& Body() const = 0;
+  /// Ends the tie to the model, which is not touched when it lives no more.
+  virtual void LetGo(bool model_lives) = 0;
+
+ protected:
+  ControlView() = default;
+};
+
+/// A view of one kind of model in one kind of toolkit widget.
+template <class Model, class QtWidget>
+class ViewOf : public ControlView {
+ public:
+  ViewOf(VerbsUnderWay& verbs, Model& model, QtWidget* body)
+      : verbs_(verbs), model_(&model), body_(body) {
+    model.AttachView(this);
+  }
+  ~ViewOf() override { ViewOf::LetGo(true); }
+
+  [[nodiscard]] QWidget& Body() const override { return *body_; }
+
+  void LetGo(bool model_lives) override {
+    if (model_ != nullptr && model_lives) model_->AttachView(nullptr);
+    model_ = nullptr;
+  }
+
+  void Refresh(Aspect what) override {
+    if (model_ == nullptr) return;
+    const QSignalBlocker quiet(body_);
+    if (what == Aspect::kState) DrawState();
+    Draw(what);
+  }
+
+ protected:
+  /// Shows what differs between the kinds of controls.
+  virtual void Draw(Aspect what) = 0;
+
+  [[nodiscard]] Model* GetModel() const { return model_; }
+  [[nodiscard]] QtWidget* GetBody() const { return body_; }
+  /// What connections to this view are bound to: they end with the view.
+  [[nodiscard]] QObject* Context() { return &context_; }
+
+  /// First drawing, once the derived view is complete.
+  void DrawAll() {
+    for (const Aspect what : {Aspect::kState, Aspect::kContent, Aspect::kSelection}) Refresh(what);
+  }
+
+  /// Calls a user verb. The dialog may be gone afterwards; if not, the widget shows the model
+  /// again, whatever the verb made of the toolkit's own idea of the new value.
+  template <class Verb>
+  void Act(Verb verb) {
+    if (model_ == nullptr) return;
+    const VerbsUnderWay::Scope scope(verbs_);
+    verb(*model_);
+    Refresh(Aspect::kSelection);
+  }
+
+ private:
+  void DrawState() {
+    body_->setEnabled(model_->Enabled());
+    body_->setVisible(model_->Visible());
+    body_->setAccessibleName(Shown(model_->Caption().empty() ? model_->Name() : model_->Caption()));
+  }
+
+  VerbsUnderWay& verbs_;
+  Model* model_;
+  QtWidget* const body_;
+  QObject context_;
+};
+
+}  // namespace quorvel::qt

@@ -1,0 +1,144 @@
+#include "platform/qt/dialog_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "platform/qt/looks.h"
+#include "platform/qt/view_builder.h"
+
+namespace quorvel::qt {
+
+Contents::Contents(QWidget& parent, const Layout& layout, VerbsUnderWay& verbs)
+    : FittedScrollArea(parent) {
+  ViewBuilder builder(verbs);
+  builder.Build(layout, *widget());
+  views_ = builder.TakeViews();
+}
+
+void Contents::LetGo(bool models_live) {
+  for (auto& view : views_) view->LetGo(models_live);
+}
+
+DialogWindow::DialogWindow(Dialog& dialog) : dialog_(&dialog) {
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setObjectName(Shown(dialog.Name()));
+  auto* const around = new QVBoxLayout(this);
+  around->setContentsMargins(0, 0, 0, 0);
+  if (dialog.Icon() != nullptr) setWindowIcon(ToQt(*dialog.Icon()));
+  Build();
+  dialog.AttachView(this);
+  DialogWindow::Refresh(Aspect::kState);
+}
+
+DialogWindow::~DialogWindow() { LetGo(true); }
+
+void DialogWindow::Build() {
+  if (contents_ != nullptr) {
+    contents_->LetGo(true);
+    contents_->hide();
+    layout()->removeWidget(contents_);
+    // One of its controls may be what called for the replacement.
+    verbs_.Finally([former = contents_] { former->deleteLater(); });
+  }
+  contents_ = new Contents(*this, dialog_->Contents(), verbs_);
+  layout()->addWidget(contents_);
+}
+
+void DialogWindow::Refresh(Aspect what) {
+  if (dialog_ == nullptr) return;
+  if (what == Aspect::kContent) Build();
+  setWindowTitle(Shown(dialog_->Caption()));
+}
+
+void DialogWindow::LetGo(bool dialog_lives) {
+  if (dialog_ == nullptr) return;
+  contents_->LetGo(dialog_lives);
+  dialog_->AttachView(nullptr);
+  dialog_ = nullptr;
+}
+
+void DialogWindow::Retire(bool dialog_lives) {
+  LetGo(dialog_lives);
+  hide();
+  verbs_.Finally([this] { deleteLater(); });
+}
+
+QSize DialogWindow::LargestSize() const {
+  const QSize borders(16, 48);
+  return screen()->availableSize() - borders;
+}
+
+void DialogWindow::Present(const QWidget* over) {
+  if (!isVisible()) {
+    hint_ = sizeHint();
+    QSize size = hint_;
+    // A window that must scroll needs space for the bar, or it would scroll both ways.
+    if (size.height() > LargestSize().height()) {
+      size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    }
+    resize(size.boundedTo(LargestSize()));
+    const QRect space = screen()->availableGeometry();
+    QRect place(QPoint(), this->size());
+    place.moveCenter(over != nullptr ? over->frameGeometry().center() : space.center());
+    place.moveRight(std::min(place.right(), space.right()));
+    place.moveBottom(std::min(place.bottom(), space.bottom()));
+    move(std::max(place.left(), space.left()), std::max(place.top(), space.top()));
+  }
+  show();
+  raise();
+  activateWindow();
+}
+
+void DialogWindow::Fit() {
+  const QSize growth = (sizeHint() - hint_).expandedTo({0, 0});
+  hint_ = sizeHint();
+  if (!growth.isNull()) resize((size() + growth).boundedTo(LargestSize().expandedTo(size())));
+}
+
+bool DialogWindow::event(QEvent* event) {
+  const bool done = QDialog::event(event);
+  if (event->type() == QEvent::LayoutRequest && isVisible()) Fit();
+  return done;
+}
+
+void DialogWindow::reject() {
+  if (dialog_ == nullptr) return;
+  const VerbsUnderWay::Scope scope(verbs_);
+  dialog_->CloseWindow();
+}
+
+void DialogWindow::closeEvent(QCloseEvent* event) {
+  reject();
+  event->setAccepted(!isVisible());
+}
+
+void DialogWindow::PressKeyButton(Button* button) {
+  const VerbsUnderWay::Scope scope(verbs_);
+  button->Click();
+}
+
+void DialogWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (dialog_ == nullptr) return;
+  if (event->key() == Qt::Key_Escape) {
+    if (Button* const cancel = dialog_->CancelButton()) {
+      PressKeyButton(cancel);
+    } else {
+      reject();
+    }
+  } else if (enter && (event->modifiers() & Qt::ControlModifier) != 0) {
+    if (Button* const button = dialog_->DefaultButton()) PressKeyButton(button);
+  } else if (enter) {
+    // Return presses the button that has the focus, and no other.
+    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) button->click();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+}  // namespace quorvel::qt

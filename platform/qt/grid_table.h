@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QTableView>
+#include <QTimer>
+#include <functional>
+
+#include "platform/qt/grid_texts.h"
+
+namespace quorvel::qt {
+
+/// The toolkit's table with a grid's way of selecting: one cell is current, and a range of rows in
+/// its column is selected. Rows are numbered as in the grid, from 1. The table reports what a
+/// person does; what is selected afterwards is for its view to tell.
+class GridTable : public QTableView {
+ public:
+  GridTable(QWidget& parent, GridTexts& texts);
+
+  /// Press on a cell.
+  std::function<void(int row, int column)> on_press;
+  /// End of a selection that began at row `first` and ended at `last`.
+  std::function<void(int first, int last)> on_release;
+  /// A selection was abandoned: the table must be told anew what is selected.
+  std::function<void()> on_cancel;
+
+  /// Draws this selection; row 0 for none.
+  void ShowSelection(int row, int column, int row_sel);
+  /// Widens columns to their header and texts, on the next turn of the loop.
+  void FitColumnsSoon() { fit_.start(); }
+  void FitColumns(bool anew);
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  [[nodiscard]] int LastRow() const { return model()->rowCount(); }
+  [[nodiscard]] int RowUnder(int y) const;
+  [[nodiscard]] bool Move(const QKeyEvent& event, int& row, int& column) const;
+  void ExtendTo(int row);
+  void DrawSelection();
+  void EndSelection();
+
+  int row_ = 0;
+  int column_ = 0;
+  int row_sel_ = 0;
+  bool dragging_ = false;
+  bool extending_ = false;
+  QTimer fit_;
+};
+
+}  // namespace quorvel::qt

@@ -1,0 +1,150 @@
+#include "platform/qt/simple_views.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <vector>
+
+namespace quorvel::qt {
+
+namespace {
+
+class LabelView : public ViewOf<Label, QLabel> {
+ public:
+  LabelView(VerbsUnderWay& verbs, Label& model, QWidget& parent)
+      : ViewOf(verbs, model, new QLabel(&parent)) {
+    GetBody()->setTextFormat(Qt::PlainText);
+    DrawAll();
+  }
+
+ private:
+  void Draw(Aspect) override { GetBody()->setText(Shown(GetModel()->Caption())); }
+};
+
+class ButtonView : public ViewOf<Button, QPushButton> {
+ public:
+  ButtonView(VerbsUnderWay& verbs, Button& model, QWidget& parent)
+      : ViewOf(verbs, model, new QPushButton(&parent)) {
+    constexpr int kLeastWidth = 84;
+    GetBody()->setAutoDefault(false);  // Return in a grid or list presses nothing
+    GetBody()->setMinimumWidth(kLeastWidth);
+    QObject::connect(GetBody(), &QPushButton::clicked, Context(),
+                     [this] { Act([](Button& button) { button.Click(); }); });
+    DrawAll();
+  }
+
+ private:
+  void Draw(Aspect) override { GetBody()->setText(Captioned(GetModel()->Caption())); }
+};
+
+class CheckBoxView : public ViewOf<CheckBox, QCheckBox> {
+ public:
+  CheckBoxView(VerbsUnderWay& verbs, CheckBox& model, QWidget& parent)
+      : ViewOf(verbs, model, new QCheckBox(&parent)) {
+    QObject::connect(GetBody(), &QCheckBox::clicked, Context(),
+                     [this] { Act([](CheckBox& box) { box.Click(); }); });
+    DrawAll();
+  }
+
+ private:
+  void Draw(Aspect) override {
+    GetBody()->setText(Captioned(GetModel()->Caption()));
+    GetBody()->setChecked(GetModel()->Checked());
+  }
+};
+
+class OptionButtonView : public ViewOf<OptionButton, QRadioButton> {
+ public:
+  OptionButtonView(VerbsUnderWay& verbs, OptionButton& model, QWidget& parent)
+      : ViewOf(verbs, model, new QRadioButton(&parent)) {
+    // The model keeps the group: the toolkit's own would not show a group without a selection.
+    GetBody()->setAutoExclusive(false);
+    QObject::connect(GetBody(), &QRadioButton::clicked, Context(),
+                     [this] { Act([](OptionButton& option) { option.Click(); }); });
+    DrawAll();
+  }
+
+ private:
+  void Draw(Aspect) override {
+    GetBody()->setText(Captioned(GetModel()->Caption()));
+    GetBody()->setChecked(GetModel()->Selected());
+  }
+};
+
+class ProgressBarView : public ViewOf<ProgressBar, QProgressBar> {
+ public:
+  ProgressBarView(VerbsUnderWay& verbs, ProgressBar& model, QWidget& parent)
+      : ViewOf(verbs, model, new QProgressBar(&parent)) {
+    constexpr int kLeastWidth = 320;
+    GetBody()->setMinimumWidth(kLeastWidth);
+    DrawAll();
+  }
+
+ private:
+  void Draw(Aspect) override {
+    // The toolkit takes a maximum of 0 for "busy, end unknown".
+    GetBody()->setRange(0, std::max(GetModel()->Maximum(), 1));
+    GetBody()->setValue(GetModel()->Value());
+  }
+};
+
+class StatusBarView : public ViewOf<StatusBar, QWidget> {
+ public:
+  StatusBarView(VerbsUnderWay& verbs, StatusBar& model, QWidget& parent)
+      : ViewOf(verbs, model, new QWidget(&parent)) {
+    constexpr int kLeastWidth = 110;
+    auto* const line = new QHBoxLayout(GetBody());
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(2);
+    for (int i = 0; i < model.Panels(); ++i) {
+      auto* const panel = new QLabel(GetBody());
+      panel->setTextFormat(Qt::PlainText);
+      panel->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+      panel->setMargin(2);
+      panel->setMinimumWidth(kLeastWidth);
+      line->addWidget(panel, i == 0 ? 1 : 0);
+      panels_.push_back(panel);
+    }
+    DrawAll();
+  }
+
+ private:
+  void Draw(Aspect) override {
+    for (int i = 0; i < static_cast<int>(panels_.size()); ++i) {
+      panels_[static_cast<std::size_t>(i)]->setText(Shown(GetModel()->Panel(i + 1)));
+    }
+  }
+
+  std::vector<QLabel*> panels_;
+};
+
+}  // namespace
+
+ViewPointer MakeLabel(VerbsUnderWay& verbs, Label& model, QWidget& parent) {
+  return std::make_unique<LabelView>(verbs, model, parent);
+}
+
+ViewPointer MakeButton(VerbsUnderWay& verbs, Button& model, QWidget& parent) {
+  return std::make_unique<ButtonView>(verbs, model, parent);
+}
+
+ViewPointer MakeCheckBox(VerbsUnderWay& verbs, CheckBox& model, QWidget& parent) {
+  return std::make_unique<CheckBoxView>(verbs, model, parent);
+}
+
+ViewPointer MakeOptionButton(VerbsUnderWay& verbs, OptionButton& model, QWidget& parent) {
+  return std::make_unique<OptionButtonView>(verbs, model, parent);
+}
+
+ViewPointer MakeProgressBar(VerbsUnderWay& verbs, ProgressBar& model, QWidget& parent) {
+  return std::make_unique<ProgressBarView>(verbs, model, parent);
+}
+
+ViewPointer MakeStatusBar(VerbsUnderWay& verbs, StatusBar& model, QWidget& parent) {
+  return std::make_unique<StatusBarView>(verbs, model, parent);
+}
+
+}  // namespace quorvel::qt

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "platform/qt/control_view.h"
+#include "quorvel/widgets/controls.h"
+
+namespace quorvel::qt {
+
+/// A line of editable text.
+class TextBoxView : public ViewOf<TextBox, QLineEdit> {
+ public:
+  TextBoxView(VerbsUnderWay& verbs, TextBox& model, QWidget& parent);
+
+ private:
+  void Draw(Aspect what) override;
+  void FitWidth();
+};
+
+}  // namespace quorvel::qt

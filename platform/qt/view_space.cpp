@@ -1,0 +1,62 @@
+#include "platform/qt/view_space.h"
+
+#include <algorithm>
+
+namespace quorvel::qt {
+
+namespace {
+
+constexpr int kLarge = 4000;
+constexpr int kSmall = 1000;
+
+/// The largest share of the parts. A stretch fills the row or column that it is in, and claims no
+/// space for the whole.
+int MostOf(const Layout& layout, int (*share)(const Layout&)) {
+  int most = 0;
+  for (const Layout& part : layout.parts) {
+    if (part.kind != Layout::Kind::kStretch) most = std::max(most, share(part));
+  }
+  return most;
+}
+
+}  // namespace
+
+int ShareAcross(const Layout& layout) {
+  if (layout.kind == Layout::Kind::kStretch) return kLarge;
+  if (layout.kind != Layout::Kind::kWidget) return MostOf(layout, &ShareAcross);
+  switch (layout.widget->Kind()) {
+    case WidgetKind::kGrid:
+    case WidgetKind::kTabStrip:
+    case WidgetKind::kProgressBar:
+    case WidgetKind::kStatusBar: return kLarge;
+    case WidgetKind::kFrame:
+      return std::max(kSmall, ShareAcross(static_cast<const Frame*>(layout.widget)->Content()));
+    case WidgetKind::kTextBox: return kSmall;
+    default: return 0;
+  }
+}
+
+int ShareDown(const Layout& layout) {
+  if (layout.kind == Layout::Kind::kStretch) return kLarge;
+  if (layout.kind != Layout::Kind::kWidget) return MostOf(layout, &ShareDown);
+  switch (layout.widget->Kind()) {
+    case WidgetKind::kGrid:
+    case WidgetKind::kListBox:
+    case WidgetKind::kTabStrip: return kLarge;
+    case WidgetKind::kFrame: return ShareDown(static_cast<const Frame*>(layout.widget)->Content());
+    default: return 0;
+  }
+}
+
+bool IsOneLine(const Layout& layout) {
+  if (layout.kind != Layout::Kind::kWidget) return layout.kind == Layout::Kind::kStretch;
+  switch (layout.widget->Kind()) {
+    case WidgetKind::kGrid:
+    case WidgetKind::kListBox:
+    case WidgetKind::kTabStrip:
+    case WidgetKind::kFrame: return false;
+    default: return true;
+  }
+}
+
+}  // namespace quorvel::qt

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "quorvel/widgets/layout.h"
+
+namespace quorvel::qt {
+
+/// What part of the space to spare a part of a layout gets: 0 for a part that keeps its own size.
+[[nodiscard]] int ShareAcross(const Layout& layout);
+[[nodiscard]] int ShareDown(const Layout& layout);
+/// Share of the empty space at the end: next to nothing, but all of it when nothing else grows.
+inline constexpr int kEmptySpaceShare = 1;
+
+/// True for a control that is one line high, like a button or a text box.
+[[nodiscard]] bool IsOneLine(const Layout& layout);
+
+}  // namespace quorvel::qt
