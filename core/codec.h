@@ -24,7 +24,10 @@ void DecodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec);
 /// are. Encoding the change-mask blocks 213 and 217 clears their masks in the record.
 void EncodeBlock(int number, BlockImage& image, RecordEnvironment& env, MuxData& rec);
 
-/// Encodes every listed block, in list order. With `pc_time`, block 61 takes the clock from it.
+/// Writes every block that the image holds: for images made from scratch.
+void EncodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec);
+
+/// Encodes every listed block. With `pc_time`, block 61 takes the clock from it.
 void EncodeModifiedBlocks(BlockImage& image, RecordEnvironment& env, MuxData& rec,
                           const TimeOfDay* pc_time = nullptr);
 

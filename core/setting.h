@@ -1,12 +1,16 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cassert>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "core/bit_fields.h"
 #include "core/record_environment.h"
 
 namespace quorvel {
@@ -16,7 +20,7 @@ namespace quorvel {
 /// copies and compares settings only; each record keeps its own surroundings.
 class SettingOwner {
  public:
-  /// Owners without an index of their own (single records) have index -1.
+  /// The record itself has no collection name; single records in it have index -1.
   explicit SettingOwner(RecordEnvironment& env, const char* collection = "", int index = -1)
       : env_(&env), collection_(collection), index_(index) {}
   SettingOwner(const SettingOwner&) = delete;
@@ -27,11 +31,10 @@ class SettingOwner {
   [[nodiscard]] const char* Collection() const { return collection_; }
   [[nodiscard]] int Index() const { return index_; }
   [[nodiscard]] const Identity& identity() const { return env_->identity; }
-  [[nodiscard]] bool Raised(CommitFlag flag) const { return env_->commit.Raised(flag); }
 
   /// Lists `block` if the editor of `flag` is committing; true when it is.
   bool Record(CommitFlag flag, int block) const {
-    if (!Raised(flag)) return false;
+    if (!env_->commit.Raised(flag)) return false;
     env_->blocks.AddBlk(static_cast<Byte>(block));
     return true;
   }
@@ -46,79 +49,119 @@ class SettingOwner {
   int index_;
 };
 
-/// The usual rule of what a changed setting lists: one block under one commit flag.
-struct InBlock {
-  Byte block;
-  CommitFlag flag;
-  void Changed(const SettingOwner& owner, int /*index*/) const { owner.Record(flag, block); }
+/// A setting's name as a template argument, so that it costs a record nothing.
+template <std::size_t N>
+struct SettingName {
+  char text[N];
+  consteval SettingName(const char (&name)[N]) { std::copy_n(name, N, text); }  // NOLINT: converts
 };
 
-/// A setting whose change lists nothing.
+/// What a changed setting lists. The usual rule: one block under one commit flag.
+template <Byte block, CommitFlag flag>
+struct In {
+  static void Changed(SettingOwner& owner, int /*index*/) { owner.Record(flag, block); }
+};
+/// A change lists nothing.
 struct Untracked {
-  void Changed(const SettingOwner& /*owner*/, int /*index*/) const {}
+  static void Changed(SettingOwner& /*owner*/, int /*index*/) {}
+};
+/// The decoder fills the setting and nobody edits it.
+struct ReadOnly {};
+
+/// For a block that tells the device, in a mask of its own, which of several values changed: lists
+/// the block and marks bit `bit` of the mask. The encoder writes the mask and clears it.
+template <class Mask>
+void RecordInMask(SettingOwner& owner, CommitFlag flag, int block, Mask& mask, int bit) {
+  if (!owner.Record(flag, block)) return;
+  Byte bits = mask();
+  SetBit(bits, bit, true);
+  mask.Load(bits);
+}
+
+/// Units in which an installer reads a setting's number.
+struct NoUnit {
+  static constexpr const char* kUnit = "";
+};
+struct Seconds {
+  static constexpr const char* kUnit = " s";
+};
+struct Minutes {
+  static constexpr const char* kUnit = " min";
 };
 
-/// A value that the decoder fills and nobody edits. `Name` is the setting's name in the record.
-template <class T>
-class ReadOnlySetting {
+namespace setting_detail {
+
+/// Finds a setting's owner by its distance, at 2 bytes a setting. A record has some 900 settings,
+/// and a pointer in each would be most of what a fresh record costs.
+class OwnerLink {
+ public:
+  OwnerLink(const void* setting, const SettingOwner& owner)
+      : distance_(static_cast<std::uint16_t>(Address(setting) - Address(&owner))) {
+    assert(Address(setting) - Address(&owner) == distance_);  // a member of its owner
+  }
+  [[nodiscard]] SettingOwner& Of(void* setting) const {
+    return *reinterpret_cast<SettingOwner*>(static_cast<std::byte*>(setting) - distance_);
+  }
+  [[nodiscard]] const SettingOwner& Of(const void* setting) const {
+    return *reinterpret_cast<const SettingOwner*>(static_cast<const std::byte*>(setting) -
+                                                  distance_);
+  }
+
+ private:
+  static std::uintptr_t Address(const void* place) {
+    return reinterpret_cast<std::uintptr_t>(place);
+  }
+  std::uint16_t distance_;
+};
+
+}  // namespace setting_detail
+
+/// One setting: `rec.AlarmMode()` reads, `rec.AlarmMode(2)` sets. A set that changes the value
+/// lists what the rule says (a block, while the commit flag of its editor is raised); then the
+/// value is stored.
+template <SettingName name, class T, class Rule = Untracked, class Unit = NoUnit>
+class Setting {
  public:
   using Value = T;
-  explicit ReadOnlySetting(const char* name) : name_(name) {}
-  ReadOnlySetting(const ReadOnlySetting&) = delete;
-  ReadOnlySetting& operator=(const ReadOnlySetting& other) {
+  using UnitType = Unit;
+
+  explicit Setting(const SettingOwner& owner) : owner_(this, owner) {}
+  Setting(const Setting&) = delete;
+  Setting& operator=(const Setting& other) {
     value_ = other.value_;
     return *this;
   }
-  ~ReadOnlySetting() = default;
-  bool operator==(const ReadOnlySetting& other) const { return value_ == other.value_; }
+  ~Setting() = default;
+  bool operator==(const Setting& other) const { return value_ == other.value_; }
 
   [[nodiscard]] const T& operator()() const { return value_; }
-  [[nodiscard]] const char* Name() const { return name_; }
+  void operator()(T value) requires(!std::same_as<Rule, ReadOnly>) {
+    if (!(value == value_)) Rule::Changed(owner_.Of(this), 0);
+    value_ = std::move(value);
+  }
+
   /// Stores without tracking: for the decoder. A text keeps its storage.
   void Load(T value) { value_ = std::move(value); }
   void Load(std::string_view text) requires std::same_as<T, std::string> { value_.assign(text); }
 
+  [[nodiscard]] static const char* Name() { return name.text; }
+  [[nodiscard]] const SettingOwner& Owner() const { return owner_.Of(this); }
+  static constexpr int kNoEntry = -1;
+  [[nodiscard]] static int EntryIndex() { return kNoEntry; }
+
  private:
-  const char* name_;
   T value_{};
-};
-
-/// One tracked setting: `rec.AlarmMode()` reads, `rec.AlarmMode(2)` sets. A set that changes the
-/// value while the commit flag of its editor is raised lists its block; then the value is stored.
-template <class T, class Rule = InBlock>
-class Setting : public ReadOnlySetting<T> {
- public:
-  Setting(const SettingOwner& owner, const char* name, Rule rule = {})
-      : ReadOnlySetting<T>(name), owner_(&owner), rule_(rule) {}
-  Setting(const Setting&) = delete;
-  Setting& operator=(const Setting& other) {
-    this->Load(other());
-    return *this;
-  }
-  ~Setting() = default;
-  bool operator==(const Setting& other) const { return (*this)() == other(); }
-
-  using ReadOnlySetting<T>::operator();
-  void operator()(T value) {
-    if (!(value == (*this)())) rule_.Changed(*owner_, 0);
-    this->Load(std::move(value));
-  }
-
- private:
-  const SettingOwner* owner_;
-  [[no_unique_address]] Rule rule_;
+  setting_detail::OwnerLink owner_;
 };
 
 /// `N` settings under one name: `rec.TelEnable(3)` reads, `rec.TelEnable(3, 1)` sets. A bad index
 /// reads as zero and is ignored when set.
-template <class T, std::size_t N, class Rule = InBlock>
+template <SettingName name, class T, std::size_t N, class Rule = Untracked>
 class SettingArray {
  public:
-  using Value = T;
   static constexpr int kSize = static_cast<int>(N);
 
-  SettingArray(const SettingOwner& owner, const char* name, Rule rule = {})
-      : owner_(&owner), name_(name), rule_(rule) {}
+  explicit SettingArray(const SettingOwner& owner) : owner_(this, owner) {}
   SettingArray(const SettingArray&) = delete;
   SettingArray& operator=(const SettingArray& other) {
     values_ = other.values_;
@@ -130,34 +173,36 @@ class SettingArray {
   [[nodiscard]] T operator()(int index) const { return InRange(index) ? At(index) : T{}; }
   void operator()(int index, T value) {
     if (!InRange(index)) return;
-    if (!(value == At(index))) rule_.Changed(*owner_, index);
+    if (!(value == At(index))) Rule::Changed(owner_.Of(this), index);
     At(index) = std::move(value);
   }
-  [[nodiscard]] const char* Name() const { return name_; }
-  void Load(int index, T value) {
-    if (InRange(index)) At(index) = std::move(value);
-  }
 
-  /// Entry `index` with the shape of a single setting, for the block layouts.
+  /// One entry with the shape of a single setting, for the block layouts, which know their bounds.
   struct Entry {
     using Value = T;
+    using UnitType = NoUnit;
     SettingArray* array;
     int index;
-    [[nodiscard]] T operator()() const { return (*array)(index); }
-    void Load(T value) const { array->Load(index, std::move(value)); }
-    [[nodiscard]] const char* Name() const { return array->Name(); }
+    [[nodiscard]] const T& operator()() const { return array->At(index); }
+    void Load(T value) const { array->At(index) = std::move(value); }
+    [[nodiscard]] static const char* Name() { return name.text; }
+    [[nodiscard]] const SettingOwner& Owner() const { return array->Owner(); }
+    [[nodiscard]] int EntryIndex() const { return index; }
   };
-  [[nodiscard]] Entry operator[](int index) { return Entry{this, index}; }
+  [[nodiscard]] Entry operator[](int index) {
+    assert(InRange(index));
+    return Entry{this, index};
+  }
+  [[nodiscard]] static const char* Name() { return name.text; }
+  [[nodiscard]] const SettingOwner& Owner() const { return owner_.Of(this); }
 
  private:
   static bool InRange(int index) { return index >= 0 && index < kSize; }
   T& At(int index) { return values_[static_cast<std::size_t>(index)]; }
   const T& At(int index) const { return values_[static_cast<std::size_t>(index)]; }
 
-  const SettingOwner* owner_;
-  const char* name_;
-  [[no_unique_address]] Rule rule_;
   std::array<T, N> values_{};
+  setting_detail::OwnerLink owner_;
 };
 
 }  // namespace quorvel

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "core/byte_order.h"
+#include "core/survey.h"
 #include "host/model_catalogue.h"
 
 namespace quorvel {
@@ -114,6 +115,22 @@ void Component::FillDataBlk(std::span<const Byte> data) {
   } else {
     download_.TakeBlock(data);
   }
+}
+
+std::vector<SettingLine> Component::Settings(std::string_view pattern) {
+  if (!context.ImageIsDecoded()) return {};
+  return ListSettings(context.Record(), context.env.identity, context.BlkImage.BlkCount(), pattern);
+}
+
+std::vector<SettingDifference> Component::DifferencesFrom(std::span<const Byte> image) {
+  BlockImage other({image.begin(), image.end()});
+  RecordEnvironment other_env;
+  MuxData other_record(other_env);
+  DecodeImage(other, other_env, other_record);
+  if (!context.ImageIsDecoded()) return {};
+  return CompareConfigurations(
+      {context.Record(), context.env.identity, context.BlkImage.BlkCount()},
+      {other_record, other_env.identity, other.BlkCount()});
 }
 
 }  // namespace quorvel

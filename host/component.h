@@ -3,6 +3,7 @@
 #include <memory>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "host/activity_grid.h"
 #include "host/download.h"
@@ -10,6 +11,7 @@
 #include "host/upload.h"
 #include "quorvel/control_surface.h"
 #include "quorvel/property_bag.h"
+#include "quorvel/settings.h"
 #include "ui/context.h"
 #include "ui/menu/frm_menu.h"
 #include "ui/widgets/failure.h"
@@ -39,6 +41,8 @@ class Component : public std::enable_shared_from_this<Component> {
   void CustomWithString(std::int16_t command, std::string_view text);
   void FillComboInfo(std::span<const Byte> data);
   void FillDataBlk(std::span<const Byte> data);
+  [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern);
+  [[nodiscard]] std::vector<SettingDifference> DifferencesFrom(std::span<const Byte> image);
   void TriggerUploadTimer() { upload_.TriggerTimer(); }
 
   Context context;

@@ -115,6 +115,19 @@ std::vector<std::uint8_t> MainMenuCtrl::ModifiedBlocks() const {
   return numbers;
 }
 
+std::vector<SettingLine> MainMenuCtrl::Settings(std::string_view pattern) const {
+  std::vector<SettingLine> lines;
+  component_->Call("Settings", [&] { lines = component_->Settings(pattern); });
+  return lines;
+}
+
+std::vector<SettingDifference> MainMenuCtrl::DifferencesFrom(
+    std::span<const std::uint8_t> image) const {
+  std::vector<SettingDifference> differences;
+  component_->Call("DifferencesFrom", [&] { differences = component_->DifferencesFrom(image); });
+  return differences;
+}
+
 std::vector<std::uint8_t> MainMenuCtrl::Image() const {
   const auto bytes = component_->context.BlkImage.Bytes();
   return {bytes.begin(), bytes.end()};

@@ -6,8 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/layout/blocks.h"
-#include "core/layout/writing_pass.h"
+#include "core/codec.h"
 #include "core/record_environment.h"
 #include "resources/factory_settings.h"
 
@@ -64,10 +63,7 @@ BlockImage LoadDefaultImage(int resource) {
   env.identity = ReadIdentity(image);
   const auto rec = std::make_unique<MuxData>(env);
   ApplyFactorySettings(*rec);
-  for (int number = 1; number <= model.blocks; ++number) {
-    layout::WritingPass block(image, number, env.identity.MaxCam);
-    layout::Describe(block, number, *rec, env.identity);
-  }
+  EncodeImage(image, env, *rec);
   PutDeviceBytes(image, model);
   return image;
 }

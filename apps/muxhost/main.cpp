@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "apps/muxhost/script_runner.h"
+#include "core/block_map.h"
 
 #ifdef MUXHOST_WITH_QT
 #include <cstdlib>
@@ -60,9 +61,15 @@ int main(int argc, char** argv) {
           ->type_name("FILE");
   app.add_flag("--echo", echo, "Print each command of the script before it runs")
       ->needs(script_option);
+  bool block_map = false;
+  app.add_flag("--block-map", block_map, "Print which block holds which setting, and exit");
   CLI11_PARSE(app, argc, argv);
 
   try {
+    if (block_map) {
+      std::cout << quorvel::BlockMapMarkdown();
+      return 0;
+    }
     return script_option->count() > 0 ? RunScript(script, echo) : OpenWindow(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "muxhost: " << error.what() << '\n';

@@ -39,6 +39,8 @@ constexpr Command kCommands[] = {
     {"show [WINDOW|WINDOW.CONTROL]", 0, 1, commands::Show},
     {"menu-items", 0, 0, commands::MenuItems},
     {"modified", 0, 0, commands::Modified},
+    {"settings [PATTERN]", 0, 1, commands::Settings},
+    {"diff [FILE]", 0, 1, commands::Diff},
     {"block N", 1, 1, commands::DeviceBlock},
     {"image N", 1, 1, commands::ImageBlock},
     {"events", 0, 0, commands::Events},

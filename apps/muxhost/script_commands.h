@@ -39,6 +39,8 @@ void Wait(Desk& desk, Words words);
 void Show(Desk& desk, Words words);
 void MenuItems(Desk& desk, Words words);
 void Modified(Desk& desk, Words words);
+void Settings(Desk& desk, Words words);
+void Diff(Desk& desk, Words words);
 void DeviceBlock(Desk& desk, Words words);
 void ImageBlock(Desk& desk, Words words);
 void Events(Desk& desk, Words words);

@@ -46,6 +46,27 @@ void Modified(Desk& desk, Words /*words*/) {
   desk.out << (blocks.empty() ? " none\n" : "\n");
 }
 
+void Settings(Desk& desk, Words words) {
+  const auto lines = desk.session.Control().Settings(words.size() > 1 ? words[1] : "");
+  if (lines.empty()) desk.out << "settings: none\n";
+  for (const SettingLine& line : lines) desk.out << line.name << " = " << line.value << '\n';
+}
+
+/// The control's settings against the device's, or against those of an image in a file.
+void Diff(Desk& desk, Words words) {
+  const auto device = desk.session.Device().Bytes();
+  const auto image = words.size() > 1 ? desk.platform.ReadFile(words[1])
+                                      : std::vector<std::uint8_t>(device.begin(), device.end());
+  const auto differences = desk.session.Control().DifferencesFrom(image);
+  if (differences.empty()) desk.out << "diff: none\n";
+  for (const SettingDifference& it : differences) {
+    desk.out << it.name << ": " << (it.value.empty() ? "-" : it.value) << " instead of "
+             << (it.other.empty() ? "-" : it.other) << ", block";
+    for (const int block : it.blocks) desk.out << ' ' << block;
+    desk.out << '\n';
+  }
+}
+
 void DeviceBlock(Desk& desk, Words words) {
   PrintBlock(desk, words, desk.session.Device().Bytes(), "the device");
 }

@@ -7,7 +7,7 @@
 
 namespace quorvel::layout {
 
-/// Block 33: the bit says that the camera is enabled.
+/// Block 33: the last bits say that the camera is enabled.
 template <class Pass>
 void AlarmInputs(Pass& block, MuxData& rec) {
   block.CameraBits(0, Each(rec.AllAlarms(), &Alarms::Enable));
@@ -23,25 +23,8 @@ void MacroLinks(Pass& block, MuxData& rec) {
   block.CameraBytes(links);
   if constexpr (Pass::kReading) {
     for (int k = 0; k < block.Cameras(); ++k) {
-      if (links[k]() > block.Cameras()) links[k].Load(Byte{0});
+      if (links[k]() > block.Cameras()) links[k].Load(0);
     }
-  }
-}
-
-/// Blocks 36 to 42: the cameras that an alarm shows; 186 to 192: the presets that it calls.
-template <class Pass>
-void DisplaysAndPresets(Pass& block, int number, MuxData& rec) {
-  auto& actions = rec.AllActions();
-  switch (number) {
-    case 36: return block.CameraBytes(Each(actions, &AlmAction::Display0));
-    case 38: return block.CameraBytes(Each(actions, &AlmAction::Display1));
-    case 40: return block.CameraBytes(Each(actions, &AlmAction::Display2));
-    case 42: return block.CameraBytes(Each(actions, &AlmAction::Display3));
-    case 186: return block.CameraBytes(Each(actions, &AlmAction::Preset0));
-    case 188: return block.CameraBytes(Each(actions, &AlmAction::Preset1));
-    case 190: return block.CameraBytes(Each(actions, &AlmAction::Preset2));
-    case 192: return block.CameraBytes(Each(actions, &AlmAction::Preset3));
-    default: return;
   }
 }
 
@@ -51,12 +34,10 @@ template <class Pass>
 void RelaysAndQuality(Pass& block, MuxData& rec, const Identity& id) {
   constexpr Byte kBestQuality = 8;
   constexpr int kQualityByte = 8;
-  if constexpr (!Pass::kReading) {
-    for (int at = 0; at < kQualityByte; ++at) block.Put(at, 0);
-  }
+  block.Rebuilt(0, kQualityByte);
   block.CameraPairs(0, Each(rec.AllActions(), &AlmAction::Relay));
   if (id.IsMultiplexer()) return;
-  if constexpr (Pass::kReading) rec.Extra_Quality_Feature.Load(block.RawOf(45, 13));
+  block.Elsewhere(45, 13, rec.Extra_Quality_Feature);
   const auto quality = Each(rec.AllCameras(), &Cameras::Compress);
   if (rec.Extra_Quality_Feature() == 0) {
     block.CameraPairs(kQualityByte, quality);
@@ -88,12 +69,6 @@ void ExternalActionsOrMonitors(Pass& block, MuxData& rec, const Identity& id) {
   block.Byte(10, rec.TDInfo.TimeZoneIdx);
   block.Byte(11, rec.SVHS_MonB);
   block.Bits(12, rec.PubMonitor);
-}
-
-/// Block 46: the group of every camera of a matrix.
-template <class Pass>
-void GroupSetup(Pass& block, MuxData& rec, const Identity& id) {
-  if (id.IsTriplexMatrix()) block.CameraBytes(Each(rec.MatrixInfo.GroupSetup));
 }
 
 /// Block 48: the reaction to video loss.

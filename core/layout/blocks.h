@@ -9,75 +9,90 @@
 
 namespace quorvel::layout {
 
-/// What block `number` holds on the model of `id`: the one place that ties block numbers to the
-/// descriptions beside this file. Blocks that carry no setting of the model are left alone.
-template <class Pass>
-void Describe(Pass& block, int number, MuxData& rec, Identity& id) {
-  if (number <= id.MaxCam) {
-    return Title(block, rec.AllCameras().at(static_cast<std::size_t>(number - 1)));
+/// Which block holds what: the one place that ties block numbers to settings, in rising order. A
+/// walk visits the blocks that it wants with a pass of its own:
+///
+///     walk.Block(n, visit)               visit(pass) for block n
+///     walk.Blocks(first, count, visit)   visit(pass, i) for block first + i
+///
+/// Blocks that carry no setting of the model are not mentioned for it.
+template <class Walk>
+void DescribeBlocks(Walk& walk, MuxData& rec, Identity& id) {
+  auto& cameras = rec.AllCameras();
+  auto& actions = rec.AllActions();
+  auto& events = rec.AllEvents();
+  const auto at = [](auto& elements, int i) -> auto& {
+    return elements[static_cast<std::size_t>(i)];
+  };
+
+  walk.Blocks(1, id.MaxCam,
+              [&](auto& block, int c) { block.PaddedText(0, kTitleLength, at(cameras, c).title); });
+  walk.Block(33, [&](auto& block) { AlarmInputs(block, rec); });
+  walk.Block(34, [&](auto& block) { MacroLinks(block, rec); });
+  walk.Block(36, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Display0)); });
+  walk.Block(38, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Display1)); });
+  walk.Block(40, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Display2)); });
+  walk.Block(42, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Display3)); });
+  walk.Block(44, [&](auto& block) { RelaysAndQuality(block, rec, id); });
+  walk.Block(45, [&](auto& block) { ExternalActionsOrMonitors(block, rec, id); });
+  if (id.IsTriplexMatrix()) {
+    walk.Block(46, [&](auto& block) { block.CameraBytes(Each(rec.MatrixInfo.GroupSetup)); });
   }
-  if (number >= 69 && number < 69 + id.MaxCam) return SubMacro(block, number, rec, id);
-  if (number >= 85 && number < 85 + 2 * id.MaxCam) return ActivityGrid(block, number, rec);
-  if (clsEmailNotify::TextIndex(number)) return EmailText(block, number, rec);
-  switch (number) {
-    case 33: return AlarmInputs(block, rec);
-    case 34: return MacroLinks(block, rec);
-    case 36:
-    case 38:
-    case 40:
-    case 42:
-    case 186:
-    case 188:
-    case 190:
-    case 192: return DisplaysAndPresets(block, number, rec);
-    case 44: return RelaysAndQuality(block, rec, id);
-    case 45: return ExternalActionsOrMonitors(block, rec, id);
-    case 46: return GroupSetup(block, rec, id);
-    case 47: return SignalGain(block, rec, id);
-    case 48: return VideoLossActions(block, rec);
-    case 49: return ActivityAndCovert(block, rec, id);
-    case 50:
-    case 51:
-    case 52:
-    case 54: return MotionDetection(block, number, rec);
-    case 56:
-    case 57:
-    case 58:
-      return id.HasEventRecording() ? EventRecording(block, number, rec)
-                                    : RecordList(block, number, rec);
-    case 59: return DisplaysAndAlarmMode(block, rec, id);
-    case 60: return VcrOrRecorder(block, rec, id);
-    case 61: return Clock(block, rec, id);
-    case 62:
-    case 63:
-      if (id.HasEventRecording()) EventRecording(block, number, rec);
-      return;
-    case 64:
-    case 65:
-    case 66:
-    case 67:
-    case 68: return TimedMacros(block, number, rec);
-    case 149: return RelayAndTextPosition(block, rec);
-    case 182: return VideoLoss(block, rec, id);
-    case 183: return VariantAndPlayback(block, rec, id);
-    case 184: return ColorAndTelemetry(block, rec, id);
-    case kIdentityBlock: return ModelName(block, rec);
-    case 195:
-    case 196:
-    case 197:
-    case 198:
-    case 199:
-      if (id.IsTriplex()) RecTimers(block, number, rec);
-      return;
-    case 200: return NotificationPorts(block, rec, id);
-    case 213: return NotificationHosts(block, rec, id);
-    case 214:
-    case 215:
-    case 216: return EventAssociations(block, number, rec);
-    case 217: return TimeServers(block, rec);
-    case 219: return Turbo(block, rec, id);
-    default: return;
+  walk.Block(47, [&](auto& block) { SignalGain(block, rec, id); });
+  walk.Block(48, [&](auto& block) { VideoLossActions(block, rec); });
+  walk.Block(49, [&](auto& block) { ActivityAndCovert(block, rec, id); });
+  walk.Block(50,
+             [&](auto& block) { block.CameraNibbles(0, Each(cameras, &Cameras::Sensitivity)); });
+  walk.Block(51, [&](auto& block) { RateAndRejection(block, rec); });
+  walk.Block(52, [&](auto& block) { block.Bytes(0, kMostCameras, Each(cameras, &Cameras::size)); });
+  walk.Block(54,
+             [&](auto& block) { block.Bytes(0, kMostCameras, Each(cameras, &Cameras::LnkALM)); });
+  const auto for_events = [&](auto& block, auto setting) {
+    block.Bytes(0, kMostCameras, Each(events, setting));
+  };
+  if (id.HasEventRecording()) {
+    walk.Block(56, [&](auto& block) { EventSettings(block, rec); });
+    walk.Block(57, [&](auto& block) { for_events(block, &clsEvents::PostEvDuration); });
+    walk.Block(58, [&](auto& block) { for_events(block, &clsEvents::Event_RRIndex); });
+  } else {
+    walk.Block(56, [&](auto& block) { block.Bytes(0, kBlockSize, Each(rec.RecSeqLst, 0)); });
+    walk.Block(57, [&](auto& block) { block.Bytes(0, kBlockSize, Each(rec.RecSeqLst, 16)); });
+    walk.Block(58, [&](auto& block) { block.Bytes(0, 8, Each(rec.RecSeqLst, 32)); });
   }
+  walk.Block(59, [&](auto& block) { DisplaysAndAlarmMode(block, rec, id); });
+  walk.Block(60, [&](auto& block) { VcrOrRecorder(block, rec, id); });
+  walk.Block(61, [&](auto& block) { Clock(block, rec, id); });
+  if (id.HasEventRecording()) {
+    walk.Block(62, [&](auto& block) { for_events(block, &clsEvents::TL_RRIndex); });
+    walk.Block(63, [&](auto& block) { for_events(block, &clsEvents::Act_RRIndex); });
+  }
+  walk.Blocks(64, 5, [&](auto& block, int i) { TimedMacros(block, 4 * i, rec); });
+  walk.Blocks(69, id.MaxCam, [&](auto& block, int c) { SubMacro(block, c, rec, id); });
+  walk.Blocks(85, 2 * id.MaxCam, [&](auto& block, int i) {
+    block.Bytes(0, kBlockSize, Each(at(cameras, i / 2).ActGrid, i % 2 * kBlockSize));
+  });
+  walk.Block(149, [&](auto& block) { RelayAndTextPosition(block, rec); });
+  walk.Block(182, [&](auto& block) { VideoLoss(block, rec, id); });
+  walk.Block(183, [&](auto& block) { VariantAndPlayback(block, rec, id); });
+  walk.Block(184, [&](auto& block) { ColorAndTelemetry(block, rec, id); });
+  walk.Block(kIdentityBlock, [&](auto& block) { DeviceIdentity(block, rec, id); });
+  walk.Block(186, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Preset0)); });
+  walk.Block(188, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Preset1)); });
+  walk.Block(190, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Preset2)); });
+  walk.Block(192, [&](auto& block) { block.CameraBytes(Each(actions, &AlmAction::Preset3)); });
+  if (id.IsTriplex()) {
+    walk.Blocks(195, 5, [&](auto& block, int i) { RecTimers(block, 2 * i, rec); });
+  }
+  const auto text = [&](auto& block, int i) {
+    block.ZeroEndedText(0, kBlockSize, rec.AlmEmailNotify.texts[i]);
+  };
+  walk.Block(200, [&](auto& block) { NotificationPorts(block, rec, id); });
+  walk.Blocks(201, 12, text);
+  walk.Block(213, [&](auto& block) { NotificationHosts(block, rec, id); });
+  walk.Blocks(214, 3, [&](auto& block, int i) { EventAssociations(block, i, rec); });
+  walk.Block(217, [&](auto& block) { TimeServers(block, rec); });
+  walk.Block(219, [&](auto& block) { Turbo(block, rec, id); });
+  walk.Blocks(220, 6, [&](auto& block, int i) { text(block, 12 + i); });
 }
 
 }  // namespace quorvel::layout

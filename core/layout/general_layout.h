@@ -27,7 +27,7 @@ void DisplaysAndAlarmMode(Pass& block, MuxData& rec, const Identity& id) {
   } else {
     block.Byte(13, rec.PreAlDuration);
     if constexpr (Pass::kReading) {
-      if (rec.PreAlDuration() < 1 || rec.PreAlDuration() > 5) rec.PreAlDuration.Load(Byte{1});
+      if (rec.PreAlDuration() < 1 || rec.PreAlDuration() > 5) rec.PreAlDuration.Load(1);
     }
   }
   block.Byte(14, rec.Tel_options);
@@ -72,18 +72,15 @@ void Clock(Pass& block, MuxData& rec, const Identity& id) {
   block.Byte(2, clock.CurrentSec);
   block.Byte(3, clock.CurrentMonth);
   block.Byte(4, clock.CurrentDay);
-  if constexpr (Pass::kReading) {
-    const int year = block.Raw(5);
-    clock.CurrentYear.Load(
-        static_cast<std::int16_t>(year + (year < kFirstYearOf1900s ? 2000 : 1900)));
-  } else {
-    block.Put(5, clock.CurrentYear() - (clock.CurrentYear() < 2000 ? 1900 : 2000));
-  }
+  block.Coded(
+      5, 0xFF, clock.CurrentYear,
+      [](int year) { return year + (year < kFirstYearOf1900s ? 2000 : 1900); },
+      [](int year) { return year - (year < 2000 ? 1900 : 2000); });
   block.CameraBits(6, Each(rec.TelEnable));
   block.Bytes(10, 4, Each(rec.Buzzer));
   if (id.IsTriplex()) {
     block.Byte(14, rec.LumacastCDW);
-    if constexpr (Pass::kReading) rec.PlayDwell.Load(Byte{1});
+    if constexpr (Pass::kReading) rec.PlayDwell.Load(1);
   } else {
     block.Byte(15, rec.PlayDwell);
   }
@@ -94,16 +91,16 @@ template <class Pass>
 void VariantAndPlayback(Pass& block, MuxData& rec, Identity& id) {
   if (id.IsMultiplexer()) block.Byte(5, rec.PlaybackOld);
   if (id.IsTriplex()) block.Byte(8, rec.PlaybackOld);
-  block.Device(7, id.VariantChar);
+  block.Device(7, id.VariantChar, "VariantChar");
 }
 
-/// Block 185. Never encoded.
+/// Block 185: who the device is. Never encoded.
 template <class Pass>
-void ModelName(Pass& block, MuxData& rec) {
-  if constexpr (Pass::kReading) {
-    const auto name = block.Characters(2, 14);
-    rec.MuxModelName.Load(name.substr(0, name.find('\0')));
-  }
+void DeviceIdentity(Pass& block, MuxData& rec, Identity& id) {
+  block.Device(0, id.MaxCam, "MaxCam");
+  // The model code is kept without its top bit, which ReadIdentity has cleared.
+  if constexpr (!Pass::kReading) block.Device(1, id.ModelCode, "ModelCode");
+  block.ZeroEndedText(2, 14, rec.MuxModelName);
 }
 
 }  // namespace quorvel::layout

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
+#include <type_traits>
 
+#include "core/block_image.h"
 #include "core/setting.h"
 
 namespace quorvel::layout {
@@ -13,7 +16,10 @@ struct EachElement {
   static constexpr int kSize = static_cast<int>(N);
   std::array<Element, N>& elements;
   SettingType Element::*setting;
-  SettingType& operator[](int k) const { return elements.at(static_cast<std::size_t>(k)).*setting; }
+  SettingType& operator[](int k) const {
+    assert(k >= 0 && k < kSize);
+    return elements[static_cast<std::size_t>(k)].*setting;
+  }
 };
 
 template <class Element, std::size_t N, class SettingType>
@@ -35,8 +41,18 @@ EachEntry<Array> Each(Array& array, int first = 0) {
   return {array, first};
 }
 
+/// Type of the value that an item holds.
+template <class Item>
+using ValueOf = typename std::remove_cvref_t<Item>::Value;
+
 /// Which state of a bit means "set": some device bits say "enabled" where the setting says
 /// "disable".
 enum class Sense : bool { kDirect, kInverted };
+
+/// Throws unless bytes `at` to `at` + `length` - 1 lie in a block.
+constexpr void CheckInBlock(int at, int length) {
+  if (at < 0 || length < 0 || at + length > kBlockSize)
+    throw ImageError("a byte outside its block");
+}
 
 }  // namespace quorvel::layout

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <algorithm>
 #include <span>
 #include <string_view>
-#include <type_traits>
 
 #include "core/bit_fields.h"
 #include "core/block_image.h"
@@ -11,12 +9,13 @@
 
 namespace quorvel::layout {
 
-/// Takes the settings of one block out of its 16 bytes. WritingPass is its mirror image.
-/// Byte numbers count within the block; camera loops run over the cameras of the model unless a
-/// call says how many entries there are.
+/// Takes the settings of one block out of its 16 bytes; WritingPass is its mirror image, SurveyPass
+/// tells where they are. Byte numbers count within the block. Camera words cover the cameras of the
+/// model; other loops say how many entries there are.
 class ReadingPass {
  public:
   static constexpr bool kReading = true;
+  static constexpr bool kWriting = false;
 
   ReadingPass(BlockImage& image, int block, int cameras)
       : image_(image), bytes_(image.Block(block)), cameras_(cameras) {}
@@ -24,11 +23,45 @@ class ReadingPass {
   /// One whole byte.
   template <class Item>
   void Byte(int at, Item&& item) {
-    item.Load(As<Item>(Raw(at)));
+    item.Load(static_cast<ValueOf<Item>>(Raw(at)));
+  }
+
+  /// One whole byte; a value of `limit` or more is none that the device can mean and is passed
+  /// over.
+  template <class Item>
+  void ByteBelow(int limit, int at, Item&& item) {
+    if (Raw(at) < limit) Byte(at, item);
+  }
+
+  /// The bits of `mask` in a byte, in a coding of their own: `decode` makes the value of the byte,
+  /// `encode` the bits of the value.
+  template <class Item, class Decode, class Encode>
+  void Coded(int at, std::uint8_t mask, Item& item, Decode decode, Encode /*encode*/) {
+    item.Load(static_cast<ValueOf<Item>>(decode(Raw(at) & mask)));
+  }
+
+  /// The same bits of `count` bytes from byte `at`.
+  template <class Items, class Decode, class Encode>
+  void CodedBytes(int at, int count, std::uint8_t mask, Items items, Decode decode, Encode encode) {
+    for (int k = 0; k < count; ++k) Coded(at + k, mask, items[k], decode, encode);
+  }
+
+  /// A byte of another block that says how this one is to be read: never written.
+  template <class Item>
+  void Elsewhere(int block, int at, Item& item) {
+    CheckInBlock(at, 1);
+    item.Load(image_.Block(block)[static_cast<std::size_t>(at)]);
   }
 
   /// A byte that tells about the device itself: read, never written.
-  void Device(int at, std::uint8_t& value) { value = Raw(at); }
+  void Device(int at, std::uint8_t& value, const char* /*name*/) { value = Raw(at); }
+
+  /// A byte that tells the device what changed: written, never read, and cleared once written.
+  template <class Item>
+  void ChangeMask(int /*at*/, Item& /*item*/) {}
+
+  /// Bytes that the encoder clears before it packs settings into them.
+  void Rebuilt(int /*at*/, int /*length*/) {}
 
   /// A byte that is true when it holds 1.
   template <class Item>
@@ -47,28 +80,29 @@ class ReadingPass {
   /// array's entries, as some models ignore the rest without clearing it.
   template <class Array>
   void Bits(int at, Array& array, int /*written*/ = Array::kSize) {
-    for (int i = 0; i < Array::kSize; ++i) array.Load(i, GetBit(Raw(at), i));
+    for (int i = 0; i < Array::kSize; ++i) array[i].Load(GetBit(Raw(at), i));
   }
 
   /// One bit a camera: cameras 0 to 7 in byte `at`, 8 to 15 in the next byte.
   template <class Items>
   void CameraBits(int at, Items items, Sense sense = Sense::kDirect) {
-    for (int k = 0; k < cameras_; ++k) {
-      const bool bit = GetBit(Raw(at + k / 8), k % 8) == 1;
-      Store(items[k], bit != (sense == Sense::kInverted));
-    }
+    const unsigned inverted = sense == Sense::kInverted ? 0xFFFF : 0;
+    unsigned bits = (Raw(at) | static_cast<unsigned>(Raw(at + 1)) << 8) ^ inverted;
+    for (int k = 0; k < cameras_; ++k, bits >>= 1) Store(items[k], bits & 1U);
   }
 
   /// One 2-bit field a camera, four cameras a byte from byte `at`.
   template <class Items>
   void CameraPairs(int at, Items items) {
-    for (int k = 0; k < cameras_; ++k) Store(items[k], Get2Bits(Raw(at + k / 4), k % 4));
+    const std::uint8_t* const run = Run(at, (cameras_ + 3) / 4);
+    for (int k = 0; k < cameras_; ++k) Store(items[k], Get2Bits(run[k / 4], k % 4));
   }
 
   /// One nibble a camera, two cameras a byte from byte `at`.
   template <class Items>
   void CameraNibbles(int at, Items items) {
-    for (int k = 0; k < cameras_; ++k) Store(items[k], GetNibble(Raw(at + k / 2), k % 2));
+    const std::uint8_t* const run = Run(at, (cameras_ + 1) / 2);
+    for (int k = 0; k < cameras_; ++k) Store(items[k], GetNibble(run[k / 2], k % 2));
   }
 
   /// One byte a camera from byte 0.
@@ -80,44 +114,68 @@ class ReadingPass {
   /// `count` whole bytes from byte `at`.
   template <class Items>
   void Bytes(int at, int count, Items items) {
-    for (int k = 0; k < count; ++k) Store(items[k], Raw(at + k));
+    const std::uint8_t* const run = Run(at, count);
+    for (int k = 0; k < count; ++k) Store(items[k], run[k]);
   }
 
   /// Two bytes, most significant first.
   template <class Item>
   void Word(int at, Item& item) {
-    item.Load(As<Item>(Raw(at) * 256 + Raw(at + 1)));
+    item.Load(Raw(at) * 256 + Raw(at + 1));
   }
 
-  /// The characters of bytes `at` to `at` + `length` - 1.
-  [[nodiscard]] std::string_view Characters(int at, int length) const {
-    return std::string_view(reinterpret_cast<const char*>(&bytes_[Checked(at)]),
-                            static_cast<std::size_t>(length));
+  /// `length` characters, padded with blanks; the blanks at both ends are not part of the text.
+  template <class Item>
+  void PaddedText(int at, int length, Item& item) {
+    std::string_view text = Characters(at, length);
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    item.Load(text);
   }
 
-  /// The byte itself, and the same in another block; 0 where the image holds no such block.
-  [[nodiscard]] std::uint8_t Raw(int at) const { return bytes_[Checked(at)]; }
-  [[nodiscard]] std::uint8_t RawOf(int block, int at) const {
-    return image_.Holds(block) ? image_.Block(block)[Checked(at)] : std::uint8_t{0};
+  /// Up to `length` characters, ended by a zero byte when there are fewer.
+  template <class Item>
+  void ZeroEndedText(int at, int length, Item&& item) {
+    const std::string_view text = Characters(at, length);
+    item.Load(text.substr(0, text.find('\0')));
   }
+
+  /// One bit a camera by which the device says that an item that reads 0 means `marked`; the bits
+  /// are the device's own and never written.
+  template <class Items>
+  void CameraMarks(int at, Items items, std::uint8_t marked) {
+    const unsigned bits = Raw(at) | static_cast<unsigned>(Raw(at + 1)) << 8;
+    for (int k = 0; k < cameras_; ++k) {
+      if ((bits >> k & 1U) != 0 && items[k]() == 0) Store(items[k], marked);
+    }
+  }
+  /// The same for a single item, in a byte.
+  template <class Item>
+  void Mark(int at, Item& item, std::uint8_t marked) {
+    if (Raw(at) == 1 && item() == 0) item.Load(marked);
+  }
+
+  // For what only reading does.
+
+  [[nodiscard]] std::uint8_t Raw(int at) const { return *Run(at, 1); }
   /// Rewrites a byte of the image whose content is repaired on the way in.
-  void Repair(int at, std::uint8_t value) { bytes_[Checked(at)] = value; }
-
-  /// Cameras of the model.
+  void Repair(int at, std::uint8_t value) {
+    CheckInBlock(at, 1);
+    bytes_[static_cast<std::size_t>(at)] = value;
+  }
   [[nodiscard]] int Cameras() const { return cameras_; }
 
  private:
-  template <class Item, class Raw>
-  static auto As(Raw raw) {
-    return static_cast<typename std::remove_cvref_t<Item>::Value>(raw);
+  template <class Item, class Number>
+  static void Store(Item&& item, Number number) {
+    item.Load(static_cast<ValueOf<Item>>(number));
   }
-  template <class Item, class Raw>
-  static void Store(Item&& item, Raw raw) {
-    item.Load(As<Item>(raw));
+  [[nodiscard]] const std::uint8_t* Run(int at, int length) const {
+    CheckInBlock(at, length);
+    return bytes_.data() + at;
   }
-  static std::size_t Checked(int at) {
-    if (at < 0 || at >= kBlockSize) throw ImageError("a byte outside its block");
-    return static_cast<std::size_t>(at);
+  [[nodiscard]] std::string_view Characters(int at, int length) const {
+    return {reinterpret_cast<const char*>(Run(at, length)), static_cast<std::size_t>(length)};
   }
 
   BlockImage& image_;

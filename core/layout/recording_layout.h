@@ -5,65 +5,44 @@
 
 namespace quorvel::layout {
 
-/// Blocks 56 to 58, 62 and 63 of recorders: event recording, always for all 16 cameras.
+/// Block 56 of models with event recording: a byte a camera that packs three settings.
 template <class Pass>
-void EventRecording(Pass& block, int number, MuxData& rec) {
+void EventSettings(Pass& block, MuxData& rec) {
   auto& events = rec.AllEvents();
-  switch (number) {
-    case 56:
-      for (int k = 0; k < kMostCameras; ++k) {
-        clsEvents& camera = events[static_cast<std::size_t>(k)];
-        if constexpr (Pass::kReading) {
-          camera.EventSettings(block.Raw(k));
-        } else {
-          block.Put(k, camera.PackedEventSettings());
-        }
-      }
-      return;
-    case 57: return block.Bytes(0, kMostCameras, Each(events, &clsEvents::PostEvDuration));
-    case 58: return block.Bytes(0, kMostCameras, Each(events, &clsEvents::Event_RRIndex));
-    case 62: return block.Bytes(0, kMostCameras, Each(events, &clsEvents::TL_RRIndex));
-    case 63: return block.Bytes(0, kMostCameras, Each(events, &clsEvents::Act_RRIndex));
-    default: return;
-  }
+  block.Rebuilt(0, kMostCameras);
+  block.CodedBytes(
+      0, kMostCameras, 0x07, Each(events, &clsEvents::PreEvDuration), [](int bits) { return bits; },
+      [](int value) { return value; });
+  block.CodedBytes(
+      0, kMostCameras, 0x10, Each(events, &clsEvents::LnkToEvent),
+      [](int bits) { return bits >> 4; }, [](int value) { return value != 0 ? 0x10 : 0; });
+  block.CodedBytes(0, kMostCameras, 0xC0, Each(events, &clsEvents::EType), clsEvents::TypeOfBits,
+                   clsEvents::BitsOfType);
 }
 
-/// Blocks 56 to 58 of the models without event recording: the record list, 40 places.
+/// Associated camera `place` of every camera.
+struct EachAssociation {
+  std::array<clsEvents, kMostCameras>& events;
+  int place;
+  auto operator[](int k) const { return events[static_cast<std::size_t>(k)].EvAssociated[place]; }
+};
+
+/// Blocks 214 to 216.
 template <class Pass>
-void RecordList(Pass& block, int number, MuxData& rec) {
-  const int first = (number - 56) * kBlockSize;
-  const int places = number == 58 ? 8 : kBlockSize;
-  block.Bytes(0, places, Each(rec.RecSeqLst, first));
+void EventAssociations(Pass& block, int place, MuxData& rec) {
+  block.Bytes(0, kMostCameras, EachAssociation{rec.AllEvents(), place});
 }
 
-/// Blocks 214 to 216: associated cameras.
-template <class Pass>
-void EventAssociations(Pass& block, int number, MuxData& rec) {
-  for (int k = 0; k < kMostCameras; ++k) {
-    block.Byte(k, rec.AllEvents()[static_cast<std::size_t>(k)].EvAssociated[number - 214]);
-  }
-}
-
-/// Block 219. A device with turbo recording keeps rate 99 of the older blocks as 0 and says here
-/// which zeros mean 99; those bits are the device's own and are never written.
+/// Block 219. For rates that read 0 in blocks 62, 58, 63 and 59, a device with turbo recording says
+/// here which of them mean 99. Only the turbo setting itself is ever written.
 template <class Pass>
 void Turbo(Pass& block, MuxData& rec, const Identity& id) {
-  if constexpr (Pass::kReading) {
-    constexpr Byte kTurboRate = 99;
-    block.Byte(0, rec.Rec120sp);
-    const auto restore = [&](int at, auto rates) {
-      for (int k = 0; k < block.Cameras(); ++k) {
-        const bool turbo = GetBit(block.Raw(at + k / 8), k % 8) == 1;
-        if (turbo && rates[k]() == 0) rates[k].Load(kTurboRate);
-      }
-    };
-    restore(1, Each(rec.AllEvents(), &clsEvents::TL_RRIndex));
-    restore(3, Each(rec.AllEvents(), &clsEvents::Event_RRIndex));
-    restore(5, Each(rec.AllEvents(), &clsEvents::Act_RRIndex));
-    if (block.Raw(7) == 1 && rec.Alarm_Rec_Index() == 0) rec.Alarm_Rec_Index.Load(kTurboRate);
-  } else if (id.PlexarProModel) {
-    block.Byte(0, rec.Rec120sp);
-  }
+  constexpr Byte kTurboRate = 99;
+  if (!Pass::kWriting || id.PlexarProModel) block.Byte(0, rec.Rec120sp);
+  block.CameraMarks(1, Each(rec.AllEvents(), &clsEvents::TL_RRIndex), kTurboRate);
+  block.CameraMarks(3, Each(rec.AllEvents(), &clsEvents::Event_RRIndex), kTurboRate);
+  block.CameraMarks(5, Each(rec.AllEvents(), &clsEvents::Act_RRIndex), kTurboRate);
+  block.Mark(7, rec.Alarm_Rec_Index, kTurboRate);
 }
 
 }  // namespace quorvel::layout

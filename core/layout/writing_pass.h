@@ -11,26 +11,46 @@
 namespace quorvel::layout {
 
 /// Puts the settings of one block into its 16 bytes. Bytes that carry no setting stay; a byte that
-/// packs several settings is rebuilt from 0. ReadingPass is its mirror image.
+/// packs several settings is rebuilt from 0. The words are those of ReadingPass.
 class WritingPass {
  public:
   static constexpr bool kReading = false;
+  static constexpr bool kWriting = true;
 
   WritingPass(BlockImage& image, int block, int cameras)
-      : image_(image), bytes_(image.Block(block)), cameras_(cameras) {}
+      : bytes_(image.Block(block)), cameras_(cameras) {}
 
   template <class Item>
   void Byte(int at, Item&& item) {
     Put(at, item());
   }
-
-  void Device(int /*at*/, std::uint8_t& /*value*/) {}
-
+  template <class Item>
+  void ByteBelow(int /*limit*/, int at, Item&& item) {
+    Put(at, item());
+  }
+  template <class Item, class Decode, class Encode>
+  void Coded(int at, std::uint8_t mask, Item& item, Decode /*decode*/, Encode encode) {
+    std::uint8_t& byte = *Run(at, 1);
+    const unsigned bits = static_cast<unsigned>(encode(item())) & mask;
+    byte = static_cast<std::uint8_t>((byte & ~mask) | bits);
+  }
+  template <class Items, class Decode, class Encode>
+  void CodedBytes(int at, int count, std::uint8_t mask, Items items, Decode decode, Encode encode) {
+    for (int k = 0; k < count; ++k) Coded(at + k, mask, items[k], decode, encode);
+  }
+  template <class Item>
+  void Elsewhere(int /*block*/, int /*at*/, Item& /*item*/) {}
+  void Device(int /*at*/, std::uint8_t& /*value*/, const char* /*name*/) {}
+  template <class Item>
+  void ChangeMask(int at, Item& item) {
+    Put(at, item());
+    item.Load(0);
+  }
+  void Rebuilt(int at, int length) { std::fill_n(Run(at, length), length, std::uint8_t{0}); }
   template <class Item>
   void Flag(int at, Item& item) {
     Put(at, item() ? 1 : 0);
   }
-
   template <class... Items>
   void BitFlags(int at, Items&... items) {
     std::uint8_t packed = 0;
@@ -38,83 +58,80 @@ class WritingPass {
     (SetBit(packed, bit++, items()), ...);
     Put(at, packed);
   }
-
   template <class Array>
   void Bits(int at, Array& array, int written = Array::kSize) {
     std::uint8_t packed = 0;
     for (int i = 0; i < written; ++i) SetBit(packed, i, array(i) != 0);
     Put(at, packed);
   }
-
   template <class Items>
   void CameraBits(int at, Items items, Sense sense = Sense::kDirect) {
-    std::uint8_t packed[2] = {0, 0};
+    unsigned bits = 0;
     for (int k = 0; k < cameras_; ++k) {
       const bool value = items[k]() != 0;
-      SetBit(packed[k / 8], k % 8, value != (sense == Sense::kInverted));
+      bits |= static_cast<unsigned>(value != (sense == Sense::kInverted)) << k;
     }
-    Put(at, packed[0]);
-    Put(at + 1, packed[1]);
+    Put(at, bits);
+    Put(at + 1, bits >> 8);
   }
-
   template <class Items>
   void CameraPairs(int at, Items items) {
-    for (int k = 0; k < cameras_; ++k) {
-      std::uint8_t& byte = bytes_[Checked(at + k / 4)];
-      if (k % 4 == 0) byte = 0;
-      Set2Bits(byte, k % 4, items[k]());
-    }
+    const int bytes = (cameras_ + 3) / 4;
+    std::uint8_t* const run = Run(at, bytes);
+    std::fill_n(run, bytes, std::uint8_t{0});
+    for (int k = 0; k < cameras_; ++k) Set2Bits(run[k / 4], k % 4, items[k]());
   }
-
   template <class Items>
   void CameraNibbles(int at, Items items) {
-    for (int k = 0; k < cameras_; ++k) {
-      std::uint8_t& byte = bytes_[Checked(at + k / 2)];
-      if (k % 2 == 0) byte = 0;
-      SetNibble(byte, k % 2, items[k]());
-    }
+    const int bytes = (cameras_ + 1) / 2;
+    std::uint8_t* const run = Run(at, bytes);
+    std::fill_n(run, bytes, std::uint8_t{0});
+    for (int k = 0; k < cameras_; ++k) SetNibble(run[k / 2], k % 2, items[k]());
   }
-
   template <class Items>
   void CameraBytes(Items items) {
     Bytes(0, cameras_, items);
   }
-
   template <class Items>
   void Bytes(int at, int count, Items items) {
-    for (int k = 0; k < count; ++k) Put(at + k, items[k]());
+    std::uint8_t* const run = Run(at, count);
+    for (int k = 0; k < count; ++k) run[k] = static_cast<std::uint8_t>(items[k]());
   }
-
   template <class Item>
   void Word(int at, Item& item) {
-    Put(at, item() / 256);
-    Put(at + 1, item() % 256);
+    const auto number = static_cast<unsigned>(item());
+    Put(at, number >> 8);
+    Put(at + 1, number);
   }
-
-  /// Writes `text`, cut to `length` characters, padded with `pad`.
-  void PutCharacters(int at, int length, std::string_view text, char pad) {
-    for (int i = 0; i < length; ++i) {
-      const auto place = static_cast<std::size_t>(i);
-      Put(at + i, static_cast<unsigned char>(place < text.size() ? text[place] : pad));
-    }
+  template <class Item>
+  void PaddedText(int at, int length, Item& item) {
+    PutCharacters(at, length, item(), ' ');
   }
-
-  /// Stores the low 8 bits of `value`.
-  void Put(int at, int value) {
-    bytes_[Checked(at)] = static_cast<std::uint8_t>(static_cast<unsigned>(value) & 0xFFU);
+  template <class Item>
+  void ZeroEndedText(int at, int length, Item&& item) {
+    PutCharacters(at, length, item(), '\0');
   }
-  [[nodiscard]] std::uint8_t RawOf(int block, int at) const {
-    return image_.Holds(block) ? image_.Block(block)[Checked(at)] : std::uint8_t{0};
-  }
-  [[nodiscard]] int Cameras() const { return cameras_; }
+  template <class Items>
+  void CameraMarks(int /*at*/, Items /*items*/, std::uint8_t /*marked*/) {}
+  template <class Item>
+  void Mark(int /*at*/, Item& /*item*/, std::uint8_t /*marked*/) {}
 
  private:
-  static std::size_t Checked(int at) {
-    if (at < 0 || at >= kBlockSize) throw ImageError("a byte outside its block");
-    return static_cast<std::size_t>(at);
+  /// Stores the low 8 bits of a number.
+  template <class Number>
+  void Put(int at, Number number) {
+    *Run(at, 1) = static_cast<std::uint8_t>(static_cast<unsigned>(number) & 0xFFU);
+  }
+  void PutCharacters(int at, int length, std::string_view text, char pad) {
+    const auto used = text.substr(0, static_cast<std::size_t>(length));
+    std::uint8_t* const end = std::copy(used.begin(), used.end(), Run(at, length));
+    std::fill(end, Run(at, length) + length, static_cast<std::uint8_t>(pad));
+  }
+  [[nodiscard]] std::uint8_t* Run(int at, int length) {
+    CheckInBlock(at, length);
+    return bytes_.data() + at;
   }
 
-  BlockImage& image_;
   std::span<std::uint8_t, kBlockSize> bytes_;
   int cameras_;
 };

@@ -12,13 +12,13 @@ class Alarms : public SettingOwner {
   Alarms& operator=(const Alarms&) = default;
   bool operator==(const Alarms&) const = default;
 
-  Setting<Byte> MacroLnk{*this, "MacroLnk", {34, CommitAlarm}};
-  Setting<bool> VlBuzzer{*this, "VlBuzzer", {48, CommitAlarm}};
-  Setting<bool> VlRelay2{*this, "VlRelay2", {48, CommitAlarm}};
-  Setting<bool> VlRelay1{*this, "VlRelay1", {48, CommitAlarm}};
-  Setting<Byte> ExtAlmAction{*this, "ExtAlmAction", {45, CommitAlarm}};
-  Setting<Byte> InputConf{*this, "InputConf", {33, CommitAlarm}};
-  Setting<Byte> Enable{*this, "Enable", {33, CommitAlarm}};
+  Setting<"MacroLnk", Byte, In<34, CommitAlarm>> MacroLnk{*this};
+  Setting<"VlBuzzer", bool, In<48, CommitAlarm>> VlBuzzer{*this};
+  Setting<"VlRelay2", bool, In<48, CommitAlarm>> VlRelay2{*this};
+  Setting<"VlRelay1", bool, In<48, CommitAlarm>> VlRelay1{*this};
+  Setting<"ExtAlmAction", Byte, In<45, CommitAlarm>> ExtAlmAction{*this};
+  Setting<"InputConf", Byte, In<33, CommitAlarm>> InputConf{*this};
+  Setting<"Enable", Byte, In<33, CommitAlarm>> Enable{*this};
 };
 
 }  // namespace quorvel

@@ -11,18 +11,18 @@ class AlmAction : public SettingOwner {
   AlmAction& operator=(const AlmAction&) = default;
   bool operator==(const AlmAction&) const = default;
 
-  Setting<Byte> GateIntrus{*this, "GateIntrus", {184, CommitAlarm}};
-  Setting<Byte> Preset3{*this, "Preset3", {192, CommitAlarm}};
-  Setting<Byte> Preset2{*this, "Preset2", {190, CommitAlarm}};
-  Setting<Byte> Preset1{*this, "Preset1", {188, CommitAlarm}};
-  Setting<Byte> Preset0{*this, "Preset0", {186, CommitAlarm}};
+  Setting<"GateIntrus", Byte, In<184, CommitAlarm>> GateIntrus{*this};
+  Setting<"Preset3", Byte, In<192, CommitAlarm>> Preset3{*this};
+  Setting<"Preset2", Byte, In<190, CommitAlarm>> Preset2{*this};
+  Setting<"Preset1", Byte, In<188, CommitAlarm>> Preset1{*this};
+  Setting<"Preset0", Byte, In<186, CommitAlarm>> Preset0{*this};
   /// Camera indices, 0-based.
-  Setting<Byte> Display3{*this, "Display3", {42, CommitAlarm}};
-  Setting<Byte> Display2{*this, "Display2", {40, CommitAlarm}};
-  Setting<Byte> Display1{*this, "Display1", {38, CommitAlarm}};
-  Setting<Byte> Display0{*this, "Display0", {36, CommitAlarm}};
-  Setting<Byte> Relay{*this, "Relay", {44, CommitAlarm}};
-  Setting<Byte> Freeze{*this, "Freeze", {33, CommitAlarm}};
+  Setting<"Display3", Byte, In<42, CommitAlarm>> Display3{*this};
+  Setting<"Display2", Byte, In<40, CommitAlarm>> Display2{*this};
+  Setting<"Display1", Byte, In<38, CommitAlarm>> Display1{*this};
+  Setting<"Display0", Byte, In<36, CommitAlarm>> Display0{*this};
+  Setting<"Relay", Byte, In<44, CommitAlarm>> Relay{*this};
+  Setting<"Freeze", Byte, In<33, CommitAlarm>> Freeze{*this};
 };
 
 }  // namespace quorvel

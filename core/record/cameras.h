@@ -15,24 +15,24 @@ class Cameras : public SettingOwner {
   bool operator==(const Cameras&) const = default;
 
   /// Motion-detection mask: 32 bytes of zone bits, blocks 85 + 2c and 86 + 2c.
-  SettingArray<Byte, 32, Untracked> ActGrid{*this, "ActGrid"};
-  Setting<bool, Untracked> VidLoss{*this, "VidLoss"};
-  Setting<Byte> TextPos{*this, "TextPos", {149, CommitCamera}};
+  SettingArray<"ActGrid", Byte, 32> ActGrid{*this};
+  Setting<"VidLoss", bool> VidLoss{*this};
+  Setting<"TextPos", Byte, In<149, CommitCamera>> TextPos{*this};
   /// Stored from 0: 0 to 9 below model code 6, 0 to 100 from 6 on.
-  Setting<Byte> SignalGain{*this, "SignalGain", {47, CommitCamera}};
-  Setting<Byte> Reject{*this, "Reject", {51, CommitMotion}};
-  Setting<Byte> Relay{*this, "Relay", {149, CommitMotion}};
-  Setting<Byte> size{*this, "size", {52, CommitMotion}};
-  Setting<Byte> LnkALM{*this, "LnkALM", {54, CommitMotion}};
-  Setting<Byte> Sensitivity{*this, "Sensitivity", {50, CommitMotion}};
-  Setting<Byte> Rate{*this, "Rate", {51, CommitMotion}};
+  Setting<"SignalGain", Byte, In<47, CommitCamera>> SignalGain{*this};
+  Setting<"Reject", Byte, In<51, CommitMotion>> Reject{*this};
+  Setting<"Relay", Byte, In<149, CommitMotion>> Relay{*this};
+  Setting<"size", Byte, In<52, CommitMotion>> size{*this};
+  Setting<"LnkALM", Byte, In<54, CommitMotion>> LnkALM{*this};
+  Setting<"Sensitivity", Byte, In<50, CommitMotion>> Sensitivity{*this};
+  Setting<"Rate", Byte, In<51, CommitMotion>> Rate{*this};
   /// At most 13 characters as the device holds them, zero bytes included. The editor that changes
   /// a title lists its block itself.
-  Setting<std::string, Untracked> title{*this, "title"};
-  Setting<bool> covert{*this, "covert", {49, CommitCamera}};
-  Setting<bool> disable{*this, "disable", {33, CommitCamera}};
-  Setting<bool> color{*this, "color", {184, CommitCamera}};
-  Setting<Byte> Compress{*this, "Compress", {44, CommitRecord}};
+  Setting<"title", std::string> title{*this};
+  Setting<"covert", bool, In<49, CommitCamera>> covert{*this};
+  Setting<"disable", bool, In<33, CommitCamera>> disable{*this};
+  Setting<"color", bool, In<184, CommitCamera>> color{*this};
+  Setting<"Compress", Byte, In<44, CommitRecord>> Compress{*this};
 };
 
 }  // namespace quorvel

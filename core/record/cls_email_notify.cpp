@@ -4,8 +4,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr int kBlocksPerHalf = 3;
-constexpr std::size_t kTextBlockLength = 16;
 constexpr std::array kFirstBlockOfAddress = {201, 207, 220};
 
 bool IsAddress(int address) {
@@ -16,36 +14,21 @@ int FirstBlock(int address) { return kFirstBlockOfAddress[static_cast<std::size_
 
 }  // namespace
 
-std::optional<int> clsEmailNotify::TextIndex(int block) {
-  if (block >= 201 && block <= 212) return block - 201;
-  if (block >= 220 && block <= 225) return block - 220 + 12;
-  return std::nullopt;
-}
-
-const std::string& clsEmailNotify::BlkStrInit(int block) const {
-  static const std::string none;
+BlockText clsEmailNotify::BlkStrInit(int block) const {
   const auto index = TextIndex(block);
-  return index ? texts_[static_cast<std::size_t>(*index)] : none;
+  return index ? texts(*index) : BlockText();
 }
 
-void clsEmailNotify::BlkStrInit(int block, std::string_view text) {
-  const auto index = TextIndex(block);
-  if (!index) return;
-  if (text != BlkStrInit(block)) {
-    const int first = block - *index % kBlocksPerHalf;
-    for (int i = 0; i < kBlocksPerHalf; ++i) Record(CommitAlarm, first + i);
-  }
-  LoadText(block, text);
-}
-
-void clsEmailNotify::LoadText(int block, std::string_view text) {
-  if (const auto index = TextIndex(block)) texts_[static_cast<std::size_t>(*index)].assign(text);
+void clsEmailNotify::BlkStrInit(int block, const BlockText& text) {
+  if (const auto index = TextIndex(block)) texts(*index, text);
 }
 
 std::string clsEmailNotify::EmailString(int address) const {
   if (!IsAddress(address)) return {};
   const auto half = [this](int first) {
-    return BlkStrInit(first) + BlkStrInit(first + 1) + BlkStrInit(first + 2);
+    std::string text;
+    for (int i = 0; i < kBlocksPerHalf; ++i) text += std::string_view(BlkStrInit(first + i));
+    return text;
   };
   const std::string local = half(FirstBlock(address));
   const std::string domain = half(FirstBlock(address) + kBlocksPerHalf);
@@ -63,12 +46,12 @@ void clsEmailNotify::EmailString(int address, std::string_view text) {
 
 void clsEmailNotify::PutEmailBlocks(int first_block, std::string_view text) {
   for (int i = 0; i < kBlocksPerHalf; ++i) {
-    const auto piece = text.substr(0, kTextBlockLength);
-    text.remove_prefix(piece.size());
+    const BlockText piece(text);
+    text.remove_prefix(std::string_view(piece).size());
     // Blocks that become empty are not listed for that: devices read a half up to its first short
     // block.
     if (i > 0 && piece.empty()) {
-      LoadText(first_block + i, {});
+      texts[*TextIndex(first_block + i)].Load(piece);
     } else {
       BlkStrInit(first_block + i, piece);
     }

@@ -9,9 +9,7 @@ namespace quorvel {
 class clsEvents : public SettingOwner {
   /// Associated camera i of every camera is kept in block 214 + i.
   struct AssociationBlock {
-    void Changed(const SettingOwner& owner, int index) const {
-      owner.Record(CommitRecord, 214 + index);
-    }
+    static void Changed(SettingOwner& owner, int index) { owner.Record(CommitRecord, 214 + index); }
   };
 
  public:
@@ -19,29 +17,30 @@ class clsEvents : public SettingOwner {
   clsEvents& operator=(const clsEvents&) = default;
   bool operator==(const clsEvents&) const = default;
 
-  SettingArray<Byte, 3, AssociationBlock> EvAssociated{*this, "EvAssociated"};
-  Setting<Byte> PostEvDuration{*this, "PostEvDuration", {57, CommitRecord}};  ///< seconds
-  Setting<Byte> PreEvDuration{*this, "PreEvDuration", {56, CommitRecord}};    ///< seconds, 0 to 7
-  Setting<Byte> LnkToEvent{*this, "LnkToEvent", {56, CommitRecord}};          ///< 0 or 1
+  SettingArray<"EvAssociated", Byte, 3, AssociationBlock> EvAssociated{*this};
+  Setting<"PostEvDuration", Byte, In<57, CommitRecord>, Seconds> PostEvDuration{*this};
+  Setting<"PreEvDuration", Byte, In<56, CommitRecord>, Seconds> PreEvDuration{*this};  ///< 0 to 7
+  Setting<"LnkToEvent", Byte, In<56, CommitRecord>> LnkToEvent{*this};                 ///< 0 or 1
   /// 0 time-lapse, 1 event, 2 event and time-lapse.
-  Setting<Byte> EType{*this, "EType", {56, CommitRecord}};
-  Setting<Byte> Act_RRIndex{*this, "Act_RRIndex", {63, CommitRecord}};
-  Setting<Byte> TL_RRIndex{*this, "TL_RRIndex", {62, CommitRecord}};
-  Setting<Byte> Event_RRIndex{*this, "Event_RRIndex", {58, CommitRecord}};
+  Setting<"EType", Byte, In<56, CommitRecord>> EType{*this};
+  Setting<"Act_RRIndex", Byte, In<63, CommitRecord>> Act_RRIndex{*this};
+  Setting<"TL_RRIndex", Byte, In<62, CommitRecord>> TL_RRIndex{*this};
+  Setting<"Event_RRIndex", Byte, In<58, CommitRecord>> Event_RRIndex{*this};
 
+  /// Bits 6 and 7 of the camera's byte of block 56, and the event type that they mean.
+  [[nodiscard]] static constexpr Byte TypeOfBits(int bits) {
+    if ((bits & 0x40) == 0) return 0;
+    return (bits & 0x80) != 0 ? 2 : 1;
+  }
+  [[nodiscard]] static constexpr Byte BitsOfType(int type) {
+    if (type == 0) return 0;
+    return type == 2 ? 0xC0 : 0x40;
+  }
   /// Unpacks the camera's byte of block 56 into its three settings; records nothing.
   void EventSettings(Byte packed) {
     PreEvDuration.Load(packed & 7);
     LnkToEvent.Load(GetBit(packed, 4));
-    EType.Load(GetBit(packed, 6) == 0 ? Byte{0} : static_cast<Byte>(1 + GetBit(packed, 7)));
-  }
-  /// The byte of block 56 that holds the three settings; its spare bits are 0.
-  [[nodiscard]] Byte PackedEventSettings() const {
-    Byte packed = PreEvDuration() & 7;
-    SetBit(packed, 4, LnkToEvent() != 0);
-    SetBit(packed, 6, EType() != 0);
-    SetBit(packed, 7, EType() == 2);
-    return packed;
+    EType.Load(TypeOfBits(packed));
   }
 };
 

@@ -11,11 +11,11 @@ class clsMatrix : public SettingOwner {
   clsMatrix& operator=(const clsMatrix&) = default;
   bool operator==(const clsMatrix&) const = default;
 
-  SettingArray<Byte, kMostCameras> AuxMonitor{*this, "AuxMonitor", {45, CommitAlarm}};
-  SettingArray<Byte, kMostCameras> GroupSetup{*this, "GroupSetup", {46, CommitSequence}};
-  Setting<Byte> TDDspCDE{*this, "TDDspCDE", {59, CommitTimeDate}};
-  Setting<Byte> TitleDspCDE{*this, "TitleDspCDE", {59, CommitCamera}};
-  Setting<Byte> GroupSwEnable{*this, "GroupSwEnable", {45, CommitSequence}};
+  SettingArray<"AuxMonitor", Byte, kMostCameras, In<45, CommitAlarm>> AuxMonitor{*this};
+  SettingArray<"GroupSetup", Byte, kMostCameras, In<46, CommitSequence>> GroupSetup{*this};
+  Setting<"TDDspCDE", Byte, In<59, CommitTimeDate>> TDDspCDE{*this};
+  Setting<"TitleDspCDE", Byte, In<59, CommitCamera>> TitleDspCDE{*this};
+  Setting<"GroupSwEnable", Byte, In<45, CommitSequence>> GroupSwEnable{*this};
 };
 
 }  // namespace quorvel

@@ -9,11 +9,7 @@ namespace {
 template <class Element, std::size_t N>
 std::array<Element, N> MakeElements(RecordEnvironment& environment) {
   return [&]<std::size_t... I>(std::index_sequence<I...>) {
-    if constexpr (std::is_constructible_v<Element, RecordEnvironment&, int>) {
-      return std::array<Element, N>{Element(environment, static_cast<int>(I))...};
-    } else {
-      return std::array<Element, N>{(static_cast<void>(I), Element(environment))...};
-    }
+    return std::array<Element, N>{Element(environment, static_cast<int>(I))...};
   }
   (std::make_index_sequence<N>());
 }

@@ -19,19 +19,19 @@ namespace quorvel {
 /// timer records. Values belong to the identity of its environment.
 class MuxData : public SettingOwner {
   struct PlayDwellBlock {
-    void Changed(const SettingOwner& owner, int) const {
+    static void Changed(SettingOwner& owner, int) {
       if (owner.identity().IsMultiplexer()) owner.Record(CommitSequence, 61);
     }
   };
   /// Auto delete on a triplex recorder, the play/record link on a multiplexer, nothing between.
   struct PlayRecLnkBlock {
-    void Changed(const SettingOwner& owner, int) const {
+    static void Changed(SettingOwner& owner, int) {
       if (owner.identity().IsTriplex()) owner.Record(CommitRecord, 60);
       if (owner.identity().IsMultiplexer()) owner.Record(CommitMacro, 60);
     }
   };
   struct BuzzerBlock {
-    void Changed(const SettingOwner& owner, int index) const {
+    static void Changed(SettingOwner& owner, int index) {
       owner.Record(CommitAlarm, index == 4 ? 48 : 61);
     }
   };
@@ -44,63 +44,63 @@ class MuxData : public SettingOwner {
   MuxData& operator=(const MuxData&) = default;
   bool operator==(const MuxData&) const = default;
 
-  ReadOnlySetting<Byte> Extra_Quality_Feature{"Extra_Quality_Feature"};
-  Setting<Byte> Rec120sp{*this, "Rec120sp", {219, CommitRecord}};
-  SettingArray<Byte, 5> PubMonitor{*this, "PubMonitor", {45, CommitCamera}};
-  Setting<Byte> SVHS_MonB{*this, "SVHS_MonB", {45, CommitCamera}};
-  Setting<Byte> ArchPortSelect{*this, "ArchPortSelect", {184, CommitArchive}};
+  Setting<"Extra_Quality_Feature", Byte, ReadOnly> Extra_Quality_Feature{*this};
+  Setting<"Rec120sp", Byte, In<219, CommitRecord>> Rec120sp{*this};
+  SettingArray<"PubMonitor", Byte, 5, In<45, CommitCamera>> PubMonitor{*this};
+  Setting<"SVHS_MonB", Byte, In<45, CommitCamera>> SVHS_MonB{*this};
+  Setting<"ArchPortSelect", Byte, In<184, CommitArchive>> ArchPortSelect{*this};
   /// 0 English, 1 French, 2 German, 3 Italian, 4 Russian, 5 Polish, 6 Czech, 7 Finnish,
   /// 8 Hungarian, 9 Slovak, 10 Spanish, 11 Dutch, 12 Danish.
-  Setting<Byte> MuxLang{*this, "MuxLang", {60, CommitMenu}};
-  Setting<Byte> LumacastCDW{*this, "LumacastCDW", {61, CommitArchive}};
-  Setting<Byte> PreAlDuration{*this, "PreAlDuration", {59, CommitAlarm}};  ///< seconds, 1 to 5
-  Setting<Byte> DvrArchAlm{*this, "DvrArchAlm", {60, CommitAlarm}};
-  Setting<Byte> DvrArchiveOn{*this, "DvrArchiveOn", {60, CommitArchive}};
-  Setting<Byte> DvrArchiveSet{*this, "DvrArchiveSet", {60, CommitArchive}};
-  ReadOnlySetting<std::string> MuxModelName{"MuxModelName"};
-  Setting<Byte, PlayDwellBlock> PlayDwell{*this, "PlayDwell"};
-  Setting<Byte> TransmitSpiTime{*this, "TransmitSpiTime", {59, CommitTimeDate}};
-  Setting<Byte> FullScrResolution{*this, "FullScrResolution", {60, CommitCamera}};
-  Setting<Byte> AutoDisable{*this, "AutoDisable", {60, CommitCamera}};
-  Setting<Byte, PlayRecLnkBlock> PlayRecLnk{*this, "PlayRecLnk"};
-  ReadOnlySetting<Byte> MacroEditDL1{"MacroEditDL1"};
-  ReadOnlySetting<Byte> MacroEditDL2{"MacroEditDL2"};
-  Setting<Byte> LockKeyBoard{*this, "LockKeyBoard", {60, CommitMenu}};  ///< 1 locked
-  Setting<Byte> NetworkAddr{*this, "NetworkAddr", {59, CommitComm}};
-  Setting<Byte> PlaybackOld{*this, "PlaybackOld", {183, CommitVCR}};
-  SettingArray<Byte, kMostCameras> TelAC_DC{*this, "TelAC_DC", {184, CommitTelemetry}};
-  SettingArray<Byte, kMostCameras> TelEnable{*this, "TelEnable", {61, CommitTelemetry}};
-  Setting<Byte> VCR_Signal_Level{*this, "VCR_Signal_Level", {60, CommitVCR}};
-  Setting<Byte> DvrRecMode{*this, "DvrRecMode", {60, CommitRecord}};
-  Setting<Byte> BaudRatePPC{*this, "BaudRatePPC", {60, CommitComm}};
-  Setting<Byte> BaudRate{*this, "BaudRate", {60, CommitComm}};
-  Setting<Byte> SwitchEdge{*this, "SwitchEdge", {60, CommitVCR}};
-  Setting<Byte> ExtCam_SwAct{*this, "ExtCam_SwAct", {60, CommitVCR}};
-  Setting<Byte> VCRType{*this, "VCRType", {60, CommitVCR}};
-  Setting<Byte> PresetPGM{*this, "PresetPGM", {60, CommitTelemetry}};
-  Setting<Byte> PresetMode{*this, "PresetMode", {59, CommitTelemetry}};
-  Setting<Byte> Tel_options{*this, "Tel_options", {59, CommitTelemetry}};
-  Setting<Byte> PlaybackFormat{*this, "PlaybackFormat", {59, CommitVCR}};
-  Setting<Byte> ActIndicate{*this, "ActIndicate", {59, CommitMotion}};
-  SettingArray<Byte, kMostCameras> ActivityType{*this, "ActivityType", {49, CommitMotion}};
-  SettingArray<Byte, kMostCameras> ActivityEnable{*this, "ActivityEnable", {49, CommitMotion}};
+  Setting<"MuxLang", Byte, In<60, CommitMenu>> MuxLang{*this};
+  Setting<"LumacastCDW", Byte, In<61, CommitArchive>> LumacastCDW{*this};
+  Setting<"PreAlDuration", Byte, In<59, CommitAlarm>, Seconds> PreAlDuration{*this};
+  Setting<"DvrArchAlm", Byte, In<60, CommitAlarm>> DvrArchAlm{*this};
+  Setting<"DvrArchiveOn", Byte, In<60, CommitArchive>> DvrArchiveOn{*this};
+  Setting<"DvrArchiveSet", Byte, In<60, CommitArchive>> DvrArchiveSet{*this};
+  Setting<"MuxModelName", std::string, ReadOnly> MuxModelName{*this};
+  Setting<"PlayDwell", Byte, PlayDwellBlock, Seconds> PlayDwell{*this};
+  Setting<"TransmitSpiTime", Byte, In<59, CommitTimeDate>> TransmitSpiTime{*this};
+  Setting<"FullScrResolution", Byte, In<60, CommitCamera>> FullScrResolution{*this};
+  Setting<"AutoDisable", Byte, In<60, CommitCamera>> AutoDisable{*this};
+  Setting<"PlayRecLnk", Byte, PlayRecLnkBlock> PlayRecLnk{*this};
+  Setting<"MacroEditDL1", Byte, ReadOnly> MacroEditDL1{*this};
+  Setting<"MacroEditDL2", Byte, ReadOnly> MacroEditDL2{*this};
+  Setting<"LockKeyBoard", Byte, In<60, CommitMenu>> LockKeyBoard{*this};  ///< 1 locked
+  Setting<"NetworkAddr", Byte, In<59, CommitComm>> NetworkAddr{*this};
+  Setting<"PlaybackOld", Byte, In<183, CommitVCR>> PlaybackOld{*this};
+  SettingArray<"TelAC_DC", Byte, kMostCameras, In<184, CommitTelemetry>> TelAC_DC{*this};
+  SettingArray<"TelEnable", Byte, kMostCameras, In<61, CommitTelemetry>> TelEnable{*this};
+  Setting<"VCR_Signal_Level", Byte, In<60, CommitVCR>> VCR_Signal_Level{*this};
+  Setting<"DvrRecMode", Byte, In<60, CommitRecord>> DvrRecMode{*this};
+  Setting<"BaudRatePPC", Byte, In<60, CommitComm>> BaudRatePPC{*this};
+  Setting<"BaudRate", Byte, In<60, CommitComm>> BaudRate{*this};
+  Setting<"SwitchEdge", Byte, In<60, CommitVCR>> SwitchEdge{*this};
+  Setting<"ExtCam_SwAct", Byte, In<60, CommitVCR>> ExtCam_SwAct{*this};
+  Setting<"VCRType", Byte, In<60, CommitVCR>> VCRType{*this};
+  Setting<"PresetPGM", Byte, In<60, CommitTelemetry>> PresetPGM{*this};
+  Setting<"PresetMode", Byte, In<59, CommitTelemetry>> PresetMode{*this};
+  Setting<"Tel_options", Byte, In<59, CommitTelemetry>> Tel_options{*this};
+  Setting<"PlaybackFormat", Byte, In<59, CommitVCR>> PlaybackFormat{*this};
+  Setting<"ActIndicate", Byte, In<59, CommitMotion>> ActIndicate{*this};
+  SettingArray<"ActivityType", Byte, kMostCameras, In<49, CommitMotion>> ActivityType{*this};
+  SettingArray<"ActivityEnable", Byte, kMostCameras, In<49, CommitMotion>> ActivityEnable{*this};
   /// 0 global, 1 live alarm, 2 video loss, 3 playback, 4 disk monitor.
-  SettingArray<Byte, 5, BuzzerBlock> Buzzer{*this, "Buzzer"};
-  Setting<bool> Relay1Conf{*this, "Relay1Conf", {60, CommitAlarm}};  ///< true: normally open
-  Setting<bool> Relay2Conf{*this, "Relay2Conf", {60, CommitAlarm}};  ///< true: normally open
-  Setting<bool> FullscrAlm{*this, "FullscrAlm", {60, CommitAlarm}};
-  Setting<Byte> AlmRecMode{*this, "AlmRecMode", {60, CommitAlarm}};
-  Setting<Byte> AlarmMode{*this, "AlarmMode", {59, CommitAlarm}};
-  Setting<Byte> AlarmTimeOut{*this, "AlarmTimeOut", {59, CommitAlarm}};
-  Setting<Byte> RecLock{*this, "RecLock", {60, CommitRecord}};
+  SettingArray<"Buzzer", Byte, 5, BuzzerBlock> Buzzer{*this};
+  Setting<"Relay1Conf", bool, In<60, CommitAlarm>> Relay1Conf{*this};  ///< true: normally open
+  Setting<"Relay2Conf", bool, In<60, CommitAlarm>> Relay2Conf{*this};  ///< true: normally open
+  Setting<"FullscrAlm", bool, In<60, CommitAlarm>> FullscrAlm{*this};
+  Setting<"AlmRecMode", Byte, In<60, CommitAlarm>> AlmRecMode{*this};
+  Setting<"AlarmMode", Byte, In<59, CommitAlarm>> AlarmMode{*this};
+  Setting<"AlarmTimeOut", Byte, In<59, CommitAlarm>> AlarmTimeOut{*this};
+  Setting<"RecLock", Byte, In<60, CommitRecord>> RecLock{*this};
   /// Camera indices, 255 for an empty place. The record editor lists its blocks itself.
-  SettingArray<Byte, 40, Untracked> RecSeqLst{*this, "RecSeqLst"};
+  SettingArray<"RecSeqLst", Byte, 40> RecSeqLst{*this};
   /// Monitors A to E: 1 shows titles.
-  SettingArray<Byte, 5> TitleDisplay{*this, "TitleDisplay", {59, CommitCamera}};
-  Setting<Byte> MultiDwell{*this, "MultiDwell", {59, CommitSequence}};  ///< seconds
-  Setting<Byte> FullDwell{*this, "FullDwell", {59, CommitSequence}};    ///< seconds
-  Setting<Byte, Untracked> Normal_Rec_Index{*this, "Normal_Rec_Index"};
-  Setting<Byte> Alarm_Rec_Index{*this, "Alarm_Rec_Index", {59, CommitRecord}};
+  SettingArray<"TitleDisplay", Byte, 5, In<59, CommitCamera>> TitleDisplay{*this};
+  Setting<"MultiDwell", Byte, In<59, CommitSequence>, Seconds> MultiDwell{*this};
+  Setting<"FullDwell", Byte, In<59, CommitSequence>, Seconds> FullDwell{*this};  ///< seconds
+  Setting<"Normal_Rec_Index", Byte> Normal_Rec_Index{*this};
+  Setting<"Alarm_Rec_Index", Byte, In<59, CommitRecord>> Alarm_Rec_Index{*this};
 
   TimeDate TDInfo;
   clsEmailNotify AlmEmailNotify;

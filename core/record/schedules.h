@@ -6,43 +6,41 @@
 
 namespace quorvel {
 
-/// Schedule entries learn their own index when they are fetched through the record; the block of a
-/// change follows from it.
+/// Schedule entries keep their own index, from which the block of a change follows; the record
+/// tells it to an entry that is fetched.
 
 /// A macro started at a time of day; four entries a block from 64 on.
 class clsTimedMacro : public SettingOwner {
   struct EntryBlock {
-    void Changed(const SettingOwner& owner, int) const {
+    static void Changed(SettingOwner& owner, int) {
       owner.Record(CommitMacro, 64 + owner.Index() / 4);
     }
   };
 
  public:
-  explicit clsTimedMacro(RecordEnvironment& env) : SettingOwner(env, "TimeMacroInfo", 0) {}
+  clsTimedMacro(RecordEnvironment& env, int index) : SettingOwner(env, "TimeMacroInfo", index) {}
   clsTimedMacro& operator=(const clsTimedMacro&) = default;
   bool operator==(const clsTimedMacro&) const = default;
 
   void SetMacroIdx(Byte index) { SetIndex(index); }
 
-  Setting<Byte, EntryBlock> MacroNum{*this, "MacroNum"};
-  Setting<Byte, EntryBlock> Minute{*this, "Minute"};
-  Setting<Byte, EntryBlock> Hour{*this, "Hour"};
+  Setting<"MacroNum", Byte, EntryBlock> MacroNum{*this};
+  Setting<"Minute", Byte, EntryBlock> Minute{*this};
+  Setting<"Hour", Byte, EntryBlock> Hour{*this};
   /// 0 never, 1 to 7 Monday to Sunday, 8 every day.
-  Setting<Byte, EntryBlock> Day{*this, "Day"};
+  Setting<"Day", Byte, EntryBlock> Day{*this};
 };
 
 /// The byte script of one camera, block 69 + c.
 class clsSubMacro : public SettingOwner {
   struct EntryBlock {
-    void Changed(const SettingOwner& owner, int) const {
-      owner.Record(CommitMacro, 69 + owner.Index());
-    }
+    static void Changed(SettingOwner& owner, int) { owner.Record(CommitMacro, 69 + owner.Index()); }
   };
 
  public:
   static constexpr int kLongest = 10;
 
-  explicit clsSubMacro(RecordEnvironment& env) : SettingOwner(env, "SubMacroInfo", 0) {}
+  clsSubMacro(RecordEnvironment& env, int index) : SettingOwner(env, "SubMacroInfo", index) {}
   clsSubMacro& operator=(const clsSubMacro&) = default;
   bool operator==(const clsSubMacro&) const = default;
 
@@ -51,41 +49,43 @@ class clsSubMacro : public SettingOwner {
     if (index < kMostCameras) SetIndex(index);
   }
 
-  SettingArray<Byte, kLongest, EntryBlock> SMacroByte{*this, "SMacroByte"};
+  SettingArray<"SMacroByte", Byte, kLongest, EntryBlock> SMacroByte{*this};
 
-  /// Bytes in the script; a script is never longer than 10.
-  [[nodiscard]] Byte SMacroLen() const { return length_(); }
-  void SMacroLen(Byte length) { length_(Limited(length)); }
-  void LoadLength(Byte length) { length_.Load(Limited(length)); }
-
- private:
-  static Byte Limited(Byte length) { return std::min(length, Byte{kLongest}); }
-  Setting<Byte, EntryBlock> length_{*this, "SMacroLen"};
+  /// Bytes in the script: a larger number is taken as 10.
+  class Length : public Setting<"SMacroLen", Byte, EntryBlock> {
+   public:
+    using Base = Setting<"SMacroLen", Byte, EntryBlock>;
+    using Base::Base;
+    using Base::operator();
+    void operator()(Byte length) { Base::operator()(std::min(length, Byte{kLongest})); }
+    void Load(Byte length) { Base::Load(std::min(length, Byte{kLongest})); }
+  };
+  Length SMacroLen{*this};
 };
 
 /// One entry of the recording schedule; two entries a block from 195 on, model code 6 and above.
 class clsRecTimer : public SettingOwner {
   struct EntryBlock {
-    void Changed(const SettingOwner& owner, int) const {
+    static void Changed(SettingOwner& owner, int) {
       owner.Record(CommitRecord, 195 + owner.Index() / 2);
     }
   };
 
  public:
-  explicit clsRecTimer(RecordEnvironment& env) : SettingOwner(env, "MRecTimer", 0) {}
+  clsRecTimer(RecordEnvironment& env, int index) : SettingOwner(env, "MRecTimer", index) {}
   clsRecTimer& operator=(const clsRecTimer&) = default;
   bool operator==(const clsRecTimer&) const = default;
 
   void SetRTIdx(Byte index) { SetIndex(index); }
 
-  Setting<Byte, EntryBlock> RTdate{*this, "RTdate"};
-  Setting<Byte, EntryBlock> RTstart_hh{*this, "RTstart_hh"};
-  Setting<Byte, EntryBlock> RTstart_mm{*this, "RTstart_mm"};
-  Setting<Byte, EntryBlock> RTstop_hh{*this, "RTstop_hh"};
-  Setting<Byte, EntryBlock> RTstop_mm{*this, "RTstop_mm"};
-  Setting<Byte, EntryBlock> RTmacrolnk{*this, "RTmacrolnk"};
-  Setting<Byte, EntryBlock> RTstatus{*this, "RTstatus"};
-  Setting<Byte, EntryBlock> RTvalid{*this, "RTvalid"};
+  Setting<"RTdate", Byte, EntryBlock> RTdate{*this};
+  Setting<"RTstart_hh", Byte, EntryBlock> RTstart_hh{*this};
+  Setting<"RTstart_mm", Byte, EntryBlock> RTstart_mm{*this};
+  Setting<"RTstop_hh", Byte, EntryBlock> RTstop_hh{*this};
+  Setting<"RTstop_mm", Byte, EntryBlock> RTstop_mm{*this};
+  Setting<"RTmacrolnk", Byte, EntryBlock> RTmacrolnk{*this};
+  Setting<"RTstatus", Byte, EntryBlock> RTstatus{*this};
+  Setting<"RTvalid", Byte, EntryBlock> RTvalid{*this};
 };
 
 }  // namespace quorvel

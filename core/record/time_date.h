@@ -1,47 +1,40 @@
 #pragma once
 
-#include "core/bit_fields.h"
 #include "core/setting.h"
 
 namespace quorvel {
 
 /// The device's clock, its formats, time zone and time servers.
 class TimeDate : public SettingOwner {
-  /// A changed server octet lists block 217 and marks its server in the change mask.
-  struct ServerBlock {
-    Byte mask_bit;
-    Setting<Byte, Untracked>* mask;
-    void Changed(const SettingOwner& owner, int) const {
-      if (!owner.Record(CommitTimeDate, 217)) return;
-      Byte bits = (*mask)();
-      SetBit(bits, mask_bit, true);
-      mask->Load(bits);
-    }
-  };
-
  public:
   explicit TimeDate(RecordEnvironment& env) : SettingOwner(env, "TDInfo") {}
   TimeDate& operator=(const TimeDate&) = default;
   bool operator==(const TimeDate&) const = default;
 
   /// Change mask: bit 0 primary server, bit 1 backup server; 0 again once block 217 is encoded.
-  Setting<Byte, Untracked> NTPchange{*this, "NTPchange"};
-  Setting<Byte> NTPUpdate{*this, "NTPUpdate", {217, CommitTimeDate}};
+  Setting<"NTPchange", Byte> NTPchange{*this};
+  Setting<"NTPUpdate", Byte, In<217, CommitTimeDate>> NTPUpdate{*this};
+  template <int bit>
+  struct Server {
+    static void Changed(SettingOwner& owner, int) {
+      RecordInMask(owner, CommitTimeDate, 217, static_cast<TimeDate&>(owner).NTPchange, bit);
+    }
+  };
   /// IPv4 octets, first octet at index 0.
-  SettingArray<Byte, 4, ServerBlock> NTPPrimServer{*this, "NTPPrimServer", {0, &NTPchange}};
-  SettingArray<Byte, 4, ServerBlock> NTPBkupServer{*this, "NTPBkupServer", {1, &NTPchange}};
-  Setting<Byte> DaylightRegion{*this, "DaylightRegion", {45, CommitTimeDate}};
-  Setting<Byte> TimeZoneIdx{*this, "TimeZoneIdx", {45, CommitTimeDate}};
+  SettingArray<"NTPPrimServer", Byte, 4, Server<0>> NTPPrimServer{*this};
+  SettingArray<"NTPBkupServer", Byte, 4, Server<1>> NTPBkupServer{*this};
+  Setting<"DaylightRegion", Byte, In<45, CommitTimeDate>> DaylightRegion{*this};
+  Setting<"TimeZoneIdx", Byte, In<45, CommitTimeDate>> TimeZoneIdx{*this};
   /// Monitors A to E: 1 shows time and date.
-  SettingArray<Byte, 5> TDDisplay{*this, "TDDisplay", {59, CommitTimeDate}};
-  Setting<std::int16_t> CurrentDay{*this, "CurrentDay", {61, CommitTimeDate}};
-  Setting<std::int32_t> CurrentMonth{*this, "CurrentMonth", {61, CommitTimeDate}};
-  Setting<std::int16_t> CurrentYear{*this, "CurrentYear", {61, CommitTimeDate}};
-  Setting<std::int16_t> CurrentHour{*this, "CurrentHour", {61, CommitTimeDate}};
-  Setting<std::int16_t> CurrentMin{*this, "CurrentMin", {61, CommitTimeDate}};
-  Setting<std::int16_t> CurrentSec{*this, "CurrentSec", {61, CommitTimeDate}};
-  Setting<bool> TimeFormat{*this, "TimeFormat", {59, CommitTimeDate}};  ///< true: 24 hours
-  Setting<Byte> DateFormat{*this, "DateFormat", {59, CommitTimeDate}};
+  SettingArray<"TDDisplay", Byte, 5, In<59, CommitTimeDate>> TDDisplay{*this};
+  Setting<"CurrentDay", std::int16_t, In<61, CommitTimeDate>> CurrentDay{*this};
+  Setting<"CurrentMonth", std::int32_t, In<61, CommitTimeDate>> CurrentMonth{*this};
+  Setting<"CurrentYear", std::int16_t, In<61, CommitTimeDate>> CurrentYear{*this};
+  Setting<"CurrentHour", std::int16_t, In<61, CommitTimeDate>> CurrentHour{*this};
+  Setting<"CurrentMin", std::int16_t, In<61, CommitTimeDate>> CurrentMin{*this};
+  Setting<"CurrentSec", std::int16_t, In<61, CommitTimeDate>> CurrentSec{*this};
+  Setting<"TimeFormat", bool, In<59, CommitTimeDate>> TimeFormat{*this};  ///< true: 24 hours
+  Setting<"DateFormat", Byte, In<59, CommitTimeDate>> DateFormat{*this};
 };
 
 }  // namespace quorvel

@@ -10,6 +10,7 @@
 #include "quorvel/events.h"
 #include "quorvel/platform.h"
 #include "quorvel/property_bag.h"
+#include "quorvel/settings.h"
 
 namespace quorvel {
 
@@ -90,6 +91,15 @@ class MainMenuCtrl {
 
   /// Numbers of the blocks that hold changes, in the order of the changes.
   [[nodiscard]] std::vector<std::uint8_t> ModifiedBlocks() const;
+  /// The settings that the device has, as edited so far, by name and value in block order. A
+  /// pattern may hold "*" and "?"; one without them is looked for anywhere in the name, case aside;
+  /// an empty one gives all. Nothing before an image has arrived.
+  [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern = {}) const;
+  /// The settings that differ from those of `image`, with the blocks that carry them; `value` is
+  /// the control's, `other` the image's. An image that cannot be decoded is told in a message box
+  /// and gives nothing.
+  [[nodiscard]] std::vector<SettingDifference> DifferencesFrom(
+      std::span<const std::uint8_t> image) const;
   /// The configuration image as last received and encoded, block 1 first.
   [[nodiscard]] std::vector<std::uint8_t> Image() const;
 

@@ -153,15 +153,13 @@ TEST(Record, EventSettingsUnpack) {
   RecordEnvironment env;
   clsEvents events(env, 0);
   const struct {
-    Byte packed, pre, link, type, repacked;
-  } cases[] = {
-      {0xD5, 5, 1, 2, 0xD5}, {0x80, 0, 0, 0, 0x00}, {0x40, 0, 0, 1, 0x40}, {0x7F, 7, 1, 1, 0x57}};
+    Byte packed, pre, link, type;
+  } cases[] = {{0xD5, 5, 1, 2}, {0x80, 0, 0, 0}, {0x40, 0, 0, 1}, {0x7F, 7, 1, 1}};
   for (const auto& it : cases) {
     events.EventSettings(it.packed);
     EXPECT_EQ(events.PreEvDuration(), it.pre);
     EXPECT_EQ(events.LnkToEvent(), it.link);
     EXPECT_EQ(events.EType(), it.type);
-    EXPECT_EQ(events.PackedEventSettings(), it.repacked);
   }
 }
 

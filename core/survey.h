@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "core/layout/survey_pass.h"
+#include "core/record/mux_data.h"
+#include "quorvel/settings.h"
+
+namespace quorvel {
+
+/// Which direction a survey looks: not every setting that is read is also written.
+enum class Direction { kRead, kWritten };
+
+/// Every setting that a device of this identity with `blocks` blocks has, in block order: where it
+/// is kept and what `rec` holds. Change masks, device bytes and marks are told by their role.
+/// Throws ImageError when a layout would leave its block.
+[[nodiscard]] std::vector<layout::Place> SurveyRecord(MuxData& rec, Identity id, int blocks,
+                                                      Direction direction = Direction::kRead);
+
+/// Bits that two settings of a survey claim both, as "block 45 byte 13: A and B"; none is right.
+/// Marks and settings kept elsewhere share bits by design.
+[[nodiscard]] std::vector<std::string> FindOverlaps(const std::vector<layout::Place>& places);
+
+/// The settings whose name fits `pattern`, by name and value, in block order. A pattern may hold
+/// "*" and "?"; one without them is looked for anywhere in the name; an empty one fits all. Case
+/// does not matter.
+[[nodiscard]] std::vector<SettingLine> ListSettings(MuxData& rec, const Identity& id, int blocks,
+                                                    std::string_view pattern = {});
+
+/// A record, the identity that its values belong to, and the number of blocks of its device.
+struct Configuration {
+  MuxData& rec;
+  const Identity& id;
+  int blocks;
+};
+
+/// The settings that two configurations hold differently, in block order.
+[[nodiscard]] std::vector<SettingDifference> CompareConfigurations(const Configuration& one,
+                                                                   const Configuration& other);
+
+}  // namespace quorvel
