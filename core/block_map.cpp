@@ -53,7 +53,7 @@ std::string Range(int first, int last) {
 
 std::string Bits(unsigned mask) {
   const int first = std::countr_zero(mask);
-  const int last = std::bit_width(mask) - 1;
+  const int last = 31 - std::countl_zero(mask);
   return (first == last ? " bit " : " bits ") + Range(first, last);
 }
 
@@ -80,7 +80,7 @@ std::string NumberRange(const std::string& from, const std::string& to, int step
 /// "CamInfo(0).title" and "CamInfo(15).title" make "CamInfo(0 to 15).title"; names that differ in
 /// more than one number are joined by dots.
 std::string NameRange(std::string_view first, std::string_view last, int steps = 0) {
-  const std::string joined = std::string(first) + " ... " + std::string(last);
+  std::string joined = std::string(first) + " ... " + std::string(last);
   std::string text;
   int differences = 0;
   while (!first.empty() && !last.empty()) {
@@ -111,7 +111,7 @@ const char* Remark(const Place& place, bool written) {
 
 std::string Where(const Place& first, const Place& last) {
   const int end = last.at + last.length - 1;
-  const std::string bytes = (first.at == end ? "byte " : "bytes ") + Range(first.at, end);
+  std::string bytes = (first.at == end ? "byte " : "bytes ") + Range(first.at, end);
   if (first.mask == 0xFF) return bytes;
   if (first.at == end || first.mask == last.mask) {
     return bytes + Bits(static_cast<unsigned>(first.mask | last.mask));
@@ -196,7 +196,8 @@ std::string Shape(const BlockEntry& entry) {
 std::vector<BlockEntry> AllBlocks() {
   std::map<int, BlockEntry> blocks;
   for (const Family& family : kFamilies) {
-    for (auto& [block, rows] : RowsOf(family)) {
+    for (const auto& [block, family_rows] : RowsOf(family)) {
+      const Rows& rows = family_rows;
       BlockEntry& entry = blocks[block];
       entry.first = entry.last = block;
       auto found = std::find_if(entry.variants.begin(), entry.variants.end(),
@@ -209,6 +210,7 @@ std::vector<BlockEntry> AllBlocks() {
     }
   }
   std::vector<BlockEntry> list;
+  list.reserve(blocks.size());
   for (auto& [block, entry] : blocks) list.push_back(std::move(entry));
   return list;
 }

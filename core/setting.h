@@ -78,14 +78,19 @@ void RecordInMask(SettingOwner& owner, CommitFlag flag, int block, Mask& mask, i
   mask.Load(bits);
 }
 
-/// Units in which an installer reads a setting's number.
+/// How an installer reads a setting's number: the unit behind it, and what counts from 1 on screen
+/// and from 0 in the device.
 struct NoUnit {
   static constexpr const char* kUnit = "";
+  static constexpr int kFirst = 0;
 };
-struct Seconds {
+struct Seconds : NoUnit {
   static constexpr const char* kUnit = " s";
 };
-struct Minutes {
+struct SecondsFromOne : Seconds {
+  static constexpr int kFirst = 1;
+};
+struct Minutes : NoUnit {
   static constexpr const char* kUnit = " min";
 };
 
@@ -112,6 +117,14 @@ class OwnerLink {
     return reinterpret_cast<std::uintptr_t>(place);
   }
   std::uint16_t distance_;
+};
+
+/// Fills the gap behind a one-byte value, so that a compiler can set many settings with one store.
+template <bool one_byte>
+struct Filler {};
+template <>
+struct Filler<true> {
+  std::uint8_t zero = 0;
 };
 
 }  // namespace setting_detail
@@ -150,8 +163,9 @@ class Setting {
   [[nodiscard]] static int EntryIndex() { return kNoEntry; }
 
  private:
-  T value_{};
   setting_detail::OwnerLink owner_;
+  T value_{};
+  [[no_unique_address]] setting_detail::Filler<sizeof(T) == 1> filler_;
 };
 
 /// `N` settings under one name: `rec.TelEnable(3)` reads, `rec.TelEnable(3, 1)` sets. A bad index

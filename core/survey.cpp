@@ -110,11 +110,13 @@ std::vector<Place> SurveyRecord(MuxData& rec, Identity id, int blocks, Direction
 
 std::vector<std::string> FindOverlaps(const std::vector<Place>& places) {
   std::vector<std::string> overlaps;
-  std::vector<std::vector<const Place*>> claims(256 * kBlockSize);  // by block and byte
+  std::vector<std::vector<const Place*>> claims(std::size_t{256} *
+                                                kBlockSize);  // by block and byte
   for (const Place& place : places) {
     if (place.role == Place::Role::kMark || place.role == Place::Role::kElsewhere) continue;
     for (int at = place.at; at < place.at + place.length; ++at) {
-      auto& others = claims.at(static_cast<std::size_t>(place.block * kBlockSize + at));
+      const auto byte = static_cast<unsigned>(place.block * kBlockSize + at);
+      auto& others = claims.at(byte);
       for (const Place* other : others) {
         if ((other->mask & place.mask) == 0) continue;
         overlaps.push_back("block " + std::to_string(place.block) + " byte " + std::to_string(at) +

@@ -14,7 +14,8 @@ void TimedMacros(Pass& block, int first, MuxData& rec) {
   constexpr int kHours = 24;
   constexpr int kMinutes = 59;  // as the device counts: minute 59 is not taken
   for (int j = 0; j < kEntries; ++j) {
-    auto& macro = rec.AllTimedMacros().at(static_cast<std::size_t>(first + j));
+    const auto entry = static_cast<unsigned>(first + j);
+    auto& macro = rec.AllTimedMacros().at(entry);
     const int at = j * kEntries;
     block.ByteBelow(kDays, at, macro.Day);
     block.ByteBelow(kHours, at + 1, macro.Hour);
@@ -47,7 +48,8 @@ void SubMacro(Pass& block, int camera, MuxData& rec, const Identity& id) {
 template <class Pass>
 void RecTimers(Pass& block, int first, MuxData& rec) {
   for (int j = 0; j < 2; ++j) {
-    auto& timer = rec.AllRecTimers().at(static_cast<std::size_t>(first + j));
+    const auto entry = static_cast<unsigned>(first + j);
+    auto& timer = rec.AllRecTimers().at(entry);
     const int at = 8 * j;
     block.Byte(at, timer.RTdate);
     block.Byte(at + 1, timer.RTstart_hh);

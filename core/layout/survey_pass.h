@@ -42,7 +42,8 @@ std::string ValueText(const Item& item) {
   if constexpr (std::same_as<Value, bool>) {
     return item() ? "yes" : "no";
   } else if constexpr (std::integral<Value>) {
-    return std::to_string(+item()) + std::remove_cvref_t<Item>::UnitType::kUnit;
+    using Unit = typename std::remove_cvref_t<Item>::UnitType;
+    return std::to_string(item() + Unit::kFirst) + Unit::kUnit;
   } else {
     return QuotedText(std::string_view(item()));
   }

@@ -91,7 +91,7 @@ class MuxData : public SettingOwner {
   Setting<"FullscrAlm", bool, In<60, CommitAlarm>> FullscrAlm{*this};
   Setting<"AlmRecMode", Byte, In<60, CommitAlarm>> AlmRecMode{*this};
   Setting<"AlarmMode", Byte, In<59, CommitAlarm>> AlarmMode{*this};
-  Setting<"AlarmTimeOut", Byte, In<59, CommitAlarm>> AlarmTimeOut{*this};
+  Setting<"AlarmTimeOut", Byte, In<59, CommitAlarm>, SecondsFromOne> AlarmTimeOut{*this};
   Setting<"RecLock", Byte, In<60, CommitRecord>> RecLock{*this};
   /// Camera indices, 255 for an empty place. The record editor lists its blocks itself.
   SettingArray<"RecSeqLst", Byte, 40> RecSeqLst{*this};

@@ -114,7 +114,9 @@ TEST(Survey, ListsSettingsInAnInstallersTerms) {
   const auto list = [&](std::string_view pattern) {
     return ListSettings(*rec, env.identity, 200, pattern);
   };
+  rec->AlarmTimeOut.Load(9);
   EXPECT_EQ(list("multidwell"), (std::vector<SettingLine>{{"MultiDwell", "7 s"}}));
+  EXPECT_EQ(list("TimeOut"), (std::vector<SettingLine>{{"AlarmTimeOut", "10 s"}}));
   EXPECT_EQ(list("CamInfo(0).ti*"),
             (std::vector<SettingLine>{{"CamInfo(0).title", R"("A\x22\x00")"}}));
   EXPECT_EQ(list("Relay?Conf"),
