@@ -207,6 +207,8 @@ class SettingArray {
     assert(InRange(index));
     return Entry{this, index};
   }
+  /// The entries side by side, for layouts that copy runs of them.
+  [[nodiscard]] T* Data() { return values_.data(); }
   [[nodiscard]] static const char* Name() { return name.text; }
   [[nodiscard]] const SettingOwner& Owner() const { return owner_.Of(this); }
 

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cassert>
+#include <concepts>
 #include <cstddef>
+#include <cstdint>
 #include <type_traits>
 
 #include "core/block_image.h"
@@ -34,6 +36,18 @@ struct EachEntry {
   Array& array;
   int first = 0;
   auto operator[](int k) const { return array[first + k]; }
+  /// The entries from the first on, `count` of them side by side.
+  [[nodiscard]] auto* Run(int count) const {
+    assert(first >= 0 && first + count <= Array::kSize);
+    static_cast<void>(count);
+    return array.Data() + first;
+  }
+};
+
+/// Items that are bytes side by side, which can be copied at once.
+template <class Items>
+concept ByteRun = requires(const Items& items) {
+  { items.Run(0) } -> std::same_as<std::uint8_t*>;
 };
 
 template <class Array>

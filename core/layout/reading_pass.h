@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <span>
 #include <string_view>
 
@@ -115,7 +116,11 @@ class ReadingPass {
   template <class Items>
   void Bytes(int at, int count, Items items) {
     const std::uint8_t* const run = Run(at, count);
-    for (int k = 0; k < count; ++k) Store(items[k], run[k]);
+    if constexpr (ByteRun<Items>) {
+      std::copy_n(run, count, items.Run(count));
+    } else {
+      for (int k = 0; k < count; ++k) Store(items[k], run[k]);
+    }
   }
 
   /// Two bytes, most significant first.

@@ -95,7 +95,11 @@ class WritingPass {
   template <class Items>
   void Bytes(int at, int count, Items items) {
     std::uint8_t* const run = Run(at, count);
-    for (int k = 0; k < count; ++k) run[k] = static_cast<std::uint8_t>(items[k]());
+    if constexpr (ByteRun<Items>) {
+      std::copy_n(items.Run(count), count, run);
+    } else {
+      for (int k = 0; k < count; ++k) run[k] = static_cast<std::uint8_t>(items[k]());
+    }
   }
   template <class Item>
   void Word(int at, Item& item) {

@@ -1,138 +1,135 @@
-#include "core/codec.h"
+#include <vector>
 
-#include <gtest/gtest.h>
-
-#include <array>
-#include <functional>
-#include <memory>
-#include <random>
-#include <string>
-
-#include "resources/default_images.h"
+#include "tests/core/codec_fixture.h"
 
 namespace quorvel {
 namespace {
 
-/// An empty image of a device, and a record decoded from it.
-class Codec : public ::testing::Test {
- protected:
-  void Make(Byte model_code, Byte cameras = 16, int blocks = 225) {
-    image_ = BlockImage();
-    image_.ResizeBlocks(blocks);
-    image_.Block(1)[15] = static_cast<Byte>(blocks);
-    if (blocks >= 185) WriteIdentityBlock(image_, cameras, model_code, "TEST");
-    rec_ = std::make_unique<MuxData>(env_);
+TEST_F(Codec, ValuesThatADeviceCannotMeanAreRepaired) {
+  const struct { Byte read, repaired; } durations[] = {{0, 1}, {1, 1}, {5, 5}, {6, 1}, {255, 1}};
+  for (const auto& it : durations) {
+    Make(1);
+    image_.Block(59)[13] = it.read;
     Decode();
+    EXPECT_EQ(rec_->PreAlDuration(), it.repaired);
   }
-  void Decode() { DecodeImage(image_, env_, *rec_); }
-  void Encode(int block) { EncodeBlock(block, image_, env_, *rec_); }
-  std::string Hex(int block) const {
-    std::string text;
-    for (const Byte byte : image_.Block(block)) {
-      std::array<char, 4> digits{};
-      std::snprintf(digits.data(), digits.size(), "%02x", byte);
-      text += (text.empty() ? "" : " ") + std::string(digits.data());
-    }
-    return text;
-  }
+  // What no timed macro can mean leaves the value of before.
+  Make(6);
+  Put(65, "08 17 3a 10 00 00 00 00 00 00 00 00 00 00 00 00");
+  Decode();
+  Put(65, "09 18 3b 00 00 00 00 00 00 00 00 00 00 00 00 00");
+  Decode();
+  EXPECT_EQ(Rewritten(65), "08 17 3a 00 00 00 00 00 00 00 00 00 00 00 00 00");
+}
 
-  BlockImage image_;
-  RecordEnvironment env_;
-  std::unique_ptr<MuxData> rec_;
-};
+TEST_F(Codec, TheEncoderWritesUnrepaired) {
+  Make(6, 4);
+  rec_->AlarmInfo(0)->MacroLnk(9);
+  rec_->PreAlDuration(7);
+  rec_->TimeMacroInfo(0)->Minute(59);
+  rec_->CamInfo(1)->Compress(9);
+  EXPECT_EQ(Rewritten(34), "09 00 00 00 ee ee ee ee ee ee ee ee ee ee ee ee");
+  EXPECT_EQ(Rewritten(59), "00 00 00 00 00 00 00 00 00 00 00 00 00 07 00 00");
+  EXPECT_EQ(Rewritten(64), "00 00 3b 00 00 00 00 00 00 00 00 00 00 00 00 00");
+  EXPECT_EQ(Rewritten(44), "00 00 00 00 00 00 00 00 0c ee ee ee ee ee ee ee");
+}
 
-struct DecodeCase {
-  const char* what;
-  Byte model_code;
-  int block;
-  int at;
-  Byte byte;
-  std::function<int(MuxData&)> value;
-  int expected;
-};
-
-TEST_F(Codec, DecodesEachPackingAndModelCondition) {
-  const DecodeCase cases[] = {
-      {"covert, direct", 6, 49, 8, 0x04, [](MuxData& r) { return r.CamInfo(2)->covert(); }, 1},
-      {"covert, inverted", 5, 49, 8, 0x04, [](MuxData& r) { return r.CamInfo(2)->covert(); }, 0},
-      {"disable is inverted", 6, 33, 13, 0x01, [](MuxData& r) { return r.CamInfo(8)->disable(); },
-       0},
-      {"disable is inverted", 6, 33, 13, 0xFE, [](MuxData& r) { return r.CamInfo(8)->disable(); },
-       1},
-      {"gain in a byte", 6, 47, 3, 100, [](MuxData& r) { return r.CamInfo(3)->SignalGain(); }, 100},
-      {"gain in a nibble", 5, 47, 1, 0x9A, [](MuxData& r) { return r.CamInfo(3)->SignalGain(); },
-       9},
-      {"text position pair", 6, 149, 9, 0x10, [](MuxData& r) { return r.CamInfo(6)->TextPos(); },
-       1},
-      {"macro link the device lacks", 6, 34, 2, 17,
-       [](MuxData& r) { return r.AlarmInfo(2)->MacroLnk(); }, 0},
-      {"pre-alarm in range", 1, 59, 13, 5, [](MuxData& r) { return r.PreAlDuration(); }, 5},
-      {"pre-alarm repaired", 1, 59, 13, 6, [](MuxData& r) { return r.PreAlDuration(); }, 1},
-      {"playback format", 0, 59, 13, 6, [](MuxData& r) { return r.PlaybackFormat(); }, 6},
-      {"pre-alarm not of a multiplexer", 0, 59, 13, 5, [](MuxData& r) { return r.PreAlDuration(); },
-       0},
-      {"relay contacts", 6, 60, 6, 0x02,
-       [](MuxData& r) { return 2 * r.Relay2Conf() + r.Relay1Conf(); }, 2},
-      {"full screen alarm is 1 only", 6, 60, 7, 2, [](MuxData& r) { return r.FullscrAlm(); }, 0},
-      {"field or frame", 0, 60, 11, 1, [](MuxData& r) { return r.FullScrResolution(); }, 1},
-      {"archive alarm in its place", 2, 60, 11, 1,
-       [](MuxData& r) { return 10 * r.DvrArchAlm() + r.FullScrResolution(); }, 10},
-      {"public monitors", 6, 45, 12, 0x1A, [](MuxData& r) { return r.PubMonitor(4); }, 1},
-      {"no public monitors on a duplex", 2, 45, 12, 0x1A,
-       [](MuxData& r) { return 10 * r.AlarmInfo(12)->ExtAlmAction() + r.PubMonitor(4); }, 260},
-      {"playback of a multiplexer", 0, 183, 5, 9, [](MuxData& r) { return r.PlaybackOld(); }, 9},
-      {"no playback on a duplex", 2, 183, 8, 9, [](MuxData& r) { return r.PlaybackOld(); }, 0},
-      {"playback of a triplex", 6, 183, 8, 9, [](MuxData& r) { return r.PlaybackOld(); }, 9},
-      {"record list", 1, 57, 2, 7, [](MuxData& r) { return r.RecSeqLst(18); }, 7},
-      {"post-event", 2, 57, 2, 7, [](MuxData& r) { return r.CamEvent(2)->PostEvDuration(); }, 7},
-      {"gate", 6, 184, 9, 0x80, [](MuxData& r) { return r.AlmActionInfo(15)->GateIntrus(); }, 1},
-      {"year 59", 6, 61, 5, 59, [](MuxData& r) { return r.TDInfo.CurrentYear(); }, 2059},
-      {"year 60", 6, 61, 5, 60, [](MuxData& r) { return r.TDInfo.CurrentYear(); }, 1960},
-  };
-  for (const DecodeCase& it : cases) {
-    SCOPED_TRACE(it.what);
-    Make(it.model_code);
-    image_.Block(it.block)[static_cast<std::size_t>(it.at)] = it.byte;
+TEST_F(Codec, YearsOfTwoDigits) {
+  const struct {
+    Byte byte;
+    int year;
+  } years[] = {{0, 2000}, {7, 2007}, {59, 2059}, {60, 1960}, {99, 1999}};
+  Make(6);
+  for (const auto& it : years) {
+    image_.Block(61)[5] = it.byte;
     Decode();
-    EXPECT_EQ(it.value(*rec_), it.expected);
+    EXPECT_EQ(rec_->TDInfo.CurrentYear(), it.year);
+    Encode(61);
+    EXPECT_EQ(image_.Block(61)[5], it.byte);
   }
+}
+
+TEST_F(Codec, ModifiedBlocksOnlyAndTheClockOfThePc) {
+  Make(6);
+  Put(61, "01 02 03 04 05 06 00 00 00 00 00 00 00 00 00 00");
+  Decode();
+  rec_->MuxLang(9);
+  rec_->MultiDwell(8);
+  const TimeOfDay now{23, 58, 57};
+  env_.blocks.AddBlk(60);
+  EncodeModifiedBlocks(image_, env_, *rec_, &now);
+  EXPECT_EQ(image_.Block(60)[4], 9);
+  EXPECT_EQ(image_.Block(59)[4], 0);
+  EXPECT_EQ(rec_->TDInfo.CurrentHour(), 1);
+  env_.blocks.AddBlk(61);
+  EncodeModifiedBlocks(image_, env_, *rec_);
+  EXPECT_EQ(image_.Block(61)[0], 1);
+  EncodeModifiedBlocks(image_, env_, *rec_, &now);
+  EXPECT_EQ(Hex(61), "17 3a 39 04 05 06 00 00 00 00 00 00 00 00 00 00");
+  EXPECT_EQ(rec_->TDInfo.CurrentMin(), 58);
+  EXPECT_EQ(env_.blocks.BlkSavIdx(), 2);
+}
+
+TEST_F(Codec, TurboMarksTurnRatesOf0Into99) {
+  Make(6, 10);
+  Put(62, "00 00 07 00 00 00 00 00 00 00 00 00 00 00 00 00");
+  Put(58, "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00");
+  Put(63, "00 00 00 00 00 00 00 00 00 14 00 00 00 00 00 00");
+  const std::string marks = "01 05 06 02 00 00 03 01 00 00 00 00 00 00 00 00";
+  Put(219, marks);  // camera 10, in byte 2, is none of the device's
+  Decode();
+  Encode(219);
+  EXPECT_EQ(Hex(219), marks);
+  EXPECT_EQ(Rewritten(62), "63 00 07 00 00 00 00 00 00 63 00 00 00 00 00 00");
+  EXPECT_EQ(Rewritten(58), "00 63 00 00 00 00 00 00 00 00 00 00 00 00 00 00");
+  EXPECT_EQ(Rewritten(63), "00 00 00 00 00 00 00 00 63 14 00 00 00 00 00 00");
+  EXPECT_EQ(Rewritten(59), "00 00 00 00 00 00 00 63 00 00 00 00 00 01 00 00");
+  image_.Block(59)[7] = 5;
+  Decode();
+  EXPECT_EQ(rec_->Alarm_Rec_Index(), 5);
+  image_.Block(59)[7] = 0;
+  image_.Block(219)[7] = 2;
+  Decode();
+  EXPECT_EQ(rec_->Alarm_Rec_Index(), 0);
+  EXPECT_EQ(rec_->Rec120sp(), 1);
+  image_.Block(1)[15] = 218;  // Rec120sp is of the image, whether it holds block 219 or not
+  Decode();
+  EXPECT_EQ(rec_->Rec120sp(), 0);
 }
 
 TEST_F(Codec, QualityNibblesAreRepairedInTheImageToo) {
   Make(6);
   image_.Block(45)[13] = 1;
   image_.Block(44)[8] = 0xC3;
+  image_.Block(44)[15] = 0x79;
   Decode();
   EXPECT_EQ(rec_->CamInfo(0)->Compress(), 3);
   EXPECT_EQ(rec_->CamInfo(1)->Compress(), 8);
   EXPECT_EQ(image_.Block(44)[8], 0x83);
+  EXPECT_EQ(Rewritten(44), "00 00 00 00 00 00 00 00 83 00 00 00 00 00 00 78");
 }
 
-TEST_F(Codec, EncodesLiterally) {
-  Make(6, 4);
-  for (int block : {2, 33, 47, 59, 149}) {
-    for (Byte& byte : image_.Block(block)) byte = 0xEE;
+TEST_F(Codec, TitlesAreTrimmedPaddedAndCut) {
+  const struct {
+    const char* title;
+    const char* bytes;
+  } titles[] = {{"Lobby", "4c 6f 62 62 79 20 20 20 20 20 20 20 20 ee ee ee"},
+                {"A title of twenty ch", "41 20 74 69 74 6c 65 20 6f 66 20 74 77 ee ee ee"},
+                {"", "20 20 20 20 20 20 20 20 20 20 20 20 20 ee ee ee"}};
+  Make(6, 15);
+  for (const auto& it : titles) {
+    rec_->CamInfo(14)->title(it.title);
+    EXPECT_EQ(Rewritten(15), it.bytes);
   }
-  rec_->CamInfo(1)->title("Lobby");
-  for (int c = 0; c < 4; ++c) rec_->CamInfo(c)->disable(c == 2);
-  rec_->AlarmInfo(3)->Enable(1);
-  rec_->CamInfo(2)->SignalGain(25);
-  rec_->CamInfo(3)->TextPos(2);
-  for (int i = 0; i < 5; ++i) rec_->TitleDisplay(i, 1);
-  rec_->PreAlDuration(3);
-  for (int block : {2, 33, 47, 59, 149}) Encode(block);
-  EXPECT_EQ(Hex(2), "4c 6f 62 62 79 20 20 20 20 20 20 20 20 ee ee ee");
-  EXPECT_EQ(Hex(33), "08 00 ee ee 00 00 ee ee 00 00 ee ee 0b 00 ee ee");
-  EXPECT_EQ(Hex(47), "00 00 19 00 ee ee ee ee ee ee ee ee ee ee ee ee");
-  EXPECT_EQ(Hex(59), "00 00 00 00 00 00 00 00 03 00 00 00 00 03 00 00");
-  EXPECT_EQ(Hex(149), "00 ee ee ee ee ee ee ee 80 ee ee ee ee ee ee ee");
-}
-
-TEST_F(Codec, LongTitlesAreCutAndOnlyTheirThirteenBytesWritten) {
-  Make(6);
-  rec_->CamInfo(15)->title("A title of twenty ch");
-  Encode(16);
-  EXPECT_EQ(Hex(16), "41 20 74 69 74 6c 65 20 6f 66 20 74 77 00 00 00");
+  const std::string of_a_default_image = "43 61 6d 65 72 61 20 30 31 20 20 20 00 ee ee ee";
+  Put(1, "20 20 41 20 42 20 20 20 20 20 20 20 20 00 00 e1");
+  Put(2, of_a_default_image);
+  Put(16, "4e 6f 20 63 61 6d 65 72 61 20 20 20 20 00 00 00");
+  Decode();
+  EXPECT_EQ(rec_->CamInfo(0)->title(), "A B");
+  EXPECT_EQ(rec_->CamInfo(1)->title(), std::string("Camera 01   \0", 13));
+  EXPECT_EQ(rec_->AllCameras()[15].title(), "");
+  EXPECT_EQ(Rewritten(2), of_a_default_image);
 }
 
 TEST_F(Codec, ReadOnlyBlocksAndBlocksBeyondTheImageStay) {
@@ -197,30 +194,6 @@ TEST_F(Codec, IdentityAndRecorderKind) {
   image_.Block(182)[8] = 7;
   Decode();
   EXPECT_EQ(env_.identity.RecorderKind, 7);
-}
-
-TEST_F(Codec, DecodeEncodeDecodeKeepsEverySetting) {
-  std::mt19937 random(20);
-  for (int code = 0; code <= 21; ++code) {
-    for (const int cameras : {0, 1, 4, 9, 10, 16}) {
-      Make(static_cast<Byte>(code), static_cast<Byte>(cameras));
-      for (int block = 1; block <= 225; ++block) {
-        if (block == 185) continue;
-        for (std::size_t i = 0; i < 15; ++i) image_.Block(block)[i] = static_cast<Byte>(random());
-      }
-      // A year byte of 160 and more means a year that two digits cannot say.
-      image_.Block(61)[5] = static_cast<Byte>(random() % 160);
-      if (env_.identity.MatrixModel == 0) {  // monitors C to E: read, but only a matrix has them
-        image_.Block(59)[0] &= 3;
-        image_.Block(59)[8] &= 3;
-      }
-      Decode();
-      for (int block = 1; block <= 225; ++block) Encode(block);
-      const auto second = std::make_unique<MuxData>(env_);
-      DecodeImage(image_, env_, *second);
-      EXPECT_TRUE(*second == *rec_) << "code " << code << ", cameras " << cameras;
-    }
-  }
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
+#include <stdexcept>
 #include <vector>
 
 #include "core/record/mux_data.h"
@@ -31,89 +31,38 @@ TEST(ModifiedBlocks, DistinctInOrderOfFirstChange) {
   EXPECT_EQ(list.BlkSavIdx(), 255);
 }
 
-struct TrackingCase {
-  const char* what;
-  CommitFlag flag;
-  Byte model_code;
-  std::function<void(MuxData&)> change;
-  std::vector<int> listed;
-};
-
-TEST(Record, SettersListTheirBlockUnderTheirFlag) {
-  const TrackingCase cases[] = {
-      {"a plain setting", CommitMenu, 6, [](MuxData& r) { r.MuxLang(3); }, {60}},
-      {"the value it has", CommitMenu, 6, [](MuxData& r) { r.MuxLang(0); }, {}},
-      {"another editor's flag", CommitCamera, 6, [](MuxData& r) { r.AlarmMode(2); }, {}},
-      {"another editor's flag in a camera",
-       CommitCamera,
-       6,
-       [](MuxData& r) { r.CamInfo(0)->Sensitivity(4); },
-       {}},
-      {"buzzers",
-       CommitAlarm,
-       6,
-       [](MuxData& r) {
-         r.Buzzer(4, 1);
-         r.Buzzer(3, 1);
-         r.Buzzer(5, 1);
-       },
-       {48, 61}},
-      {"auto delete on a triplex", CommitRecord, 6, [](MuxData& r) { r.PlayRecLnk(7); }, {60}},
-      {"auto delete on a duplex", CommitRecord, 5, [](MuxData& r) { r.PlayRecLnk(7); }, {}},
-      {"play/record link on a multiplexer",
-       CommitMacro,
-       0,
-       [](MuxData& r) { r.PlayRecLnk(1); },
-       {60}},
-      {"playback dwell on a multiplexer",
-       CommitSequence,
-       0,
-       [](MuxData& r) { r.PlayDwell(4); },
-       {61}},
-      {"playback dwell on a DVR", CommitSequence, 1, [](MuxData& r) { r.PlayDwell(4); }, {}},
-      {"never tracked",
-       CommitRecord,
-       0,
-       [](MuxData& r) {
-         r.RecSeqLst(0, 1);
-         r.Normal_Rec_Index(3);
-         r.CamInfo(0)->title("X");
-       },
-       {}},
-      {"associated camera",
-       CommitRecord,
-       6,
-       [](MuxData& r) { r.CamEvent(3)->EvAssociated(2, 1); },
-       {216}},
-      {"relay of a camera and of an alarm",
-       CommitMotion,
-       6,
-       [](MuxData& r) {
-         r.CamInfo(1)->Relay(1);
-         r.AlmActionInfo(1)->Relay(1);
-       },
-       {149}},
-      {"timed macro 5", CommitMacro, 6, [](MuxData& r) { r.TimeMacroInfo(5)->Hour(3); }, {65}},
-      {"submacro of camera 9",
-       CommitMacro,
-       6,
-       [](MuxData& r) { r.SubMacroInfo(8)->SMacroLen(12); },
-       {77}},
-      {"record timer 7", CommitRecord, 6, [](MuxData& r) { r.MRecTimer(7)->RTvalid(1); }, {198}},
+TEST(Record, DisplaysOfMonitorsCToEListABlockThatHasNoByteForThem) {
+  RecordEnvironment env;
+  clsMatrix matrix(env);
+  const auto listed_under = [&](CommitFlag flag, auto change) {
+    env.blocks.BlkSavIdx(0);
+    const CommitScope scope(env.commit, flag);
+    change();
+    return Listed(env.blocks);
   };
-  for (const TrackingCase& it : cases) {
-    SCOPED_TRACE(it.what);
-    RecordEnvironment env;
-    env.identity.MaxCam = 16;
-    SetModelFlags(env.identity, it.model_code);
-    const auto record = std::make_unique<MuxData>(env);
-    {
-      const CommitScope scope(env.commit, it.flag);
-      it.change(*record);
-    }
-    EXPECT_EQ(Listed(env.blocks), it.listed);
-    EXPECT_FALSE(env.commit.Raised(it.flag));
+  EXPECT_EQ(listed_under(CommitCamera, [&] { matrix.TDDspCDE(1); }), (std::vector<int>{}));
+  EXPECT_EQ(listed_under(CommitTimeDate, [&] { matrix.TDDspCDE(2); }), (std::vector<int>{59}));
+  EXPECT_EQ(listed_under(CommitTimeDate, [&] { matrix.TitleDspCDE(1); }), (std::vector<int>{}));
+  EXPECT_EQ(listed_under(CommitCamera, [&] { matrix.TitleDspCDE(2); }), (std::vector<int>{59}));
+}
+
+TEST(Record, CommitFlagsFallWithTheirScopeAndWithFillData) {
+  RecordEnvironment env;
+  MuxData record(env);
+  try {
+    const CommitScope scope(env.commit, CommitMenu);
+    EXPECT_TRUE(env.commit.Raised(CommitMenu));
+    throw std::runtime_error("an editor fails while it commits");
+  } catch (const std::runtime_error&) {
+    EXPECT_FALSE(env.commit.Raised(CommitMenu));
   }
+  for (int flag = 0; flag < kCommitFlagCount; ++flag) {
+    env.commit.Set(static_cast<CommitFlag>(flag), true);
+  }
+  record.FillData();
+  record.MuxLang(3);
+  record.NetworkAddr(3);
+  EXPECT_EQ(Listed(env.blocks), (std::vector<int>{}));
 }
 
 TEST(Record, IndicesOutOfRange) {
@@ -125,6 +74,15 @@ TEST(Record, IndicesOutOfRange) {
   EXPECT_NE(record->CamInfo(7), nullptr);
   EXPECT_EQ(record->TimeMacroInfo(20), nullptr);
   EXPECT_EQ(record->MRecTimer(10), nullptr);
+  env.commit.Set(CommitAlarm, true);
+  record->Buzzer(5, 1);
+  EXPECT_EQ(record->Buzzer(5), 0);
+  EXPECT_EQ(Listed(env.blocks), (std::vector<int>{}));
+  clsSubMacro& script = *record->SubMacroInfo(3);
+  script.SetSubMacroIdx(16);
+  EXPECT_EQ(script.Index(), 3);
+  script.SMacroLen(12);
+  EXPECT_EQ(script.SMacroLen(), 10);
   Cameras& camera = *record->CamInfo(0);
   camera.ActGrid(32, 9);
   EXPECT_EQ(camera.ActGrid(32), 0);

@@ -1,0 +1,28 @@
+#include "bench/ratio_reporter.h"
+
+#include <cstdio>
+
+namespace quorvel::bench {
+
+void RatioReporter::ReportRuns(const std::vector<Run>& reports) {
+  for (const Run& run : reports) {
+    if (run.run_type == Run::RT_Aggregate && run.aggregate_name == kStatistic)
+      nanoseconds_[run.run_name.function_name] = run.GetAdjustedCPUTime();
+  }
+  ConsoleReporter::ReportRuns(reports);
+}
+
+void RatioReporter::PrintRatio(const std::string& name, std::optional<double> bar,
+                               std::optional<double> goal) const {
+  const auto ours = nanoseconds_.find(name);
+  const auto flat = nanoseconds_.find("flat_" + name);
+  if (ours == nanoseconds_.end() || flat == nanoseconds_.end()) return;
+  const double ratio = ours->second / flat->second;
+  std::printf("%-14s %6.0f ns, flat %6.0f ns: %.2f times", name.c_str(), ours->second, flat->second,
+              ratio);
+  if (bar) std::printf(" (%s the bar of %.1f)", ratio <= *bar ? "within" : "OVER", *bar);
+  if (goal) std::printf(" (%s the goal of %.1f)", ratio <= *goal ? "within" : "over", *goal);
+  std::printf("\n");
+}
+
+}  // namespace quorvel::bench
