@@ -20,6 +20,9 @@ inline constexpr int kBlockCountByte = 15;
 /// The identity block: cameras, model code, model name.
 inline constexpr int kIdentityBlock = 185;
 
+/// Video loss and identity: blocks that only the device writes.
+constexpr bool IsDeviceBlock(int n) { return n == 182 || n == kIdentityBlock; }
+
 /// The device's configuration as numbered 16-byte blocks, block 1 first, without gaps.
 class BlockImage {
  public:
@@ -36,6 +39,9 @@ class BlockImage {
   [[nodiscard]] std::size_t Size() const { return bytes_.size(); }
   /// True when all 16 bytes of block `n` (from 1) are here.
   [[nodiscard]] bool Holds(int n) const;
+
+  /// True when block `n` is here and within the image's own count: bytes beyond it are nobody's.
+  [[nodiscard]] bool Counts(int n) const { return Holds(n) && n <= BlkCount(); }
 
   /// The 16 bytes of block `n`; throws ImageError when the image does not hold it.
   [[nodiscard]] std::span<Byte, kBlockSize> Block(int n);

@@ -123,18 +123,27 @@ std::string Where(const Place& first, const Place& last) {
 /// The rows of every block, from a survey and the settings that the encoder writes.
 std::map<int, Rows> RowsOf(const std::vector<Place>& places,
                            const std::set<std::pair<int, std::string>>& written) {
-  std::map<int, Rows> rows;
+  const auto is_written = [&written](const Place& place) {
+    return written.count({place.block, place.name}) != 0;
+  };
+  std::map<int, std::vector<std::pair<int, Row>>> sorted;  // by block: byte and row
   for (auto first = places.begin(); first != places.end();) {
-    const auto last =
-        std::find_if(first, places.end(),
-                     [&first](const Place& place) {
-                       return place.word != first->word || place.block != first->block;
-                     }) -
-        1;
-    const bool is_written = written.count({first->block, first->name}) != 0;
-    rows[first->block].push_back({Where(*first, *last), "`" + NameRange(first->name, last->name) +
-                                                            "`" + Remark(*first, is_written)});
-    first = last + 1;
+    const auto next = std::find_if(first, places.end(), [&](const Place& place) {
+      return place.word != first->word || place.block != first->block ||
+             is_written(place) != is_written(*first);
+    });
+    const Place& last = *(next - 1);
+    sorted[first->block].push_back(
+        {first->at,
+         {Where(*first, last),
+          "`" + NameRange(first->name, last.name) + "`" + Remark(*first, is_written(*first))}});
+    first = next;
+  }
+  std::map<int, Rows> rows;
+  for (auto& [block, list] : sorted) {
+    std::stable_sort(list.begin(), list.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (auto& [at, row] : list) rows[block].push_back(std::move(row));
   }
   return rows;
 }
@@ -146,8 +155,7 @@ std::map<int, Rows> RowsOf(const Family& family) {
   const auto rec = std::make_unique<MuxData>(env);
   std::set<std::pair<int, std::string>> written;
   for (const Place& place : SurveyRecord(*rec, env.identity, kMostBlocks, Direction::kWritten)) {
-    const bool device_block = place.block == 182 || place.block == kIdentityBlock;
-    if (!device_block) written.insert({place.block, place.name});
+    if (!IsDeviceBlock(place.block)) written.insert({place.block, place.name});
   }
   auto rows = RowsOf(SurveyRecord(*rec, env.identity, kMostBlocks), written);
   // Where a device has the extra quality feature, it packs its qualities differently.
@@ -256,13 +264,21 @@ std::string BlockMapMarkdown() {
       "Which block holds which setting, made from the block layouts by `scripts/block-map`: do not "
       "edit.\n\n"
       "Block n is at bytes (n - 1) * 16 to (n - 1) * 16 + 15 of an image. Bytes count from 0 in "
-      "the "
-      "block,\nbits from 0, the least significant. A setting of every camera, alarm input or entry "
-      "has its 0-based\nindex in brackets; several to a byte start at the low bits. Shown are 16 "
-      "cameras: a device with fewer\nuses the first ones, except where all 16 are always kept "
-      "(blocks 52, 54, 56 to 58, 62, 63 and 214 to\n216 of recorders). Numbers of two bytes have "
-      "the most significant first. Blocks that are not listed\ncarry no setting. Where a table "
-      "names model families (with their model codes), other families do\nnot have it.\n";
+      "the block,\nbits from 0, the least significant. A setting of every camera, alarm input or "
+      "entry has its 0-based\nindex in brackets; several to a byte start at the low bits. Shown "
+      "are "
+      "16 cameras: a device with fewer\nuses the first ones, except in blocks 52, 54, 56 to 58, "
+      "62, "
+      "63 and 214 to 216, which always hold 16.\nWhere a table names model families (with their "
+      "model codes), other families do not have it. Blocks\nthat are not listed carry no "
+      "setting.\n\n"
+      "Numbers of two bytes have the most significant first. A flag in a byte of its own (blocks "
+      "59 and 60)\nis true for 1 only. Titles are padded with blanks; other texts end at their "
+      "first "
+      "zero byte. A year\nbyte counts from 2000 below 60, else from 1900. An event type is 0 "
+      "when bit 6 is 0, else 2 when bit 7\nis 1, else 1. The activity grid of camera c is in "
+      "blocks "
+      "85 + 2c and 86 + 2c.\n";
   for (const BlockEntry& entry : Grouped(AllBlocks())) Print(out, entry, all_families);
   return out;
 }

@@ -11,7 +11,6 @@ namespace quorvel {
 namespace {
 
 constexpr int kClockBlock = 61;
-constexpr int kVideoLossBlock = 182;
 
 using BlockSet = std::bitset<256>;
 
@@ -42,10 +41,9 @@ class ImageWalk {
 };
 
 void EncodeBlocks(const BlockSet& blocks, BlockImage& image, RecordEnvironment& env, MuxData& rec) {
-  // Video loss and identity are the device's own.
   const auto wanted = [&](int number) {
-    return blocks[static_cast<std::size_t>(number)] && number != kVideoLossBlock &&
-           number != kIdentityBlock && image.Holds(number);
+    return blocks[static_cast<std::size_t>(number)] && !IsDeviceBlock(number) &&
+           image.Counts(number);
   };
   ImageWalk<layout::WritingPass, decltype(wanted)> walk(image, env.identity.MaxCam, wanted);
   layout::DescribeBlocks(walk, rec, env.identity);

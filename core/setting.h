@@ -97,7 +97,9 @@ struct Minutes : NoUnit {
 namespace setting_detail {
 
 /// Finds a setting's owner by its distance, at 2 bytes a setting. A record has some 900 settings,
-/// and a pointer in each would be most of what a fresh record costs.
+/// and a pointer in each would be most of what a fresh record costs. Settings are members of their
+/// owner, and SettingOwner is the owner's first and only base. Stepping from the member back to the
+/// object around it is deliberate.
 class OwnerLink {
  public:
   OwnerLink(const void* setting, const SettingOwner& owner)

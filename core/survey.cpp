@@ -5,6 +5,7 @@
 #include <cctype>
 #include <cstdio>
 #include <map>
+#include <set>
 
 #include "core/layout/blocks.h"
 
@@ -78,15 +79,28 @@ char Lower(char letter) {
   return static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
 }
 
+/// Matches a pattern with "*" and "?". Only the last "*" is ever taken back, so the time grows with
+/// the lengths and not with the number of stars.
 bool Fits(std::string_view name, std::string_view pattern) {
-  if (pattern.empty()) return name.empty();
-  if (pattern.front() == '*') {
-    const auto rest = pattern.substr(1);
-    return Fits(name, rest) || (!name.empty() && Fits(name.substr(1), pattern));
+  std::size_t n = 0;
+  std::size_t p = 0;
+  std::size_t star = std::string_view::npos;
+  std::size_t after_star = 0;
+  while (n < name.size()) {
+    if (p < pattern.size() && pattern[p] == '*') {
+      star = p++;
+      after_star = n;
+    } else if (p < pattern.size() && (pattern[p] == '?' || Lower(pattern[p]) == Lower(name[n]))) {
+      ++p;
+      ++n;
+    } else if (star != std::string_view::npos) {
+      p = star + 1;
+      n = ++after_star;
+    } else {
+      return false;
+    }
   }
-  if (name.empty()) return false;
-  const bool same = pattern.front() == '?' || Lower(pattern.front()) == Lower(name.front());
-  return same && Fits(name.substr(1), pattern.substr(1));
+  return pattern.find_first_not_of('*', p) == std::string_view::npos;
 }
 
 std::string WholePattern(std::string_view pattern) {
@@ -113,7 +127,7 @@ std::vector<std::string> FindOverlaps(const std::vector<Place>& places) {
   std::vector<std::vector<const Place*>> claims(std::size_t{256} *
                                                 kBlockSize);  // by block and byte
   for (const Place& place : places) {
-    if (place.role == Place::Role::kMark || place.role == Place::Role::kElsewhere) continue;
+    if (place.role == Place::Role::kElsewhere) continue;
     for (int at = place.at; at < place.at + place.length; ++at) {
       const auto byte = static_cast<unsigned>(place.block * kBlockSize + at);
       auto& others = claims.at(byte);
@@ -140,25 +154,51 @@ std::vector<SettingLine> ListSettings(MuxData& rec, const Identity& id, int bloc
   return lines;
 }
 
+std::vector<Place> Locate(MuxData& rec, const Identity& id, int blocks, std::string_view name) {
+  std::vector<Place> places = SurveyRecord(rec, id, blocks);
+  std::erase_if(places, [name](const Place& place) { return place.name != name; });
+  return places;
+}
+
+namespace {
+
+/// What a configuration holds under one name, and every block that has a part in it.
+struct Holding {
+  std::string value;
+  std::set<Byte> blocks;
+};
+
+std::map<std::string, Holding> HoldingsOf(const Configuration& configuration) {
+  std::map<std::string, Holding> holdings;
+  for (const Place& place :
+       SurveyRecord(configuration.rec, configuration.id, configuration.blocks)) {
+    if (!IsSetting(place) && place.role != Place::Role::kMark) continue;
+    Holding& holding = holdings[place.name];
+    holding.value = place.value;
+    holding.blocks.insert(static_cast<Byte>(place.block));
+  }
+  return holdings;
+}
+
+}  // namespace
+
 std::vector<SettingDifference> CompareConfigurations(const Configuration& one,
                                                      const Configuration& other) {
-  std::map<std::string, Place> others;
-  for (Place& place : SurveyRecord(other.rec, other.id, other.blocks)) {
-    if (IsSetting(place)) others.emplace(place.name, std::move(place));
-  }
+  auto others = HoldingsOf(other);
   std::vector<SettingDifference> differences;
-  for (const Place& place : SurveyRecord(one.rec, one.id, one.blocks)) {
-    if (!IsSetting(place)) continue;
-    const auto found = others.find(place.name);
-    const std::string value = found == others.end() ? "" : found->second.value;
-    if (value != place.value) {
-      differences.push_back({place.name, place.value, value, {static_cast<Byte>(place.block)}});
-    }
-    if (found != others.end()) others.erase(found);
+  const auto add = [&differences](const std::string& name, const Holding& mine,
+                                  const Holding& theirs) {
+    std::set<Byte> blocks = mine.blocks;
+    blocks.insert(theirs.blocks.begin(), theirs.blocks.end());
+    differences.push_back({name, mine.value, theirs.value, {blocks.begin(), blocks.end()}});
+  };
+  for (const auto& [name, mine] : HoldingsOf(one)) {
+    const auto theirs = others.extract(name);
+    const Holding none;
+    const Holding& it = theirs.empty() ? none : theirs.mapped();
+    if (it.value != mine.value) add(name, mine, it);
   }
-  for (const auto& [name, place] : others) {
-    differences.push_back({name, "", place.value, {static_cast<Byte>(place.block)}});
-  }
+  for (const auto& [name, theirs] : others) add(name, {}, theirs);
   std::stable_sort(differences.begin(), differences.end(), [](const auto& a, const auto& b) {
     return a.blocks.front() < b.blocks.front();
   });

@@ -18,8 +18,13 @@ enum class Direction { kRead, kWritten };
 [[nodiscard]] std::vector<layout::Place> SurveyRecord(MuxData& rec, Identity id, int blocks,
                                                       Direction direction = Direction::kRead);
 
-/// Bits that two settings of a survey claim both, as "block 45 byte 13: A and B"; none is right.
-/// Marks and settings kept elsewhere share bits by design.
+/// Every place of the setting of that name: where it is kept, and where the device marks it.
+[[nodiscard]] std::vector<layout::Place> Locate(MuxData& rec, const Identity& id, int blocks,
+                                                std::string_view name);
+
+/// Bits that two settings of a survey claim both, as "block 45 byte 13: A and B"; none is right. A
+/// setting that another block's layout depends on may share its byte: on codes 1 to 5, byte 13 of
+/// block 45 is also an external alarm output.
 [[nodiscard]] std::vector<std::string> FindOverlaps(const std::vector<layout::Place>& places);
 
 /// The settings whose name fits `pattern`, by name and value, in block order. A pattern may hold

@@ -122,12 +122,17 @@ std::vector<SettingLine> Component::Settings(std::string_view pattern) {
   return ListSettings(context.Record(), context.env.identity, context.BlkImage.BlkCount(), pattern);
 }
 
-std::vector<SettingDifference> Component::DifferencesFrom(std::span<const Byte> image) {
+std::optional<std::vector<SettingDifference>> Component::DifferencesFrom(
+    std::span<const Byte> image) {
+  if (!context.ImageIsDecoded()) return std::nullopt;
   BlockImage other({image.begin(), image.end()});
   RecordEnvironment other_env;
   MuxData other_record(other_env);
-  DecodeImage(other, other_env, other_record);
-  if (!context.ImageIsDecoded()) return {};
+  try {
+    DecodeImage(other, other_env, other_record);
+  } catch (const ImageError&) {
+    return std::nullopt;
+  }
   return CompareConfigurations(
       {context.Record(), context.env.identity, context.BlkImage.BlkCount()},
       {other_record, other_env.identity, other.BlkCount()});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -42,7 +43,8 @@ class Component : public std::enable_shared_from_this<Component> {
   void FillComboInfo(std::span<const Byte> data);
   void FillDataBlk(std::span<const Byte> data);
   [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern);
-  [[nodiscard]] std::vector<SettingDifference> DifferencesFrom(std::span<const Byte> image);
+  [[nodiscard]] std::optional<std::vector<SettingDifference>> DifferencesFrom(
+      std::span<const Byte> image);
   void TriggerUploadTimer() { upload_.TriggerTimer(); }
 
   Context context;

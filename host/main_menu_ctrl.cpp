@@ -121,9 +121,9 @@ std::vector<SettingLine> MainMenuCtrl::Settings(std::string_view pattern) const 
   return lines;
 }
 
-std::vector<SettingDifference> MainMenuCtrl::DifferencesFrom(
+std::optional<std::vector<SettingDifference>> MainMenuCtrl::DifferencesFrom(
     std::span<const std::uint8_t> image) const {
-  std::vector<SettingDifference> differences;
+  std::optional<std::vector<SettingDifference>> differences;
   component_->Call("DifferencesFrom", [&] { differences = component_->DifferencesFrom(image); });
   return differences;
 }

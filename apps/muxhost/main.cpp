@@ -62,7 +62,8 @@ int main(int argc, char** argv) {
   app.add_flag("--echo", echo, "Print each command of the script before it runs")
       ->needs(script_option);
   bool block_map = false;
-  app.add_flag("--block-map", block_map, "Print which block holds which setting, and exit");
+  app.add_flag("--block-map", block_map, "Print which block holds which setting, and exit")
+      ->excludes(script_option);
   CLI11_PARSE(app, argc, argv);
 
   try {

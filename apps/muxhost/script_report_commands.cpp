@@ -58,8 +58,13 @@ void Diff(Desk& desk, Words words) {
   const auto image = words.size() > 1 ? desk.platform.ReadFile(words[1])
                                       : std::vector<std::uint8_t>(device.begin(), device.end());
   const auto differences = desk.session.Control().DifferencesFrom(image);
-  if (differences.empty()) desk.out << "diff: none\n";
-  for (const SettingDifference& it : differences) {
+  if (!differences) {
+    throw ScriptError(desk.session.Control().Settings().empty()
+                          ? "the component has no configuration"
+                          : "not a configuration image: " + words.back());
+  }
+  if (differences->empty()) desk.out << "diff: none\n";
+  for (const SettingDifference& it : *differences) {
     desk.out << it.name << ": " << (it.value.empty() ? "-" : it.value) << " instead of "
              << (it.other.empty() ? "-" : it.other) << ", block";
     for (const int block : it.blocks) desk.out << ' ' << block;

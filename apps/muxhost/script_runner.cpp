@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <istream>
 #include <ostream>
+#include <string_view>
 
 #include "apps/muxhost/script_commands.h"
 #include "apps/muxhost/script_parser.h"
@@ -29,6 +30,8 @@ bool ScriptRunner::Step() {
   std::string text;
   if (failure_ || !std::getline(in_, text)) return false;
   const int line = ++line_;  // lines inside a modal dialog move line_ on
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (line == 1 && text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
   try {
     RunLine(text);
   } catch (const std::exception& error) {

@@ -10,13 +10,14 @@ namespace quorvel::layout {
 template <class Pass>
 void TimedMacros(Pass& block, int first, MuxData& rec) {
   constexpr int kEntries = 4;
+  constexpr int kEntrySize = 4;
   constexpr int kDays = 9;
   constexpr int kHours = 24;
   constexpr int kMinutes = 59;  // as the device counts: minute 59 is not taken
   for (int j = 0; j < kEntries; ++j) {
     const auto entry = static_cast<unsigned>(first + j);
     auto& macro = rec.AllTimedMacros().at(entry);
-    const int at = j * kEntries;
+    const int at = j * kEntrySize;
     block.ByteBelow(kDays, at, macro.Day);
     block.ByteBelow(kHours, at + 1, macro.Hour);
     block.ByteBelow(kMinutes, at + 2, macro.Minute);

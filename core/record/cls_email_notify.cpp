@@ -48,8 +48,8 @@ void clsEmailNotify::PutEmailBlocks(int first_block, std::string_view text) {
   for (int i = 0; i < kBlocksPerHalf; ++i) {
     const BlockText piece(text);
     text.remove_prefix(std::string_view(piece).size());
-    // Blocks that become empty are not listed for that: devices read a half up to its first short
-    // block.
+    // Blocks that become empty are stored without listing them; the text before them lists the
+    // half.
     if (i > 0 && piece.empty()) {
       texts[*TextIndex(first_block + i)].Load(piece);
     } else {

@@ -4,6 +4,9 @@
 
 namespace quorvel {
 
+// Settings find their owner by a distance of 16 bits.
+static_assert(sizeof(MuxData) <= 0xFFFF);
+
 namespace {
 
 template <class Element, std::size_t N>

@@ -98,7 +98,7 @@ class MuxData : public SettingOwner {
   /// Monitors A to E: 1 shows titles.
   SettingArray<"TitleDisplay", Byte, 5, In<59, CommitCamera>> TitleDisplay{*this};
   Setting<"MultiDwell", Byte, In<59, CommitSequence>, Seconds> MultiDwell{*this};
-  Setting<"FullDwell", Byte, In<59, CommitSequence>, Seconds> FullDwell{*this};  ///< seconds
+  Setting<"FullDwell", Byte, In<59, CommitSequence>, Seconds> FullDwell{*this};
   Setting<"Normal_Rec_Index", Byte> Normal_Rec_Index{*this};
   Setting<"Alarm_Rec_Index", Byte, In<59, CommitRecord>> Alarm_Rec_Index{*this};
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -96,9 +97,9 @@ class MainMenuCtrl {
   /// an empty one gives all. Nothing before an image has arrived.
   [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern = {}) const;
   /// The settings that differ from those of `image`, with the blocks that carry them; `value` is
-  /// the control's, `other` the image's. An image that cannot be decoded is told in a message box
-  /// and gives nothing.
-  [[nodiscard]] std::vector<SettingDifference> DifferencesFrom(
+  /// the control's, `other` the image's. No answer when there is nothing to compare: no image has
+  /// arrived in the control, or `image` is not one that can be decoded.
+  [[nodiscard]] std::optional<std::vector<SettingDifference>> DifferencesFrom(
       std::span<const std::uint8_t> image) const;
   /// The configuration image as last received and encoded, block 1 first.
   [[nodiscard]] std::vector<std::uint8_t> Image() const;

@@ -10,6 +10,7 @@
 namespace quorvel {
 
 std::vector<std::uint8_t> ReadWholeFile(const std::string& path) {
+  if (std::filesystem::is_directory(path)) throw PlatformError("cannot read a folder: " + path);
   std::ifstream file(path, std::ios::binary);
   std::vector<char> bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
   if (!file.is_open() || file.bad()) throw PlatformError("cannot read " + path);

@@ -36,46 +36,31 @@ class AfterTrip {
     At(block, byte) = static_cast<Byte>(At(block, byte) & mask);
   }
 
-  // Bytes that pack several settings are rebuilt: bits of absent cameras and without meaning are 0.
-  void RebuildPackedBytes() {
-    const bool has_nibbles = before_.Block(45)[13] != 0;
-    const struct {
-      int block, byte, bits;
-      bool here = true;
-    } fields[] = {{33, 0, 1},
-                  {33, 4, 1},
-                  {33, 8, 1},
-                  {33, 12, 1},
-                  {44, 0, 2},
-                  {48, 0, 1},
-                  {48, 4, 1},
-                  {48, 8, 1},
-                  {49, 0, 1},
-                  {49, 4, 1},
-                  {49, 8, 1},
-                  {50, 0, 4},
-                  {51, 0, 2},
-                  {51, 8, 2},
-                  {61, 6, 1},
-                  {149, 0, 2},
-                  {149, 8, 2},
-                  {184, 0, 1},
-                  {184, 4, 1},
-                  {184, 8, 1, code_ >= 6},
-                  {47, 0, 4, code_ < 6},
-                  {45, 0, 2, IsMatrix()},
-                  {44, 8, 2, code_ != 0 && !has_nibbles},
-                  {44, 8, 4, code_ != 0 && has_nibbles}};
-    for (const auto& it : fields) {
-      if (!it.here) continue;
-      const int used = cameras_ * it.bits;
-      // Of 2-bit fields and nibbles only bytes with a camera are touched; bits fill two bytes.
-      const int bytes = it.bits == 1 ? 2 : (used + 7) / 8;
+  /// Clears what is beyond the last camera of a field a camera: two bytes of bits, or of 2-bit
+  /// fields and nibbles the rest of the last byte.
+  void ClearSpare(int block, std::initializer_list<int> places, int bits) {
+    const int used = cameras_ * bits;
+    const int bytes = bits == 1 ? 2 : (used + 7) / 8;
+    for (const int at : places) {
       for (int i = 0; i < bytes; ++i) {
-        const int left = std::clamp(used - 8 * i, 0, 8);
-        Keep(it.block, it.byte + i, (1U << left) - 1);
+        Keep(block, at + i, (1U << std::clamp(used - 8 * i, 0, 8)) - 1);
       }
     }
+  }
+
+  // Bytes that pack several settings are rebuilt: bits of absent cameras and without meaning are 0.
+  void RebuildPackedBytes() {
+    for (const int block : {48, 49}) ClearSpare(block, {0, 4, 8}, 1);
+    ClearSpare(33, {0, 4, 8, 12}, 1);
+    ClearSpare(61, {6}, 1);
+    ClearSpare(184, {0, 4}, 1);
+    if (code_ >= 6) ClearSpare(184, {8}, 1);
+    for (const int block : {51, 149}) ClearSpare(block, {0, 8}, 2);
+    if (IsMatrix()) ClearSpare(45, {0}, 2);
+    ClearSpare(50, {0}, 4);
+    if (code_ < 6) ClearSpare(47, {0}, 4);
+    ClearSpare(44, {0}, 2);
+    if (code_ != 0) ClearSpare(44, {8}, before_.Block(45)[13] != 0 ? 4 : 2);
     // Alarm relays fill bytes 0 to 3 and clear the four after them.
     for (int i = (cameras_ + 3) / 4; i < 8; ++i) At(44, i) = 0;
     if (code_ >= 6) Keep(45, 12, 0x1F);

@@ -60,7 +60,7 @@ TEST(Survey, FindsOverlaps) {
   bit.mask = 0x10;
   bit.name = "B";
   EXPECT_EQ(FindOverlaps({whole, bit}), std::vector<std::string>{"block 5 byte 4: A and B"});
-  bit.role = Place::Role::kMark;
+  bit.role = Place::Role::kElsewhere;
   EXPECT_TRUE(FindOverlaps({whole, bit}).empty());
 }
 
@@ -93,15 +93,14 @@ TEST(Survey, LocatesSettings) {
   RecordEnvironment env;
   const auto rec = std::make_unique<MuxData>(env);
   for (const WhereCase& it : cases) {
-    const auto places = SurveyRecord(*rec, IdentityOf(it.code, 16), 225);
-    const auto found = std::find_if(places.begin(), places.end(), [&it](const Place& place) {
-      return place.name == it.name && place.role == Place::Role::kSetting;
-    });
-    ASSERT_NE(found, places.end()) << it.name;
-    EXPECT_EQ(found->block, it.block) << it.name;
-    EXPECT_EQ(found->at, it.at) << it.name;
-    EXPECT_EQ(found->mask, it.mask) << it.name;
+    const auto places = Locate(*rec, IdentityOf(it.code, 16), 225, it.name);
+    ASSERT_EQ(places.size(), 1U) << it.name;
+    EXPECT_EQ(places[0].block, it.block) << it.name;
+    EXPECT_EQ(places[0].at, it.at) << it.name;
+    EXPECT_EQ(places[0].mask, it.mask) << it.name;
   }
+  EXPECT_EQ(Locate(*rec, IdentityOf(18, 16), 225, "CamEvent(1).TL_RRIndex").size(), 2U);
+  EXPECT_TRUE(Locate(*rec, IdentityOf(6, 16), 225, "VCRType").empty());
 }
 
 TEST(Survey, ListsSettingsInAnInstallersTerms) {
@@ -125,6 +124,7 @@ TEST(Survey, ListsSettingsInAnInstallersTerms) {
   EXPECT_TRUE(list("PlaybackFormat").empty());
   EXPECT_TRUE(list("BlkStrInit").empty());  // beyond block 200
   EXPECT_GT(list("").size(), 1000U);
+  EXPECT_TRUE(list(std::string(40, '*') + "#").empty());
 }
 
 TEST(Survey, ComparesConfigurations) {
@@ -139,14 +139,14 @@ TEST(Survey, ComparesConfigurations) {
             (std::vector<SettingDifference>{
                 {"CamInfo(4).title", "\"Gate\"", R"("Camera 05   \x00")", {5}},
                 {"CamInfo(15).covert", "yes", "no", {49}}}));
-  EXPECT_TRUE(host.control->DifferencesFrom({}).empty());
-  EXPECT_EQ(host.platform.TakeMessages().at(0).text, "Error found in DifferencesFrom");
+  EXPECT_EQ(host.control->DifferencesFrom({}), std::nullopt);
+  EXPECT_EQ(TestHost().control->DifferencesFrom(device), std::nullopt);
 
   BlockImage longer = host.device;
   longer.ResizeBlocks(201);
   longer.Block(1)[15] = 201;
   longer.Block(201)[0] = 'a';
-  const auto differences = host.control->DifferencesFrom(longer.Bytes());
+  const auto differences = host.control->DifferencesFrom(longer.Bytes()).value();
   ASSERT_EQ(differences.size(), 3U);
   EXPECT_EQ(differences[2],
             (SettingDifference{"AlmEmailNotify.BlkStrInit(201)", "", "\"a\"", {201}}));

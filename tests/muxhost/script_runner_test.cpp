@@ -29,6 +29,38 @@ void ExpectOutput(const std::string& script, const std::string& expected) {
   EXPECT_EQ(outcome.out, expected) << script;
 }
 
+TEST(ScriptRunner, ListsAndComparesSettings) {
+  const std::string odd = ::testing::TempDir() + "odd.bin";
+  std::ofstream(odd) << "odd";
+  ExpectOutput(R"(
+device model=6 cameras=4
+download
+settings multidwell
+settings nothing
+diff
+menu
+choose mnu_CSetup
+type m_CameraTitle(3) "Yard"
+click cmd_OK
+diff
+)",
+               R"(downloaded 225 blocks, 3600 bytes: Finished
+MultiDwell = 5 s
+settings: none
+diff: none
+menu is up
+opened frm_CameraSetup "Camera Setup"
+closed frm_CameraSetup
+menu is up
+CamInfo(3).title: "Yard" instead of "Camera 04   \x00", block 4
+)");
+  EXPECT_EQ(RunScript("diff").err, "line 1: the component has no configuration\n");
+  EXPECT_EQ(RunScript("download\ndiff " + odd).err,
+            "line 2: not a configuration image: " + odd + "\n");
+  EXPECT_EQ(RunScript("download\ndiff /no/such").err, "line 2: cannot read /no/such\n");
+  EXPECT_EQ(RunScript("\xEF\xBB\xBFmodified").status, 0);
+}
+
 TEST(ScriptRunner, CarriesAnEditToTheDevice) {
   ExpectOutput(R"(
 device model=6 cameras=16 blocks=225 variant=2 name="TX16"
