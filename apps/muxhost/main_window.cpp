@@ -4,7 +4,9 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
+#include <set>
 #include <stdexcept>
 
 #include "host/model_catalogue.h"
@@ -64,7 +66,8 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
   watch_.start(kWatchInterval);
   PlaceSurface();
   ShowLog();
-  resize(980, 600);
+  const QSize borders(16, 48);
+  resize(QSize(980, 600).boundedTo(screen()->availableSize() - borders));
 }
 
 MainWindow::~MainWindow() { session_.on_change = nullptr; }
@@ -92,7 +95,10 @@ QGroupBox* MainWindow::MakeControlBox() {
   for (QPushButton* const button : {download_, menu_, upload_}) row->addWidget(button);
   QObject::connect(download_, &QPushButton::clicked, this, [this] { Download(); });
   QObject::connect(menu_, &QPushButton::clicked, this, [this] { session_.OpenMenu(); });
-  QObject::connect(upload_, &QPushButton::clicked, this, [this] { session_.Upload(); });
+  QObject::connect(upload_, &QPushButton::clicked, this, [this] {
+    session_.Upload();
+    ShowState();
+  });
   return box;
 }
 
@@ -119,8 +125,20 @@ void MainWindow::PlaceSurface() {
   surface_place_->addWidget(surface_);
 }
 
+std::size_t MainWindow::UnsentBlocks() {
+  // The list of modified blocks does not tell: it outlives a send.
+  if (!loaded_) return 0;
+  std::set<std::uint8_t> blocks;
+  const auto differences = session_.Control().DifferencesFrom(session_.Device().Bytes());
+  if (!differences.has_value()) return session_.Control().ModifiedBlocks().size();
+  for (const SettingDifference& difference : *differences) {
+    blocks.insert(difference.blocks.begin(), difference.blocks.end());
+  }
+  return blocks.size();
+}
+
 bool MainWindow::MayLoseChanges(const QString& by) {
-  const auto changed = session_.Control().ModifiedBlocks().size();
+  const auto changed = UnsentBlocks();
   QString question;
   if (changed > 0) {
     question = QString("%1 changed %2 not been sent to the device. ")
@@ -172,8 +190,10 @@ void MainWindow::ShowState() {
   picker_->AllowConnect(idle, busy);
   download_->setEnabled(idle);
   download_->setToolTip(idle ? "Reads the device's configuration" : busy);
-  menu_->setEnabled(loaded_);
-  menu_->setToolTip(loaded_ ? "Opens the configuration menu" : missing);
+  // Beside an editor the menu opens; nothing does beside a dialog that locks the windows.
+  const bool locked = QApplication::activeModalWidget() != nullptr;
+  menu_->setEnabled(loaded_ && !locked);
+  menu_->setToolTip(!loaded_ ? missing : locked ? busy : "Opens the configuration menu");
   upload_->setEnabled(loaded_ && idle);
   upload_->setToolTip(!loaded_ ? missing : idle ? "Writes the configuration to the device" : busy);
 

@@ -35,6 +35,8 @@ class MainWindow : public QMainWindow {
 
   void Connect();
   void Download();
+  /// How many blocks the device holds differently from the control.
+  [[nodiscard]] std::size_t UnsentBlocks();
   /// Asks before changes are lost that the device has not got, or that are still in an editor; true
   /// when they may be.
   [[nodiscard]] bool MayLoseChanges(const QString& by);

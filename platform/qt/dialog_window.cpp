@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 #include "platform/qt/looks.h"
@@ -88,10 +89,23 @@ void DialogWindow::Present(const QWidget* over) {
     place.moveRight(std::min(place.right(), space.right()));
     place.moveBottom(std::min(place.bottom(), space.bottom()));
     move(std::max(place.left(), space.left()), std::max(place.top(), space.top()));
+    FocusInput();
   }
   show();
   raise();
   activateWindow();
+}
+
+void DialogWindow::FocusInput() {
+  for (QWidget* it = nextInFocusChain(); it != this; it = it->nextInFocusChain()) {
+    const bool takes_keys = (it->focusPolicy() & Qt::TabFocus) != 0 && it->focusProxy() == nullptr;
+    if (!takes_keys || !it->isEnabled() || !it->isVisibleTo(this)) continue;
+    if (qobject_cast<QTabBar*>(it) != nullptr || qobject_cast<QPushButton*>(it) != nullptr) {
+      continue;
+    }
+    it->setFocus(Qt::OtherFocusReason);
+    return;
+  }
 }
 
 void DialogWindow::Fit() {
@@ -134,8 +148,14 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   } else if (enter && (event->modifiers() & Qt::ControlModifier) != 0) {
     if (Button* const button = dialog_->DefaultButton()) PressKeyButton(button);
   } else if (enter) {
-    // Return presses the button that has the focus, and no other.
-    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) button->click();
+    // Return presses the button that has the focus, and another one only where nothing has it, as
+    // when all buttons were disabled at first.
+    const QWidget* const focus = focusWidget();
+    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) {
+      button->click();
+    } else if ((focus == nullptr || focus == this) && dialog_->DefaultButton() != nullptr) {
+      PressKeyButton(dialog_->DefaultButton());
+    }
   } else {
     QDialog::keyPressEvent(event);
   }

@@ -46,6 +46,8 @@ class DialogWindow : public QDialog, public WidgetView {
   /// Enlarges the window by what its contents have grown.
   void Fit();
   [[nodiscard]] QSize LargestSize() const;
+  /// Gives the focus to the first control that takes a person's input.
+  void FocusInput();
   void PressKeyButton(Button* button);
 
   Dialog* dialog_;

@@ -9,7 +9,7 @@
 
 namespace quorvel::qt {
 
-GridTable::GridTable(QWidget& parent, GridTexts& texts) : QTableView(&parent) {
+GridTable::GridTable(QWidget& parent, GridTexts& texts) : FocusShown(&parent) {
   constexpr int kRowPadding = 6;
   setModel(&texts);
   setSelectionMode(NoSelection);  // by the toolkit; the grid's own selection is drawn

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "platform/qt/focus_shown.h"
 #include "platform/qt/grid_texts.h"
 
 namespace quorvel::qt {
@@ -11,7 +12,7 @@ namespace quorvel::qt {
 /// The toolkit's table with a grid's way of selecting: one cell is current, and a range of rows in
 /// its column is selected. Rows are numbered as in the grid, from 1. The table reports what a
 /// person does; what is selected afterwards is for its view to tell.
-class GridTable : public QTableView {
+class GridTable : public FocusShown<QTableView> {
  public:
   GridTable(QWidget& parent, GridTexts& texts);
 

@@ -7,10 +7,16 @@
 
 namespace quorvel::qt {
 
-ChoiceList::ChoiceList(QWidget& parent) : QListWidget(&parent) {
+ChoiceList::ChoiceList(QWidget& parent) : FocusShown(&parent) {
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
-  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  // What stands below, as a button about to be clicked, stays in place when the list is shown.
+  policy.setRetainSizeWhenHidden(true);
+  setSizePolicy(policy);
+  // Below the last whole row.
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
 }
 
 void ChoiceList::FitItems() {
@@ -19,12 +25,38 @@ void ChoiceList::FitItems() {
   constexpr int kLeastRows = 4;
   constexpr int kMostRows = 14;
   const int frame = 2 * frameWidth();
-  const int row = std::max(sizeHintForRow(0), fontMetrics().height() + 2);
   const int width = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + frame + 4;
   const QSize hint(std::clamp(width, kLeastWidth, kMostWidth),
-                   row * std::clamp(count(), kLeastRows, kMostRows) + frame);
-  hint_ = hint_.expandedTo(hint);
+                   RowHeight() * std::clamp(count(), kLeastRows, kMostRows) + frame);
+  const bool on_screen = window()->isVisible() && !hint_.isEmpty();
+  hint_ = hint_.expandedTo(on_screen ? QSize(hint.width(), 0) : hint);
   updateGeometry();
+}
+
+int ChoiceList::RowHeight() const {
+  return std::max(sizeHintForRow(0), fontMetrics().height() + 2);
+}
+
+bool ChoiceList::InSight(int row) const {
+  const QRect place = visualItemRect(item(row));
+  return place.top() >= 0 && place.bottom() < viewport()->height();
+}
+
+void ChoiceList::ShowCurrent(int item) {
+  if (item == currentRow()) return;
+  const bool in_sight = item < 0 || item >= count() || InSight(item);
+  setCurrentRow(item);
+  if (!in_sight) scrollToItem(currentItem(), PositionAtCenter);
+}
+
+void ChoiceList::resizeEvent(QResizeEvent* event) {
+  QListWidget::resizeEvent(event);
+  const int rest = (viewport()->height() + viewportMargins().bottom()) % RowHeight();
+  if (rest != viewportMargins().bottom()) {
+    setViewportMargins(0, 0, 0, rest);
+  } else if (currentRow() >= 0 && !InSight(currentRow())) {
+    scrollToItem(currentItem(), PositionAtCenter);
+  }
 }
 
 QSize ChoiceList::sizeHint() const { return hint_; }
@@ -78,7 +110,7 @@ void ListBoxView::Draw(Aspect what) {
     for (const std::string& text : GetModel()->Items()) list.addItem(Shown(text));
     list.FitItems();
   }
-  list.setCurrentRow(GetModel()->Current());
+  list.ShowCurrent(GetModel()->Current());
 }
 
 }  // namespace quorvel::qt

@@ -4,31 +4,38 @@
 #include <functional>
 
 #include "platform/qt/control_view.h"
+#include "platform/qt/focus_shown.h"
 #include "quorvel/widgets/controls.h"
 
 namespace quorvel::qt {
 
 /// The toolkit's list with one signal of its own: a person picked an item, with the mouse or from
 /// the keyboard, be it the current one.
-class ChoiceList : public QListWidget {
+class ChoiceList : public FocusShown<QListWidget> {
  public:
   explicit ChoiceList(QWidget& parent);
   std::function<void(int)> on_choose;
 
-  /// Space for the items, up to a limit; grows only, so that a window does not jump about when
-  /// another set of items is shown.
+  /// Space for the items, up to a limit. It only grows, and once on screen not in height, so that
+  /// nothing jumps about when another set of items is shown.
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
   void FitItems();
+  /// Makes an item current; -1 for none.
+  void ShowCurrent(int item);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   [[nodiscard]] int SelectedRow() const;
+  [[nodiscard]] int RowHeight() const;
+  /// True when the whole height of the item is to be seen.
+  [[nodiscard]] bool InSight(int item) const;
   QSize hint_;
   bool pressed_ = false;
 };

@@ -17,6 +17,9 @@ QString DescribeFilter(const QString& filter) {
   return QStringLiteral("Files (%1)").arg(filter);
 }
 
+/// A filter in the place of a name would become a file that is called so.
+bool IsPattern(const QString& name) { return name.contains('*') || name.contains('?'); }
+
 }  // namespace
 
 bool AskMessage(const Message& message, const QWidget* over) {
@@ -37,19 +40,26 @@ std::optional<std::string> AskForFile(const FileRequest& request, QString& folde
                                       const QWidget* over) {
   const bool save = request.purpose == FileRequest::Purpose::kSave;
   QFileDialog dialog;
-  dialog.setWindowTitle(Shown(request.title));
+  if (!request.title.empty()) dialog.setWindowTitle(Shown(request.title));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.ask_before_overwriting);
   if (!request.filter.empty()) dialog.setNameFilter(DescribeFilter(Shown(request.filter)));
   dialog.setDefaultSuffix(Shown(request.default_extension));
   if (!folder.isEmpty()) dialog.setDirectory(folder);
-  if (!request.default_name.empty()) dialog.selectFile(Shown(request.default_name));
+  const QString proposed = Shown(request.default_name);
+  if (!proposed.isEmpty() && !IsPattern(proposed)) dialog.selectFile(proposed);
   KeepInFrontOf(dialog, over);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  const QString path = dialog.selectedFiles().front();
-  folder = QFileInfo(path).absolutePath();
-  return Stored(path);
+  while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+    const QFileInfo file(dialog.selectedFiles().front());
+    if (!IsPattern(file.fileName())) {
+      folder = file.absolutePath();
+      return Stored(dialog.selectedFiles().front());
+    }
+    QMessageBox::warning(nullptr, dialog.windowTitle(),
+                         QStringLiteral("The name of a file cannot contain * or ?."));
+  }
+  return std::nullopt;
 }
 
 }  // namespace quorvel::qt

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -24,10 +25,25 @@ class LabelView : public ViewOf<Label, QLabel> {
   void Draw(Aspect) override { GetBody()->setText(Shown(GetModel()->Caption())); }
 };
 
-class ButtonView : public ViewOf<Button, QPushButton> {
+/// A button whose arrow keys stay with it; in the toolkit they also lead into lists and grids,
+/// where the next one would change something.
+class DialogButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const int key = event->key();
+    const bool arrow =
+        key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+    if (!arrow) QPushButton::keyPressEvent(event);
+  }
+};
+
+class ButtonView : public ViewOf<Button, DialogButton> {
  public:
   ButtonView(VerbsUnderWay& verbs, Button& model, QWidget& parent)
-      : ViewOf(verbs, model, new QPushButton(&parent)) {
+      : ViewOf(verbs, model, new DialogButton(&parent)) {
     constexpr int kLeastWidth = 84;
     GetBody()->setAutoDefault(false);  // Return in a grid or list presses nothing
     GetBody()->setMinimumWidth(kLeastWidth);

@@ -19,11 +19,10 @@ class Notification : public Codec {
     return numbers;
   }
   std::vector<std::string> Texts(int first) {
-    std::vector<std::string> texts;
-    for (int i = 0; i < 3; ++i) {
-      texts.emplace_back(std::string_view(Notify().BlkStrInit(first + i)));
-    }
-    return texts;
+    const auto text = [this](int block) {
+      return std::string(std::string_view(Notify().BlkStrInit(block)));
+    };
+    return {text(first), text(first + 1), text(first + 2)};
   }
 };
 

@@ -220,7 +220,7 @@ void Trips(int count) {
 
 TEST(RoundTrip, ChangesNothingButWhatIsListed) { Trips(1104); }
 
-/// Run by name, in a release build, after changes to the codec.
+/// scripts/bench runs it, in a release build.
 TEST(RoundTrip, DISABLED_AMillionTimes) { Trips(1'000'000); }
 
 }  // namespace

@@ -89,10 +89,9 @@ class TrackingCheck {
   void Device(const char* /*name*/, Byte /*value*/) {}
   template <class Item>
   void Setting(int block, Item&& item) {
-    const auto old = item();
     if constexpr (requires { item.array; }) {
       Check(block, item, [&](auto value) { (*item.array)(item.index, value); });
-    } else if constexpr (requires { item(old); }) {
+    } else if constexpr (requires { item(item()); }) {
       Check(block, item, [&](auto value) { item(value); });
     }
   }

@@ -152,6 +152,34 @@ TEST_F(QtControls, LongListScrollsToWhatTheProgramSelects) {
   EXPECT_TRUE(list.selectedItems().isEmpty());
 }
 
+TEST_F(QtControls, ListShowsWholeRowsAndWhetherItHasTheFocus) {
+  dialog_->pages.SetCurrent(1);
+  Settle();
+  auto& list = Body<QListWidget>("lst_Action");
+  EXPECT_EQ(list.viewport()->height() % list.visualItemRect(list.item(0)).height(), 0);
+  dialog_->list.Select(50);
+  const QRect place = list.visualItemRect(list.item(50));
+  EXPECT_NEAR(place.center().y(), list.viewport()->height() / 2, place.height());
+
+  const auto colour = [&] {
+    return list.viewport()->grab().toImage().pixelColor(place.right() - 2, place.center().y());
+  };
+  auto& button = Body<QPushButton>("Cancel");
+  button.setFocus();
+  const QColor without = colour();
+  QTest::keyClick(&button, Qt::Key_Up);
+  EXPECT_TRUE(button.hasFocus());
+  list.setFocus();
+  EXPECT_NE(colour(), without);
+}
+
+TEST_F(QtControls, TextBoxIsCalledLikeTheLabelBeforeIt) {
+  dialog_->SetLayout(Row(dialog_->lbl_Title, dialog_->m_Title(2), dialog_->chk_Buzzer));
+  EXPECT_EQ(Body<QLineEdit>("R&D <b>title</b>").objectName(), "m_Title(2)");
+  dialog_->m_Title(2).SetEnabled(false);
+  EXPECT_FALSE(Body<QLineEdit>("R&D <b>title</b>").isEnabled());
+}
+
 TEST_F(QtControls, HiddenPagesAreOutOfReach) {
   auto& tabs = Body<QTabWidget>("SSTab1");
   dialog_->pages.SetPageVisible(1, false);

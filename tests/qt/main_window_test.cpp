@@ -38,7 +38,10 @@ class MuxhostWindow : public testing::Test {
   template <class QtWidget = QPushButton>
   [[nodiscard]] static QtWidget* Find(QWidget* in, const QString& text) {
     for (QtWidget* const widget : in->findChildren<QtWidget*>()) {
-      if (widget->property("text") == text || widget->accessibleName() == text) return widget;
+      if (widget->property("text") == text || widget->accessibleName() == text ||
+          widget->objectName() == text) {
+        return widget;
+      }
     }
     return nullptr;
   }
@@ -54,6 +57,17 @@ class MuxhostWindow : public testing::Test {
   void Download() {
     const WhenShown finish([] { return Press("OK"); });
     Button("Download").click();
+  }
+  void SendModified() {
+    const WhenShown send([] {
+      QWidget* const dialog = QApplication::activeModalWidget();
+      if (dialog == nullptr) return false;
+      Find<QRadioButton>(dialog, "Select modified blocks")->click();
+      return Press("START");
+    });
+    const WhenShown finish(
+        [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
+    Button("Upload").click();
   }
   QWidget& Editor(const char* item, const char* name) {
     Button("Menu").click();
@@ -98,17 +112,7 @@ TEST_F(MuxhostWindow, TitleTypedInTheEditorReachesTheDevice) {
   auto* const modified = Find<QListWidget>(&window_, "Modified blocks");
   ASSERT_EQ(modified->count(), 1);
 
-  {
-    const WhenShown send([] {
-      QWidget* const dialog = QApplication::activeModalWidget();
-      if (dialog == nullptr) return false;
-      Find<QRadioButton>(dialog, "Select modified blocks")->click();
-      return Press("START");
-    });
-    const WhenShown finish(
-        [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
-    Button("Upload").click();
-  }
+  SendModified();
   EXPECT_EQ(session_.LastExchange().blocks_written.size(), 1U);
   const auto changed = session_.Control().Image();
   EXPECT_TRUE(std::equal(changed.begin(), changed.end(), session_.Device().Bytes().begin(),
@@ -143,6 +147,15 @@ TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
     window_.close();
     EXPECT_EQ(window_.isVisible(), std::string(answer) == "Cancel");
   }
+
+  window_.show();
+  SendModified();
+  EXPECT_FALSE(session_.Control().ModifiedBlocks().empty());
+  bool asked = false;
+  QTimer::singleShot(0, &turns_, [&asked] { asked = Press("Discard"); });
+  window_.close();
+  EXPECT_FALSE(asked);
+  EXPECT_FALSE(window_.isVisible());
 }
 
 TEST(MuxhostEventLog, TellsEventsInWordsAndRunsInOneLine) {

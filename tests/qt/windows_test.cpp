@@ -163,6 +163,48 @@ TEST_F(QtWindows, FileDialogAddsTheExtension) {
   EXPECT_EQ(platform_.AskFile(request), std::nullopt);
 }
 
+TEST_F(QtWindows, FileIsNotNamedLikeAPattern) {
+  const QTemporaryDir folder;
+  FileRequest request;
+  request.purpose = FileRequest::Purpose::kSave;
+  request.filter = request.default_name = "*.bin";
+  QStringList titles;
+  QString proposed;
+  const auto answer = [&](const char* name) {
+    auto* const box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    auto* const edit = box->findChild<QLineEdit*>("fileNameEdit");
+    if (titles.isEmpty()) proposed = edit->text();
+    titles << box->windowTitle();
+    edit->setText(folder.filePath(name));
+    QMetaObject::invokeMethod(box, "accept");
+  };
+  WhileModal([&] {
+    WhileModal([&] {
+      WhileModal([&] { answer("gate.bin"); });
+      QApplication::activeModalWidget()->close();
+    });
+    answer("g?te.bin");
+  });
+  EXPECT_EQ(platform_.AskFile(request), folder.filePath("gate.bin").toStdString());
+  EXPECT_EQ(proposed, "");
+  EXPECT_EQ(titles, QStringList({"Save As", "Save As"}));
+}
+
+TEST_F(QtWindows, FocusBeginsAtTheFirstInputAndReturnWithoutItPressesTheDefault) {
+  Show();
+  EXPECT_EQ(Window().focusWidget(), &Body<QLineEdit>("m_Title(0)"));
+  dialog_->Close();
+  dialog_->SetLayout(Row(dialog_->cmd_OK, dialog_->cmd_Cancel));
+  for (Button* const button : {&dialog_->cmd_OK, &dialog_->cmd_Cancel}) button->SetEnabled(false);
+  Show();
+  dialog_->TakeNotes();
+  QTest::keyClick(&Window(), Qt::Key_Return);
+  EXPECT_EQ(dialog_->TakeNotes(), Notes{});
+  dialog_->cmd_OK.SetEnabled(true);
+  QTest::keyClick(&Window(), Qt::Key_Return);
+  EXPECT_EQ(dialog_->TakeNotes(), Notes{"click OK"});
+}
+
 TEST_F(QtWindows, TimerTicksUntilATickDestroysIt) {
   int ticks = 0;
   std::unique_ptr<Timer> timer;
