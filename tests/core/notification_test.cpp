@@ -27,26 +27,25 @@ class Notification : public Codec {
 };
 
 struct MaskCase {
-  CommitFlag flag;
-  std::function<void(MuxData&)> change;
   int block;
   Byte mask;
+  CommitFlag flag;
+  std::function<void(MuxData&)> change;
 };
 
 TEST_F(Notification, ServerOctetsMarkTheirServerInTheBlock) {
   const MaskCase cases[] = {
-      {CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.SMTPServer(2, 9); }, 213, 1},
-      {CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.TCPHost(0, 9); }, 213, 2},
-      {CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.TCPBkUpHost(3, 9); }, 213, 4},
-      {CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPPrimServer(1, 9); }, 217, 1},
-      {CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPBkupServer(2, 9); }, 217, 2},
-      {CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPUpdate(1); }, 217, 0},
-      {CommitAlarm,
+      {213, 1, CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.SMTPServer(2, 9); }},
+      {213, 2, CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.TCPHost(0, 9); }},
+      {213, 4, CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.TCPBkUpHost(3, 9); }},
+      {217, 1, CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPPrimServer(1, 9); }},
+      {217, 2, CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPBkupServer(2, 9); }},
+      {217, 0, CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPUpdate(1); }},
+      {213, 5, CommitAlarm,
        [](MuxData& r) {
          r.AlmEmailNotify.TCPBkUpHost(0, 1);
          r.AlmEmailNotify.SMTPServer(0, 1);
-       },
-       213, 5},
+       }},
   };
   for (const MaskCase& it : cases) {
     SCOPED_TRACE("block " + std::to_string(it.block) + " mask " + std::to_string(it.mask));
