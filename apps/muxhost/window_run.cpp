@@ -8,7 +8,7 @@ namespace quorvel::muxhost {
 
 int RunWindow(int argc, char** argv) {
   const QApplication application(argc, argv);
-  QApplication::setApplicationDisplayName("muxhost");
+  QApplication::setApplicationName("muxhost");
   QtPlatform platform;
   QObject turns;  // what is still scheduled ends with it
   HostSession session(platform, [&turns](int milliseconds, std::function<void()> task) {
