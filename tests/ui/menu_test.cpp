@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/host/test_host.h"
+#include "ui/menu/frm_menu.h"
 
 namespace quorvel {
 namespace {
@@ -98,6 +99,99 @@ TEST(Menu, LanguagesOfOldFirmware) {
   EXPECT_FALSE(menu.Item("mnu_Italian").visible);
   EXPECT_FALSE(menu.Item("mnu_Dutch").visible);
   EXPECT_TRUE(menu.Item("mnu_Danish").visible);
+}
+
+/// The menu alone, over a context of its own.
+class MenuForm : public ::testing::Test {
+ protected:
+  PopupMenu& Load() {
+    if (form_ != nullptr) form_->Unload();
+    form_ = std::make_shared<frm_Menu>(context_);
+    form_->Load();
+    platform_.RunUntilIdle();
+    return platform_.Menu();
+  }
+  std::string Ticked() {
+    std::string names;
+    for (const MenuItem& item : platform_.Menu().Item("mnu_Factory").children) {
+      if (item.checked) names += item.name;
+    }
+    return names;
+  }
+  HeadlessPlatform platform_;
+  Context context_{platform_};
+  std::shared_ptr<frm_Menu> form_;
+};
+
+TEST_F(MenuForm, LanguagesByCode) {
+  const char* const items[] = {"mnu_EngLang",   "mnu_French", "mnu_German",  "mnu_Italian",
+                               "mnu_Russian",   "mnu_Polish", "mnu_Czech",   "mnu_Finnish",
+                               "mnu_Hungarian", "mnu_Slovak", "mnu_Spanish", "mnu_Dutch",
+                               "mnu_Danish"};
+  const char* const captions[] = {"English", "French", "German",  "Italian",   "Russian",
+                                  "Polish",  "Czech",  "Finnish", "Hungarian", "Slovak",
+                                  "Spanish", "Dutch",  "Danish"};
+  context_.ExtraA = 5;
+  context_.ExtraB = 2;
+  context_.env.identity.VariantChar = '2';  // says nothing from firmware 5.02 on
+  for (int code = 0; code < 13; ++code) {
+    EXPECT_EQ(Load().Item(items[code]).caption, captions[code]);
+    EXPECT_EQ(platform_.ChooseMenu(items[code]), Answer::kDone);
+    EXPECT_EQ(context_.Record().MuxLang(), code);
+    Load();
+    EXPECT_EQ(Ticked(), items[code]);
+  }
+  context_.Record().MuxLang(200);
+  Load();
+  EXPECT_EQ(Ticked(), "mnu_Danish");
+  context_.ExtraB = 1;
+  EXPECT_FALSE(Load().Item("mnu_Polish").visible);
+  EXPECT_EQ(Ticked(), "mnu_EngLang");
+}
+
+TEST_F(MenuForm, HostsThatMoveWholeImagesMayUnlockAnyModel) {
+  SetModelFlags(context_.env.identity, 3);
+  context_.MenuHostCommId = 1;
+  PopupMenu& menu = Load();
+  EXPECT_TRUE(menu.Item("mnu_UnLock").enabled);
+  EXPECT_TRUE(menu.Item("mnu_UnLock").checked);
+  EXPECT_EQ(context_.Record().LockKeyBoard(), 0);
+  EXPECT_FALSE(menu.Item("mnuActGrid").visible);
+}
+
+TEST_F(MenuForm, TelemetryOfMultiplexers) {
+  context_.env.identity.VariantChar = '2';
+  for (const Byte kind : {0, 1, 2}) {
+    context_.env.identity.RecorderKind = kind;
+    EXPECT_EQ(Load().Item("mnu_Telemetry").visible, kind == 2);
+  }
+}
+
+TEST_F(MenuForm, CaptionsComeFromTheCatalogue) {
+  const struct {
+    const char* item;
+    const char* caption;
+  } cases[] = {{"mnu_Alarm", "Alarms"},
+               {"mnu_Macro", "Macro"},
+               {"mnu_Record", "Record"},
+               {"mnu_CSetup", "Camera Setup"},
+               {"mnu_Comm", "Communications"},
+               {"mnu_Factory", "Factory Settings"},
+               {"mnu_FPanelLock", "Front Panel Lock"},
+               {"mnu_LockKB", "Lock Keyboard"},
+               {"mnu_UnLock", "Unlock Keyboard"},
+               {"mnu_Main", "Main"},
+               {"mnu_MDetection", "Motion Detection"},
+               {"mnuMTSetup", "Setup Parameters"},
+               {"mnuActGrid", "Setup Active zones"},
+               {"mnu_Sequence", "Sequencing"},
+               {"mnu_Telemetry", "Telemetry"},
+               {"mnu_TimeDate", "Time/Date"},
+               {"mnuVCR", "VCR Setup"},
+               {"mnu_VArchive", "Video Archive Setup"},
+               {"mnu_Exit", "Exit"}};
+  PopupMenu& menu = Load();
+  for (const auto& it : cases) EXPECT_EQ(menu.Item(it.item).caption, it.caption);
 }
 
 TEST(Menu, ActiveZonesNeedALink) {
