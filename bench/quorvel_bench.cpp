@@ -1,9 +1,9 @@
 // Decoding and encoding a 225-block image of a triplex recorder, beside hand-written code that puts
-// the same settings into a flat struct. Takes the options of the benchmark library.
+// the same settings into a flat struct; and transfers through the control. Takes the options of the
+// benchmark library.
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -14,6 +14,7 @@
 #include "bench/flat_record.h"
 #include "bench/ratio_reporter.h"
 #include "bench/sample_images.h"
+#include "bench/transfer_bench.h"
 #include "core/codec.h"
 
 namespace quorvel::bench {
@@ -61,16 +62,13 @@ void FlatRoundTrip(FlatDecoded& on) {
 
 template <class State>
 void Register(const char* name, void (*step)(State&)) {
-  auto* const added = benchmark::RegisterBenchmark(name, [step](benchmark::State& state) {
+  RatioReporter::Keep(benchmark::RegisterBenchmark(name, [step](benchmark::State& state) {
     State on;
     for (auto _ : state) {
       step(on);
       benchmark::ClobberMemory();
     }
-  });
-  added->ComputeStatistics(RatioReporter::kStatistic, [](const std::vector<double>& times) {
-    return *std::min_element(times.begin(), times.end());
-  });
+  }));
 }
 
 void RegisterAll() {
@@ -82,6 +80,7 @@ void RegisterAll() {
   Register("flat_encode_all", FlatEncodeAll);
   Register("round_trip", RoundTrip);
   Register("flat_round_trip", FlatRoundTrip);
+  RegisterTransfers();
 }
 
 /// The flat code is a limit to compare with only as long as it does the same work.
@@ -135,6 +134,8 @@ int Run(int argc, char** argv) {
   reporter.PrintRatio("decode_reused");
   reporter.PrintRatio("encode_all", 4.5, 2.0);
   reporter.PrintRatio("round_trip", 3.5);
+  reporter.PrintTime("download_225_blocks", 50);
+  reporter.PrintTime("upload_all_blocks", 100);
   return ReportAllocations() ? 0 : 1;
 }
 

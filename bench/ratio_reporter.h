@@ -13,8 +13,8 @@ namespace quorvel::bench {
 /// machine does can only slow a repetition down.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
-  /// The statistic, one of every benchmark, that the ratios are made of.
-  static constexpr const char* kStatistic = "fastest";
+  /// Lets a benchmark state its fastest repetition, which is what the ratios are made of.
+  static void Keep(benchmark::internal::Benchmark* added);
 
   RatioReporter() : ConsoleReporter(OO_Tabular) {}
   void ReportRuns(const std::vector<Run>& reports) override;
@@ -23,6 +23,8 @@ class RatioReporter : public benchmark::ConsoleReporter {
   /// hold and the goal. Prints nothing unless both were measured.
   void PrintRatio(const std::string& name, std::optional<double> bar = {},
                   std::optional<double> goal = {}) const;
+  /// Prints the time of `name` beside the goal for it. Prints nothing unless it was measured.
+  void PrintTime(const std::string& name, double goal_microseconds) const;
 
  private:
   std::map<std::string, double> nanoseconds_;

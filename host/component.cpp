@@ -5,6 +5,7 @@
 #include "core/byte_order.h"
 #include "core/survey.h"
 #include "host/model_catalogue.h"
+#include "host/settings_file.h"
 
 namespace quorvel {
 
@@ -70,7 +71,11 @@ void Component::Custom(std::int16_t command, std::int32_t param1, std::int32_t p
   switch (command) {
     case 10: return download_.Receive();
     case 11: return upload_.Send();
+    case 12:
+      return context.Guard("RestoreImageFromFile", [this] { download_.RestoreImageFromFile(); });
+    case 14: return context.Guard("SaveImageToFile", [this] { SaveImageToFile(context); });
     case 15: return OpenMenu(static_cast<std::int16_t>(param1));
+    case 16: return download_.BuildDefaults();
     case 17: return SendActivityGrid(param1);
     case 18:
       context.HostType = static_cast<std::int16_t>(param1);
@@ -107,14 +112,6 @@ void Component::FillComboInfo(std::span<const Byte> data) {
   context.combo_sizes = {FromDeviceOrder(data.subspan<0, 2>()), data[2],
                          FromDeviceOrder(data.subspan<3, 2>()), data[5], data[6]};
   context.ComboMode = true;
-}
-
-void Component::FillDataBlk(std::span<const Byte> data) {
-  if (context.HostCommId != 0) {
-    download_.TakeWholeImage(data);
-  } else {
-    download_.TakeBlock(data);
-  }
 }
 
 std::vector<SettingLine> Component::Settings(std::string_view pattern) {

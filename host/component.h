@@ -41,7 +41,8 @@ class Component : public std::enable_shared_from_this<Component> {
   void Custom(std::int16_t command, std::int32_t param1, std::int32_t param2);
   void CustomWithString(std::int16_t command, std::string_view text);
   void FillComboInfo(std::span<const Byte> data);
-  void FillDataBlk(std::span<const Byte> data);
+  void FillDataBlk(std::span<const Byte> data) { download_.TakeReply(data); }
+  void FillComboBlk(std::span<const Byte> data) { download_.TakeComboArray(data); }
   [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern);
   [[nodiscard]] std::optional<std::vector<SettingDifference>> DifferencesFrom(
       std::span<const Byte> image);

@@ -2,15 +2,20 @@
 
 #include <memory>
 #include <span>
+#include <vector>
 
+#include "core/factory_defaults.h"
 #include "host/frm_ul_fr_mux.h"
 #include "host/host_events.h"
 #include "ui/context.h"
 
 namespace quorvel {
 
-/// Brings the device's configuration into the component: asks the host for it, assembles the image,
-/// decodes it and tells the host that it has arrived.
+/// Brings a configuration into the component: the device's, a settings file's or the factory's. It
+/// asks for what is needed, decodes the image and tells the host that it has arrived.
+///
+/// One of these is under way at a time. Each begins anew, whatever was under way before; replies to
+/// what is no longer asked for change nothing.
 class Download {
  public:
   Download(Context& context, HostEvents& host) : context_(context), host_(host) {}
@@ -21,29 +26,49 @@ class Download {
   /// Command 10. Asks for the first block or the combined array, then shows the receive dialog to
   /// an interactive host and returns when it is closed.
   void Receive();
-  /// One reply of the block-by-block exchange: [0] block number, then the block's bytes.
-  void TakeBlock(std::span<const Byte> reply);
-  /// The whole image in one call; the last byte is not part of it.
-  void TakeWholeImage(std::span<const Byte> data);
+  /// Command 12. Asks the user for a settings file and shows the result; returns when that is
+  /// closed. A file that cannot be read or decoded changes nothing.
+  void RestoreImageFromFile();
+  /// Command 16. Asks for the two blocks by which the device says what it is; the defaults for it
+  /// are loaded when they are here.
+  void BuildDefaults();
+
+  /// FillDataBlk: the reply to what was asked for last, or the whole image of a host that moves it
+  /// in one call.
+  void TakeReply(std::span<const Byte> data);
+  /// FillComboBlk: the combined array.
+  void TakeComboArray(std::span<const Byte> data);
 
   /// Takes the dialog off the screen, without telling anybody.
   void CloseDialog();
 
  private:
-  void Request(int number);
-  void OpenDialog();
+  enum class Expecting { kNothing, kBlock, kComboArray, kDefaultsProbe, kDefaultsIdentity };
+
+  void BeginAnew();
+  void Request(Expecting expecting, int number);
+  void TakeBlock(std::span<const Byte> reply);
+  void TakeWholeImage(std::span<const Byte> data);
+  void TakeProbe(std::span<const Byte> reply);
+  void TakeIdentity(std::span<const Byte> reply);
+  void LoadDefaultData();
+  [[nodiscard]] bool MayTakeUnasked() const;
+  void FinishReception();
+  void TellArrival();
+  void OpenDialog(bool restored);
   void ShowProgress();
-  void Finish();
   void SaveReceivedData();
 
   Context& context_;
   HostEvents& host_;
   std::shared_ptr<frm_ULFrMux> frmUL;
   ReceiveProgress progress_;
-  static constexpr int kNothing = 0;
-  int awaited_ = kNothing;   ///< block that was asked for and has not come
-  int round_ = 0;            ///< tells this receive from one that a host starts inside its event
+  Expecting expecting_ = Expecting::kNothing;
+  int awaited_ = 0;          ///< number of the block that is expected
+  int round_ = 0;            ///< tells this sequence from one that a host starts inside its event
   bool StopReceive = false;  ///< the user has closed the dialog; no further block is asked for
+  bool received_combined_ = false;  ///< the present data came as a combined array
+  DefaultsIdentity defaults_;
 };
 
 }  // namespace quorvel

@@ -25,6 +25,8 @@ class frm_ToMux : public Dialog {
   void ShowFinished();
   /// The end packet has been sent.
   void ShowEnded();
+  /// The listed blocks are on their way, or have been sent: the list can be emptied.
+  void ShowClearBlocks() { cmdClearBlk.SetVisible(true); }
 
  private:
   enum Choice { kMacros = 0, kData = 1, kAll = 0, kModified = 1 };

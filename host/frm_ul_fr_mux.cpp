@@ -4,7 +4,8 @@
 
 namespace quorvel {
 
-frm_ULFrMux::frm_ULFrMux(Context& context) : Dialog(context.platform, "frm_ULFrMux") {
+frm_ULFrMux::frm_ULFrMux(Context& context)
+    : Dialog(context.platform, "frm_ULFrMux"), context_(context) {
   KeepAliveWith(context.life);
   SetIcon(&Icon101());
   SetCaption(context.GetText(268) + context.CaptionSuffix());
@@ -32,6 +33,11 @@ void frm_ULFrMux::ShowProgress(const ReceiveProgress& progress) {
   Label4.SetCaption(progress.status);
   cmdOK.SetEnabled(progress.finished);
   cmdSaveFile.SetEnabled(progress.finished);
+}
+
+void frm_ULFrMux::ShowRestored() {
+  SetCaption(context_.GetText(272));
+  cmdSaveFile.SetVisible(false);
 }
 
 }  // namespace quorvel

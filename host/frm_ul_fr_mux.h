@@ -21,6 +21,8 @@ class frm_ULFrMux : public Dialog {
  public:
   explicit frm_ULFrMux(Context& context);
   void ShowProgress(const ReceiveProgress& progress);
+  /// The data was restored from a file: there is nothing to save.
+  void ShowRestored();
 
   /// The dialog has been closed, in whatever way.
   Handler StopUL;
@@ -28,6 +30,8 @@ class frm_ULFrMux : public Dialog {
   Handler SaveFile;
 
  private:
+  Context& context_;
+
   Label Label1{*this, "Label1"};
   Label Label3{*this, "Label3"};
   Label Label2{*this, "Label2"};

@@ -1,7 +1,5 @@
 #include "quorvel/main_menu_ctrl.h"
 
-#include <stdexcept>
-
 #include "host/component.h"
 #include "host/model_catalogue.h"
 
@@ -53,9 +51,8 @@ std::int32_t MainMenuCtrl::FillComboInfo(std::span<const std::uint8_t> data) {
   return 0;
 }
 
-std::int32_t MainMenuCtrl::FillComboBlk(std::span<const std::uint8_t> /*data*/) {
-  component_->Call("FillComboBlk",
-                   [] { throw std::logic_error("the combined exchange is not served"); });
+std::int32_t MainMenuCtrl::FillComboBlk(std::span<const std::uint8_t> data) {
+  component_->Call("FillComboBlk", [&it = *component_, data] { it.FillComboBlk(data); });
   return 0;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "host/frm_to_mux.h"
@@ -9,8 +10,8 @@
 
 namespace quorvel {
 
-/// Writes the edited configuration back to the device, one block a packet, paced by Timer1 and the
-/// host's acknowledgements: at most one packet is outstanding.
+/// Writes the edited configuration back to the device: as one combined array, or one block a
+/// packet, paced by Timer1 and the host's acknowledgements. At most one packet is outstanding.
 class Upload {
  public:
   Upload(Context& context, HostEvents& host);
@@ -21,7 +22,7 @@ class Upload {
   /// Command 11. Encodes the listed blocks, checks that the data fits the device, and shows the
   /// send dialog; returns when it is closed.
   void Send();
-  /// The host is ready for the next packet.
+  /// The host has written the last packet and is ready for the next.
   void TriggerTimer();
 
   /// Takes the dialog off the screen and ends the send.
@@ -29,18 +30,29 @@ class Upload {
 
  private:
   [[nodiscard]] bool FamilyFits() const;
-  void EncodeListedBlocks();
+  void RefuseData();
+  [[nodiscard]] bool ImageIsStillTheSame();
   void StartDL();
   void StopDL();
+  void StartCombined();
+  void PutListedBlocks();
+  [[nodiscard]] bool MacrosFit();
+  void StartBlocks();
   void Tick();
   void SendBlock(Byte number);
   void SendEndPacket();
+  void SendPacket(std::span<Byte> packet);
 
   Context& context_;
   HostEvents& host_;
   std::shared_ptr<frm_ToMux> frmDL;
   /// Its interval is also the state of the send: 0 before any, 50 ms running, 500 ms ended.
   std::unique_ptr<Timer> Timer1;
+  /// Ends the wait for the acknowledgement of a packet that the user has stopped.
+  std::unique_ptr<Timer> patience_;
+  bool outstanding_ = false;  ///< a packet has not been acknowledged
+  bool start_waits_ = false;  ///< START was pressed meanwhile
+  int generation_ = 0;        ///< of the image that the dialog offers
   std::vector<Byte> plan_;
   std::size_t next_ = 0;  ///< place in the plan; at its end, the end packet follows
 };

@@ -8,6 +8,7 @@
 
 #include "core/block_image.h"
 #include "core/codec.h"
+#include "core/combined_array.h"
 #include "core/record/mux_data.h"
 #include "core/record_environment.h"
 #include "quorvel/platform.h"
@@ -31,6 +32,9 @@ struct ComboSizes {
   Byte ComboExtraA = 0;  ///< firmware version: A * 100 + B
   Byte ComboExtraB = 0;
 };
+
+/// Where an image comes from.
+enum class ImageSource { kDevice, kSettingsFile, kFactory };
 
 /// The shared state of one control. Each control owns one, so two controls in a process edit two
 /// devices. It outlives every dialog and sequence that refers to it.
@@ -57,12 +61,11 @@ struct Context {
   Byte MenuHostCommId = 0;
 
   // The image and what is sent of it.
-  bool LoadedFromFile = false;
+  CombinedArray ComboArray;     ///< as last received, restored or built; empty before
+  bool LoadedFromFile = false;  ///< what is sent is compared with the connected device first
   bool IncludeMacros = false;
   bool IncludeData = false;
   bool UsePcTime = false;  ///< block 61 takes the computer's clock when it is encoded
-  Byte ExtraA = 0;         ///< firmware version of the combined header: A * 100 + B; 0 without one
-  Byte ExtraB = 0;
 
   /// The host has destroyed the control; what still runs must show nothing more.
   bool terminated = false;
@@ -81,25 +84,42 @@ struct Context {
   /// that was refused, or of which a part is missing, is nobody's configuration.
   [[nodiscard]] bool ImageIsDecoded() const { return image_is_decoded_; }
 
-  /// A new image begins to arrive. Block by block it starts from nothing; a combined array replaces
-  /// the present image once it is there.
+  /// An image begins to arrive block by block, from nothing. An image that comes in one piece
+  /// replaces the present one only when it is there.
   void BeginImage() {
-    if (!ComboMode) BlkImage.Clear();
+    BlkImage.Clear();
     ImageByteCount = 0;
+    LoadedFromFile = false;
     env.identity.MaxCam = kMostCameras;
     image_is_decoded_ = false;
     ++generation_;
   }
 
-  /// Decodes `image` into a fresh record; both then replace the present ones. Throws ImageError,
-  /// and keeps what is there, when the image cannot be decoded.
-  void Adopt(BlockImage image) {
+  /// Decodes `image` into a fresh record; both then replace the present ones, and nothing is
+  /// modified any more. Throws ImageError, and keeps what is there, when the image cannot be
+  /// decoded.
+  void Adopt(BlockImage image, ImageSource source) {
+    const Identity present = env.identity;
     auto fresh = std::make_unique<MuxData>(env);
-    DecodeImage(image, env, *fresh);
+    try {
+      DecodeImage(image, env, *fresh);
+    } catch (...) {
+      env.identity = present;
+      throw;
+    }
     record_ = std::move(fresh);
     BlkImage = std::move(image);
+    LoadedFromFile = source == ImageSource::kSettingsFile;
+    env.blocks.SetMaxBlk(BlkImage.BlkCount());
     image_is_decoded_ = true;
     ++generation_;
+  }
+
+  /// Encodes the blocks that are listed as modified from the record into the image.
+  void EncodeListedBlocks() {
+    const LocalTime now = platform.Now();
+    const TimeOfDay pc_time{now.hour, now.minute, now.second};
+    EncodeModifiedBlocks(BlkImage, env, Record(), UsePcTime ? &pc_time : nullptr);
   }
 
   /// Runs `body` as an edge of the component, which stays alive meanwhile: a host call, a timer

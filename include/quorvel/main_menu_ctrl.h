@@ -50,8 +50,8 @@ class MainMenuCtrl {
   ///   15 open the popup menu; param1: 1 when the host has a network link, else 0
   ///   16 build factory defaults           17 raise ActGridData for camera param1
   ///   18 param1: device family code; param2: 1 when captions name a DVR, else 0
-  /// Other numbers do nothing. Commands 12, 14 and 16 are not served by this version and do
-  /// nothing.
+  /// Other numbers do nothing. A receive, a restore and the building of defaults each begin anew,
+  /// whatever of them was under way.
   std::int32_t Custom(std::int16_t command, std::int32_t param1, std::int32_t param2);
   /// 191: takes the texts from a new object of class `str` (see Platform::Classes), whose method
   /// "getresourcestring" returns the text of an id. Other commands do nothing.
@@ -61,12 +61,11 @@ class MainMenuCtrl {
   /// Identity of the connected device for the block-by-block exchange: [1] cameras, [2] model code,
   /// from [3] the model name. Shorter than 4 bytes: nothing changes.
   std::int32_t SaveConnectedInfo(std::span<const std::uint8_t> data);
-  /// Sizes for the combined exchange: [0..1] macro record size, [2] macro records, [3..4] blocks,
-  /// [5..6] firmware version; 16-bit values most significant byte first. Shorter than 7 bytes:
-  /// nothing changes.
+  /// Selects the combined exchange and states its sizes: [0..1] macro record size, [2] macro
+  /// records, [3..4] blocks, [5..6] firmware version; 16-bit values most significant byte first.
+  /// Shorter than 7 bytes: nothing changes.
   std::int32_t FillComboInfo(std::span<const std::uint8_t> data);
-  /// The answer to RequestComboBlocks. The combined exchange is not served by this version: the
-  /// call says so with its message box and changes nothing.
+  /// The answer to RequestComboBlocks: header of 13 bytes, block image, macro data.
   std::int32_t FillComboBlk(std::span<const std::uint8_t> data);
   /// The answer to RequestBlk: [0] block number, then its 16 bytes. With non-zero HostCommId the
   /// whole image and one further byte that is not read.

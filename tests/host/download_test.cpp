@@ -138,8 +138,7 @@ TEST(Download, WholeImageForANonInteractiveHost) {
 
 TEST(Download, SavesWhatWasReceived) {
   TestHost host;
-  const std::string path = ::testing::TempDir() + "quorvel_save.bin";
-  host.platform.AnswerNextFile(path);
+  host.platform.AnswerNextFile("received.bin");
   int clicks = 0;
   host.platform.at_modal = [&clicks](Dialog& dialog) {
     if (!dialog.Find<Button>("cmdOK").Enabled()) return false;
@@ -147,14 +146,50 @@ TEST(Download, SavesWhatWasReceived) {
     return dialog.Find<Button>(button).Click() == Answer::kDone;
   };
   host.control->Custom(10, 0, 0);
-  const auto saved = host.platform.ReadFile(path);
+  const auto& saved = host.platform.files["received.bin"];
   EXPECT_TRUE(std::equal(saved.begin(), saved.end(), host.device.Bytes().begin(),
                          host.device.Bytes().end()));
   const auto requests = host.platform.TakeFileRequests();
   ASSERT_EQ(requests.size(), 1U);
   EXPECT_EQ(requests[0].default_name, "*.bin");
   EXPECT_TRUE(requests[0].ask_before_overwriting);
-  std::remove(path.c_str());
+}
+
+/// A host that answers from inside the events is called once more for every block.
+TEST(Download, NestedRepliesStayFarFromTheStacksEnd) {
+  TestHost host;
+  host.device.ResizeBlocks(255);
+  host.device.Block(1)[15] = 255;
+  host.sync = true;
+  const char* outermost = nullptr;
+  const char* innermost = nullptr;
+  host.act_in = "RequestBlk 1";
+  host.act = [&] {
+    const char here = 0;
+    outermost = &here;
+    host.act_in = "RequestBlk 255";
+    host.act = [&innermost] {
+      const char there = 0;
+      innermost = &there;
+    };
+  };
+  host.Download();
+  EXPECT_EQ(host.Count("UploadSucceeded"), 1);
+  constexpr std::ptrdiff_t kEighthOfAStack = 1 << 20;
+  EXPECT_LT(std::abs(outermost - innermost), kEighthOfAStack);
+}
+
+TEST(Download, ALongBlockIsRefusedAndTheRightOneStillTaken) {
+  TestHost host;
+  host.act_in = "RequestBlk 7";
+  host.act = [&host] {
+    std::vector<Byte> reply(25, 7);
+    host.control->FillDataBlk(reply);
+  };
+  host.Download();
+  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk");
+  EXPECT_EQ(host.Count("UploadSucceeded"), 1);
+  EXPECT_TRUE(std::ranges::equal(host.control->Image(), host.device.Bytes()));
 }
 
 TEST(Download, OnlyTheAwaitedBlockIsTaken) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -16,6 +17,22 @@
 #include "resources/default_images.h"
 
 namespace quorvel {
+
+/// The platform's files are kept in memory.
+class TestPlatform : public HeadlessPlatform {
+ public:
+  std::vector<std::uint8_t> ReadFile(const std::string& path) override {
+    if (!files.contains(path)) throw PlatformError("no such file");
+    return files[path];
+  }
+  void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override {
+    if (disk_is_full) throw PlatformError("the disk is full");
+    files[path].assign(bytes.begin(), bytes.end());
+  }
+
+  std::map<std::string, std::vector<Byte>> files;
+  bool disk_is_full = false;
+};
 
 /// A host with a device in memory. It answers on the next turn of the loop, or inside the event.
 class TestHost : public MainMenuEvents {
@@ -75,6 +92,23 @@ class TestHost : public MainMenuEvents {
     Log("DownLoadData " + std::to_string(bdata[0]));
     if (acknowledge && control != nullptr) control->TriggerUploadTimer();
   }
+  void RequestComboBlocks() override {
+    Log("RequestComboBlocks");
+    if (combo.empty() || control == nullptr) return;
+    const auto answer = [this] {
+      if (control != nullptr) control->FillComboBlk(combo);
+    };
+    if (sync) {
+      answer();
+    } else {
+      platform.Post(answer);
+    }
+  }
+  void SendComboBlocks(std::span<std::uint8_t> cb_data) override {
+    sent_combo.assign(cb_data.begin(), cb_data.end());
+    std::fill(cb_data.begin(), cb_data.end(), Byte{0xEE});  // hosts may
+    Log("SendComboBlocks " + std::to_string(cb_data.size()));
+  }
   void ActGridPop(std::uint8_t maxcam) override { Log("ActGridPop " + std::to_string(maxcam)); }
   void ActGridData(std::span<const std::uint8_t> barray) override {
     grid.assign(barray.begin(), barray.end());
@@ -91,7 +125,13 @@ class TestHost : public MainMenuEvents {
     return {numbers.begin(), numbers.end()};
   }
 
-  HeadlessPlatform platform;
+  /// Text of the only message box since last asked; empty when there was none.
+  [[nodiscard]] std::string OnlyMessage() {
+    const auto messages = platform.TakeMessages();
+    EXPECT_LE(messages.size(), 1U);
+    return messages.empty() ? "" : messages[0].text;
+  }
+  TestPlatform platform;
   BlockImage device;
   std::unique_ptr<MainMenuCtrl> control;
   bool sync = false;
@@ -104,6 +144,8 @@ class TestHost : public MainMenuEvents {
   std::vector<std::string> log;
   std::vector<int> sent;  ///< block numbers of the packets
   std::vector<Byte> grid;
+  std::vector<Byte> combo;       ///< the answer to RequestComboBlocks; none while it is empty
+  std::vector<Byte> sent_combo;  ///< what SendComboBlocks brought last
 
  private:
   void Log(const std::string& entry) {

@@ -152,26 +152,54 @@ TEST_F(Send, ChoosesAndBoxesFollowTheExchange) {
 
 TEST_F(Send, StopEndsTheSendAndStartBeginsAnew) {
   host_.acknowledge = false;
+  bool stopped = false;
   Command11([&](Dialog& dialog, int call) {
-    if (call == 0) {
-      Click(dialog, "cmdOK");
-      return true;
-    }
+    if (call == 0) return Click(dialog, "cmdOK") == Answer::kDone;
     if (host_.sent.empty()) return false;
-    if (call < 10 && dialog.Find<Button>("cmdOK").Enabled()) return false;
+    if (stopped) return dialog.CloseWindow() == Answer::kDone;
+    stopped = true;
     Click(dialog, "cmdStop");
     EXPECT_EQ(Status(dialog), "\"Upload block number :\" | \"Abort\" | \"\"");
-    host_.control->TriggerUploadTimer();
-    host_.platform.RunUntilIdle();
-    EXPECT_EQ(host_.sent, std::vector<int>{1});
-    host_.acknowledge = true;
+    // One packet is on its way: START waits for its acknowledgement.
     Click(dialog, "cmdOK");
+    host_.platform.Advance(1000);
+    EXPECT_EQ(host_.sent, std::vector<int>{1});
+    host_.control->TriggerUploadTimer();
+    host_.platform.Advance(1000);
+    EXPECT_EQ(host_.sent, (std::vector<int>{1, 1}));
+    // It was lost: START gives it up.
+    Click(dialog, "cmdStop");
+    Click(dialog, "cmdOK");
+    host_.acknowledge = true;
     host_.platform.RunUntilIdle();
-    return dialog.CloseWindow() == Answer::kDone;
+    return true;
   });
-  EXPECT_EQ(host_.sent.size(), 169U);
-  EXPECT_EQ(host_.sent[1], 1);
+  EXPECT_EQ(host_.sent.size(), 170U);
+  EXPECT_EQ(host_.sent[2], 1);
   EXPECT_EQ(host_.sent.back(), 255);
+}
+
+TEST_F(Send, AnImageThatIsReplacedMeanwhileIsNotSent) {
+  for (const bool started : {false, true}) {
+    host_.sent.clear();
+    bool replaced = false;
+    Command11([&](Dialog& dialog, int call) {
+      if (started && call == 0) return Click(dialog, "cmdOK") == Answer::kDone;
+      if (!replaced && (!started || host_.sent.size() == 3)) {
+        replaced = true;
+        host_.control->Custom(16, 0, 0);
+        host_.platform.RunUntilIdle();
+        if (!started) Click(dialog, "cmdOK");
+        EXPECT_FALSE(dialog.Shown());
+        return true;
+      }
+      return false;
+    });
+    EXPECT_EQ(host_.sent.size(), started ? 3U : 0U);
+    const auto messages = host_.platform.TakeMessages();
+    ASSERT_EQ(messages.size(), 2U);
+    EXPECT_EQ(messages[1].text, "The current data does not match the data of the remote device");
+  }
 }
 
 TEST_F(Send, TheFamilyMustFit) {

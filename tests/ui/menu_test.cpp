@@ -131,8 +131,10 @@ TEST_F(MenuForm, LanguagesByCode) {
   const char* const captions[] = {"English", "French", "German",  "Italian",   "Russian",
                                   "Polish",  "Czech",  "Finnish", "Hungarian", "Slovak",
                                   "Spanish", "Dutch",  "Danish"};
-  context_.ExtraA = 5;
-  context_.ExtraB = 2;
+  const auto state_firmware = [this](Byte a, Byte b) {
+    context_.ComboArray = CombinedArray::Build({.ExtraA = a, .ExtraB = b}, {});
+  };
+  state_firmware(5, 2);
   context_.env.identity.VariantChar = '2';  // says nothing from firmware 5.02 on
   for (int code = 0; code < 13; ++code) {
     EXPECT_EQ(Load().Item(items[code]).caption, captions[code]);
@@ -144,7 +146,7 @@ TEST_F(MenuForm, LanguagesByCode) {
   context_.Record().MuxLang(200);
   Load();
   EXPECT_EQ(Ticked(), "mnu_Danish");
-  context_.ExtraB = 1;
+  state_firmware(5, 1);
   EXPECT_FALSE(Load().Item("mnu_Polish").visible);
   EXPECT_EQ(Ticked(), "mnu_EngLang");
 }

@@ -142,7 +142,7 @@ void frm_Menu::SetUpCaptions() {
 }
 
 void frm_Menu::SetUpLanguages() {
-  const int firmware = context_.ExtraA * 100 + context_.ExtraB;
+  const int firmware = context_.ComboArray.Header().Firmware();
   const Byte variant = context_.env.identity.VariantChar;
   if (firmware > kManyLanguagesFirmware) {
     TickLanguage(std::min<int>(context_.Record().MuxLang(), kLanguages - 1));

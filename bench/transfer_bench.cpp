@@ -1,0 +1,80 @@
+#include "bench/transfer_bench.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+#include "bench/ratio_reporter.h"
+#include "bench/sample_images.h"
+#include "quorvel/headless_platform.h"
+#include "quorvel/main_menu_ctrl.h"
+
+namespace quorvel::bench {
+
+namespace {
+
+/// A device in memory, without a link that takes time.
+class QuickHost : public MainMenuEvents {
+ public:
+  QuickHost() {
+    control_.InitProperties();
+    platform_.at_modal = [](Dialog& dialog) {
+      // START while it can be pressed; at the end OK or CLOSE.
+      if (dialog.Find<Button>("cmdOK").Click() == Answer::kDone) return true;
+      auto* const clear = dialog.FindWidget("cmdClearBlk");
+      return clear != nullptr && clear->Visible() && dialog.CloseWindow() == Answer::kDone;
+    };
+  }
+
+  void Download() {
+    arrived_ = false;
+    control_.Custom(10, 0, 0);
+    if (!arrived_) throw std::logic_error("the download did not end");
+  }
+  void Upload() {
+    packets_ = 0;
+    control_.Custom(11, 0, 0);
+    // 225 blocks but the macro blocks, 194 and 218, and the end packet.
+    if (packets_ != 225 - 32 - 2 + 1) throw std::logic_error("the upload did not end");
+  }
+
+  void RequestBlk(std::uint8_t blknum) override {
+    std::array<std::uint8_t, 17> reply{blknum};
+    const auto block = device_.Block(blknum);
+    std::copy(block.begin(), block.end(), reply.begin() + 1);
+    control_.FillDataBlk(reply);
+  }
+  void UploadSucceeded() override { arrived_ = true; }
+  void DownLoadData(std::span<std::uint8_t> bdata) override {
+    benchmark::DoNotOptimize(bdata.data());
+    ++packets_;
+    control_.TriggerUploadTimer();
+  }
+
+ private:
+  HeadlessPlatform platform_;
+  MainMenuCtrl control_{platform_, *this};
+  BlockImage device_ = TriplexImage();
+  bool arrived_ = false;
+  int packets_ = 0;
+};
+
+}  // namespace
+
+void RegisterTransfers() {
+  RatioReporter::Keep(
+      benchmark::RegisterBenchmark("download_225_blocks", [](benchmark::State& state) {
+        QuickHost host;
+        for (auto _ : state) host.Download();
+      }));
+  RatioReporter::Keep(
+      benchmark::RegisterBenchmark("upload_all_blocks", [](benchmark::State& state) {
+        QuickHost host;
+        host.Download();
+        for (auto _ : state) host.Upload();
+      }));
+}
+
+}  // namespace quorvel::bench

@@ -1,0 +1,115 @@
+#include "host/settings_file.h"
+
+#include "host/combined_exchange.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr std::size_t kLengthLimit = 32768;
+constexpr const char* kFileName = "MuxMenuSave.bin";
+constexpr const char* kFilter = "*.bin";
+
+/// The block count that a plain image states, as a length in bytes.
+std::size_t LengthByItsCount(std::span<const Byte> bytes) {
+  return bytes.size() > kBlockCountByte ? std::size_t{bytes[kBlockCountByte]} * kBlockSize : 0;
+}
+
+/// In the combined exchange a file with more than the device's blocks holds macro data as well. A
+/// host of single blocks knows no sizes: images are short there, but for those whose own count says
+/// that they are not.
+bool IsCombinedFile(const Context& context, std::span<const Byte> bytes) {
+  constexpr std::size_t kLongestImage = 3488;
+  if (context.ComboMode) {
+    return bytes.size() > std::size_t{context.combo_sizes.ComboBlockCount} * kBlockSize;
+  }
+  return bytes.size() > kLongestImage && bytes.size() != LengthByItsCount(bytes);
+}
+
+/// A combined file of a device with fewer blocks is as short as a plain image. As one it would be
+/// read 13 bytes out of place.
+void RefuseMisplaced(std::span<const Byte> bytes) {
+  if (bytes.size() == LengthByItsCount(bytes)) return;
+  const auto array = CombinedArray::Parse(bytes, {});
+  if (array.HoldsImage() && array.Bytes().size() == bytes.size() &&
+      array.Header().TotalLength() == static_cast<std::int32_t>(bytes.size())) {
+    throw ImageError("the file holds a combined array of another device");
+  }
+}
+
+/// Restored data of a multiplexer or duplex recorder locks the keyboard, as its factory defaults
+/// do. A model byte with its mark bit set does not count as one of them.
+void LockOldKeyboards(BlockImage& image, Byte host_comm_id) {
+  constexpr Byte kFirstTriplexModel = 6;
+  constexpr int kLockBlock = 60;
+  constexpr std::size_t kLockByte = 5;
+  if (host_comm_id != 0 || !image.Holds(kIdentityBlock)) return;
+  if (image.Block(kIdentityBlock)[1] < kFirstTriplexModel) image.Block(kLockBlock)[kLockByte] = 1;
+}
+
+FileRequest SaveRequest(const std::string& default_name) {
+  FileRequest request;
+  request.purpose = FileRequest::Purpose::kSave;
+  request.default_name = default_name;
+  request.filter = kFilter;
+  request.default_extension = "bin";
+  request.ask_before_overwriting = true;
+  return request;
+}
+
+FileRequest RestoreRequest() {
+  FileRequest request;
+  request.purpose = FileRequest::Purpose::kOpen;
+  request.default_name = kFilter;
+  request.filter = kFilter;
+  request.must_exist = true;
+  request.read_only_box = true;
+  return request;
+}
+
+}  // namespace
+
+SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> bytes) {
+  if (bytes.size() >= kLengthLimit) throw ImageError("the file is too long for settings");
+  SettingsFile file;
+  file.combined = IsCombinedFile(context, bytes);
+  if (file.combined) {
+    file.array = CombinedArray::Parse(bytes, {});
+    file.image = file.array->Image();
+  } else {
+    RefuseMisplaced(bytes);
+    file.image = BlockImage({bytes.begin(), bytes.end()});
+    if (context.ComboMode) file.array = BuildComboArray(context.combo_sizes, file.image);
+  }
+  LockOldKeyboards(file.image, context.HostCommId);
+  return file;
+}
+
+std::optional<std::vector<Byte>> AskForSettings(Context& context) {
+  const auto path = context.platform.AskFile(RestoreRequest());
+  if (!path) return std::nullopt;
+  return context.platform.ReadFile(*path);
+}
+
+void SaveBytes(Context& context, const std::string& default_name, std::span<const Byte> bytes) {
+  const auto path = context.platform.AskFile(SaveRequest(default_name));
+  if (path) context.platform.ReplaceFile(*path, bytes);
+}
+
+void SaveImageToFile(Context& context) {
+  if (context.BlkImage.Size() == 0) return;
+  if (!context.ImageIsDecoded()) throw ImageError("only a part of the image is here");
+  const auto path = context.platform.AskFile(SaveRequest(kFileName));
+  if (!path || context.terminated) return;
+  if (!context.ImageIsDecoded()) throw ImageError("another image began to arrive");
+  context.EncodeListedBlocks();
+  if (!context.ComboMode) {
+    context.platform.ReplaceFile(*path, context.BlkImage.Bytes());
+    return;
+  }
+  ProvideComboArray(context);
+  context.ComboArray.PutImage(context.BlkImage);
+  context.platform.ReplaceFile(*path, context.ComboArray.Bytes());
+}
+
+}  // namespace quorvel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+#include "core/combined_array.h"
+#include "ui/context.h"
+
+namespace quorvel {
+
+/// A settings file keeps a configuration as raw bytes: a plain image, or a combined array in the
+/// combined exchange. It has neither mark nor version; the two are told apart by its length.
+struct SettingsFile {
+  BlockImage image;
+  /// A combined file's own array; in the combined exchange a plain file gets one, too.
+  std::optional<CombinedArray> array;
+  bool combined = false;  ///< it was a combined file
+};
+
+/// What the bytes of a file hold. Throws ImageError for 32768 bytes or more, and for bytes that
+/// contradict themselves. Whether the image can be decoded shows when it is.
+[[nodiscard]] SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> bytes);
+
+/// Asks the user for a file to restore and reads it; nothing when the dialog was cancelled.
+[[nodiscard]] std::optional<std::vector<Byte>> AskForSettings(Context& context);
+
+/// Asks the user for a name, proposing `default_name`, and replaces the file by `bytes`. Cancel
+/// ends it.
+void SaveBytes(Context& context, const std::string& default_name, std::span<const Byte> bytes);
+
+/// Command 14. Asks for a name, encodes what is listed as modified, and writes the image or the
+/// combined array. Nothing happens before there is an image.
+void SaveImageToFile(Context& context);
+
+}  // namespace quorvel

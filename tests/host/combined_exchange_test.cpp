@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include "core/bit_fields.h"
+#include "tests/host/test_host.h"
+
+namespace quorvel {
+namespace {
+
+/// A device of the combined exchange with two macro records of 4 bytes.
+class Combined : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    host_.control->FillComboInfo(std::vector<Byte>{0, 4, 2, 0, 200, 5, 6});
+    host_.combo = ArrayOf(host_.device, {0, 13, 0x0C, 0x80, 0, 8, 0, 4, 2, 0, 200, 5, 6});
+  }
+  static std::vector<Byte> ArrayOf(const BlockImage& image, std::vector<Byte> header) {
+    header.insert(header.end(), image.Bytes().begin(), image.Bytes().end());
+    for (const Byte macro : {1, 2, 3, 4, 5, 6, 7, 8}) header.push_back(macro);
+    return header;
+  }
+  /// Makes the device one of 225 blocks.
+  void Extend(Byte model_code) {
+    host_.Identify(16, model_code);
+    host_.device.ResizeBlocks(225);
+    host_.device.Block(1)[15] = 225;
+  }
+  void Receive225() {
+    host_.combo = ArrayOf(host_.device, {0, 13, 0x0E, 0x10, 0, 8, 0, 4, 2, 0, 225, 5, 6});
+    host_.Download();
+  }
+  void EditTitle(int camera, const char* title) {
+    auto& editor = host_.OpenCameraSetup();
+    editor.Find<TextBox>("m_CameraTitle(" + std::to_string(camera) + ")").Type(title);
+    editor.Find<Button>("cmd_OK").Click();
+  }
+  struct Choice {
+    bool modified = false;
+    bool macros = false;
+    bool data = true;
+  };
+  /// Command 11, these choices, START, the end, CLOSE. Returns the status bar at the end.
+  std::string Send(const Choice& choice) {
+    std::string status;
+    bool started = false;
+    host_.sent.clear();
+    host_.sent_combo.clear();
+    host_.platform.at_modal = [&](Dialog& dialog) {
+      if (!started) {
+        started = true;
+        dialog.Find<OptionButton>(choice.modified ? "optBlk(1)" : "optBlk(0)").Click();
+        if (choice.macros) dialog.Find<CheckBox>("chkMacro(0)").Click();
+        if (!choice.data) dialog.Find<CheckBox>("chkMacro(1)").Click();
+        EXPECT_EQ(dialog.Find<Button>("cmdOK").Click(), Answer::kDone);
+        return true;
+      }
+      status = dialog.Find<StatusBar>("StatusBar1").ValueText();
+      clear_was_offered_ = dialog.Find<Button>("cmdClearBlk").Visible();
+      if (dialog.Find<Button>("cmdStop").Visible()) return false;
+      return dialog.CloseWindow() == Answer::kDone;
+    };
+    host_.control->Custom(11, 0, 0);
+    host_.platform.at_modal = nullptr;
+    return status;
+  }
+  /// Bytes of a block of the array that was sent.
+  [[nodiscard]] Byte SentByte(int block, int byte) const {
+    return host_.sent_combo.at(static_cast<std::size_t>(13 + (block - 1) * 16 + byte));
+  }
+
+  TestHost host_;
+  bool clear_was_offered_ = false;
+};
+
+TEST_F(Combined, ReceivesEverythingInOneCall) {
+  for (const bool sync : {false, true}) {
+    host_.sync = sync;
+    host_.log.clear();
+    bool opened = false;
+    host_.platform.at_modal = [&opened](Dialog& dialog) {
+      if (!dialog.Find<Button>("cmdOK").Enabled()) return false;
+      opened = true;
+      EXPECT_EQ(dialog.Find<Label>("Label3").Caption(), "3221");
+      EXPECT_EQ(dialog.Find<Label>("Label4").Caption(), "Finished");
+      EXPECT_EQ(dialog.Find<ProgressBar>("prgBar1").Maximum(), 200);
+      EXPECT_EQ(dialog.Find<ProgressBar>("prgBar1").Value(), 200);
+      EXPECT_TRUE(dialog.Find<Button>("cmdSaveFile").Enabled());
+      return dialog.CloseWindow() == Answer::kDone;
+    };
+    host_.control->Custom(10, 0, 0);
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(host_.log, (std::vector<std::string>{"RequestComboBlocks", "UploadSucceeded"}));
+  }
+  EXPECT_EQ(host_.control->Settings("MaxCam").size() + host_.control->Settings().size() > 100,
+            true);
+}
+
+TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
+  const struct {
+    const char* name;
+    std::size_t at;
+    Byte value;
+    std::size_t length;
+  } cases[] = {{"another block count", 10, 199, 3221},
+               {"data longer than the array", 2, 0xFF, 3221},
+               {"cut in the data", 0, 0, 3000},
+               {"cut in the header", 0, 0, 7},
+               {"a header without room for itself", 1, 5, 3221},
+               {"a header longer than the array", 0, 0xFF, 3221},
+               {"nothing", 0, 0, 0}};
+  for (const bool had_image : {false, true}) {
+    for (const auto& it : cases) {
+      SCOPED_TRACE(it.name);
+      SetUp();
+      if (had_image) {
+        host_.Download();
+        EditTitle(3, "Typed");
+      }
+      const auto before = host_.control->Image();
+      host_.log.clear();
+      host_.combo[it.at] = it.value;
+      host_.combo.resize(it.length);
+      host_.control->FillComboBlk(host_.combo);  // not asked for: edits must not be lost
+      EXPECT_EQ(host_.Modified().size(), had_image ? 1U : 0U);
+      EXPECT_EQ(host_.OnlyMessage(), had_image ? "" : "Error found in FillComboBlk");
+      host_.sync = true;
+      host_.platform.at_modal = nullptr;
+      if (it.length == 0) {
+        host_.act_in = "RequestComboBlocks";
+        host_.act = [this] { host_.control->FillComboBlk({}); };
+      }
+      host_.control->Custom(10, 0, 0);
+      host_.sync = false;
+      EXPECT_EQ(host_.Count("UploadSucceeded"), had_image ? 1 : 0);
+      EXPECT_EQ(host_.OnlyMessage(), had_image ? "" : "Error found in FillComboBlk");
+      EXPECT_EQ(host_.control->Image(), before);
+      host_.platform.TakeMessages();
+    }
+    host_.NewControl();
+  }
+}
+
+TEST_F(Combined, ALateOrSecondArrayUndoesNothing) {
+  host_.Download();
+  EditTitle(0, "Typed");
+  host_.control->FillComboBlk(host_.combo);
+  EXPECT_EQ(host_.Modified(), std::vector<int>{1});
+  EXPECT_EQ(host_.Count("UploadSucceeded"), 1);
+  EXPECT_EQ(host_.control->Settings("CamInfo(0).title").at(0).value, "\"Typed\"");
+}
+
+TEST_F(Combined, WithoutAnAnswerThePresentImageStays) {
+  host_.Download();
+  EditTitle(0, "Typed");
+  auto answer = std::exchange(host_.combo, {});
+  host_.control->Custom(10, 0, 0);  // the dialog is closed when nothing more happens
+  EXPECT_EQ(host_.Modified(), std::vector<int>{1});
+  EXPECT_EQ(Send({.modified = true}), "\"Upload block number :\" | \"1\" | \"Finished\"");
+  EXPECT_EQ(host_.sent, (std::vector<int>{1, 255}));
+  EXPECT_EQ(host_.device.Block(1)[0], 'T');
+}
+
+TEST_F(Combined, SendsWhatIsIncluded) {
+  host_.Download();
+  EditTitle(0, "Lobby");
+  auto expected = host_.combo;
+  std::ranges::copy(std::string("Lobby        "), expected.begin() + 13);
+  auto with_macros = expected;
+
+  // The listed blocks alone, with the macros; then everything without them: the clock's mark is 1.
+  EXPECT_EQ(Send({.modified = true, .macros = true}),
+            "\"Upload block number :\" | \"\" | \"Finished\"");
+  EXPECT_TRUE(clear_was_offered_);
+  EXPECT_EQ(host_.sent_combo, with_macros);
+  Send({});
+  EXPECT_FALSE(clear_was_offered_);
+  expected[13 + 975] = 1;
+  auto without_macros = expected;
+  without_macros[5] = 0;
+  EXPECT_EQ(host_.sent_combo, without_macros);
+  Send({.macros = true, .data = false});
+  auto without_data = expected;
+  without_data[2] = without_data[3] = 0;
+  EXPECT_EQ(host_.sent_combo, without_data);
+  Send({.macros = true});
+  EXPECT_EQ(host_.sent_combo, expected);
+  EXPECT_TRUE(host_.sent.empty());
+
+  // The device keeps its macros: single packets.
+  Send({.modified = true});
+  EXPECT_TRUE(host_.sent_combo.empty());
+  EXPECT_EQ(host_.sent, (std::vector<int>{1, 255}));
+  EXPECT_EQ(host_.Modified(), std::vector<int>{1});
+}
+
+TEST_F(Combined, MacrosOfAnotherSizeAreSentWhenTheUserAgrees) {
+  host_.Download();
+  host_.control->FillComboInfo(std::vector<Byte>{0, 5, 2, 0, 200, 5, 6});
+  for (const bool agreed : {false, true}) {
+    host_.platform.AnswerNext(agreed);
+    Send({.macros = true});
+    const auto messages = host_.platform.TakeMessages();
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(
+        messages[0].text,
+        "Detected a difference in Macro structure size.\rSome variables will not be updated.");
+    EXPECT_EQ(messages[0].title, "Message");
+    EXPECT_EQ(messages[0].buttons, Message::Buttons::kOkCancel);
+    EXPECT_EQ(host_.sent_combo.size(), agreed ? 3221U : 0U);
+  }
+}
+
+TEST_F(Combined, ASendOfAllBlocksIsFixedUp) {
+  const struct {
+    Byte model_code;
+    Byte list_layout;
+  } cases[] = {{6, 7}, {8, 1}, {18, 7}};
+  for (const auto& it : cases) {
+    Extend(it.model_code);
+    auto turbo = host_.device.Block(219);
+    turbo[0] = 1;     // turbo recording
+    turbo[1] = 0x01;  // time-lapse of camera 0
+    turbo[4] = 0x80;  // event of camera 15
+    turbo[5] = 0x02;  // activity of camera 1
+    turbo[7] = 1;     // alarm
+    for (const int block : {62, 58, 63}) {
+      const auto rates = host_.device.Block(block);
+      std::fill(rates.begin(), rates.end(), Byte{0});
+    }
+    host_.device.Block(63)[1] = 5;  // a rate that is none of turbo's
+    host_.device.Block(59)[7] = 0;
+    Receive225();
+    Send({});
+    SCOPED_TRACE(int{it.model_code});
+    EXPECT_EQ(SentByte(61, 15), 1);
+    EXPECT_EQ(SentByte(213, 0), it.list_layout);
+    EXPECT_EQ(SentByte(217, 0), 3);
+    const Byte rate = it.model_code == 18 ? 99 : 0;
+    EXPECT_EQ(SentByte(62, 0), rate);
+    EXPECT_EQ(SentByte(62, 1), 0);
+    EXPECT_EQ(SentByte(58, 15), rate);
+    EXPECT_EQ(SentByte(63, 1), 5);
+    EXPECT_EQ(SentByte(59, 7), rate);
+  }
+}
+
+TEST_F(Combined, NothingIsSentWithoutAnImage) {
+  Send({});
+  EXPECT_EQ(host_.OnlyMessage(), "The current data does not match the data of the remote device");
+  EXPECT_TRUE(host_.sent_combo.empty());
+}
+
+}  // namespace
+}  // namespace quorvel
