@@ -63,7 +63,7 @@ bool IsLite(Byte code) {
   return code == 4 || code == 5 || (code >= 8 && code <= 13) || code == 16 || code == 17;
 }
 
-bool IsVariant1Or2(const DefaultsIdentity& device) {
+bool IsVariant1Or2(const DefaultsDevice& device) {
   return device.DefProbeByte == '1' || device.DefProbeByte == '2';
 }
 
@@ -85,7 +85,7 @@ std::optional<RecordRates> DuplexRates(Byte cameras) {
 }
 
 /// Rates of a lite triplex model; nothing where the factory image's own fit.
-std::optional<RecordRates> TriplexRates(const DefaultsIdentity& device) {
+std::optional<RecordRates> TriplexRates(const DefaultsDevice& device) {
   const Byte code = device.DefModelCode;
   const auto time_lapse = [&device](Byte variant_2, Byte others) {
     return device.DefProbeByte == '2' ? variant_2 : others;
@@ -137,12 +137,12 @@ void PutAddresses(BlockImage& image) {
 }
 
 /// Multiplexers and DVRs, too, get the duplex image.
-void AdaptDuplex(BlockImage& image, const DefaultsIdentity& device) {
+void AdaptDuplex(BlockImage& image, const DefaultsDevice& device) {
   Apply(image, kDuplex);
   if (IsLite(device.DefModelCode)) AdaptLite(image, DuplexRates(device.DefChannels));
 }
 
-void AdaptTriplex(BlockImage& image, const DefaultsIdentity& device, int combo_blocks) {
+void AdaptTriplex(BlockImage& image, const DefaultsDevice& device, int combo_blocks) {
   if (combo_blocks >= kTriplexBlocks && combo_blocks <= kMostBlocks) {
     image.Block(1)[kBlockCountByte] = static_cast<Byte>(combo_blocks);
     image.ResizeBlocks(combo_blocks);
@@ -187,7 +187,7 @@ void LinkCamerasToAlarms(BlockImage& image) {
   for (Byte& lnk_alm : image.Block(54)) lnk_alm = ++input;
 }
 
-void PutIdentity(BlockImage& image, const DefaultsIdentity& device) {
+void PutIdentity(BlockImage& image, const DefaultsDevice& device) {
   image.Block(183)[7] = device.DefProbeByte;
   const std::string name(device.DefModelName.begin(), device.DefModelName.end());
   WriteIdentityBlock(image, device.DefChannels, device.DefModelCode, name);
@@ -199,7 +199,7 @@ bool IsTriplex(Byte model_code) { return model_code >= 6; }
 
 int FactoryImageOf(Byte model_code) { return IsTriplex(model_code) ? 401 : 301; }
 
-void AdaptToDevice(BlockImage& image, const DefaultsIdentity& device, int combo_blocks) {
+void AdaptToDevice(BlockImage& image, const DefaultsDevice& device, int combo_blocks) {
   if (device.DefChannels > kMostCameras) {
     throw ImageError("the device names more than 16 cameras");
   }

@@ -7,7 +7,7 @@
 namespace quorvel {
 
 /// The device for which factory defaults are built, as it says itself.
-struct DefaultsIdentity {
+struct DefaultsDevice {
   Byte DefProbeByte = 0;                ///< variant character: block 183 byte 7
   Byte DefChannels = 0;                 ///< cameras, 0 to 16
   Byte DefModelCode = 0;                ///< without bit 7
@@ -22,6 +22,6 @@ struct DefaultsIdentity {
 /// for the combined exchange, 0 when it stated none; numbers outside 200 to 255 count as none, and
 /// so do all for model codes below 6. Throws ImageError before anything changes when the device
 /// names more than 16 cameras or the image has fewer blocks than the model's factory image.
-void AdaptToDevice(BlockImage& image, const DefaultsIdentity& device, int combo_blocks);
+void AdaptToDevice(BlockImage& image, const DefaultsDevice& device, int combo_blocks);
 
 }  // namespace quorvel

@@ -68,7 +68,7 @@ class Download {
   int round_ = 0;            ///< tells this sequence from one that a host starts inside its event
   bool StopReceive = false;  ///< the user has closed the dialog; no further block is asked for
   bool received_combined_ = false;  ///< the present data came as a combined array
-  DefaultsIdentity defaults_;
+  DefaultsDevice defaults_;
 };
 
 }  // namespace quorvel

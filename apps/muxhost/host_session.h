@@ -7,7 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "apps/muxhost/simulated_device.h"
+#include "apps/muxhost/exchange.h"
+#include "apps/muxhost/link.h"
 #include "quorvel/main_menu_ctrl.h"
 
 namespace quorvel::muxhost {
@@ -22,24 +23,17 @@ struct HostSettings {
   int latency_ms = 5;              ///< otherwise: what the link takes for a block
 };
 
-/// What crossed the link since the last download or upload began.
-struct Exchange {
-  int blocks_read = 0;               ///< blocks handed to the control
-  bool arrived = false;              ///< the control has reported the data's arrival
-  std::vector<Byte> blocks_written;  ///< numbers, in the order of writing
-  bool end_written = false;          ///< the packet that ends a send has come
-};
-
-/// A host application without its window: it owns a simulated device and the control that edits it,
-/// and carries blocks between the two.
+/// A host application without its window: it owns a link to a simulated device and the control that
+/// edits it, and carries blocks between the two. The device decides the exchange: single blocks, or
+/// one combined array.
 ///
 /// A read that the device cannot serve is logged and not answered; a write that it refuses is
 /// logged and not acknowledged. Answers still under way when the device is replaced or another
-/// transfer begins are dropped.
+/// transfer begins are dropped. After an upload the session reads back what the control handed over
+/// and logs how the device holds it.
 class HostSession final : public MainMenuEvents {
  public:
-  /// Runs `task` on the user-interface thread, `milliseconds` later.
-  using Scheduler = std::function<void(int milliseconds, std::function<void()> task)>;
+  using Scheduler = Link::Scheduler;
 
   /// `platform` must outlive the session.
   HostSession(Platform& platform, Scheduler scheduler, SimulatedDevice device = SimulatedDevice());
@@ -48,22 +42,42 @@ class HostSession final : public MainMenuEvents {
   void Connect(SimulatedDevice device);
   /// Replaces the settings and states them to the control.
   void Configure(const HostSettings& settings);
+  /// Sets what goes wrong on the link next, or nothing. See LinkFault.
+  void SetFault(const std::optional<Fault>& fault);
+  [[nodiscard]] const std::optional<Fault>& PendingFault() const { return link_.PendingFault(); }
 
-  /// Commands 10, 11 and 15. The first two return when their dialog has been closed.
+  /// Commands 10 and 11. They return when their dialog has been closed.
   void Download();
   void Upload();
+  /// Command 14, which asks for a file to save to; command 12, which asks for a file to restore
+  /// from and returns when its dialog has been closed.
+  void Save();
+  void Restore();
+  /// Command 16. Returns before the defaults are there, unless the host answers inside the event:
+  /// LastExchange().arrived tells.
+  void BuildDefaults();
+  /// Command 15.
   void OpenMenu();
+  /// Command 17: the 32 bytes of a camera's activity grid; nothing when there is no such camera.
+  [[nodiscard]] std::optional<std::vector<Byte>> ReadZones(int camera);
+  /// Hands an edited grid of 32 bytes to the control, which lists the blocks that change.
+  void WriteZones(int camera, std::span<const Byte> zones);
 
   [[nodiscard]] MainMenuCtrl& Control() { return *control_; }
-  [[nodiscard]] const SimulatedDevice& Device() const { return device_; }
+  [[nodiscard]] const SimulatedDevice& Device() const { return link_.Device(); }
   [[nodiscard]] const HostSettings& Settings() const { return settings_; }
   [[nodiscard]] const Exchange& LastExchange() const { return *exchange_; }
   /// Events raised and what the host could not do, in plain words, oldest first; since last taken.
   [[nodiscard]] std::vector<std::string> TakeLog() { return std::exchange(log_, {}); }
 
-  /// Called after each entry of the log, and when the device or the settings were replaced. May
-  /// take the log; must not replace the device or start a transfer.
+  /// Called after each entry of the log, and when the device, the settings or the fault were
+  /// replaced. May take the log; must not replace the device or start a transfer.
   std::function<void()> on_change;
+  /// The fault of the link lets somebody press a button of the transfer's dialog or close it: does
+  /// that, by the dialog's user verbs. False when there is no such dialog or it refuses.
+  std::function<bool(const Interruption&)> interrupt;
+  /// The user wants to edit the activity grids of that many cameras.
+  std::function<void(int cameras)> on_zones_wanted;
 
   void RequestComboBlocks() override;
   void SendComboBlocks(std::span<std::uint8_t> cb_data) override;
@@ -81,18 +95,19 @@ class HostSession final : public MainMenuEvents {
   void PlaceControl();
   void StateSettings();
   void StateIdentity();
+  void BeginExchange();
   void Log(std::string entry);
-  /// Runs `answer` now or after the link's latency, unless the exchange is over by then.
-  void Reply(std::function<void()> answer);
-  void HandOver(int block);
+  void LogInterruption(const Interruption& what);
+  void ReadBackWritten(const std::shared_ptr<Exchange>& exchange);
+  /// The whole image in one reply.
+  void HandOverImage();
 
   Platform& platform_;
-  Scheduler scheduler_;
+  Link link_;
   HostSettings settings_;
-  SimulatedDevice device_;
   std::vector<std::string> log_;
-  /// Replaced by every new exchange, so that answers to an old one find it gone.
   std::shared_ptr<Exchange> exchange_ = std::make_shared<Exchange>();
+  std::vector<Byte> zones_;  ///< what ActGridData brought last
   std::unique_ptr<MainMenuCtrl> control_;
 };
 

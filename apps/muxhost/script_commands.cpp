@@ -19,11 +19,17 @@ struct Command {
 };
 
 constexpr Command kCommands[] = {
-    {"device [model=N] [cameras=N] [blocks=N] [variant=C] [name=TEXT] [firmware=N.NN] [image=FILE]",
+    {"device [model=N] [cameras=N] [blocks=N] [variant=C] [name=TEXT] [image=FILE] "
+     "[combined] [macros=NxM] [firmware=N.NN]",
      0, kAny, commands::Device},
     {"host [family=N] [dvr=N] [commid=N] [link=N] [sync] [latency=MS]", 0, kAny, commands::Host},
     {"download [hold]", 0, 1, commands::Download},
-    {"upload all|modified|hold [macros]", 1, 2, commands::Upload},
+    {"upload all|modified|none|hold [macros]", 1, 2, commands::Upload},
+    {"save FILE", 1, 1, commands::Save},
+    {"restore FILE", 1, 1, commands::Restore},
+    {"defaults", 0, 0, commands::Defaults},
+    {"fault [none|KIND [at=N] [ms=T]]", 0, kAny, commands::FaultOnLink},
+    {"zones CAMERA [BYTE=VALUE...]", 1, kAny, commands::Zones},
     {"menu", 0, 0, commands::Menu},
     {"choose ITEM", 1, 1, commands::Choose},
     {"dismiss", 0, 0, commands::Dismiss},
@@ -34,7 +40,7 @@ constexpr Command kCommands[] = {
     {"release GRID FIRST LAST", 3, 3, commands::Release},
     {"tab TABSTRIP PAGE", 2, 2, commands::Tab},
     {"close [WINDOW]", 0, 1, commands::Close},
-    {"answer ok|cancel", 1, 1, commands::AnswerNext},
+    {"answer ok|cancel|file FILE|file cancel", 1, 2, commands::AnswerNext},
     {"wait MS", 1, 1, commands::Wait},
     {"show [WINDOW|WINDOW.CONTROL]", 0, 1, commands::Show},
     {"menu-items", 0, 0, commands::MenuItems},

@@ -20,6 +20,11 @@ void Device(Desk& desk, Words words);
 void Host(Desk& desk, Words words);
 void Download(Desk& desk, Words words);
 void Upload(Desk& desk, Words words);
+void Save(Desk& desk, Words words);
+void Restore(Desk& desk, Words words);
+void Defaults(Desk& desk, Words words);
+void FaultOnLink(Desk& desk, Words words);
+void Zones(Desk& desk, Words words);
 
 // The person at the screen.
 void Menu(Desk& desk, Words words);

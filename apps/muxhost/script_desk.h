@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,12 +28,25 @@ class Attendant {
   std::string window_;
 };
 
+/// The platform of a script. Commands that name a file answer the dialog that asks for it, and see
+/// what was written.
+class DeskPlatform final : public HeadlessPlatform {
+ public:
+  /// The answer to the next file dialog, before those that are queued.
+  std::optional<std::string> named_file;
+  /// Bytes of the file written last.
+  std::optional<std::size_t> written;
+
+  std::optional<std::string> AskFile(const FileRequest& request) override;
+  void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
+};
+
 /// What the commands of a script act on: a host without a screen, and whoever sits before it.
 struct Desk {
   explicit Desk(std::ostream& output);
 
   std::ostream& out;
-  HeadlessPlatform platform;
+  DeskPlatform platform;
   HostSession session;
   /// Message boxes shown since the script last asked.
   std::vector<Message> messages;

@@ -111,8 +111,15 @@ void Close(Desk& desk, Words words) {
 }
 
 void AnswerNext(Desk& desk, Words words) {
+  if (words[1] == "file" && words.size() == 3) {
+    const bool cancel = words[2] == "cancel";
+    desk.platform.AnswerNextFile(cancel ? std::nullopt : std::optional(words[2]));
+    return;
+  }
   const bool ok = words[1] == "ok";
-  if (!ok && words[1] != "cancel") throw ScriptError("answer takes ok or cancel, not " + words[1]);
+  if ((!ok && words[1] != "cancel") || words.size() > 2) {
+    throw ScriptError("answer takes ok, cancel or a file, not " + words.back());
+  }
   desk.platform.AnswerNext(ok);
 }
 

@@ -6,6 +6,7 @@ namespace quorvel::muxhost::commands {
 namespace {
 
 constexpr int kMostByte = 255;
+constexpr int kMostWord = 65535;
 constexpr int kMostFirmwareFraction = 99;
 constexpr int kMostLatency = 60'000;
 
@@ -26,22 +27,41 @@ std::optional<char> TakeVariant(const Desk& desk, Options& options) {
   return bytes.front();
 }
 
-/// A version as 5.06. It travels in the combined exchange alone, so it is checked and not kept.
-void TakeFirmware(Options& options) {
+/// A version as 5.06.
+void TakeFirmware(Options& options, CombinedSetup& combined) {
   const auto text = options.Take("firmware");
   if (!text) return;
   const auto dot = text->find('.');
-  if (dot == std::string::npos)
+  if (dot == std::string::npos) {
     throw ScriptError("firmware must be as 5.06, not \"" + *text + "\"");
-  static_cast<void>(ToNumber("firmware before the dot", text->substr(0, dot), 0, kMostByte));
-  static_cast<void>(
-      ToNumber("firmware after the dot", text->substr(dot + 1), 0, kMostFirmwareFraction));
+  }
+  combined.firmware_major = ToNumber("firmware before the dot", text->substr(0, dot), 0, kMostByte);
+  combined.firmware_minor =
+      ToNumber("firmware after the dot", text->substr(dot + 1), 0, kMostFirmwareFraction);
 }
 
-void RefuseCombined(Options& options) {
-  if (options.TakeWord("combined") || options.Take("macros")) {
-    throw ScriptError("this version does not have the combined exchange");
+/// Records and the size of each as 16x64.
+bool TakeMacros(Options& options, CombinedSetup& combined) {
+  const auto text = options.Take("macros");
+  if (!text) return false;
+  const auto x = text->find('x');
+  if (x == std::string::npos) throw ScriptError("macros must be as 16x64, not \"" + *text + "\"");
+  combined.macros = ToNumber("macro records", text->substr(0, x), 0, kMostByte);
+  combined.macro_size = ToNumber("macro record size", text->substr(x + 1), 0, kMostWord);
+  return true;
+}
+
+/// The firmware version travels in the combined exchange alone; without it, it is only checked.
+std::optional<CombinedSetup> TakeCombined(Options& options) {
+  CombinedSetup combined;
+  const bool chosen = options.TakeWord("combined");
+  TakeFirmware(options, combined);
+  if (TakeMacros(options, combined) && !chosen) {
+    throw ScriptError("macros belong to a combined device");
   }
+  if (!chosen) return std::nullopt;
+  CheckSetup(combined);
+  return combined;
 }
 
 DeviceSetup TakeSetup(const Desk& desk, Options& options) {
@@ -59,15 +79,15 @@ DeviceSetup TakeSetup(const Desk& desk, Options& options) {
 void Device(Desk& desk, Words words) {
   RequireUnlocked(desk);
   Options options(words);
-  RefuseCombined(options);
-  TakeFirmware(options);
+  const auto combined = TakeCombined(options);
   if (const auto file = options.Take("image")) {
     // The file says what the device is; a key that contradicted it would have no effect.
     options.Finish(" with image=");
-    desk.session.Connect(SimulatedDevice(desk.platform.ReadFile(*file)));
+    desk.session.Connect(SimulatedDevice(desk.platform.ReadFile(*file), combined));
     return;
   }
-  const DeviceSetup setup = TakeSetup(desk, options);
+  DeviceSetup setup = TakeSetup(desk, options);
+  setup.combined = combined;
   options.Finish();
   desk.session.Connect(SimulatedDevice(setup));
 }

@@ -32,12 +32,19 @@ std::size_t TakeOneWord(std::string_view line, std::size_t at, std::string& word
   return at;
 }
 
-std::optional<int> ParseNumber(std::string_view text) {
+std::optional<int> ParseNumber(std::string_view text, int base = 10) {
   int number = 0;
   const char* const last = text.data() + text.size();
-  const auto [end, error] = std::from_chars(text.data(), last, number);
+  const auto [end, error] = std::from_chars(text.data(), last, number, base);
   if (error != std::errc() || end != last) return std::nullopt;
   return number;
+}
+
+int InRange(std::string_view what, std::string_view text, std::optional<int> number, int least,
+            int most) {
+  if (number && *number >= least && *number <= most) return *number;
+  throw ScriptError(std::string(what) + " must be a number from " + std::to_string(least) + " to " +
+                    std::to_string(most) + ", not \"" + std::string(text) + "\"");
 }
 
 }  // namespace
@@ -59,10 +66,14 @@ int ToNumber(std::string_view what, std::string_view text) {
 }
 
 int ToNumber(std::string_view what, std::string_view text, int least, int most) {
-  const auto number = ParseNumber(text);
-  if (number && *number >= least && *number <= most) return *number;
-  throw ScriptError(std::string(what) + " must be a number from " + std::to_string(least) + " to " +
-                    std::to_string(most) + ", not \"" + std::string(text) + "\"");
+  return InRange(what, text, ParseNumber(text), least, most);
+}
+
+int ToAnyNumber(std::string_view what, std::string_view text, int least, int most) {
+  constexpr std::string_view kHex = "0x";
+  const auto number =
+      text.starts_with(kHex) ? ParseNumber(text.substr(kHex.size()), 16) : ParseNumber(text);
+  return InRange(what, text, number, least, most);
 }
 
 Options::Options(std::span<const std::string> words)

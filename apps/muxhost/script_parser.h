@@ -25,6 +25,9 @@ class ScriptError : public std::runtime_error {
 /// A whole decimal number from `least` to `most`; throws ScriptError that names `what` otherwise.
 [[nodiscard]] int ToNumber(std::string_view what, std::string_view text, int least, int most);
 
+/// The same for a number that is decimal or, after 0x, hexadecimal.
+[[nodiscard]] int ToAnyNumber(std::string_view what, std::string_view text, int least, int most);
+
 /// The `key=value` pairs and single words after a command, taken one by one.
 class Options {
  public:

@@ -1,7 +1,6 @@
-#include <exception>
 #include <ostream>
-#include <utility>
 
+#include "apps/muxhost/script_attendants.h"
 #include "apps/muxhost/script_commands.h"
 #include "apps/muxhost/script_parser.h"
 #include "apps/muxhost/script_report.h"
@@ -10,120 +9,55 @@ namespace quorvel::muxhost::commands {
 
 namespace {
 
-template <class Control>
-void PressControl(Dialog& dialog, const char* name) {
-  const Answer answer = dialog.Find<Control>(name).Click();
-  if (answer != Answer::kDone) throw ScriptError(std::string(name) + " " + Describe(answer));
+std::string DownloadOutcome(const HostSession& session, const Receiver& receiver) {
+  const Exchange& exchange = session.LastExchange();
+  const std::string blocks = std::to_string(exchange.blocks_read) + " blocks";
+  if (session.Settings().comm_id != 0) {
+    if (!exchange.arrived) return "download not finished: " + blocks;
+    return "downloaded " + blocks + ", " + std::to_string(exchange.bytes_read) +
+           " bytes: ULSucceededWithStr";
+  }
+  if (!receiver.Opened()) return "download: " + receiver.Window() + " did not open";
+  if (receiver.Finished()) {
+    return "downloaded " + blocks + ", " + receiver.Bytes() + " bytes: " + receiver.Status();
+  }
+  // Closing the dialog does not stop a combined array that is on its way.
+  return (exchange.arrived ? "download closed, arrived after that: "
+                           : "download not finished, closed: ") +
+         blocks + ", Label3 " + Quoted(receiver.Bytes()) + ", Label4 " + Quoted(receiver.Status());
 }
 
-/// Waits at the receive dialog until the data has arrived, then presses OK.
-class Receiver : public Attendant {
- public:
-  Receiver() : Attendant("frm_ULFrMux") {}
-
-  bool Act(Dialog& dialog) override {
-    opened_ = true;
-    bytes_ = dialog.Find<Label>("Label3").Caption();
-    status_ = dialog.Find<Label>("Label4").Caption();
-    finished_ = dialog.Find<Button>("cmdOK").Enabled();
-    if (finished_) PressControl<Button>(dialog, "cmdOK");
-    return finished_;
+/// "read back: 225 blocks and macros as sent"; "read back differs: 12 40 macros".
+std::string Describe(const ReadBack& result) {
+  if (!result.AsSent()) {
+    std::string text = "read back differs:";
+    if (!result.differ.empty()) text += " " + AbbreviateRuns(result.differ);
+    return result.macros_differ ? text + " macros" : text;
   }
-
-  [[nodiscard]] std::string Outcome(int blocks) const {
-    if (!opened_) return "download: " + Window() + " did not open";
-    if (finished_) {
-      return "downloaded " + std::to_string(blocks) + " blocks, " + bytes_ + " bytes: " + status_;
-    }
-    return "download not finished, closed: " + std::to_string(blocks) + " blocks, Label3 " +
-           Quoted(bytes_) + ", Label4 " + Quoted(status_);
+  std::string what;
+  if (result.blocks > 0) {
+    what = std::to_string(result.blocks) + (result.blocks == 1 ? " block" : " blocks");
   }
-
- private:
-  bool opened_ = false;
-  bool finished_ = false;
-  std::string bytes_;
-  std::string status_;
-};
-
-/// Starts a send at the send dialog, waits for its end and presses CLOSE.
-class Sender : public Attendant {
- public:
-  Sender(const HostSession& session, bool modified, bool macros)
-      : Attendant("frm_ToMux"), session_(session), modified_(modified), macros_(macros) {}
-
-  bool Act(Dialog& dialog) override {
-    if (!opened_) {
-      opened_ = true;
-      Start(dialog);
-      return true;
-    }
-    const auto& panels = dialog.Find<StatusBar>("StatusBar1");
-    panels_ = panels.ValueText();
-    status_ = panels.Panel(3);
-    finished_ = session_.LastExchange().end_written && !dialog.Find<Button>("cmdStop").Visible();
-    if (finished_) PressControl<Button>(dialog, "cmdCancel");
-    return finished_;
-  }
-
-  [[nodiscard]] std::string Outcome() const {
-    if (!opened_) return "upload: " + Window() + " did not open";
-    if (nothing_modified_) return "upload: no modified blocks";
-    const std::string blocks = AbbreviateRuns(session_.LastExchange().blocks_written);
-    if (finished_) return "uploaded blocks " + blocks + ": " + status_;
-    return "upload not finished, closed: blocks " + blocks + ", StatusBar1 " + panels_;
-  }
-
- private:
-  void Start(Dialog& dialog) {
-    PressControl<OptionButton>(dialog, modified_ ? "optBlk(1)" : "optBlk(0)");
-    // Without modified blocks the dialog turns the choice back to all of them.
-    nothing_modified_ = modified_ && !dialog.Find<OptionButton>("optBlk(1)").Selected();
-    if (nothing_modified_) {
-      PressControl<Button>(dialog, "cmdCancel");
-      return;
-    }
-    if (macros_) PressControl<CheckBox>(dialog, "chkMacro(0)");
-    PressControl<Button>(dialog, "cmdOK");
-  }
-
-  const HostSession& session_;
-  bool modified_;
-  bool macros_;
-  bool opened_ = false;
-  bool nothing_modified_ = false;
-  bool finished_ = false;
-  std::string panels_;
-  std::string status_;
-};
-
-/// Runs a transfer with somebody at its dialog until nothing is left to happen.
-void RunAttended(Desk& desk, Attendant& attendant, void (HostSession::*transfer)()) {
-  struct Seat {
-    explicit Seat(Desk& at, Attendant& who) : desk(at) { desk.attendant = &who; }
-    ~Seat() { desk.attendant = nullptr; }
-    Seat(const Seat&) = delete;
-    Seat& operator=(const Seat&) = delete;
-    Desk& desk;
-  };
-  const Seat seat(desk, attendant);
-  (desk.session.*transfer)();
-  desk.platform.RunUntilIdle();
-  static_cast<void>(desk.platform.TakeStalled());  // the outcome tells it
-  if (desk.failure) std::rethrow_exception(std::exchange(desk.failure, nullptr));
-}
-
-std::string WholeImageOutcome(const HostSession& session) {
-  const std::string blocks = std::to_string(session.LastExchange().blocks_read) + " blocks";
-  if (!session.LastExchange().arrived) return "download not finished: " + blocks;
-  return "downloaded " + blocks + ", " + std::to_string(session.Device().Bytes().size()) +
-         " bytes: ULSucceededWithStr";
+  if (result.macros) what += what.empty() ? "macros" : " and macros";
+  return "read back: " + what + " as sent";
 }
 
 bool HasHold(Words words, std::size_t at) {
   if (words.size() <= at) return false;
   if (words[at] == "hold") return true;
   throw ScriptError(words[0] + " does not take " + words[at]);
+}
+
+SendChoice TakeChoice(Words words) {
+  SendChoice choice;
+  choice.modified = words[1] == "modified";
+  choice.data = words[1] != "none";
+  if (choice.data && !choice.modified && words[1] != "all") {
+    throw ScriptError("upload does not take " + words[1]);
+  }
+  choice.macros = words.size() == 3;
+  if (choice.macros && words[2] != "macros") throw ScriptError("upload does not take " + words[2]);
+  return choice;
 }
 
 }  // namespace
@@ -136,10 +70,7 @@ void Download(Desk& desk, Words words) {
   }
   Receiver receiver;
   RunAttended(desk, receiver, &HostSession::Download);
-  desk.out << (desk.session.Settings().comm_id != 0
-                   ? WholeImageOutcome(desk.session)
-                   : receiver.Outcome(desk.session.LastExchange().blocks_read))
-           << '\n';
+  desk.out << DownloadOutcome(desk.session, receiver) << '\n';
 }
 
 void Upload(Desk& desk, Words words) {
@@ -148,14 +79,39 @@ void Upload(Desk& desk, Words words) {
     desk.session.Upload();
     return;
   }
-  const bool modified = words[1] == "modified";
-  if (!modified && words[1] != "all") throw ScriptError("upload does not take " + words[1]);
-  if (words.size() == 3 && words[2] != "macros") {
-    throw ScriptError("upload does not take " + words[2]);
-  }
-  Sender sender(desk.session, modified, words.size() == 3);
+  Sender sender(desk.session, TakeChoice(words));
   RunAttended(desk, sender, &HostSession::Upload);
   desk.out << sender.Outcome() << '\n';
+  const auto& result = desk.session.LastExchange().read_back;
+  if (result) desk.out << Describe(*result) << '\n';
+}
+
+void Save(Desk& desk, Words words) {
+  RequireUnlocked(desk);
+  desk.platform.named_file = words[1];
+  desk.platform.written.reset();
+  desk.session.Save();
+  desk.platform.named_file.reset();
+  const auto& written = desk.platform.written;
+  desk.out << (written ? "saved " + std::to_string(*written) + " bytes\n" : "not saved\n");
+}
+
+void Restore(Desk& desk, Words words) {
+  RequireUnlocked(desk);
+  desk.platform.named_file = words[1];
+  Receiver receiver;
+  RunAttended(desk, receiver, &HostSession::Restore);
+  desk.platform.named_file.reset();
+  desk.out << (receiver.Finished() ? "restored " + receiver.Bytes() + " bytes: " + receiver.Status()
+                                   : "not restored")
+           << '\n';
+}
+
+void Defaults(Desk& desk, Words /*words*/) {
+  RequireUnlocked(desk);
+  desk.session.BuildDefaults();
+  desk.platform.RunUntilIdle();
+  desk.out << (desk.session.LastExchange().arrived ? "defaults loaded\n" : "defaults not loaded\n");
 }
 
 }  // namespace quorvel::muxhost::commands

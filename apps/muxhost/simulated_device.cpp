@@ -1,81 +1,20 @@
 #include "apps/muxhost/simulated_device.h"
 
 #include <algorithm>
-#include <array>
 #include <stdexcept>
 
+#include "apps/muxhost/combined_parts.h"
+#include "core/combined_array.h"
 #include "core/identity.h"
-#include "resources/default_images.h"
 
 namespace quorvel::muxhost {
 
 namespace {
 
-constexpr int kMostBlocks = 255;
-constexpr int kMostModels = 21;
-constexpr int kFirstDuplexModel = 2;
-constexpr int kFirstTriplexModel = 6;
-constexpr std::size_t kNameLength = 14;
 constexpr std::size_t kPacketSize = 18;
 constexpr Byte kEndNumber = 255;
-constexpr int kVariantBlock = 183;
-constexpr int kVariantByte = 7;
-
-void Check(bool good, const std::string& rule) {
-  if (!good) throw std::invalid_argument(rule);
-}
-
-void CheckSetup(const DeviceSetup& setup) {
-  constexpr std::array kCameraCounts{4, 9, 10, 16};
-  Check(setup.model >= 0 && setup.model < kMostModels,
-        "model must be 0 to 20, not " + std::to_string(setup.model));
-  Check(std::find(kCameraCounts.begin(), kCameraCounts.end(), setup.cameras) != kCameraCounts.end(),
-        "cameras must be 4, 9, 10 or 16, not " + std::to_string(setup.cameras));
-  const int blocks = setup.blocks.value_or(1);
-  Check(blocks >= 1 && blocks <= kMostBlocks,
-        "blocks must be 1 to 255, not " + std::to_string(blocks));
-  Check(setup.name.value_or("").size() <= kNameLength, "name must be at most 14 characters");
-}
-
-int FactoryImage(int model) {
-  if (model >= kFirstTriplexModel) return 401;
-  return model >= kFirstDuplexModel ? 301 : 104;
-}
-
-int UsualBlocks(int model) { return model >= kFirstTriplexModel ? 225 : 185; }
-
-std::string UsualName(const DeviceSetup& setup) {
-  const std::string cameras = std::to_string(setup.cameras);
-  if (setup.model >= kFirstTriplexModel) return "TX" + cameras;
-  if (setup.model >= kFirstDuplexModel) return "DX" + cameras;
-  return (setup.model == 1 ? "DR" : "MX") + cameras;
-}
-
-/// What an alarm shows on the displays 1 to 3 are the cameras around its own; on a small device
-/// they wrap at its last camera.
-void WrapDisplays(BlockImage& image, int cameras) {
-  struct Display {
-    int block;
-    int offset;
-  };
-  for (const Display display : {Display{38, -1}, Display{40, 1}, Display{42, 2}}) {
-    const auto block = image.Block(display.block);
-    for (int k = 0; k < cameras; ++k) {
-      block[static_cast<std::size_t>(k)] =
-          static_cast<Byte>((k + display.offset + cameras) % cameras);
-    }
-  }
-}
-
-BlockImage MakeImage(const DeviceSetup& setup) {
-  CheckSetup(setup);
-  BlockImage image = LoadDefaultImage(FactoryImage(setup.model));
-  WriteIdentityBlock(image, static_cast<Byte>(setup.cameras), static_cast<Byte>(setup.model),
-                     setup.name.value_or(UsualName(setup)));
-  if (setup.variant) image.Block(kVariantBlock)[kVariantByte] = static_cast<Byte>(*setup.variant);
-  if (setup.cameras < kMostCameras) WrapDisplays(image, setup.cameras);
-  return image;
-}
+/// Blocks up to 254 that a send of all blocks brings at least: without macros it passes over 34.
+constexpr int kFewestOfAllBlocks = 220;
 
 std::vector<Byte> BytesOfBlock(const BlockImage& image, int n) {
   const auto block = image.Block(n);
@@ -85,22 +24,41 @@ std::vector<Byte> BytesOfBlock(const BlockImage& image, int n) {
 }  // namespace
 
 SimulatedDevice::SimulatedDevice(const DeviceSetup& setup)
-    : image_(MakeImage(setup)), identity_(BytesOfBlock(image_, kIdentityBlock)) {
-  const int blocks = setup.blocks.value_or(UsualBlocks(setup.model));
+    : image_(FactoryImage(setup)),
+      identity_(BytesOfBlock(image_, kIdentityBlock)),
+      combined_(setup.combined) {
+  const int blocks = BlocksOf(setup);
   image_.Block(1)[kBlockCountByte] = static_cast<Byte>(blocks);
   image_.ResizeBlocks(blocks);
+  MakeMacros();
 }
 
-SimulatedDevice::SimulatedDevice(std::vector<Byte> image) : image_(std::move(image)) {
+SimulatedDevice::SimulatedDevice(std::vector<Byte> image,
+                                 const std::optional<CombinedSetup>& combined)
+    : image_(std::move(image)), combined_(combined) {
   const std::size_t size = image_.Size();
-  Check(size > 0 && size % kBlockSize == 0 && size <= std::size_t{kMostBlocks} * kBlockSize,
-        "an image must be 1 to 255 blocks of 16 bytes, not " + std::to_string(size) + " bytes");
+  CheckSetup(
+      size > 0 && size % kBlockSize == 0 && size <= std::size_t{kMostDeviceBlocks} * kBlockSize,
+      "an image must be 1 to 255 blocks of 16 bytes, not " + std::to_string(size) + " bytes");
   if (image_.Holds(kIdentityBlock)) {
     identity_ = BytesOfBlock(image_, kIdentityBlock);
   } else {
     identity_.assign(kBlockSize, 0);
     identity_[0] = kMostCameras;
   }
+  MakeMacros();
+}
+
+void SimulatedDevice::MakeMacros() {
+  if (!combined_) return;
+  CheckSetup(*combined_);
+  const int size = combined_->macros * combined_->macro_size;
+  for (int i = 0; i < size; ++i) macros_.push_back(static_cast<Byte>(i));
+}
+
+const CombinedSetup& SimulatedDevice::Combined() const {
+  if (!combined_) throw std::logic_error("the device does not speak the combined exchange");
+  return *combined_;
 }
 
 std::optional<std::vector<Byte>> SimulatedDevice::ReadBlock(int n) const {
@@ -108,14 +66,73 @@ std::optional<std::vector<Byte>> SimulatedDevice::ReadBlock(int n) const {
   return BytesOfBlock(image_, n);
 }
 
+bool SimulatedDevice::EndsSend(std::span<const Byte> packet) const {
+  if (packet.size() != kPacketSize || packet[0] != kEndNumber) return false;
+  if (std::any_of(packet.begin() + 1, packet.end(), [](Byte byte) { return byte != 0; })) {
+    return false;
+  }
+  const bool all_before = last_written_ == kEndNumber - 1 && ascending_ >= kFewestOfAllBlocks;
+  return !(image_.Holds(kEndNumber) && all_before);
+}
+
 SimulatedDevice::Written SimulatedDevice::WritePacket(std::span<const Byte> packet) {
-  if (packet.size() != kPacketSize) return Written::kRefused;
+  if (EndsSend(packet)) {
+    last_written_ = 0;
+    ascending_ = 0;
+    return Written::kEnd;
+  }
+  if (packet.size() != kPacketSize || !image_.Holds(packet[0])) return Written::kRefused;
   const auto data = packet.subspan(1, kBlockSize);
-  const bool all_zero = std::all_of(data.begin(), data.end(), [](Byte byte) { return byte == 0; });
-  if (packet[0] == kEndNumber && all_zero) return Written::kEnd;
-  if (!image_.Holds(packet[0])) return Written::kRefused;
   std::copy(data.begin(), data.end(), image_.Block(packet[0]).begin());
+  ascending_ = packet[0] > last_written_ ? ascending_ + 1 : 1;
+  last_written_ = packet[0];
   return Written::kBlock;
+}
+
+std::vector<Byte> SimulatedDevice::Sizes() const {
+  const auto array = CombinedBytes();
+  // The header has the same fields in the same order, behind three lengths.
+  constexpr int kLengths = 6;
+  return {array.begin() + kLengths, array.begin() + ComboHeader::kSize};
+}
+
+std::vector<Byte> SimulatedDevice::CombinedBytes() const {
+  const CombinedSetup& setup = Combined();
+  ComboHeader header;
+  header.HdrLen = ComboHeader::kSize;
+  header.DataLen = static_cast<std::uint16_t>(image_.Size());
+  header.MacroLen = static_cast<std::uint16_t>(macros_.size());
+  header.MacroRecSize = static_cast<std::uint16_t>(setup.macro_size);
+  header.MacroCount = static_cast<Byte>(setup.macros);
+  header.BlockCount = static_cast<std::uint16_t>(BlockCount());
+  header.ExtraA = static_cast<Byte>(setup.firmware_major);
+  header.ExtraB = static_cast<Byte>(setup.firmware_minor);
+  const CombinedArray array = CombinedArray::Build(header, image_);
+  std::vector<Byte> bytes(array.Bytes().begin(), array.Bytes().end());
+  std::copy(macros_.begin(), macros_.end(),
+            bytes.end() - static_cast<std::ptrdiff_t>(macros_.size()));
+  return bytes;
+}
+
+bool SimulatedDevice::WriteCombined(std::span<const Byte> array) {
+  const auto parts = TakeApart(array);
+  if (!combined_ || !parts || parts->block_count > BlockCount() ||
+      parts->macro_count > combined_->macros) {
+    return false;
+  }
+  for (std::size_t n = 0; n < parts->blocks.size() / kBlockSize; ++n) {
+    const auto block = parts->blocks.subspan(n * kBlockSize, kBlockSize);
+    std::copy(block.begin(), block.end(), image_.Block(static_cast<int>(n) + 1).begin());
+  }
+  if (parts->macros.empty()) return true;
+  const auto theirs = static_cast<std::size_t>(parts->macro_size);
+  const auto ours = static_cast<std::size_t>(combined_->macro_size);
+  for (std::size_t n = 0; n < static_cast<std::size_t>(parts->macro_count); ++n) {
+    const auto record = parts->macros.subspan(n * theirs, std::min(theirs, ours));
+    std::copy(record.begin(), record.end(),
+              macros_.begin() + static_cast<std::ptrdiff_t>(n * ours));
+  }
+  return true;
 }
 
 }  // namespace quorvel::muxhost

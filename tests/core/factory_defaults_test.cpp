@@ -27,7 +27,7 @@ constexpr std::array<Byte, 14> kName = {'A', 'B', ' ', 0, 'C', 'D', 'E', 'F', 'G
 
 auto Device(int code, int cameras, char variant) {
   const auto byte = [](int value) { return static_cast<Byte>(value); };
-  return DefaultsIdentity{byte(variant), byte(cameras), byte(code), kName};
+  return DefaultsDevice{byte(variant), byte(cameras), byte(code), kName};
 }
 
 /// An image of which every byte but the count tells that nobody wrote it.

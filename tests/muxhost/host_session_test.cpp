@@ -80,5 +80,25 @@ TEST_F(HostSessionTest, RefusedWritesAreNotAcknowledged) {
   EXPECT_TRUE(session_.LastExchange().blocks_written.empty());
 }
 
+TEST(Exchange, ReadBackShowsWhatTheDeviceDoesNotHold) {
+  SimulatedDevice device(DeviceSetup{.blocks = 255, .combined = CombinedSetup{2, 4}});
+  std::vector<Byte> packet(18, 9);
+  packet[0] = 255;
+  device.WritePacket(packet);
+  Exchange exchange;
+  EXPECT_FALSE(CompareWith(device, exchange).has_value());
+  // Only the second packet of this kind shows that the first was a block.
+  packet.assign(18, 0);
+  packet[0] = 255;
+  exchange.NoteEnd(packet);
+  EXPECT_FALSE(CompareWith(device, exchange).has_value());
+  exchange.NoteEnd(packet);
+  const std::vector<Byte> macros_of_2_bytes{0, 13, 0, 0, 0, 4, 0, 2, 2, 0, 0, 5, 6, 0, 1, 2, 3};
+  exchange.NoteArray(macros_of_2_bytes);
+  EXPECT_TRUE(device.WriteCombined(macros_of_2_bytes));
+  EXPECT_EQ(InWords(CompareWith(device, exchange).value()),
+            (Lines{"block 255 is not as sent", "the macro data is not as sent"}));
+}
+
 }  // namespace
 }  // namespace quorvel::muxhost

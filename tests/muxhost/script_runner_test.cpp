@@ -1,33 +1,11 @@
 #include "apps/muxhost/script_runner.h"
 
-#include <gtest/gtest.h>
-
 #include <fstream>
-#include <sstream>
+
+#include "tests/muxhost/run_script.h"
 
 namespace quorvel::muxhost {
 namespace {
-
-struct Outcome {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-Outcome RunScript(const std::string& script) {
-  std::istringstream in(script);
-  std::ostringstream out;
-  std::ostringstream err;
-  const int status = ScriptRunner(in, out, err).Run();
-  return {status, out.str(), err.str()};
-}
-
-void ExpectOutput(const std::string& script, const std::string& expected) {
-  const Outcome outcome = RunScript(script);
-  EXPECT_EQ(outcome.err, "") << script;
-  EXPECT_EQ(outcome.status, 0) << script;
-  EXPECT_EQ(outcome.out, expected) << script;
-}
 
 TEST(ScriptRunner, ListsAndComparesSettings) {
   const std::string odd = ::testing::TempDir() + "odd.bin";
@@ -86,6 +64,7 @@ closed frm_CameraSetup
 menu is up
 modified: 1 47
 uploaded blocks 1 47: Finished
+read back: 2 blocks as sent
 block 1: 4c 6f 62 62 79 20 6e 6f 72 74 68 20 64 00 00 e1
 image 47: 32 32 19 19 32 32 32 32 32 32 32 32 32 32 32 32
 block 47: 32 32 19 19 32 32 32 32 32 32 32 32 32 32 32 32
@@ -96,10 +75,12 @@ TEST(ScriptRunner, Transfers) {
   const std::pair<const char*, const char*> cases[] = {
       {"download\nupload all",
        "downloaded 225 blocks, 3600 bytes: Finished\n"
-       "uploaded blocks 1-149 182-193 195-217 219-225: Finished\n"},
+       "uploaded blocks 1-149 182-193 195-217 219-225: Finished\n"
+       "read back: 191 blocks as sent\n"},
       {"device model=2\nhost sync\ndownload\nupload all macros\nupload modified\nmodified",
        "downloaded 185 blocks, 2960 bytes: Finished\n"
        "uploaded blocks 1-185: Finished\n"
+       "read back: 185 blocks as sent\n"
        "upload: no modified blocks\n"
        "modified: none\n"},
       {"device model=6 cameras=4 name=N4\nhost commid=3\ndownload\nevents",
@@ -164,10 +145,22 @@ TEST(ScriptRunner, StopsAtTheLineThatCannotBeCarriedOut) {
       {"device colour=1", "line 1: device does not take colour=1\n"},
       {"device variant=22", "line 1: variant must be one character, not \"22\"\n"},
       {"device firmware=5", "line 1: firmware must be as 5.06, not \"5\"\n"},
-      {"device macros=16x64", "line 1: this version does not have the combined exchange\n"},
+      {"device macros=16x64", "line 1: macros belong to a combined device\n"},
+      {"device combined macros=16", "line 1: macros must be as 16x64, not \"16\"\n"},
+      {"device combined macros=255x258", "line 1: macro bytes must be 0 to 65535, not 65790\n"},
       {"device image=x model=3", "line 1: device does not take model=3 with image=\n"},
       {"host family=256", "line 1: family must be a number from 0 to 255, not \"256\"\n"},
       {"upload some", "line 1: upload does not take some\n"},
+      {"device combined\ndownload\nupload none", "line 3: cmdOK is disabled\n"},
+      {"fault sleepy", "line 1: no such fault: sleepy\n"},
+      {"fault silent ms=3", "line 1: silent does not take ms=3\n"},
+      {"fault late at=0", "line 1: at must be a number from 1 to 1000, not \"0\"\n"},
+      {"zones 0", "line 1: the component has no camera 0\n"},
+      {"device cameras=4\ndownload\nzones 4 1=2", "line 3: the component has no camera 4\n"},
+      {"download\nzones 0 32=1", "line 2: zone byte must be a number from 0 to 31, not \"32\"\n"},
+      {"download\nzones 0 1=0x100",
+       "line 2: zone value must be a number from 0 to 255, not \"0x100\"\n"},
+      {"answer file", "line 1: answer takes ok, cancel or a file, not file\n"},
       {"click cmd_OK", "line 1: no open window has a control cmd_OK\n"},
       {"show frm_Alarm", "line 1: no window frm_Alarm is open\n"},
       {"choose mnu_CSetup", "line 1: no menu is up\n"},

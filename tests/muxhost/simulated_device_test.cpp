@@ -123,11 +123,112 @@ TEST(SimulatedDevice, TakesPackets) {
   EXPECT_EQ(small.WritePacket(packet(200, 5)), Written::kBlock);
   EXPECT_EQ(small.ReadBlock(200), Bytes(16, 5));
   EXPECT_EQ(small.ReadBlock(199), Bytes(before.begin() + 198 * 16, before.begin() + 199 * 16));
+}
 
-  SimulatedDevice large(DeviceSetup{.blocks = 255});
-  EXPECT_EQ(large.WritePacket(packet(255, 9)), Written::kBlock);
-  EXPECT_EQ(large.WritePacket(packet(255, 0)), Written::kEnd);
-  EXPECT_EQ(large.ReadBlock(255), Bytes(16, 9));
+TEST(SimulatedDevice, TellsAnEmptyLastBlockFromTheEnd) {
+  using Written = SimulatedDevice::Written;
+  const auto send = [](SimulatedDevice& device, int number, Byte fill) {
+    Bytes packet(18, fill);
+    packet.front() = static_cast<Byte>(number);
+    packet.back() = 0;
+    return device.WritePacket(packet);
+  };
+  SimulatedDevice device(DeviceSetup{.blocks = 255});
+  EXPECT_EQ(send(device, 255, 9), Written::kBlock);
+  EXPECT_EQ(send(device, 255, 0), Written::kEnd);
+  EXPECT_EQ(device.ReadBlock(255), Bytes(16, 9));
+  // Chosen blocks: what follows block 254 is the end all the same.
+  send(device, 12, 1);
+  send(device, 254, 1);
+  EXPECT_EQ(send(device, 255, 0), Written::kEnd);
+  EXPECT_EQ(device.ReadBlock(255), Bytes(16, 9));
+  // All blocks, the macro blocks passed over, after a send that was stopped half-way.
+  for (int number = 1; number <= 90; ++number) send(device, number, 2);
+  for (int number = 1; number <= 254; ++number) {
+    if ((number < 150 || number > 181) && number != 194 && number != 218) send(device, number, 3);
+  }
+  EXPECT_EQ(send(device, 255, 0), Written::kBlock);
+  EXPECT_EQ(send(device, 255, 0), Written::kEnd);
+  EXPECT_EQ(device.ReadBlock(255), Bytes(16, 0));
+}
+
+SimulatedDevice SmallCombined() {
+  Bytes image(32, 0xAA);
+  image[15] = 2;
+  return SimulatedDevice(std::move(image), CombinedSetup{3, 4, 5, 6});
+}
+
+/// Header and content of an array: 2 blocks of `fill` bytes, macro bytes of `fill`.
+Bytes Array(Bytes header, std::size_t length, Byte fill) {
+  header.resize(length, fill);
+  return header;
+}
+
+TEST(SimulatedDevice, GivesACombinedArray) {
+  const SimulatedDevice device = SmallCombined();
+  EXPECT_EQ(device.Sizes(), (Bytes{0, 4, 3, 0, 2, 5, 6}));
+  Bytes expected{0, 13, 0, 32, 0, 12, 0, 4, 3, 0, 2, 5, 6};
+  expected.insert(expected.end(), device.Bytes().begin(), device.Bytes().end());
+  for (Byte i = 0; i < 12; ++i) expected.push_back(i);
+  EXPECT_EQ(device.CombinedBytes(), expected);
+  EXPECT_THROW(static_cast<void>(SimulatedDevice().Sizes()), std::logic_error);
+}
+
+TEST(SimulatedDevice, TakesCombinedArraysWholeOrNotAtAll) {
+  struct Case {
+    const char* what;
+    Bytes array;
+    bool taken;
+    Bytes second_block;
+    Bytes macros;
+  };
+  const Bytes old_block(16, 0xAA);
+  const Bytes new_block(16, 1);
+  const Bytes old_macros{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
+  const Bytes new_macros(12, 1);
+  const Case cases[] = {
+      {"both", Array({0, 13, 0, 32, 0, 12, 0, 4, 3, 0, 2, 5, 6}, 57, 1), true, new_block,
+       new_macros},
+      {"data alone, macros in place", Array({0, 13, 0, 32, 0, 0, 0, 4, 3, 0, 2, 5, 6}, 57, 1), true,
+       new_block, old_macros},
+      {"macros alone, data in place", Array({0, 13, 0, 0, 0, 12, 0, 4, 3, 0, 2, 5, 6}, 57, 1), true,
+       old_block, new_macros},
+      {"a longer header", Array({0, 15, 0, 32, 0, 0, 0, 4, 3, 0, 2, 5, 6, 9, 9}, 47, 1), true,
+       new_block, old_macros},
+      {"two records of 2 bytes",
+       Array({0, 13, 0, 0, 0, 4, 0, 2, 2, 0, 2, 5, 6}, 49, 1),
+       true,
+       old_block,
+       {1, 1, 2, 3, 1, 1, 6, 7, 8, 9, 10, 11}},
+      {"one block", Array({0, 13, 0, 16, 0, 0, 0, 4, 3, 0, 1, 5, 6}, 29, 1), true, old_block,
+       old_macros},
+      {"bytes too many", Array({0, 13, 0, 32, 0, 0, 0, 4, 3, 0, 2, 5, 6}, 60, 1), true, new_block,
+       old_macros},
+      {"three blocks", Array({0, 13, 0, 48, 0, 0, 0, 4, 3, 0, 3, 5, 6}, 61, 1), false, {}, {}},
+      {"four records", Array({0, 13, 0, 32, 0, 16, 0, 4, 4, 0, 2, 5, 6}, 61, 1), false, {}, {}},
+      {"half a block", Array({0, 13, 0, 24, 0, 0, 0, 4, 3, 0, 2, 5, 6}, 57, 1), false, {}, {}},
+      {"half the macros", Array({0, 13, 0, 32, 0, 6, 0, 4, 3, 0, 2, 5, 6}, 57, 1), false, {}, {}},
+      {"cut in the macros",
+       Array({0, 13, 0, 32, 0, 12, 0, 4, 3, 0, 2, 5, 6}, 56, 1),
+       false,
+       {},
+       {}},
+      {"a short header", Array({0, 12, 0, 32, 0, 0, 0, 4, 3, 0, 2, 5, 6}, 57, 1), false, {}, {}},
+      {"no header", Array({0, 13, 0, 32}, 12, 0), false, {}, {}},
+  };
+  for (const Case& it : cases) {
+    SimulatedDevice device = SmallCombined();
+    const Bytes before = device.CombinedBytes();
+    EXPECT_EQ(device.WriteCombined(it.array), it.taken) << it.what;
+    if (!it.taken) {
+      EXPECT_EQ(device.CombinedBytes(), before) << it.what;
+      continue;
+    }
+    EXPECT_EQ(device.ReadBlock(2), it.second_block) << it.what;
+    EXPECT_EQ(Bytes(device.Macros().begin(), device.Macros().end()), it.macros) << it.what;
+  }
+  SimulatedDevice single(DeviceSetup{.blocks = 2});
+  EXPECT_FALSE(single.WriteCombined(cases[0].array));
 }
 
 }  // namespace
