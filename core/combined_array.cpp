@@ -67,7 +67,7 @@ std::span<const Byte> CombinedArray::Bytes() const {
 }
 
 bool CombinedArray::HoldsImage() const {
-  return header_.Agrees() && bytes_.size() >= std::size_t{header_.HdrLen} + header_.DataLen;
+  return header_.Agrees() && bytes_.size() >= static_cast<std::size_t>(header_.TotalLength());
 }
 
 BlockImage CombinedArray::Image() const {
@@ -77,11 +77,7 @@ BlockImage CombinedArray::Image() const {
 }
 
 bool CombinedArray::Carries(const BlockImage& image) const {
-  const bool whole = bytes_.size() >= static_cast<std::size_t>(header_.TotalLength());
-  if (!HoldsImage() || !whole || header_.BlockCount < image.BlkCountOrZero()) return false;
-  if (!image.Counts(kIdentityBlock)) return true;
-  const BlockImage own = Image();
-  return std::ranges::equal(own.Block(kIdentityBlock), image.Block(kIdentityBlock));
+  return HoldsImage() && header_.BlockCount >= image.BlkCountOrZero();
 }
 
 std::span<Byte> CombinedArray::Data() {

@@ -48,12 +48,11 @@ class CombinedArray {
   /// Header, block data and macro data as the header counts them, as far as they are here.
   [[nodiscard]] std::span<const Byte> Bytes() const;
 
-  /// True when the fields agree and the block data is all here: only then it has an image.
+  /// True when the fields agree and all bytes that they count are here: only then it has an image.
   [[nodiscard]] bool HoldsImage() const;
   /// The block data; throws ImageError unless HoldsImage.
   [[nodiscard]] BlockImage Image() const;
-  /// True when `image` can travel in it: it is whole, of the same device by its identity block, and
-  /// has room for every block of the image.
+  /// True when it is whole and has room for every block of the image.
   [[nodiscard]] bool Carries(const BlockImage& image) const;
 
   /// Copies an image, or one block of it, into the block data, as far as both reach.

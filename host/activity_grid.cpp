@@ -25,7 +25,7 @@ void UpdateActivityGrid(Context& context, std::span<const Byte> data) {
     context.env.blocks.AddBlk(static_cast<Byte>(block));
     camera->ActGrid(k, cell);
     // A send may be under way that has encoded its blocks already.
-    if (context.ImageIsDecoded()) {
+    if (context.HasImage()) {
       EncodeBlock(block, context.BlkImage, context.env, context.Record());
     }
   }

@@ -115,13 +115,13 @@ void Component::FillComboInfo(std::span<const Byte> data) {
 }
 
 std::vector<SettingLine> Component::Settings(std::string_view pattern) {
-  if (!context.ImageIsDecoded()) return {};
+  if (!context.HasImage()) return {};
   return ListSettings(context.Record(), context.env.identity, context.BlkImage.BlkCount(), pattern);
 }
 
 std::optional<std::vector<SettingDifference>> Component::DifferencesFrom(
     std::span<const Byte> image) {
-  if (!context.ImageIsDecoded()) return std::nullopt;
+  if (!context.HasImage()) return std::nullopt;
   BlockImage other({image.begin(), image.end()});
   RecordEnvironment other_env;
   MuxData other_record(other_env);

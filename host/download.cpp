@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "host/combined_exchange.h"
 #include "host/settings_file.h"
@@ -23,28 +24,37 @@ constexpr Byte kModelCodeMask = 0x7F;
 
 }  // namespace
 
-void Download::BeginAnew() {
-  ++round_;
+int Download::BeginAnew() {
   expecting_ = Expecting::kNothing;
+  arriving_.Clear();
   StopReceive = false;
   progress_ = {};
+  const int round = ++round_;
+  CloseDialog();  // what it waited for does not come any more
+  return round;
+}
+
+/// Texts may be the host's, who may do anything while it is asked for one: not between a look at
+/// the state and what follows from it.
+void Download::FetchTexts() {
+  block_text_ = context_.GetText(kTextDownloadingBlock);
+  finished_text_ = context_.GetText(kTextFinished);
 }
 
 void Download::Receive() {
-  BeginAnew();
-  const int round = round_;
+  const int round = BeginAnew();
   context_.InitGlobals();
+  FetchTexts();
+  if (!GoesOn(round)) return;
   // A host may answer from inside its event handler, before there is a dialog. The dialog then
   // opens on what has been reached.
   if (context_.ComboMode) {
     expecting_ = Expecting::kComboArray;
     host_->RequestComboBlocks();
   } else {
-    context_.BeginImage();
-    received_combined_ = false;
     Request(Expecting::kBlock, 1);
   }
-  if (context_.HostCommId == 0 && round == round_) OpenDialog(false);
+  if (context_.HostCommId == 0) OpenDialog(round, false);
 }
 
 void Download::Request(Expecting expecting, int number) {
@@ -53,16 +63,20 @@ void Download::Request(Expecting expecting, int number) {
   host_->RequestBlk(static_cast<Byte>(number));
 }
 
-void Download::OpenDialog(bool restored) {
-  CloseDialog();
+void Download::OpenDialog(int round, bool restored) {
+  if (!GoesOn(round)) return;
   const auto dialog = std::make_shared<frm_ULFrMux>(context_);
-  dialog->StopUL = [this] { StopReceive = true; };
-  dialog->SaveFile = [this] { SaveReceivedData(); };
   if (restored) dialog->ShowRestored();
+  if (!GoesOn(round)) return;
+  dialog->StopUL = [this] {
+    StopReceive = true;
+    // What is edited from now on must not be undone when the array comes yet.
+    if (expecting_ == Expecting::kComboArray) expecting_ = Expecting::kNothing;
+  };
+  dialog->SaveFile = [this] { context_.Guard("SaveReceivedData", [this] { SaveReceivedData(); }); };
   frmUL = dialog;
   ShowProgress();
-  // The host's texts are host code, too: they may have destroyed the control.
-  if (!context_.terminated) dialog->ShowModal();
+  dialog->ShowModal();
 }
 
 void Download::CloseDialog() {
@@ -96,22 +110,18 @@ void Download::TakeBlock(std::span<const Byte> reply) {
   // A longer block would push all that follow out of place.
   if (reply.size() > kReplyLength) throw ImageError("a block of more than 16 bytes");
   expecting_ = Expecting::kNothing;
-  const auto payload = reply.subspan(1);
-  context_.ImageByteCount += static_cast<std::int32_t>(payload.size());
-  context_.BlkImage.Append(payload);
-  const int count = context_.BlkImage.BlkCount();
-  if (number == 1) {
-    context_.env.blocks.SetMaxBlk(static_cast<Byte>(count));
-    progress_.maximum = count;
-  }
-  progress_.bytes = context_.ImageByteCount;
-  progress_.status = context_.GetText(kTextDownloadingBlock) + std::to_string(number);
+  arriving_.Append(reply.subspan(1));
+  const int count = arriving_.BlkCount();
+  const auto bytes = static_cast<std::int32_t>(arriving_.Size());
+  progress_.maximum = count;
   if (number <= count) progress_.value = number;
+  progress_.bytes = bytes;
+  progress_.status = block_text_ + std::to_string(number);
   ShowProgress();
 
-  if (number >= count && context_.ImageByteCount >= count * kBlockSize) {
-    context_.Adopt(context_.BlkImage, ImageSource::kDevice);
-    FinishReception();
+  if (number >= count && bytes >= count * kBlockSize) {
+    Adopt(std::exchange(arriving_, {}), ImageSource::kDevice);
+    FinishReception(bytes);
   } else if (number < count && !StopReceive) {
     Request(Expecting::kBlock, number + 1);
   }
@@ -125,38 +135,44 @@ bool Download::MayTakeUnasked() const {
 
 void Download::TakeWholeImage(std::span<const Byte> data) {
   if (expecting_ != Expecting::kBlock && !MayTakeUnasked()) return;
-  expecting_ = Expecting::kNothing;
   const auto bytes = data.first(data.size() - 1);  // the last byte is not part of it
-  context_.Adopt(BlockImage({bytes.begin(), bytes.end()}), ImageSource::kDevice);
+  BlockImage image({bytes.begin(), bytes.end()});
+  if (image.BlkCount() == 0) throw ImageError("an image without blocks");
+  Adopt(std::move(image), ImageSource::kDevice);
   context_.ImageByteCount = static_cast<std::int32_t>(bytes.size());
-  received_combined_ = false;
   TellArrival();
 }
 
 void Download::TakeComboArray(std::span<const Byte> data) {
+  FetchTexts();
   if (expecting_ != Expecting::kComboArray && !MayTakeUnasked()) return;
-  expecting_ = Expecting::kNothing;
   auto array = CombinedArray::Parse(data, context_.ComboArray.Header());
-  context_.ComboMode = true;
   const std::int32_t length = array.Header().TotalLength();
   if (array.HoldsImage()) {
-    context_.Adopt(array.Image(), ImageSource::kDevice);
-    context_.ComboArray = std::move(array);
+    BlockImage image = array.Image();
+    if (image.BlkCount() == 0) throw ImageError("an array without blocks");
+    Adopt(std::move(image), ImageSource::kDevice, std::move(array));
+    context_.ComboMode = true;
     received_combined_ = true;
-  } else {
-    // It contradicts itself: the present image stays, with its array, and is decoded anew.
-    if (!context_.ImageIsDecoded()) throw ImageError("there is no image to fall back on");
-    context_.Adopt(context_.BlkImage,
-                   context_.LoadedFromFile ? ImageSource::kSettingsFile : ImageSource::kDevice);
+  } else if (!context_.HasImage()) {
+    throw ImageError("the array contradicts itself and there is no image to fall back on");
   }
-  context_.ImageByteCount = length;
-  FinishReception();
+  // One that contradicts itself leaves the present image, and what was edited in it.
+  expecting_ = Expecting::kNothing;
+  FinishReception(length);
+}
+
+void Download::Adopt(BlockImage image, ImageSource source, CombinedArray array) {
+  context_.Adopt(std::move(image), source, std::move(array));
+  expecting_ = Expecting::kNothing;
+  received_combined_ = false;
 }
 
 /// The dialog says "Finished" only of an image that could be decoded.
-void Download::FinishReception() {
+void Download::FinishReception(std::int32_t bytes) {
+  context_.ImageByteCount = bytes;
   const int count = context_.BlkImage.BlkCount();
-  progress_ = {count, count, context_.GetText(kTextFinished), context_.ImageByteCount, true};
+  progress_ = {count, count, finished_text_, bytes, true};
   ShowProgress();
   TellArrival();
 }
@@ -171,7 +187,7 @@ void Download::TellArrival() {
 }
 
 void Download::SaveReceivedData() {
-  // What is on screen is what is saved, also when another image begins to arrive meanwhile.
+  // What is on screen is what is saved, also when another image arrives meanwhile.
   const auto received =
       received_combined_ ? context_.ComboArray.Bytes() : context_.BlkImage.Bytes();
   SaveBytes(context_, "*.bin", std::vector<Byte>(received.begin(), received.end()));
@@ -182,24 +198,23 @@ void Download::RestoreImageFromFile() {
   // Also when nothing comes of it: what is sent next is compared with the device.
   context_.LoadedFromFile = true;
   const auto bytes = AskForSettings(context_);
+  FetchTexts();
   if (!bytes || context_.terminated) return;
   SettingsFile file = ReadSettingsFile(context_, *bytes);
-  context_.Adopt(std::move(file.image), ImageSource::kSettingsFile);
-  context_.ImageByteCount = static_cast<std::int32_t>(bytes->size());
-  if (file.array) context_.ComboArray = std::move(*file.array);
+  const std::int32_t length =
+      file.combined ? file.array.Header().TotalLength() : static_cast<std::int32_t>(bytes->size());
+  Adopt(std::move(file.image), ImageSource::kSettingsFile, std::move(file.array));
   if (file.combined) context_.ComboMode = true;
   received_combined_ = file.combined;
-  BeginAnew();
-  const int round = round_;
-  FinishReception();
-  if (round == round_) OpenDialog(true);
+  const int round = BeginAnew();
+  FinishReception(length);
+  OpenDialog(round, true);
 }
 
 void Download::BuildDefaults() {
-  BeginAnew();
-  CloseDialog();  // what it waited for does not come any more
+  const int round = BeginAnew();
   context_.InitGlobals();
-  Request(Expecting::kDefaultsProbe, kVariantBlock);
+  if (GoesOn(round)) Request(Expecting::kDefaultsProbe, kVariantBlock);
 }
 
 void Download::TakeProbe(std::span<const Byte> reply) {
@@ -220,16 +235,21 @@ void Download::TakeIdentity(std::span<const Byte> reply) {
 }
 
 void Download::LoadDefaultData() {
-  BlockImage image = LoadDefaultImage(FactoryImageOf(defaults_.DefModelCode));
-  AdaptToDevice(image, defaults_, context_.combo_sizes.ComboBlockCount);
-  context_.ImageByteCount = static_cast<std::int32_t>(image.Size());
-  context_.Adopt(std::move(image), ImageSource::kFactory);
-  received_combined_ = false;
   const int round = round_;
+  const std::string loaded = context_.GetText(kTextDefaultsLoaded);
+  const std::string title = context_.GetText(kTextMessage);
+  if (!GoesOn(round)) return;
+  const ComboSizes& sizes = context_.combo_sizes;
+  BlockImage image = LoadDefaultImage(FactoryImageOf(defaults_.DefModelCode));
+  // The sizes belong to the device only while it is one of the combined exchange.
+  AdaptToDevice(image, defaults_, context_.ComboMode ? sizes.ComboBlockCount : 0);
+  const auto bytes = static_cast<std::int32_t>(image.Size());
+  CombinedArray array = context_.ComboMode ? BuildComboArray(sizes, image) : CombinedArray();
+  Adopt(std::move(image), ImageSource::kFactory, std::move(array));
+  context_.ImageByteCount = bytes;
   const std::string name = context_.platform.ToUtf8(context_.Record().MuxModelName());
-  context_.platform.Ask({context_.GetText(kTextDefaultsLoaded) + name,
-                         context_.GetText(kTextMessage), Message::Buttons::kOk});
-  if (round == round_) host_->UploadSucceeded();
+  context_.platform.Ask({loaded + name, title, Message::Buttons::kOk});
+  if (GoesOn(round)) host_->UploadSucceeded();
 }
 
 }  // namespace quorvel

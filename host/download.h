@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "core/factory_defaults.h"
@@ -15,7 +16,8 @@ namespace quorvel {
 /// asks for what is needed, decodes the image and tells the host that it has arrived.
 ///
 /// One of these is under way at a time. Each begins anew, whatever was under way before; replies to
-/// what is no longer asked for change nothing.
+/// what is no longer asked for change nothing. Until a new image is complete and decoded, the
+/// present one stays, with its record and what was edited in it.
 class Download {
  public:
   Download(Context& context, HostEvents& host) : context_(context), host_(host) {}
@@ -45,7 +47,12 @@ class Download {
  private:
   enum class Expecting { kNothing, kBlock, kComboArray, kDefaultsProbe, kDefaultsIdentity };
 
-  void BeginAnew();
+  /// Ends what was under way; returns the number of what begins.
+  int BeginAnew();
+  /// False when a host has begun another sequence, or destroyed the control, from inside an event,
+  /// a text or a message box of this one.
+  [[nodiscard]] bool GoesOn(int round) const { return round == round_ && !context_.terminated; }
+  void FetchTexts();
   void Request(Expecting expecting, int number);
   void TakeBlock(std::span<const Byte> reply);
   void TakeWholeImage(std::span<const Byte> data);
@@ -53,9 +60,10 @@ class Download {
   void TakeIdentity(std::span<const Byte> reply);
   void LoadDefaultData();
   [[nodiscard]] bool MayTakeUnasked() const;
-  void FinishReception();
+  void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});
+  void FinishReception(std::int32_t bytes);
   void TellArrival();
-  void OpenDialog(bool restored);
+  void OpenDialog(int round, bool restored);
   void ShowProgress();
   void SaveReceivedData();
 
@@ -63,9 +71,12 @@ class Download {
   HostEvents& host_;
   std::shared_ptr<frm_ULFrMux> frmUL;
   ReceiveProgress progress_;
+  std::string block_text_;
+  std::string finished_text_;
   Expecting expecting_ = Expecting::kNothing;
   int awaited_ = 0;          ///< number of the block that is expected
-  int round_ = 0;            ///< tells this sequence from one that a host starts inside its event
+  int round_ = 0;            ///< number of the sequence that is under way
+  BlockImage arriving_;      ///< the blocks that have come so far
   bool StopReceive = false;  ///< the user has closed the dialog; no further block is asked for
   bool received_combined_ = false;  ///< the present data came as a combined array
   DefaultsDevice defaults_;

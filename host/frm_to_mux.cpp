@@ -19,6 +19,10 @@ std::string ThreeDigits(int number) {
 
 frm_ToMux::frm_ToMux(Context& context) : Dialog(context.platform, "frm_ToMux"), context_(context) {
   KeepAliveWith(context.life);
+  upload_block_text_ = context.GetText(265);
+  abort_text_ = context.GetText(260);
+  delete_text_ = context.GetText(259);
+  finished_text_ = context.GetText(271);
   SetIcon(&Icon101());
   ArrangeControls();
   BindHandlers();
@@ -98,21 +102,21 @@ void frm_ToMux::Start() {
     if (!AllBlocks()) lstBlkSav.Select(0);
     optBlk(AllBlocks() ? kModified : kAll).SetEnabled(false);
   }
-  StatusBar1.SetPanel(kStatus, context_.GetText(265));
+  StatusBar1.SetPanel(kStatus, upload_block_text_);
   cmdOK.SetEnabled(false);
   if (StartDL) StartDL();
 }
 
 void frm_ToMux::Stop() {
   sending_ = false;
-  StatusBar1.SetPanel(kBlock, context_.GetText(260));
+  StatusBar1.SetPanel(kBlock, abort_text_);
   EnableChoice();
   cmdOK.SetEnabled(true);
   if (StopDL) StopDL();
 }
 
 void frm_ToMux::ClearBlocks() {
-  StatusBar1.SetPanel(kStatus, context_.GetText(259));
+  StatusBar1.SetPanel(kStatus, delete_text_);
   StatusBar1.SetPanel(kBlock, {});
   context_.env.blocks.BlkSavIdx(0);
   lstBlkSav.SetItems({});
@@ -141,7 +145,7 @@ void frm_ToMux::ShowBlock(int number, bool last) {
 }
 
 void frm_ToMux::ShowFinished() {
-  StatusBar1.SetPanel(kResult, context_.GetText(271));
+  StatusBar1.SetPanel(kResult, finished_text_);
   EnableChoice();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "quorvel/widgets.h"
 #include "ui/context.h"
 
@@ -43,6 +45,11 @@ class frm_ToMux : public Dialog {
   void EnableChoice();
 
   Context& context_;
+  // Texts may be the host's, who may do anything while it is asked for one: not during a send.
+  std::string upload_block_text_;
+  std::string abort_text_;
+  std::string delete_text_;
+  std::string finished_text_;
   bool sending_ = false;  ///< until the end packet or STOP; START waits for it
 
   ControlArray<CheckBox> chkMacro{*this, "chkMacro", 2};

@@ -1,7 +1,7 @@
 #include "host/model_catalogue.h"
 
+#include <algorithm>
 #include <array>
-#include <utility>
 
 namespace quorvel {
 
@@ -59,8 +59,16 @@ bool AreVaultlineEditions(std::string_view a, std::string_view b) {
   return (a == kAdvanced && b == kPro) || (a == kPro && b == kAdvanced);
 }
 
-bool IdentityFits(const Context& context, std::span<const Byte, kBlockSize> identity,
-                  const std::string& name) {
+using IdentityBytes = std::array<Byte, kBlockSize>;
+
+/// Block 185, of zeros when the image ends before it.
+IdentityBytes IdentityOf(const BlockImage& image) {
+  IdentityBytes bytes{};
+  if (image.Holds(kIdentityBlock)) std::ranges::copy(image.Block(kIdentityBlock), bytes.begin());
+  return bytes;
+}
+
+bool IdentityFits(const Context& context, const IdentityBytes& identity, const std::string& name) {
   const ConnectedIdentity& connected = context.connected;
   if (identity[0] != connected.ConnChannels) return false;
   const Byte code = identity[1] & kModelCodeMask;
@@ -91,7 +99,7 @@ std::string ModelDescription(const Context& context, int which) {
     channels = context.connected.ConnChannels;
     code = context.connected.ConnModelCode;
   } else if (which == kOfImage) {
-    const auto identity = context.BlkImage.Block(kIdentityBlock);
+    const IdentityBytes identity = IdentityOf(context.BlkImage);
     channels = identity[0];
     code = identity[1] & kModelCodeMask;
   }
@@ -106,8 +114,8 @@ bool IsVideoTwin(const Context& context, Byte code) {
 
 bool CheckLoadedIdentity(Context& context) {
   if (!context.LoadedFromFile) return true;
-  const auto identity = std::as_const(context.BlkImage).Block(kIdentityBlock);
-  const std::string name = NameOf(identity.subspan<2>());
+  const IdentityBytes identity = IdentityOf(context.BlkImage);
+  const std::string name = NameOf(std::span(identity).subspan<2>());
   if (IdentityFits(context, identity, name)) return true;
   const auto shown = [&context](const std::string& bytes) {
     return context.platform.ToUtf8(bytes);

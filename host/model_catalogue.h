@@ -16,7 +16,7 @@ namespace quorvel {
 void SaveConnectedIdentity(Context& context, std::span<const Byte> data);
 
 /// " (16 ch, Triplex NTSC)": which = 0 of the connected device, 1 of the image, anything else of no
-/// device (0 channels, code 0). Throws ImageError for an image without an identity block.
+/// device, or of an image without an identity block (0 channels, code 0).
 [[nodiscard]] std::string ModelDescription(const Context& context, int which);
 
 /// True when `code` is the NTSC or PAL twin of the connected model.

@@ -15,12 +15,12 @@ std::size_t LengthByItsCount(std::span<const Byte> bytes) {
   return bytes.size() > kBlockCountByte ? std::size_t{bytes[kBlockCountByte]} * kBlockSize : 0;
 }
 
-/// In the combined exchange a file with more than the device's blocks holds macro data as well. A
-/// host of single blocks knows no sizes: images are short there, but for those whose own count says
-/// that they are not.
+/// In the combined exchange a file with more than the device's blocks is a combined array. Where no
+/// number of blocks was stated, images are short, but for those whose own count says that they are
+/// not.
 bool IsCombinedFile(const Context& context, std::span<const Byte> bytes) {
   constexpr std::size_t kLongestImage = 3488;
-  if (context.ComboMode) {
+  if (context.ComboMode && context.combo_sizes.ComboBlockCount > 0) {
     return bytes.size() > std::size_t{context.combo_sizes.ComboBlockCount} * kBlockSize;
   }
   return bytes.size() > kLongestImage && bytes.size() != LengthByItsCount(bytes);
@@ -57,6 +57,12 @@ FileRequest SaveRequest(const std::string& default_name) {
   return request;
 }
 
+/// Writes what can be read again.
+void Write(Context& context, const std::string& path, std::span<const Byte> bytes) {
+  if (bytes.size() >= kLengthLimit) throw ImageError("too many bytes for a settings file");
+  context.platform.ReplaceFile(path, bytes);
+}
+
 FileRequest RestoreRequest() {
   FileRequest request;
   request.purpose = FileRequest::Purpose::kOpen;
@@ -75,12 +81,13 @@ SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> byte
   file.combined = IsCombinedFile(context, bytes);
   if (file.combined) {
     file.array = CombinedArray::Parse(bytes, {});
-    file.image = file.array->Image();
+    file.image = file.array.Image();
   } else {
     RefuseMisplaced(bytes);
     file.image = BlockImage({bytes.begin(), bytes.end()});
     if (context.ComboMode) file.array = BuildComboArray(context.combo_sizes, file.image);
   }
+  if (file.image.BlkCount() == 0) throw ImageError("an image without blocks");
   LockOldKeyboards(file.image, context.HostCommId);
   return file;
 }
@@ -93,23 +100,18 @@ std::optional<std::vector<Byte>> AskForSettings(Context& context) {
 
 void SaveBytes(Context& context, const std::string& default_name, std::span<const Byte> bytes) {
   const auto path = context.platform.AskFile(SaveRequest(default_name));
-  if (path) context.platform.ReplaceFile(*path, bytes);
+  if (path) Write(context, *path, bytes);
 }
 
 void SaveImageToFile(Context& context) {
-  if (context.BlkImage.Size() == 0) return;
-  if (!context.ImageIsDecoded()) throw ImageError("only a part of the image is here");
+  if (!context.HasImage()) return;
   const auto path = context.platform.AskFile(SaveRequest(kFileName));
   if (!path || context.terminated) return;
-  if (!context.ImageIsDecoded()) throw ImageError("another image began to arrive");
   context.EncodeListedBlocks();
-  if (!context.ComboMode) {
-    context.platform.ReplaceFile(*path, context.BlkImage.Bytes());
-    return;
-  }
+  if (!context.ComboMode) return Write(context, *path, context.BlkImage.Bytes());
   ProvideComboArray(context);
   context.ComboArray.PutImage(context.BlkImage);
-  context.platform.ReplaceFile(*path, context.ComboArray.Bytes());
+  Write(context, *path, context.ComboArray.Bytes());
 }
 
 }  // namespace quorvel

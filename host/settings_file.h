@@ -13,8 +13,8 @@ namespace quorvel {
 /// combined exchange. It has neither mark nor version; the two are told apart by its length.
 struct SettingsFile {
   BlockImage image;
-  /// A combined file's own array; in the combined exchange a plain file gets one, too.
-  std::optional<CombinedArray> array;
+  /// A combined file's own array; in the combined exchange a plain file gets one, too. Else empty.
+  CombinedArray array;
   bool combined = false;  ///< it was a combined file
 };
 

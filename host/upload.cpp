@@ -42,68 +42,84 @@ void Upload::RefuseData() {
   context_.platform.Ask({context_.GetText(267), context_.GetText(270), Message::Buttons::kOk});
 }
 
+Upload::Basis Upload::PresentBasis() const {
+  return {context_.ImageGeneration(), context_.ComboMode,  context_.LoadedFromFile,
+          context_.HostType,          context_.HostCommId, context_.connected};
+}
+
+bool Upload::DataFits() {
+  if (context_.HasImage() && FamilyFits()) return CheckLoadedIdentity(context_);
+  RefuseData();
+  return false;
+}
+
 void Upload::Send() {
-  // A download that was stopped or refused left bytes behind that no device may be given.
-  const bool usable = context_.ImageIsDecoded() || context_.BlkImage.Size() == 0;
-  if (usable) context_.EncodeListedBlocks();
-  if (!usable || !FamilyFits()) return RefuseData();
-  if (!CheckLoadedIdentity(context_)) return;
+  const Basis basis = PresentBasis();
+  if (context_.HasImage()) context_.EncodeListedBlocks();
+  if (!DataFits()) return;
   CloseDialog();
+  // The dialog's texts may be the host's, who may do anything while it is asked for one.
   const auto dialog = std::make_shared<frm_ToMux>(context_);
-  dialog->StartDL = [this] { StartDL(); };
-  dialog->StopDL = [this] { StopDL(); };
+  if (context_.terminated || frmDL != nullptr) return;
+  basis_ = basis;
+  const std::weak_ptr<frm_ToMux> weak = dialog;
+  dialog->StartDL = [this, weak] {
+    const auto started = weak.lock();
+    if (started == nullptr || started != frmDL) return;
+    context_.Guard("StartDL", [&] { StartDL(started); });
+  };
+  dialog->StopDL = [this, weak] {
+    if (weak.lock() == frmDL) StopDL();
+  };
   frmDL = dialog;
-  generation_ = context_.ImageGeneration();
-  // The host's texts are host code, too: they may have destroyed the control.
-  if (!context_.terminated) dialog->ShowModal();
+  dialog->ShowModal();
 }
 
 void Upload::CloseDialog() {
   const auto dialog = std::move(frmDL);
-  if (dialog != nullptr) dialog->Close();
+  if (dialog == nullptr) return;
+  StopDL();
+  dialog->Close();
 }
 
-/// Another image has been checked against nothing: neither is it sent, nor mixed into a send of
-/// the one before.
-bool Upload::ImageIsStillTheSame() {
-  if (generation_ == context_.ImageGeneration()) return true;
-  StopDL();
+/// An image that has come since, or another device, has been compared with nothing: the one is not
+/// sent, nor mixed into a send of the image before; the other is given no block.
+bool Upload::BasisHolds() {
+  if (basis_ == PresentBasis()) return true;
   CloseDialog();
   RefuseData();
   return false;
 }
 
-void Upload::StartDL() {
-  if (!ImageIsStillTheSame()) return;
+void Upload::StartDL(const std::shared_ptr<frm_ToMux>& dialog) {
+  if (!BasisHolds()) return;
   if (context_.ComboMode) {
-    StartCombined();
+    StartCombined(dialog);
   } else {
-    StartBlocks();
+    StartBlocks(*dialog);
   }
 }
 
-void Upload::StartCombined() {
-  if (!context_.ImageIsDecoded()) return RefuseData();
-  const auto dialog = frmDL;
+void Upload::StartCombined(const std::shared_ptr<frm_ToMux>& dialog) {
   const bool listed_only = context_.IncludeData && !dialog->AllBlocks();
   ProvideComboArray(context_);
   if (listed_only) {
     PutListedBlocks();
     dialog->ShowClearBlocks();
     // The device keeps its macros: it is given the listed blocks alone.
-    if (!context_.IncludeMacros) return StartBlocks();
+    if (!context_.IncludeMacros) return StartBlocks(*dialog);
   } else if (context_.IncludeData) {
     FixUpForCombinedSend(context_.BlkImage, context_.env, context_.Record(), context_.UsePcTime);
     context_.ComboArray.PutImage(context_.BlkImage);
   }
   if (context_.IncludeMacros && !MacrosFit()) return;
-  if (dialog != frmDL || !ImageIsStillTheSame()) return;  // while the user was asked
+  if (dialog != frmDL || !BasisHolds()) return;  // while the user was asked
   // What is sent is a copy: the lengths of what is left out are 0 in it, and the host may write
   // into it.
   std::vector<Byte> array =
       context_.ComboArray.Outgoing(context_.IncludeData, context_.IncludeMacros);
   host_->SendComboBlocks(array);
-  if (!context_.terminated) dialog->ShowFinished();
+  dialog->ShowFinished();
 }
 
 void Upload::PutListedBlocks() {
@@ -120,13 +136,13 @@ bool Upload::MacrosFit() {
                                 context_.GetText(32), Message::Buttons::kOkCancel});
 }
 
-void Upload::StartBlocks() {
-  plan_ = frmDL->AllBlocks()
+void Upload::StartBlocks(frm_ToMux& dialog) {
+  plan_ = dialog.AllBlocks()
               ? PlanAllBlocks(context_.BlkImage, context_.IncludeMacros)
               : PlanListedBlocks(context_.env.blocks, context_.BlkImage, context_.IncludeMacros);
   next_ = 0;
-  if (plan_.empty()) frmDL->ShowFinished();
-  frmDL->ShowSending();
+  if (plan_.empty()) dialog.ShowFinished();
+  dialog.ShowSending();
   Timer1->SetInterval(kSendingInterval);
   start_waits_ = outstanding_;
   if (!start_waits_) Timer1->Start();
@@ -147,28 +163,22 @@ void Upload::TriggerTimer() {
 void Upload::Tick() {
   Timer1->Stop();
   start_waits_ = false;
-  if (!ImageIsStillTheSame()) return;
-  // The image's own count may have shrunk since the plan was made.
-  while (next_ < plan_.size() && !context_.BlkImage.Holds(plan_[next_])) ++next_;
+  if (frmDL == nullptr || !BasisHolds()) return;
   if (next_ == plan_.size()) {
     SendEndPacket();
     return;
   }
   const Byte number = plan_[next_++];
-  if (frmDL != nullptr) frmDL->ShowBlock(number, next_ == plan_.size());
-  SendBlock(number);
-}
-
-void Upload::SendBlock(Byte number) {
   std::array<Byte, kPacketSize> packet{number};
   const auto block = context_.BlkImage.Block(number);
   std::copy(block.begin(), block.end(), packet.begin() + 1);
+  frmDL->ShowBlock(number, next_ == plan_.size());
   SendPacket(packet);
 }
 
 void Upload::SendEndPacket() {
   StopDL();
-  if (frmDL != nullptr) frmDL->ShowEnded();
+  frmDL->ShowEnded();
   std::array<Byte, kPacketSize> packet{kEndPacket};
   SendPacket(packet);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <vector>
@@ -29,17 +30,29 @@ class Upload {
   void CloseDialog();
 
  private:
+  /// What a send rests on: the image, and what it was compared with when command 11 was given.
+  struct Basis {
+    int generation;
+    bool combined;
+    bool from_file;
+    std::int16_t family;
+    Byte comm_id;
+    ConnectedIdentity connected;
+    bool operator==(const Basis&) const = default;
+  };
+
+  [[nodiscard]] Basis PresentBasis() const;
+  [[nodiscard]] bool DataFits();
   [[nodiscard]] bool FamilyFits() const;
   void RefuseData();
-  [[nodiscard]] bool ImageIsStillTheSame();
-  void StartDL();
+  [[nodiscard]] bool BasisHolds();
+  void StartDL(const std::shared_ptr<frm_ToMux>& dialog);
   void StopDL();
-  void StartCombined();
+  void StartCombined(const std::shared_ptr<frm_ToMux>& dialog);
   void PutListedBlocks();
   [[nodiscard]] bool MacrosFit();
-  void StartBlocks();
+  void StartBlocks(frm_ToMux& dialog);
   void Tick();
-  void SendBlock(Byte number);
   void SendEndPacket();
   void SendPacket(std::span<Byte> packet);
 
@@ -52,7 +65,7 @@ class Upload {
   std::unique_ptr<Timer> patience_;
   bool outstanding_ = false;  ///< a packet has not been acknowledged
   bool start_waits_ = false;  ///< START was pressed meanwhile
-  int generation_ = 0;        ///< of the image that the dialog offers
+  Basis basis_{};             ///< of the dialog
   std::vector<Byte> plan_;
   std::size_t next_ = 0;  ///< place in the plan; at its end, the end packet follows
 };

@@ -22,6 +22,7 @@ struct ConnectedIdentity {
   Byte ConnChannels = 0;
   Byte ConnModelCode = 0;
   std::string ConnModelName;  ///< code-page bytes
+  bool operator==(const ConnectedIdentity&) const = default;
 };
 
 /// Sizes of the combined exchange, as the host states them.
@@ -47,7 +48,7 @@ struct Context {
   TextCatalogue texts;
 
   BlockImage BlkImage;
-  std::int32_t ImageByteCount = 0;  ///< bytes received
+  std::int32_t ImageByteCount = 0;  ///< bytes received, restored or built
   RecordEnvironment env;            ///< commit flags, modified-block list, identity of the image
 
   // What the host has said.
@@ -61,7 +62,7 @@ struct Context {
   Byte MenuHostCommId = 0;
 
   // The image and what is sent of it.
-  CombinedArray ComboArray;     ///< as last received, restored or built; empty before
+  CombinedArray ComboArray;     ///< the image's own, received, restored or built; or empty
   bool LoadedFromFile = false;  ///< what is sent is compared with the connected device first
   bool IncludeMacros = false;
   bool IncludeData = false;
@@ -77,28 +78,17 @@ struct Context {
     if (record_ == nullptr) record_ = std::make_unique<MuxData>(env);
     return *record_;
   }
-  /// Counts the images that have begun to arrive: an editor that opened on the settings of an
-  /// earlier one must not write into the present ones.
+  /// Counts the images that have arrived: an editor that opened on the settings of an earlier one
+  /// must not write into the present ones.
   [[nodiscard]] int ImageGeneration() const { return generation_; }
-  /// True while the record was decoded from the image: only then may the image be sent. An image
-  /// that was refused, or of which a part is missing, is nobody's configuration.
-  [[nodiscard]] bool ImageIsDecoded() const { return image_is_decoded_; }
+  /// True when there is an image. It is whole, and the record was decoded from it: an image that was
+  /// refused, or of which a part is missing, is nobody's configuration and does not get here.
+  [[nodiscard]] bool HasImage() const { return BlkImage.Size() != 0; }
 
-  /// An image begins to arrive block by block, from nothing. An image that comes in one piece
-  /// replaces the present one only when it is there.
-  void BeginImage() {
-    BlkImage.Clear();
-    ImageByteCount = 0;
-    LoadedFromFile = false;
-    env.identity.MaxCam = kMostCameras;
-    image_is_decoded_ = false;
-    ++generation_;
-  }
-
-  /// Decodes `image` into a fresh record; both then replace the present ones, and nothing is
-  /// modified any more. Throws ImageError, and keeps what is there, when the image cannot be
-  /// decoded.
-  void Adopt(BlockImage image, ImageSource source) {
+  /// Decodes `image` into a fresh record; both then replace the present ones, `array` is what the
+  /// image travelled in, and nothing is modified any more. Throws ImageError, and keeps what is
+  /// there, when the image cannot be decoded.
+  void Adopt(BlockImage image, ImageSource source, CombinedArray array = {}) {
     const Identity present = env.identity;
     auto fresh = std::make_unique<MuxData>(env);
     try {
@@ -109,9 +99,9 @@ struct Context {
     }
     record_ = std::move(fresh);
     BlkImage = std::move(image);
+    ComboArray = std::move(array);
     LoadedFromFile = source == ImageSource::kSettingsFile;
     env.blocks.SetMaxBlk(BlkImage.BlkCount());
-    image_is_decoded_ = true;
     ++generation_;
   }
 
@@ -148,7 +138,6 @@ struct Context {
  private:
   std::unique_ptr<MuxData> record_;
   int generation_ = 0;
-  bool image_is_decoded_ = false;
 };
 
 }  // namespace quorvel

@@ -133,6 +133,10 @@ TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
       EXPECT_EQ(host_.Count("UploadSucceeded"), had_image ? 1 : 0);
       EXPECT_EQ(host_.OnlyMessage(), had_image ? "" : "Error found in FillComboBlk");
       EXPECT_EQ(host_.control->Image(), before);
+      EXPECT_EQ(host_.Modified().size(), had_image ? 1U : 0U);
+      if (had_image) {
+        EXPECT_EQ(host_.control->Settings("CamInfo(3).title").at(0).value, "\"Typed\"");
+      }
       host_.platform.TakeMessages();
     }
     host_.NewControl();
@@ -157,6 +161,28 @@ TEST_F(Combined, WithoutAnAnswerThePresentImageStays) {
   EXPECT_EQ(Send({.modified = true}), "\"Upload block number :\" | \"1\" | \"Finished\"");
   EXPECT_EQ(host_.sent, (std::vector<int>{1, 255}));
   EXPECT_EQ(host_.device.Block(1)[0], 'T');
+}
+
+TEST_F(Combined, AnArrayThatComesAfterTheDialogWasClosedUndoesNothing) {
+  host_.Download();
+  const auto late = std::exchange(host_.combo, {});
+  host_.control->Custom(10, 0, 0);
+  EditTitle(0, "Typed");
+  host_.control->FillComboBlk(late);
+  EXPECT_EQ(host_.Modified(), std::vector<int>{1});
+}
+
+/// The blocks that are not listed travel as well: they must be this unit's.
+TEST_F(Combined, AnArrayOfAnotherUnitIsNotSent) {
+  host_.Download();
+  host_.device.Block(5)[0] = 'B';
+  host_.control->SaveConnectedInfo(std::vector<Byte>{0, 16, 6, 'T'});
+  host_.Download();
+  host_.control->FillComboInfo(std::vector<Byte>{0, 4, 2, 0, 200, 5, 6});
+  EditTitle(0, "Lobby");
+  Send({.modified = true, .macros = true});
+  EXPECT_EQ(SentByte(5, 0), 'B');
+  EXPECT_EQ(host_.sent_combo.size(), 3213U);  // the other unit's macros stay away, too
 }
 
 TEST_F(Combined, SendsWhatIsIncluded) {

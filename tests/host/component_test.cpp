@@ -132,35 +132,78 @@ TEST(Control, AHostThatFailsInAnEventIsToldAndTheSequenceCanBeRepeated) {
   EXPECT_EQ(host.Count("UploadSucceeded"), 2);
 }
 
-TEST(Control, ATextSourceMayCallBackOrDestroyTheControl) {
-  class Caller : public AutomationObject {
-   public:
-    explicit Caller(TestHost& host, int call) : host_(host), call_(call) {}
-    std::string Call(std::string_view, std::int32_t) override {
-      if (host_.control == nullptr || done_) return "X";
-      done_ = true;
-      if (call_ == 0) {
-        host_.control.reset();
-      } else {
-        host_.control->Custom(static_cast<std::int16_t>(call_), 0, 0);
-      }
-      return "X";
-    }
-
-   private:
-    TestHost& host_;
-    int call_;
-    bool done_ = false;
-  };
-  for (const int call : {0, 10, 11, 15}) {
-    for (const std::int16_t command : {10, 11, 15}) {
+TEST(Control, MayBeDestroyedInTheEventsOfTheCombinedExchangeAndOfDefaults) {
+  for (const char* event :
+       {"RequestComboBlocks", "SendComboBlocks 3213", "RequestBlk 183", "RequestBlk 185"}) {
+    for (const bool sync : {false, true}) {
+      SCOPED_TRACE(event);
       TestHost host;
-      host.platform.Classes().Register(
-          "Caller", [&host, call] { return std::make_shared<Caller>(host, call); });
-      host.control->CustomWithString(191, 0, 0, "Caller");
-      host.control->Custom(command, 0, 0);
+      host.sync = sync;
+      host.control->FillComboInfo(std::vector<Byte>{0, 4, 0, 0, 200, 5, 6});
+      host.combo = {0, 13, 0x0C, 0x80, 0, 0, 0, 4, 0, 0, 200, 5, 6};
+      host.combo.insert(host.combo.end(), host.device.Bytes().begin(), host.device.Bytes().end());
+      host.act_in = event;
+      host.act = [&host] {
+        host.control.reset();
+        throw std::runtime_error("and the host fails");
+      };
+      host.Download();
+      if (host.control && event[0] == 'S') {
+        host.platform.at_modal = [](Dialog& dialog) {
+          return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+        };
+        host.control->Custom(11, 0, 0);
+      } else if (host.control) {
+        host.control->Custom(16, 0, 0);
+      }
       host.platform.RunUntilIdle();
+      EXPECT_EQ(host.control, nullptr);
       EXPECT_TRUE(host.platform.Windows().empty());
+      EXPECT_TRUE(host.platform.TakeMessages().empty());
+    }
+  }
+}
+
+/// A source of texts that, asked for the time `at`, gives a command or, for 0, destroys the
+/// control.
+class MeddlingSource : public AutomationObject {
+ public:
+  MeddlingSource(TestHost& host, int command, int at) : host_(host), command_(command), at_(at) {}
+  std::string Call(std::string_view, std::int32_t) override {
+    if (host_.control == nullptr || --at_ != 0) return "X";
+    if (command_ == 0) {
+      host_.control.reset();
+    } else {
+      host_.control->Custom(static_cast<std::int16_t>(command_), 0, 0);
+    }
+    return "X";
+  }
+
+ private:
+  TestHost& host_;
+  int command_;
+  int at_;
+};
+
+TEST(Control, ATextSourceMayGiveCommandsOrDestroyTheControl) {
+  for (const int meddling : {0, 10, 11, 12, 16}) {
+    for (const std::int16_t command : {10, 11, 12, 14, 15, 16}) {
+      for (const int at : {1, 2, 3, 5, 8, 13, 21, 34}) {
+        TestHost host;
+        host.platform.files["x"].assign(host.device.Bytes().begin(), host.device.Bytes().end());
+        host.Download();
+        host.platform.AnswerNextFile("x");
+        host.platform.Classes().Register("Source", [&host, meddling, at] {
+          return std::make_shared<MeddlingSource>(host, meddling, at);
+        });
+        host.control->CustomWithString(191, 0, 0, "Source");
+        host.platform.at_modal = [](Dialog& dialog) {
+          return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+        };
+        if (host.control) host.control->Custom(command, 0, 0);
+        host.platform.RunUntilIdle();
+        EXPECT_TRUE(host.platform.Windows().empty()) << meddling << " in " << command;
+      }
     }
   }
 }

@@ -98,7 +98,7 @@ TEST(Download, EightByteRepliesStopSilently) {
   host.control->Custom(10, 0, 0);
   EXPECT_EQ(host.Count("RequestBlk 200"), 1);
   EXPECT_EQ(host.Count("UploadSucceeded"), 0);
-  EXPECT_EQ(host.control->Image().size(), 16U + 199U * 8U);
+  EXPECT_TRUE(host.control->Image().empty());
   EXPECT_EQ(host.platform.TakeStalled(), std::vector<std::string>{"frm_ULFrMux"});
   EXPECT_TRUE(host.platform.TakeMessages().empty());
 }
@@ -161,22 +161,22 @@ TEST(Download, NestedRepliesStayFarFromTheStacksEnd) {
   host.device.ResizeBlocks(255);
   host.device.Block(1)[15] = 255;
   host.sync = true;
-  const char* outermost = nullptr;
-  const char* innermost = nullptr;
+  std::uintptr_t outermost = 0;
+  std::uintptr_t innermost = 0;
   host.act_in = "RequestBlk 1";
   host.act = [&] {
     const char here = 0;
-    outermost = &here;
+    outermost = reinterpret_cast<std::uintptr_t>(&here);
     host.act_in = "RequestBlk 255";
     host.act = [&innermost] {
       const char there = 0;
-      innermost = &there;
+      innermost = reinterpret_cast<std::uintptr_t>(&there);
     };
   };
   host.Download();
   EXPECT_EQ(host.Count("UploadSucceeded"), 1);
-  constexpr std::ptrdiff_t kEighthOfAStack = 1 << 20;
-  EXPECT_LT(std::abs(outermost - innermost), kEighthOfAStack);
+  constexpr std::uintptr_t kEighthOfAStack = 1 << 20;
+  EXPECT_LT(std::max(outermost, innermost) - std::min(outermost, innermost), kEighthOfAStack);
 }
 
 TEST(Download, ALongBlockIsRefusedAndTheRightOneStillTaken) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/combined_exchange.h"
 #include "tests/host/test_host.h"
 
 namespace quorvel {
@@ -26,6 +27,7 @@ std::vector<Byte> CombinedFileOf(int blocks, std::size_t length) {
   bytes[2] = static_cast<Byte>(data / 256);
   bytes[3] = static_cast<Byte>(data % 256);
   bytes[10] = static_cast<Byte>(blocks);
+  bytes[13 + 15] = static_cast<Byte>(blocks);
   return bytes;
 }
 
@@ -50,7 +52,10 @@ TEST(SettingsFile, LengthTellsTheLayout) {
       {"with a header", true, 185, 0, CombinedFileOf(185, 2973), kCombined},
       {"fewer blocks", true, 225, 0, FileOf(2960, 185), kPlain},
       {"an array of fewer blocks", true, 225, 0, CombinedFileOf(185, 2973), kRefused},
-      {"nothing", true, 0, 0, {}, kPlain},
+      {"plain where no blocks were stated", true, 0, 0, FileOf(2960, 185), kPlain},
+      {"nothing", true, 0, 0, {}, kRefused},
+      {"no block by its own count", false, 0, 0, FileOf(2960, 0), kRefused},
+      {"a combined array that is cut", true, 185, 0, CombinedFileOf(185, 2972), kRefused},
       {"the longest array", true, 185, 0, CombinedFileOf(185, 32767), kCombined},
       {"longer than any", true, 185, 0, CombinedFileOf(185, 32768), kRefused},
       {"the same, plain", false, 0, 0, FileOf(32768, 185), kRefused},
@@ -69,7 +74,7 @@ TEST(SettingsFile, LengthTellsTheLayout) {
     }
     const SettingsFile file = ReadSettingsFile(context, it.bytes);
     EXPECT_EQ(file.combined, it.layout == kCombined);
-    EXPECT_EQ(file.array.has_value(), it.combined_exchange || file.combined);
+    EXPECT_EQ(file.array.Bytes().empty(), !it.combined_exchange && !file.combined);
     EXPECT_EQ(file.image.Size(), file.combined ? it.bytes[10] * 16U : it.bytes.size());
   }
 }
@@ -84,14 +89,19 @@ TEST(SettingsFile, APlainFileGetsAHeader) {
                          .ComboExtraA = 5,
                          .ComboExtraB = 6};
   const auto header_of = [&context](const SettingsFile& file) {
-    const auto bytes = file.array->Bytes();
-    EXPECT_EQ(bytes.size(), 13U + file.array->Header().DataLen);
+    const auto bytes = file.array.Bytes();
+    EXPECT_EQ(bytes.size(), 13U + file.array.Header().DataLen);
     return std::vector<Byte>(bytes.begin(), bytes.begin() + 13);
   };
   // Without macro records the stated number of blocks replaces that of the file.
   const auto plain = FileOf(2960, 185);
   EXPECT_EQ(header_of(ReadSettingsFile(context, plain)),
             (std::vector<Byte>{0, 13, 0x0C, 0x80, 0, 0, 1, 2, 0, 0, 200, 5, 6}));
+  // An image is not cut to it.
+  context.combo_sizes.ComboBlockCount = 180;
+  EXPECT_EQ(header_of(ReadSettingsFile(context, FileOf(2880, 180)))[10], 180);
+  EXPECT_EQ(BuildComboArray(context.combo_sizes, BlockImage(plain)).Header().BlockCount, 185);
+  context.combo_sizes.ComboBlockCount = 200;
   context.combo_sizes.ComboMacroCount = 3;
   EXPECT_EQ(header_of(ReadSettingsFile(context, plain)),
             (std::vector<Byte>{0, 13, 0x0B, 0x90, 0, 0, 1, 2, 3, 0, 185, 5, 6}));
@@ -281,6 +291,15 @@ TEST_F(Files, ACombinedFileIsTheArray) {
   EXPECT_EQ(Restore(), "Restore Block Data: 3221 Finished");
   EXPECT_EQ(Title(), "\"Lobby\"");
   EXPECT_TRUE(SendOpens());
+}
+
+TEST_F(Files, DataWithoutAnIdentityFitsNoDevice) {
+  File() = FileOf(16 * 100, 100);
+  Restore();
+  EXPECT_FALSE(SendOpens());
+  const std::string message = host_.OnlyMessage();
+  EXPECT_NE(message.find("You are loading data from model:"), std::string::npos) << message;
+  EXPECT_NE(message.find("(0 ch, Mux model)"), std::string::npos) << message;
 }
 
 TEST_F(Files, ARestoreEndsADownload) {

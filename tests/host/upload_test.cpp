@@ -231,17 +231,21 @@ TEST_F(Send, TheFamilyMustFit) {
   }
 }
 
-TEST_F(Send, AnImageThatWasNotDecodedIsNotSent) {
+TEST_F(Send, ADownloadThatDoesNotArriveLeavesWhatWasEdited) {
+  EditTitle(4, "Five");
   host_.reply_bytes = 8;
   host_.control->Custom(10, 0, 0);
-  bool opened = false;
-  Command11([&opened](Dialog& dialog, int) {
-    opened = true;
-    return dialog.CloseWindow() == Answer::kDone;
+  EXPECT_EQ(host_.Count("UploadSucceeded"), 1);
+  EXPECT_EQ(host_.Modified(), std::vector<int>{5});
+  Command11([&](Dialog& dialog, int call) {
+    if (call == 0) {
+      dialog.Find<OptionButton>("optBlk(1)").Click();
+      return Click(dialog, "cmdOK") == Answer::kDone;
+    }
+    return dialog.Find<Button>("cmdClearBlk").Visible() && dialog.CloseWindow() == Answer::kDone;
   });
-  EXPECT_FALSE(opened);
-  EXPECT_EQ(host_.platform.TakeMessages().at(0).text,
-            "The current data does not match the data of the remote device");
+  EXPECT_EQ(host_.sent, (std::vector<int>{5, 255}));
+  EXPECT_EQ(host_.device.Block(5)[0], 'F');
 }
 
 TEST_F(Send, StartWaitsWhileASendRunsAndGridsEditedMeanwhileAreSent) {
@@ -268,14 +272,57 @@ TEST_F(Send, StartWaitsWhileASendRunsAndGridsEditedMeanwhileAreSent) {
   EXPECT_EQ(host_.device.Block(86)[15], 0x5A);
 }
 
-TEST_F(Send, WithoutAnImageOnlyTheEndPacket) {
+TEST_F(Send, WithoutAnImageNothing) {
   TestHost empty;
-  empty.platform.at_modal = [&empty](Dialog& dialog) {
-    if (empty.sent.empty() && dialog.Find<Button>("cmdOK").Click() == Answer::kDone) return true;
-    return !empty.sent.empty() && dialog.CloseWindow() == Answer::kDone;
-  };
   empty.control->Custom(11, 0, 0);
-  EXPECT_EQ(empty.sent, std::vector<int>{255});
+  EXPECT_EQ(empty.OnlyMessage(), "The current data does not match the data of the remote device");
+  EXPECT_TRUE(empty.platform.TakeStalled().empty());
+}
+
+/// What command 11 has compared must still hold at START and at every packet.
+TEST_F(Send, AnotherDeviceIsGivenNoBlock) {
+  const std::vector<Byte> other{0, 4, 9, 'O'};
+  const std::vector<Byte> sizes{0, 4, 2, 0, 200, 5, 6};
+  const struct {
+    const char* name;
+    std::function<void(MainMenuCtrl&)> change;
+    bool ends;
+  } cases[] = {
+      {"another identity", [&](auto& it) { it.SaveConnectedInfo(other); }, true},
+      {"another exchange", [&](auto& it) { it.FillComboInfo(sizes); }, true},
+      {"another family", [](auto& it) { it.Custom(18, 16, 0); }, true},
+      {"a file that was not chosen", [](auto& it) { it.Custom(12, 0, 0); }, true},
+      {"another caption", [](auto& it) { it.Custom(18, 0, 1); }, false},
+      {"a grid", [](auto& it) { it.UpdateActGrid(std::vector<Byte>(33, 1)); }, false},
+  };
+  for (const auto& it : cases) {
+    for (const std::size_t after : {0, 3}) {
+      SCOPED_TRACE(it.name);
+      TestHost host;
+      host.Download();
+      bool changed = false;
+      host.platform.at_modal = [&](Dialog& dialog) {
+        if (after == host.sent.size() && !std::exchange(changed, true)) {
+          if (after == 0) it.change(*host.control);
+          dialog.Find<Button>("cmdOK").Click();
+          return true;
+        }
+        if (after == 0 && !changed) return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+        return false;
+      };
+      if (after != 0) {
+        host.act_in = "DownLoadData 3";
+        host.act = [&] { it.change(*host.control); };
+        host.platform.at_modal = [started = false](Dialog& dialog) mutable {
+          return !std::exchange(started, true) &&
+                 dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+        };
+      }
+      host.control->Custom(11, 0, 0);
+      EXPECT_EQ(host.sent.size(), it.ends ? after : 168);
+      EXPECT_EQ(host.platform.TakeMessages().size(), it.ends ? 1U : 0U);
+    }
+  }
 }
 
 }  // namespace

@@ -204,7 +204,7 @@ TEST(LinkFault, CombinedExchange) {
       "upload not taken by the device: " + parts + "\nread back differs: 1-3 47 61\n";
   const auto complete = "downloaded 190 blocks, 3069 bytes: Finished\n"s;
   const auto after_close =
-      "download closed, arrived after that: 190 blocks, Label3 \"0\", Label4 \"\"\n"s;
+      "download not finished, closed: 190 blocks, Label3 \"0\", Label4 \"\"\n"s;
   const CombinedCase cases[] = {
       {"silent", good, "silent at 1",
        "download not finished, closed: 0 blocks, Label3 \"0\", Label4 \"\"\n"},
