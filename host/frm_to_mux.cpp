@@ -91,6 +91,10 @@ void frm_ToMux::IncludeClicked(bool data) {
     optBlk(kAll).SetVisible(with_data);
     optBlk(kModified).SetVisible(with_data && context_.env.blocks.BlkSavIdx() != 0);
   }
+  EnableStart();
+}
+
+void frm_ToMux::EnableStart() {
   const bool something = chkMacro(kMacros).Checked() || chkMacro(kData).Checked();
   cmdOK.SetEnabled(something && !sending_);  // at most one packet is on its way
 }
@@ -111,7 +115,7 @@ void frm_ToMux::Stop() {
   sending_ = false;
   StatusBar1.SetPanel(kBlock, abort_text_);
   EnableChoice();
-  cmdOK.SetEnabled(true);
+  EnableStart();
   if (StopDL) StopDL();
 }
 

@@ -43,6 +43,7 @@ class frm_ToMux : public Dialog {
   void Stop();
   void ClearBlocks();
   void EnableChoice();
+  void EnableStart();
 
   Context& context_;
   // Texts may be the host's, who may do anything while it is asked for one: not during a send.

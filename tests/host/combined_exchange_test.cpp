@@ -218,6 +218,30 @@ TEST_F(Combined, SendsWhatIsIncluded) {
   EXPECT_EQ(host_.Modified(), std::vector<int>{1});
 }
 
+/// A send of single packets is stopped after both boxes have been cleared.
+TEST_F(Combined, StopDoesNotOfferToSendNothing) {
+  host_.Download();
+  EditTitle(0, "Lobby");
+  int step = 0;
+  host_.acknowledge = false;
+  host_.platform.at_modal = [&](Dialog& dialog) {
+    switch (step++) {
+      case 0:
+        dialog.Find<OptionButton>("optBlk(1)").Click();
+        dialog.Find<Button>("cmdOK").Click();
+        dialog.Find<CheckBox>("chkMacro(1)").Click();
+        dialog.Find<Button>("cmdStop").Click();
+        EXPECT_FALSE(dialog.Find<Button>("cmdOK").Enabled());
+        dialog.Find<CheckBox>("chkMacro(0)").Click();
+        EXPECT_TRUE(dialog.Find<Button>("cmdOK").Enabled());
+        return true;
+      default: return dialog.CloseWindow() == Answer::kDone;
+    }
+  };
+  host_.control->Custom(11, 0, 0);
+  EXPECT_EQ(step, 2);
+}
+
 TEST_F(Combined, MacrosOfAnotherSizeAreSentWhenTheUserAgrees) {
   host_.Download();
   host_.control->FillComboInfo(std::vector<Byte>{0, 5, 2, 0, 200, 5, 6});
