@@ -81,8 +81,8 @@ struct Context {
   /// Counts the images that have arrived: an editor that opened on the settings of an earlier one
   /// must not write into the present ones.
   [[nodiscard]] int ImageGeneration() const { return generation_; }
-  /// True when there is an image. It is whole, and the record was decoded from it: an image that was
-  /// refused, or of which a part is missing, is nobody's configuration and does not get here.
+  /// True when there is an image. It is whole, and the record was decoded from it: an image that
+  /// was refused, or of which a part is missing, is nobody's configuration and does not get here.
   [[nodiscard]] bool HasImage() const { return BlkImage.Size() != 0; }
 
   /// Decodes `image` into a fresh record; both then replace the present ones, `array` is what the

@@ -36,6 +36,8 @@ constexpr Command kCommands[] = {
     {"click CONTROL", 1, 1, commands::Click},
     {"type CONTROL TEXT", 2, 2, commands::Type},
     {"select LIST INDEX", 2, 2, commands::Select},
+    {"slide SLIDER VALUE", 2, 2, commands::Slide},
+    {"pick PICKER TIME|DATE", 2, 2, commands::Pick},
     {"press GRID ROW COLUMN", 3, 3, commands::Press},
     {"release GRID FIRST LAST", 3, 3, commands::Release},
     {"tab TABSTRIP PAGE", 2, 2, commands::Tab},

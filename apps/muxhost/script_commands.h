@@ -33,6 +33,8 @@ void Dismiss(Desk& desk, Words words);
 void Click(Desk& desk, Words words);
 void Type(Desk& desk, Words words);
 void Select(Desk& desk, Words words);
+void Slide(Desk& desk, Words words);
+void Pick(Desk& desk, Words words);
 void Press(Desk& desk, Words words);
 void Release(Desk& desk, Words words);
 void Tab(Desk& desk, Words words);

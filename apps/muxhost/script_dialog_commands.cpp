@@ -82,7 +82,25 @@ void Type(Desk& desk, Words words) {
 
 void Select(Desk& desk, Words words) {
   const int index = Place("index", words[2]);
-  Require(FindControlOf<ListBox>(desk, words[1], "select in").Choose(index), words[1]);
+  Require(FindControlOf<ChoiceWidget>(desk, words[1], "select in").Choose(index), words[1]);
+}
+
+void Slide(Desk& desk, Words words) {
+  const int value = ToNumber("value", words[2]);
+  Require(FindControlOf<Slider>(desk, words[1], "slide").Slide(value), words[1]);
+}
+
+void Pick(Desk& desk, Words words) {
+  Widget& widget = FindControl(desk, words[1]);
+  if (auto* const dates = dynamic_cast<DatePicker*>(&widget)) {
+    const auto date = ReadDate(words[2]);
+    if (!date) throw ScriptError("a date is told as 2024-02-29, not " + words[2]);
+    return Require(dates->Pick(*date), words[1]);
+  }
+  auto& times = FindControlOf<TimePicker>(desk, words[1], "pick in");
+  const auto time = ReadTime(words[2]);
+  if (!time) throw ScriptError("a time is told as 07:45 or 07:45:30, not " + words[2]);
+  Require(times.Pick(*time), words[1]);
 }
 
 void Press(Desk& desk, Words words) {

@@ -20,6 +20,10 @@ const char* KindName(WidgetKind kind) {
     case WidgetKind::kOptionButton: return "option";
     case WidgetKind::kTextBox: return "text box";
     case WidgetKind::kListBox: return "list";
+    case WidgetKind::kComboBox: return "drop-down list";
+    case WidgetKind::kSlider: return "slider";
+    case WidgetKind::kTimePicker: return "time";
+    case WidgetKind::kDatePicker: return "date";
     case WidgetKind::kGrid: return "grid";
     case WidgetKind::kTabStrip: return "tabs";
     case WidgetKind::kFrame: return "frame";

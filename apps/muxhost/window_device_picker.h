@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -21,17 +23,29 @@ class DevicePicker : public QGroupBox {
   /// The device was asked for with the button.
   std::function<void()> on_connect;
 
+  /// As chosen; SimulatedDevice says what of it no device can be.
   [[nodiscard]] DeviceSetup Setup() const;
   /// Whether the button can be pressed, and why not.
   void AllowConnect(bool allowed, const QString& why_not);
 
  private:
+  [[nodiscard]] QWidget* MakeMacroRow();
+  [[nodiscard]] CombinedSetup Combined() const;
+  /// What belongs to the combined exchange takes no space without it.
+  void ShowCombined();
+
   const Platform& platform_;
   QComboBox* const model_;
   QComboBox* const cameras_;
   QSpinBox* const blocks_;
   QLineEdit* const variant_;
   QLineEdit* const name_;
+  QComboBox* const exchange_;
+  QSpinBox* const macros_;
+  QSpinBox* const macro_size_;
+  QDoubleSpinBox* const firmware_;
+  QWidget* const macro_row_;
+  QFormLayout* const form_;
   QPushButton* const connect_;
 };
 

@@ -16,7 +16,7 @@ class EventLog : public QListWidget {
  private:
   void AddLine(const QString& text);
 
-  QString run_;  ///< event whose numbers are being counted, or empty
+  QString run_;  ///< what is said of the blocks of the run, or empty
   int run_first_ = 0;
   int run_last_ = 0;
   QString run_time_;

@@ -5,7 +5,7 @@
 
 #include "platform/qt/control_view.h"
 #include "platform/qt/focus_shown.h"
-#include "quorvel/widgets/controls.h"
+#include "quorvel/widgets/choice.h"
 
 namespace quorvel::qt {
 

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 #include "platform/qt/control_view.h"
-#include "quorvel/widgets/controls.h"
+#include "quorvel/widgets/text_box.h"
 
 namespace quorvel::qt {
 

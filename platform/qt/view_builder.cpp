@@ -95,6 +95,10 @@ QWidget& ViewBuilder::MakeView(Widget& model, QWidget& parent) {
     case WidgetKind::kListBox:
       view = std::make_unique<ListBoxView>(verbs_, static_cast<ListBox&>(model), parent);
       break;
+    case WidgetKind::kComboBox:
+    case WidgetKind::kSlider:
+    case WidgetKind::kTimePicker:
+    case WidgetKind::kDatePicker: view = MakeValue(verbs_, model, parent); break;
     case WidgetKind::kGrid:
       view = std::make_unique<GridView>(verbs_, static_cast<Grid&>(model), parent);
       break;

@@ -1,107 +1,65 @@
 #include "apps/muxhost/main_window.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
+#include <QFileDialog>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMessageBox>
-#include <QRadioButton>
-#include <QTest>
-#include <functional>
+#include <QTemporaryDir>
+#include <QToolButton>
 
 #include "apps/muxhost/window_event_log.h"
+#include "tests/qt/muxhost_on_screen.h"
 
 namespace quorvel::muxhost {
 namespace {
 
-/// Acts on the first window of a kind that comes on screen, from within the loop.
-class WhenShown : public QObject {
- public:
-  explicit WhenShown(std::function<bool()> act) : act_(std::move(act)) {
-    QObject::connect(&timer_, &QTimer::timeout, this, [this] {
-      if (act_()) timer_.stop();
-    });
-    timer_.start(1);
-  }
-  ~WhenShown() override { EXPECT_FALSE(timer_.isActive()) << "the window did not come"; }
-
- private:
-  std::function<bool()> act_;
-  QTimer timer_;
-};
-
-class MuxhostWindow : public testing::Test {
+class MuxhostWindow : public MuxhostOnScreen {
  protected:
-  MuxhostWindow() { window_.show(); }
-
-  template <class QtWidget = QPushButton>
-  [[nodiscard]] static QtWidget* Find(QWidget* in, const QString& text) {
-    for (QtWidget* const widget : in->findChildren<QtWidget*>()) {
-      if (widget->property("text") == text || widget->accessibleName() == text ||
-          widget->objectName() == text) {
-        return widget;
-      }
+  /// The commands that can be given, by the first letters of their buttons.
+  [[nodiscard]] std::string Enabled() {
+    std::string letters;
+    for (const char* const text :
+         {"Connect", "Download", "Menu", "Upload", "Save file", "Restore file", "Defaults"}) {
+      if (Button(text).isEnabled())
+        letters += text[0] == 'D' ? std::string(text, 2) : text[0] + std::string();
     }
-    return nullptr;
+    return letters;
   }
-  [[nodiscard]] QPushButton& Button(const char* text) { return *Find(&window_, text); }
-  /// Presses a button of a modal window once it can be pressed.
-  static bool Press(const QString& text) {
-    QWidget* const modal = QApplication::activeModalWidget();
-    QPushButton* const button = modal == nullptr ? nullptr : Find(modal, text);
-    if (button == nullptr || !button->isEnabled()) return false;
-    button->click();
-    return true;
+  void Arm(const char* fault, int at) {
+    auto* const heading = window_.findChild<QToolButton*>("LinkHeading");
+    if (!heading->isChecked()) heading->click();
+    auto* const kind = Find<QComboBox>(&window_, "Fault");
+    kind->setCurrentIndex(kind->findText(fault, Qt::MatchStartsWith));
+    Find<QSpinBox>(&window_, "Strikes number")->setValue(at);
+    Button("Arm").click();
   }
-  void Download() {
-    const WhenShown finish([] { return Press("OK"); });
-    Button("Download").click();
+  /// Answers a file dialog.
+  static bool Name(const QString& path) {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return false;
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+    return QMetaObject::invokeMethod(dialog, "accept");
   }
-  void SendModified() {
-    const WhenShown send([] {
-      QWidget* const dialog = QApplication::activeModalWidget();
-      if (dialog == nullptr) return false;
-      Find<QRadioButton>(dialog, "Select modified blocks")->click();
-      return Press("START");
-    });
-    const WhenShown finish(
-        [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
-    Button("Upload").click();
+  void ChangeZones() {
+    session_.WriteZones(0, std::vector<Byte>(32, 0xA5));
+    ASSERT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{85, 86}));
   }
-  QWidget& Editor(const char* item, const char* name) {
-    Button("Menu").click();
-    EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    QTest::mouseClick(menu, Qt::LeftButton, {},
-                      menu->actionGeometry(menu->findChild<QAction*>(item)).center());
-    QWidget* editor = nullptr;
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-      for (QWidget* const it : QApplication::topLevelWidgets()) {
-        if (it->objectName() == name && it->isVisible()) editor = it;
-      }
-      return editor != nullptr;
-    }));
-    return *editor;
+  [[nodiscard]] bool DeviceIsAsEdited() {
+    const auto image = session_.Control().Image();
+    const auto device = session_.Device().Bytes();
+    return std::equal(image.begin(), image.end(), device.begin(), device.end());
   }
-
-  QtPlatform platform_;
-  QObject turns_;
-  HostSession session_{platform_, [this](int milliseconds, std::function<void()> task) {
-                         QTimer::singleShot(milliseconds, &turns_, std::move(task));
-                       }};
-  MainWindow window_{platform_, session_};
 };
 
 TEST_F(MuxhostWindow, TitleTypedInTheEditorReachesTheDevice) {
-  session_.Configure({.latency_ms = 0});
-  EXPECT_FALSE(Button("Menu").isEnabled());
-  EXPECT_FALSE(Button("Upload").isEnabled());
+  EXPECT_EQ(Enabled(), "CDoRDe");
+  EXPECT_EQ(Button("Save file").toolTip(), "Download the device's configuration first");
   Download();
-  ASSERT_TRUE(Button("Menu").isEnabled());
+  ASSERT_EQ(Enabled(), "CDoMUSRDe");
 
-  QWidget& editor = Editor("mnu_CSetup", "frm_CameraSetup");
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !Button("Upload").isEnabled(); }));
+  Choose("mnu_CSetup");
+  QWidget& editor = *OnScreen("frm_CameraSetup");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Enabled() == "MS"; }));
+  EXPECT_EQ(Button("Defaults").toolTip(), "Close the other windows first");
   auto* const title = Find<QLineEdit>(&editor, "m_CameraTitle(2)");
   title->selectAll();
   QTest::keyClicks(title, "Gate");
@@ -114,9 +72,8 @@ TEST_F(MuxhostWindow, TitleTypedInTheEditorReachesTheDevice) {
 
   SendModified();
   EXPECT_EQ(session_.LastExchange().blocks_written.size(), 1U);
+  EXPECT_TRUE(DeviceIsAsEdited());
   const auto changed = session_.Control().Image();
-  EXPECT_TRUE(std::equal(changed.begin(), changed.end(), session_.Device().Bytes().begin(),
-                         session_.Device().Bytes().end()));
   const std::string bytes(changed.begin(), changed.end());
   EXPECT_NE(bytes.find("Gate"), std::string::npos);
 }
@@ -132,16 +89,156 @@ TEST_F(MuxhostWindow, AnotherDeviceIsConnectedWithTheButton) {
   EXPECT_EQ(session_.Device().ModelCode(), 3);
   EXPECT_EQ(session_.Device().IdentityBytes().at(0), 9);
   EXPECT_EQ(session_.Device().BlockCount(), 185);
+  EXPECT_FALSE(session_.Device().IsCombined());
   EXPECT_FALSE(Button("Menu").isEnabled());
 }
 
-TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
-  session_.Configure({.latency_ms = 0});
+TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
+  auto* const macros = Find<QSpinBox>(&window_, "Macro records");
+  EXPECT_FALSE(macros->isVisible());
+  auto* const exchange = window_.findChildren<QComboBox*>().at(2);
+  exchange->setCurrentText("Combined array");
+  EXPECT_TRUE(macros->isVisible());
+  macros->setValue(3);
+  Find<QSpinBox>(&window_, "Bytes of a macro record")->setValue(20);
+  window_.findChild<QDoubleSpinBox*>()->setValue(7.29);
+  Button("Connect").click();
+  EXPECT_EQ(session_.Device().Sizes(), (std::vector<Byte>{0, 20, 3, 0, 225, 7, 29}));
+
   Download();
-  std::vector<std::uint8_t> grid(33, 0xAA);
-  grid[0] = 0;
-  session_.Control().UpdateActGrid(grid);
-  ASSERT_FALSE(session_.Control().ModifiedBlocks().empty());
+  EXPECT_EQ(session_.LastExchange().bytes_read, 13U + 225 * 16 + 3 * 20);
+  ChangeZones();
+  {
+    const WhenShown send([] { return StartSending("Select all data blocks"); });
+    const WhenShown finish(
+        [this] { return session_.LastExchange().array_bytes > 0 && Press("CLOSE"); });
+    Button("Upload").click();
+  }
+  EXPECT_TRUE(session_.LastExchange().read_back->AsSent());
+  EXPECT_EQ(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
+  EXPECT_NE(Events().find("Verified 225 blocks.\n"), std::string::npos);
+}
+
+TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
+  Download();
+  ChangeZones();
+  Arm("drop", 2);
+  EXPECT_NE(Find<QToolButton>(&window_, "Link: armed, drop at 2"), nullptr);
+  QString told;
+  int starts = 0;
+  bool again = false;
+  const WhenShown question([&] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return false;
+    told = box->text();
+    EXPECT_NE(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
+    again = true;
+    return Press("Send again");
+  });
+  const WhenShown send([&] {
+    if (StartSending("Select modified blocks")) ++starts;
+    return starts == 2;
+  });
+  const WhenShown finish([&] {
+    const bool closed = session_.LastExchange().end_written && Press("CLOSE");
+    return closed && again;
+  });
+  Button("Upload").click();
+  EXPECT_EQ(told, "The device does not hold block 86 as sent.");
+  EXPECT_TRUE(DeviceIsAsEdited());
+  EXPECT_EQ(Enabled(), "CDoMUSRDe");
+  const std::string events = Events();
+  for (const char* const line :
+       {"The link fails at number 2: it is lost on the way.\n", "Block 86 is not as sent.\n",
+        "The control hands over blocks 85 to 86.\n", "Verified 2 blocks.\n"}) {
+    EXPECT_NE(events.find(line), std::string::npos) << line;
+  }
+}
+
+TEST_F(MuxhostWindow, WindowStaysUsableAfterWhateverTheLinkDoes) {
+  struct {
+    const char* fault;
+    const char* left;     ///< which command that is given, and ends so, leaves enabled
+    const char* pressed;  ///< in the dialog that stays, or nothing
+    const char* event;
+  } const cases[] = {
+      {"silent", "CDoRDe", nullptr, "The link fails at number 3: no answer comes.\n"},
+      {"close", "CDoRDe", "", "Somebody closed the receive dialog.\n"},
+      {"duplicate", "CDoMUSRDe", "OK", "The link fails at number 3: it comes twice.\n"},
+  };
+  for (const auto& it : cases) {
+    Arm(it.fault, 3);
+    const WhenShown act([&it, this] {
+      QWidget* const dialog = QApplication::activeModalWidget();
+      if (it.pressed != nullptr) return *it.pressed == '\0' || Press(it.pressed);
+      return dialog != nullptr && session_.LastExchange().blocks_read == 2 && dialog->close();
+    });
+    Button("Download").click();
+    EXPECT_EQ(Enabled(), it.left) << it.fault;
+    EXPECT_NE(Events().find(it.event), std::string::npos) << it.event;
+  }
+}
+
+TEST_F(MuxhostWindow, StopIsPressedByTheLink) {
+  Download();
+  ChangeZones();
+  Arm("stop", 1);
+  const WhenShown send([] { return StartSending("Select modified blocks"); });
+  const WhenShown finish([this] {
+    return Events().find("Somebody pressed STOP of the send dialog.\n") != std::string::npos &&
+           Press("CLOSE");
+  });
+  Button("Upload").click();
+  EXPECT_EQ(session_.LastExchange().blocks_written, (std::vector<Byte>{85}));
+  EXPECT_EQ(Enabled(), "CDoMUSRDe");
+  EXPECT_NE(Events().find("The upload has not come to its end.\n"), std::string::npos);
+}
+
+TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("gate.bin");
+  Download();
+  ChangeZones();
+  {
+    const WhenShown save([&] { return Name(file); });
+    Button("Save file").click();
+  }
+  ASSERT_EQ(QFileInfo(file).size(), 225 * 16);
+
+  // Both ask first, as what was edited is not in the device.
+  for (const char* const command : {"Defaults", "Restore file"}) {
+    const WhenShown question([] { return Press("Cancel"); });
+    Button(command).click();
+    EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5)) << command;
+  }
+  {
+    const WhenShown question([] { return Press("Discard"); });
+    const WhenShown told([] {
+      return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr &&
+             Press("OK");
+    });
+    Button("Defaults").click();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return session_.LastExchange().arrived; }));
+  }
+  EXPECT_NE(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
+  {
+    QTimer discard;  // in case that defaults differ from the device
+    QObject::connect(&discard, &QTimer::timeout, [] { Press("Discard"); });
+    discard.start(1);
+    const WhenShown name([&] { return Name(file); });
+    const WhenShown finish([] {
+      QWidget* const modal = QApplication::activeModalWidget();
+      return modal != nullptr && modal->objectName() == "frm_ULFrMux" && Press("OK");
+    });
+    Button("Restore file").click();
+  }
+  EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
+  EXPECT_EQ(Enabled(), "CDoMUSRDe");
+}
+
+TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
+  Download();
+  ChangeZones();
   for (const char* const answer : {"Cancel", "Discard"}) {
     const WhenShown question([answer] { return Press(answer); });
     window_.close();
@@ -158,20 +255,54 @@ TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
   EXPECT_FALSE(window_.isVisible());
 }
 
+TEST_F(MuxhostWindow, ClosedInTheMiddleOfATransferItEndsTheTransfer) {
+  for (const bool upload : {false, true}) {
+    if (upload) {
+      Download();
+      ChangeZones();
+    }
+    window_.show();
+    Arm("silent", 2);
+    const WhenShown send([upload] { return !upload || StartSending("Select modified blocks"); });
+    QStringList answers{"Cancel", "Discard"};
+    const WhenShown close([&] {
+      const Exchange& exchange = session_.LastExchange();
+      if (session_.PendingFault() || (upload ? exchange.sent_blocks.size() : 1U) < 1) return false;
+      const QString answer = answers.takeFirst();
+      const WhenShown question([answer] { return Press(answer); });
+      window_.close();
+      EXPECT_EQ(window_.isVisible(), answer == "Cancel");
+      return answers.isEmpty();
+    });
+    Button(upload ? "Upload" : "Download").click();
+    EXPECT_FALSE(window_.isVisible());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  }
+}
+
 TEST(MuxhostEventLog, TellsEventsInWordsAndRunsInOneLine) {
   EventLog log;
   for (const char* const entry :
        {"RequestBlk 1", "RequestBlk 2", "RequestBlk 3", "RequestBlk 3", "UploadSucceeded",
-        "DownLoadData 9", "DownLoadData end", "not written: the device refuses block 9"}) {
+        "DownLoadData 9", "DownLoadData end", "not written: the device refuses block 9",
+        "block 12 is not as sent", "block 13 is not as sent", "SendComboBlocks 3613 bytes",
+        "ULSucceededWithStr TX 16 6 9", "the link fails: late at 3 by 300 ms",
+        "nobody could press cmdStop of frm_ToMux"}) {
     log.Add(entry);
   }
-  const char* const lines[] = {"The control asks for blocks 1 to 3.",
-                               "The control asks for block 3.",
-                               "The device's configuration has arrived in the control.",
-                               "The control hands over block 9.",
-                               "The control has handed over everything.",
-                               "Not written: the device refuses block 9."};
-  ASSERT_EQ(log.count(), 6);
+  const char* const lines[] = {
+      "The control asks for blocks 1 to 3.",
+      "The control asks for block 3.",
+      "The device's configuration has arrived in the control.",
+      "The control hands over block 9.",
+      "The control has handed over everything.",
+      "Not written: the device refuses block 9.",
+      "Blocks 12 to 13 are not as sent.",
+      "The control hands over the whole configuration: 3613 bytes.",
+      "The configuration of TX 16 (model 6, 9 cameras) has arrived in one piece.",
+      "The link fails at number 3: it takes longer, by 300 ms.",
+      "Nobody could press STOP of the send dialog."};
+  ASSERT_EQ(log.count(), static_cast<int>(std::size(lines)));
   for (int i = 0; i < log.count(); ++i) EXPECT_EQ(log.item(i)->text().mid(11), lines[i]);
 }
 

@@ -1,24 +1,14 @@
 #include "ui/setup/frm_camera_setup.h"
 
-#include <charconv>
+#include <algorithm>
+
+#include "ui/editing/number_texts.h"
 
 namespace quorvel {
 
 namespace {
 
 constexpr int kSettingColumn = 1;
-
-std::vector<std::string> Numbers(int first, int last) {
-  std::vector<std::string> texts;
-  for (int number = first; number <= last; ++number) texts.push_back(std::to_string(number));
-  return texts;
-}
-
-int NumberIn(const std::string& cell) {
-  int number = 0;
-  std::from_chars(cell.data(), cell.data() + cell.size(), number);
-  return number;
-}
 
 /// A header over one line for every camera, numbered from 1.
 void BuildCameraGrid(Grid& grid, int cameras, std::string camera, std::string setting) {
@@ -37,10 +27,9 @@ frm_CameraSetup::frm_CameraSetup(Context& context)
   ShowWhatTheModelHas();
   FillCameras();
   FillDisplaySettings();
+  NameForScreenReaders();
   BindButtons(cmd_OK, cmd_Cancel);
-  gain_editing_.Bind(kSettingColumn, lstSnlGain);
   gain_editing_.GoTo(1, kSettingColumn);
-  text_position_editing_.Bind(kSettingColumn, lstTextpos);
   text_position_editing_.GoTo(1, kSettingColumn);
   SSTab1.on_change = [this] { TabChanged(); };
 }
@@ -89,17 +78,26 @@ void frm_CameraSetup::ShowWhatTheModelHas() {
   frmPubMonitor.SetVisible(public_monitors);
   frmSVHSMonB.SetVisible(id.IsTriplex() && !id.LiteRecordModel);
 
-  for (int c = 0; c < kMostCameras; ++c) {
-    const bool exists = c < id.MaxCam;
-    lblCam(c).SetVisible(exists);
-    m_CameraTitle(c).SetVisible(exists);
-    m_CameraCovert(c).SetVisible(exists);
-    m_CameraColor(c).SetVisible(exists);
-    m_CameraColor(c).SetEnabled(!id.IsTriplex());
-    m_CameraDisable(c).SetVisible(exists);
-  }
+  lblCam.ShowFirst(id.MaxCam);
+  m_CameraTitle.ShowFirst(id.MaxCam);
+  m_CameraCovert.ShowFirst(id.MaxCam);
+  m_CameraColor.ShowFirst(id.MaxCam);
+  m_CameraDisable.ShowFirst(id.MaxCam);
+  for (CheckBox& box : m_CameraColor) box.SetEnabled(!id.IsTriplex());
   for (int i = 2; i < kMonitors; ++i) m_TitleDisplay(i).SetEnabled(id.IsTriplexMatrix());
   for (OptionButton& option : optPwrDis) option.SetEnabled(!id.LiteRecordModel);
+}
+
+void frm_CameraSetup::NameForScreenReaders() {
+  SSTab1.SetSpokenName(Caption());
+  m_CameraTitle.SetSpokenNames(Frame2.Caption());
+  m_CameraCovert.SetSpokenNames(Frame3.Caption());
+  m_CameraColor.SetSpokenNames(Frame4.Caption());
+  m_CameraDisable.SetSpokenNames(Frame1.Caption());
+  MSFG_SnlGain.SetSpokenName(Text(143));
+  lstSnlGain.SetSpokenName(Text(143));
+  MSFG_TextPos.SetSpokenName(Text(145));
+  lstTextpos.SetSpokenName(Text(145));
 }
 
 std::string frm_CameraSetup::ShownTitle(const Cameras& camera) const {
@@ -113,11 +111,14 @@ void frm_CameraSetup::FillCameras() {
   const auto& words = Ctx().texts.Constants();
   const std::string& camera_word = Ctx().texts.Objects().objstCam;
   const int cameras = Id().MaxCam;
-  gain_offset_ = Id().IsTriplex() ? 50 : 1;
-  lstSnlGain.SetItems(Id().IsTriplex() ? Numbers(50, 150) : Numbers(1, 10));
+  const int least_gain = Id().IsTriplex() ? 50 : 1;  // as shown; it is stored as 0
+  const int most_gain = Id().IsTriplex() ? 150 : 10;
+  lstSnlGain.SetItems(NumberTexts(least_gain, most_gain));
   lstTextpos.SetItems({words.cnstrTop, words.cnstrBottom});
   BuildCameraGrid(MSFG_SnlGain, cameras, camera_word, Text(143));
   BuildCameraGrid(MSFG_TextPos, cameras, camera_word, Text(145));
+  gain_editing_.Bind(kSettingColumn, lstSnlGain);
+  text_position_editing_.Bind(kSettingColumn, lstTextpos);
 
   for (int c = 0; c < cameras; ++c) {
     const Cameras& camera = *Ctx().Record().CamInfo(c);
@@ -132,12 +133,11 @@ void frm_CameraSetup::FillCameras() {
     m_CameraCovert(c).SetChecked(camera.covert());
     m_CameraColor(c).SetChecked(camera.color());
     m_CameraDisable(c).SetChecked(camera.disable());
-    MSFG_SnlGain.SetCell(c + 1, kSettingColumn, std::to_string(camera.SignalGain() + gain_offset_));
+    const int gain = camera.SignalGain();
+    MSFG_SnlGain.SetCell(c + 1, kSettingColumn, std::to_string(gain + least_gain), gain);
     const int position = camera.TextPos();
-    if (position <= 2) {
-      MSFG_TextPos.SetCell(c + 1, kSettingColumn,
-                           position == 0 ? words.cnstrTop : words.cnstrBottom);
-    }
+    text_position_editing_.SetItem(c + 1, kSettingColumn,
+                                   position <= 2 ? std::min(position, 1) : Grid::kNone);
   }
 }
 
@@ -151,15 +151,12 @@ void frm_CameraSetup::FillDisplaySettings() {
     chkPubMon(i).SetCaption(monitor);
     chkPubMon(i).SetChecked(record.PubMonitor(i) == 1);
   }
-  optFldFrame(0).SetCaption(words.cnstrField);
-  optFldFrame(1).SetCaption(words.cnstrFrame);
-  optFldFrame(record.FullScrResolution() == 1 ? 1 : 0).Select();
-  optPwrDis(0).SetCaption(words.cnstrOFF);
-  optPwrDis(1).SetCaption(words.cnstrON);
-  optPwrDis(record.AutoDisable() == 1 ? 1 : 0).Select();
-  optMonBSvhs(0).SetCaption(words.cnstrDisable);
-  optMonBSvhs(1).SetCaption(words.cnstrEnable);
-  optMonBSvhs(record.SVHS_MonB() == 1 ? 1 : 0).Select();
+  optFldFrame.SetCaptions({words.cnstrField, words.cnstrFrame});
+  optFldFrame.Select(record.FullScrResolution() == 1 ? 1 : 0);
+  optPwrDis.SetCaptions({words.cnstrOFF, words.cnstrON});
+  optPwrDis.Select(record.AutoDisable() == 1 ? 1 : 0);
+  optMonBSvhs.SetCaptions({words.cnstrDisable, words.cnstrEnable});
+  optMonBSvhs.Select(record.SVHS_MonB() == 1 ? 1 : 0);
 }
 
 void frm_CameraSetup::TabChanged() {
@@ -178,10 +175,9 @@ void frm_CameraSetup::WriteCamera(int c, Cameras& camera) {
     Ctx().env.blocks.AddBlk(static_cast<Byte>(c + 1));
   }
   if (!Id().IsTriplex()) camera.color(m_CameraColor(c).Checked());
-  const int gain = NumberIn(MSFG_SnlGain.Cell(c + 1, kSettingColumn)) - gain_offset_;
-  camera.SignalGain(static_cast<Byte>(gain));
-  const bool top = MSFG_TextPos.Cell(c + 1, kSettingColumn) == Ctx().texts.Constants().cnstrTop;
-  camera.TextPos(top ? 0 : 1);
+  const int gain = gain_editing_.ItemAt(c + 1, kSettingColumn);
+  if (gain != Grid::kNone) camera.SignalGain(static_cast<Byte>(gain));
+  camera.TextPos(text_position_editing_.ItemAt(c + 1, kSettingColumn) == 0 ? 0 : 1);
 }
 
 void frm_CameraSetup::WriteBack(MuxData& record) {

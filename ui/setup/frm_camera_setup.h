@@ -19,6 +19,7 @@ class frm_CameraSetup : public Editor {
 
   void ArrangeControls();
   void ShowWhatTheModelHas();
+  void NameForScreenReaders();
   void FillCameras();
   void FillDisplaySettings();
   void WriteCamera(int c, Cameras& camera);
@@ -65,8 +66,6 @@ class frm_CameraSetup : public Editor {
 
   GridEditing gain_editing_{MSFG_SnlGain};
   GridEditing text_position_editing_{MSFG_TextPos};
-  /// Shown gain minus stored gain.
-  int gain_offset_ = 0;
 };
 
 }  // namespace quorvel

@@ -4,20 +4,6 @@
 
 namespace quorvel {
 
-namespace {
-
-/// The first `count` characters of a UTF-8 text.
-std::string_view FirstCharacters(std::string_view text, int count) {
-  std::size_t end = 0;
-  for (int taken = 0; end < text.size(); ++end) {
-    const bool starts_character = (static_cast<unsigned char>(text[end]) & 0xC0U) != 0x80U;
-    if (starts_character && taken++ == count) break;
-  }
-  return text.substr(0, end);
-}
-
-}  // namespace
-
 Label::Label(Dialog& dialog, std::string name, std::string caption)
     : Widget(dialog, WidgetKind::kLabel, std::move(name)) {
   SetCaption(std::move(caption));
@@ -76,75 +62,12 @@ void OptionButton::Select() {
   Set(true);
 }
 
+void OptionButton::Deselect() { Set(false); }
+
 Answer OptionButton::Click() {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   Select();
-  Raise(on_click);
-  return refusal;
-}
-
-TextBox::TextBox(Dialog& dialog, std::string name)
-    : Widget(dialog, WidgetKind::kTextBox, std::move(name)) {}
-
-void TextBox::SetMaxLength(int characters) {
-  max_length_ = characters;
-  Redraw(Aspect::kState);
-}
-
-void TextBox::SetText(std::string text) {
-  edited_ = false;
-  RewriteText(std::move(text));
-}
-
-void TextBox::RewriteText(std::string text) {
-  text_ = std::move(text);
-  Redraw(Aspect::kSelection);
-}
-
-Answer TextBox::Type(std::string_view text) {
-  const Answer refusal = Refusal();
-  if (refusal != Answer::kDone) return refusal;
-  edited_ = true;
-  RewriteText(std::string(max_length_ > 0 ? FirstCharacters(text, max_length_) : text));
-  Raise(on_change);
-  return refusal;
-}
-
-ListBox::ListBox(Dialog& dialog, std::string name)
-    : Widget(dialog, WidgetKind::kListBox, std::move(name)) {}
-
-const std::string& ListBox::CurrentText() const {
-  static const std::string none;
-  return current_ == kNone ? none : items_[static_cast<std::size_t>(current_)];
-}
-
-int ListBox::IndexOf(std::string_view text) const {
-  const auto found = std::find(items_.begin(), items_.end(), text);
-  return found == items_.end() ? kNone : static_cast<int>(found - items_.begin());
-}
-
-std::string ListBox::ValueText() const {
-  if (current_ == kNone) return "none of " + std::to_string(Count());
-  return std::to_string(current_) + " \"" + CurrentText() + "\" of " + std::to_string(Count());
-}
-
-void ListBox::SetItems(std::vector<std::string> items) {
-  items_ = std::move(items);
-  current_ = kNone;
-  Redraw(Aspect::kContent);
-}
-
-void ListBox::Select(int index) {
-  current_ = index >= 0 && index < Count() ? index : kNone;
-  Redraw(Aspect::kSelection);
-}
-
-Answer ListBox::Choose(int index) {
-  const Answer refusal = Refusal();
-  if (refusal != Answer::kDone) return refusal;
-  if (index < 0 || index >= Count()) return Answer::kNoSuchPlace;
-  Select(index);
   Raise(on_click);
   return refusal;
 }

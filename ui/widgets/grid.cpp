@@ -1,6 +1,7 @@
 #include "quorvel/widgets/grid.h"
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 namespace quorvel {
@@ -17,13 +18,15 @@ std::size_t Grid::Place(int row, int column) const {
 }
 
 bool Grid::IsCell(int row, int column) const {
-  return row >= 1 && row < rows_ && column >= 0 && column < columns_;
+  return row >= header_rows_ && row < rows_ && column >= 0 && column < columns_;
 }
-
-const std::string& Grid::Cell(int row, int column) const { return cells_[Place(row, column)]; }
 
 int Grid::FirstSelected() const { return std::min(row_, row_sel_); }
 int Grid::LastSelected() const { return std::max(row_, row_sel_); }
+
+int Grid::LeastWidth(int column) const {
+  return least_widths_.at(static_cast<std::size_t>(column));
+}
 
 std::string Grid::ValueText() const {
   std::string text = std::to_string(rows_) + " x " + std::to_string(columns_) + ", at " +
@@ -35,16 +38,59 @@ std::string Grid::ValueText() const {
   return text;
 }
 
-void Grid::SetSize(int rows, int columns) {
-  rows_ = std::max(rows, 1);
-  columns_ = std::max(columns, 1);
-  cells_.assign(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns_), {});
+void Grid::SetHeaderRows(int rows) {
+  header_rows_ = std::clamp(rows, 1, 2);
   Redraw(Aspect::kContent);
-  SetCurrent(1, 1);
 }
 
-void Grid::SetCell(int row, int column, std::string text) {
-  cells_[Place(row, column)] = std::move(text);
+void Grid::SetMergedHeader(bool merged) {
+  merged_header_ = merged;
+  Redraw(Aspect::kContent);
+}
+
+void Grid::SetSize(int rows, int columns) {
+  rows_ = std::max(rows, header_rows_);
+  columns_ = std::max(columns, 1);
+  cells_.assign(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns_), {});
+  least_widths_.assign(static_cast<std::size_t>(columns_), 0);
+  Redraw(Aspect::kContent);
+  SetCurrent(header_rows_, 1);
+}
+
+int Grid::AddColumns(int count) {
+  const int first = columns_;
+  const int columns = columns_ + std::max(count, 0);
+  std::vector<CellValue> cells;
+  cells.reserve(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns));
+  for (auto row = cells_.begin(); row != cells_.end(); row += columns_) {
+    cells.insert(cells.end(), std::make_move_iterator(row),
+                 std::make_move_iterator(row + columns_));
+    cells.resize(cells.size() + static_cast<std::size_t>(columns - columns_));
+  }
+  cells_ = std::move(cells);
+  columns_ = columns;
+  least_widths_.resize(static_cast<std::size_t>(columns));
+  Redraw(Aspect::kContent);
+  return first;
+}
+
+void Grid::SetLeastWidth(int column, int characters) {
+  least_widths_.at(static_cast<std::size_t>(column)) = characters;
+  Redraw(Aspect::kContent);
+}
+
+void Grid::SetAlign(Align align) {
+  align_ = align;
+  Redraw(Aspect::kContent);
+}
+
+void Grid::SetRange(Range range) {
+  range_ = range;
+  Redraw(Aspect::kState);
+}
+
+void Grid::SetCell(int row, int column, std::string text, int item) {
+  cells_[Place(row, column)] = {std::move(text), item};
   Redraw(Aspect::kContent);
 }
 
@@ -68,8 +114,8 @@ Answer Grid::Release(int first, int last) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsCell(first, column_) || !IsCell(last, column_)) return Answer::kNoSuchPlace;
-  row_ = first;
-  row_sel_ = last;
+  if (range_ == Range::kRows) row_ = first;
+  row_sel_ = range_ == Range::kRows ? last : row_;
   Redraw(Aspect::kSelection);
   Raise(on_release);
   return refusal;

@@ -10,9 +10,11 @@ Frame::Frame(Dialog& dialog, std::string name, std::string caption)
 TabStrip::TabStrip(Dialog& dialog, std::string name)
     : Widget(dialog, WidgetKind::kTabStrip, std::move(name)) {}
 
-bool TabStrip::InFront(int page) const {
-  return page == current_ && IsPage(page) && pages_[static_cast<std::size_t>(page)].visible;
+bool TabStrip::CanBeInFront(int page) const {
+  return page >= 0 && page < Count() && pages_[static_cast<std::size_t>(page)].visible;
 }
+
+bool TabStrip::InFront(int page) const { return page == current_ && CanBeInFront(page); }
 
 std::string TabStrip::ValueText() const {
   std::string text;
@@ -28,6 +30,7 @@ void TabStrip::SetPages(std::vector<Page> pages) {
   pages_ = std::move(pages);
   current_ = 0;
   Redraw(Aspect::kContent);
+  LeaveHiddenPage();
 }
 
 void TabStrip::SetPageCaption(int page, std::string caption) {
@@ -38,10 +41,18 @@ void TabStrip::SetPageCaption(int page, std::string caption) {
 void TabStrip::SetPageVisible(int page, bool visible) {
   pages_.at(static_cast<std::size_t>(page)).visible = visible;
   Redraw(Aspect::kState);
+  LeaveHiddenPage();
+}
+
+void TabStrip::LeaveHiddenPage() {
+  if (CanBeInFront(current_)) return;
+  for (int page = 0; page < Count(); ++page) {
+    if (CanBeInFront(page)) return SetCurrent(page);
+  }
 }
 
 void TabStrip::SetCurrent(int page) {
-  if (!IsPage(page)) return;
+  if (!CanBeInFront(page)) return;
   current_ = page;
   Redraw(Aspect::kSelection);
 }
@@ -49,9 +60,7 @@ void TabStrip::SetCurrent(int page) {
 Answer TabStrip::Choose(int page) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
-  if (!IsPage(page) || !pages_[static_cast<std::size_t>(page)].visible) {
-    return Answer::kNoSuchPlace;
-  }
+  if (!CanBeInFront(page)) return Answer::kNoSuchPlace;
   if (page == current_) return refusal;
   SetCurrent(page);
   Raise(on_change);

@@ -1,6 +1,7 @@
 #include "quorvel/widgets/widget.h"
 
 #include "quorvel/platform.h"
+#include "quorvel/widgets/controls.h"
 #include "quorvel/widgets/dialog.h"
 #include "quorvel/widgets/layout.h"
 
@@ -12,6 +13,7 @@ const char* Describe(Answer answer) {
     case Answer::kHidden: return "is hidden";
     case Answer::kDisabled: return "is disabled";
     case Answer::kNoSuchPlace: return "has no such place";
+    case Answer::kNotAChoice: return "has no such choice";
   }
   return "";
 }
@@ -31,9 +33,50 @@ bool Widget::Showing() const {
   return container_->Showing();
 }
 
+const std::string& Widget::SpokenName() const {
+  if (!spoken_name_.empty()) return spoken_name_;
+  if (!caption_.empty()) return caption_;
+  if (label_ != nullptr && !label_->caption_.empty()) return label_->caption_;
+  for (const Widget* around = container_; around != nullptr; around = around->container_) {
+    if (around->kind_ == WidgetKind::kFrame && !around->caption_.empty()) return around->caption_;
+  }
+  return name_;
+}
+
+bool Widget::IsInside(const Widget& container) const {
+  const Widget* around = container_;
+  while (around != nullptr && around != &container) around = around->container_;
+  return around != nullptr;
+}
+
 void Widget::SetCaption(std::string caption) {
   caption_ = std::move(caption);
   Redraw(Aspect::kState);
+  if (view_ == nullptr) return;
+  for (const Widget* other : dialog_.Widgets()) {  // those that are called by this caption
+    if (other->label_ == this || other->IsInside(*this)) other->Redraw(Aspect::kState);
+  }
+}
+
+void Widget::SetSpokenName(std::string name) {
+  spoken_name_ = std::move(name);
+  Redraw(Aspect::kState);
+}
+
+void Widget::SetLabel(const Label& label) {
+  label_ = &label;
+  Redraw(Aspect::kState);
+}
+
+void Widget::SetKeepsPlace(bool keeps) {
+  keeps_place_ = keeps;
+  Redraw(Aspect::kState);
+}
+
+Answer Widget::Focus(bool by_click) {
+  const Answer refusal = Refusal();
+  if (refusal == Answer::kDone) TakeFocus(by_click);
+  return refusal;
 }
 
 void Widget::SetVisible(bool visible) {

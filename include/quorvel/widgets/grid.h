@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,15 +9,30 @@
 
 namespace quorvel {
 
-/// A table of texts. Row 0 is the header; column 0 names the row. One cell is current, and a range
-/// of rows around it may be selected.
+/// A table of texts: one or two header rows, then rows of data; column 0 names the row. One cell is
+/// current, and a range of rows around it may be selected. Rows are counted with the header.
 class Grid : public Widget {
  public:
+  enum class Align { kLeft, kCentre };
+  enum class Range { kRows, kOneRow };
+  /// A header cell as it is drawn, and what it covers.
+  struct HeaderCell {
+    int row, column, rows, columns;
+    std::string text;
+    bool operator==(const HeaderCell&) const = default;
+  };
+  /// The item of a cell that has none.
+  static constexpr int kNone = -1;
+
   Grid(Dialog& dialog, std::string name);
   [[nodiscard]] int Rows() const { return rows_; }
   [[nodiscard]] int Columns() const { return columns_; }
+  /// 1 or 2; also the number of the first row of data.
+  [[nodiscard]] int HeaderRows() const { return header_rows_; }
   /// Text of a cell; throws std::out_of_range outside the table.
-  [[nodiscard]] const std::string& Cell(int row, int column) const;
+  [[nodiscard]] const std::string& Cell(int row, int column) const { return At(row, column).text; }
+  /// Number of the item that the cell was filled with, 0-based, or kNone: texts need not be unique.
+  [[nodiscard]] int Item(int row, int column) const { return At(row, column).item; }
   /// The current cell, and the other end of the selected range of rows.
   [[nodiscard]] int Row() const { return row_; }
   [[nodiscard]] int Column() const { return column_; }
@@ -24,31 +40,81 @@ class Grid : public Widget {
   /// The selected rows, first and last, in rising order.
   [[nodiscard]] int FirstSelected() const;
   [[nodiscard]] int LastSelected() const;
+  /// Whether a selection can be more than one row.
+  [[nodiscard]] Range AllowedRange() const { return range_; }
+  /// How the texts of all cells stand.
+  [[nodiscard]] Align Alignment() const { return align_; }
+  /// Characters that the column is wide at least; 0 for what its texts need.
+  [[nodiscard]] int LeastWidth(int column) const;
+  /// The header cells, row by row, equal texts made one where the header is merged.
+  [[nodiscard]] std::vector<HeaderCell> Header() const;
+  /// What a screen reader says of a column: its header texts, ", " between different ones.
+  [[nodiscard]] std::string ColumnName(int column) const;
   [[nodiscard]] std::string ValueText() const override;
 
-  /// Sets the size, header row included; all cells become empty and cell 1, 1 current.
+  /// Sets the number of header rows, 1 or 2; before the size.
+  void SetHeaderRows(int rows);
+  /// Merges header cells of equal text: the two of a column, and neighbours in the first row.
+  void SetMergedHeader(bool merged);
+  /// Sets the size, header rows included; all cells become empty and the first of the data current.
   void SetSize(int rows, int columns);
-  void SetCell(int row, int column, std::string text);
+  /// Adds empty columns at the right; returns the number of the first of them.
+  int AddColumns(int count);
+  /// Makes a column no narrower than so many characters.
+  void SetLeastWidth(int column, int characters);
+  void SetAlign(Align align);
+  void SetRange(Range range);
+  void SetCell(int row, int column, std::string text, int item = kNone);
   /// Makes one cell current, without a selection beyond it.
   void SetCurrent(int row, int column);
 
   /// Press on a cell below the header: it becomes current.
   Answer Press(int row, int column);
-  /// End of a selection over rows `first` to `last`, in either order, in the current column.
+  /// End of a selection over rows `first` to `last`, in either order, in the current column; with
+  /// Range::kOneRow the current row stays the only one.
   Answer Release(int first, int last);
   Handler on_press;
   Handler on_release;
 
+  /// The selected rows of columns `first` to `last`: a line a row, texts separated by tabs.
+  [[nodiscard]] std::string Copied(int first_column, int last_column) const;
+  /// Puts in such lines from the first selected row of the current column on; a single text goes
+  /// into all selected rows. When one text does not fit into the table (kNoSuchPlace) or is not
+  /// taken by its cell (kNotAChoice), nothing is changed.
+  Answer Paste(std::string_view lines);
+  /// Whether a cell takes a text; changes nothing. Without it nothing is taken.
+  std::function<bool(int row, int column, const std::string& text)> takes_paste;
+  /// Puts a text that is taken into its cell.
+  std::function<void(int row, int column, const std::string& text)> on_paste;
+
  private:
+  struct CellValue {
+    std::string text;
+    int item = kNone;
+  };
+  struct Pasted {
+    int row, column;
+    std::string text;
+  };
   [[nodiscard]] bool IsCell(int row, int column) const;
   [[nodiscard]] std::size_t Place(int row, int column) const;
+  [[nodiscard]] const CellValue& At(int row, int column) const {
+    return cells_[Place(row, column)];
+  }
+  [[nodiscard]] bool MergedDown(int column) const;
+  [[nodiscard]] std::vector<Pasted> Placed(std::string_view text) const;
 
   int rows_ = 1;
   int columns_ = 1;
+  int header_rows_ = 1;
   int row_ = 0;
   int column_ = 0;
   int row_sel_ = 0;
-  std::vector<std::string> cells_{1};
+  bool merged_header_ = false;
+  Align align_ = Align::kLeft;
+  Range range_ = Range::kRows;
+  std::vector<CellValue> cells_{1};
+  std::vector<int> least_widths_{0};
 };
 
 }  // namespace quorvel

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "quorvel/widgets/controls.h"
+#include "quorvel/widgets/control_array.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
@@ -62,6 +62,18 @@ Layout Lines(Parts&&... parts) {
 }
 inline Layout Stretch() { return {Layout::Kind::kStretch, nullptr, {}}; }
 
+/// A label and the control that it names, one below the other or side by side.
+template <class Control>
+Layout Labelled(Label& label, Control& control) {
+  control.SetLabel(label);
+  return Column(label, control);
+}
+template <class Control>
+Layout LabelledRow(Label& label, Control& control) {
+  control.SetLabel(label);
+  return Row(label, control);
+}
+
 /// A captioned border around a group of controls.
 class Frame : public Widget {
  public:
@@ -99,10 +111,14 @@ class TabStrip : public Widget {
   [[nodiscard]] bool InFront(int page) const;
   [[nodiscard]] std::string ValueText() const override;
 
-  /// Sets the pages; before the dialog's own layout is set. Page 0 comes to the front.
+  /// Sets the pages; before the dialog's own layout is set. The first that is not
+  /// hidden comes to the front.
   void SetPages(std::vector<Page> pages);
   void SetPageCaption(int page, std::string caption);
+  /// Shows or hides a page. When the one in front is hidden, the first that is not comes to the
+  /// front.
   void SetPageVisible(int page, bool visible);
+  /// Brings a page to the front; nothing happens for a hidden one.
   void SetCurrent(int page);
 
   /// A click on a page's tab; on_change follows when another page comes to the front.
@@ -110,7 +126,10 @@ class TabStrip : public Widget {
   Handler on_change;
 
  private:
-  [[nodiscard]] bool IsPage(int page) const { return page >= 0 && page < Count(); }
+  /// True for a page that is there and not hidden.
+  [[nodiscard]] bool CanBeInFront(int page) const;
+  /// Brings the first page that is not hidden to the front where the present one is.
+  void LeaveHiddenPage();
   std::vector<Page> pages_;
   int current_ = 0;
 };

@@ -6,7 +6,7 @@
 namespace quorvel {
 
 class Dialog;
-class TabStrip;
+class Label;
 
 /// What a user verb answers. A verb that is refused changes nothing and calls no handler.
 enum class Answer {
@@ -14,6 +14,7 @@ enum class Answer {
   kHidden,       ///< the control, or a frame or page around it, is not on screen
   kDisabled,     ///< the control, or its dialog behind a modal one, takes no input
   kNoSuchPlace,  ///< no such row, column, item or page, or one that cannot be picked
+  kNotAChoice,   ///< a pasted text or picked value that the control does not offer
 };
 
 /// The answer in words, for scripts and messages.
@@ -21,7 +22,7 @@ enum class Answer {
 
 /// What of a widget changed, so that a view redraws no more than needed.
 enum class Aspect {
-  kState,      ///< caption, visible, enabled, limits
+  kState,      ///< caption, spoken name, visible, enabled, limits
   kContent,    ///< items, cells, pages
   kSelection,  ///< value, selected item, current cell or page
 };
@@ -40,6 +41,10 @@ enum class WidgetKind {
   kOptionButton,
   kTextBox,
   kListBox,
+  kComboBox,
+  kSlider,
+  kTimePicker,
+  kDatePicker,
   kGrid,
   kTabStrip,
   kFrame,
@@ -75,12 +80,25 @@ class Widget {
 
   /// Visible, in visible containers, on the page in front.
   [[nodiscard]] bool Showing() const;
+  /// True when its place stays empty while it is hidden, so that nothing moves when it comes and
+  /// goes; otherwise the space is closed up.
+  [[nodiscard]] bool KeepsPlace() const { return keeps_place_; }
+  /// What screen readers call the control: the name given to it, else its caption, else that of its
+  /// label, else that of the nearest captioned frame around it, else its name in the code.
+  [[nodiscard]] const std::string& SpokenName() const;
   /// What a person can change, as one line of text: "" for kinds without a value.
   [[nodiscard]] virtual std::string ValueText() const { return {}; }
 
   void SetCaption(std::string caption);
   void SetVisible(bool visible);
   void SetEnabled(bool enabled);
+  void SetKeepsPlace(bool keeps);
+  void SetSpokenName(std::string name);
+  /// The label that names the control.
+  void SetLabel(const Label& label);
+
+  /// The keyboard focus comes here; `by_click`, somebody clicks where it is already.
+  Answer Focus(bool by_click = false);
 
   /// The view that draws this widget, or none. The view detaches itself before it goes.
   void AttachView(WidgetView* view) { view_ = view; }
@@ -98,15 +116,22 @@ class Widget {
   }
   /// Calls a handler of this widget as the dialog's edge does: no failure leaves it.
   void Raise(const Handler& handler);
+  /// What a kind does when it gets the focus.
+  virtual void TakeFocus(bool /*by_click*/) {}
 
  private:
+  [[nodiscard]] bool IsInside(const Widget& container) const;
+
   Dialog& dialog_;
   WidgetKind kind_;
   std::string name_;
   std::string caption_;
+  std::string spoken_name_;
   bool visible_ = true;
   bool enabled_ = true;
+  bool keeps_place_ = false;
   WidgetView* view_ = nullptr;
+  const Widget* label_ = nullptr;
   Widget* container_ = nullptr;
   int page_ = -1;
 };

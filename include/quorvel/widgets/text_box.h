@@ -1,0 +1,63 @@
+#pragma once
+
+#include <climits>
+#include <string>
+#include <string_view>
+
+#include "quorvel/widgets/widget.h"
+
+namespace quorvel {
+
+/// One line of editable text.
+class TextBox : public Widget {
+ public:
+  /// Selects a text of any length.
+  static constexpr int kWhole = INT_MAX;
+  TextBox(Dialog& dialog, std::string name);
+  [[nodiscard]] const std::string& Text() const { return text_; }
+  [[nodiscard]] std::string ValueText() const override { return text_; }
+  /// Most characters that a person can type; 0 for no limit.
+  [[nodiscard]] int MaxLength() const { return max_length_; }
+  /// Characters that the box is wide: as set, else the maximum length; 0 for any width.
+  [[nodiscard]] int ShownLength() const { return shown_length_ > 0 ? shown_length_ : max_length_; }
+  /// True once a person has changed the text that the program set.
+  [[nodiscard]] bool Edited() const { return edited_; }
+  /// True when what is typed is handed over as a whole, once the person leaves the box, presses
+  /// Return or a button; otherwise it is with every key.
+  [[nodiscard]] bool TakenWhenLeft() const { return taken_when_left_; }
+  /// Characters from the start of the text that are selected, so that typing replaces them.
+  [[nodiscard]] int SelectedCharacters() const { return selected_; }
+
+  void SetMaxLength(int characters);
+  /// Width of a box whose maximum length does not say it.
+  void SetShownLength(int characters);
+  void SetTakenWhenLeft(bool whole);
+  /// Characters from the start that are selected when the box gets the focus, 0 for none; with
+  /// `on_click` at every click too.
+  void SetSelectOnFocus(int characters, bool on_click = false);
+  /// Sets the text, even beyond the maximum length; the box counts as not edited.
+  void SetText(std::string text);
+  /// Rewrites what a person has typed, from a change handler; the box stays edited. One that
+  /// selects on focus selects the new text, so that the next key replaces it.
+  void RewriteText(std::string text);
+
+  /// Replaces the whole text, as somebody does who selects it and types. Characters beyond the
+  /// maximum length do not fit and are not taken.
+  Answer Type(std::string_view text);
+  Handler on_change;
+
+ private:
+  void TakeFocus(bool by_click) override;
+  void Put(std::string text, int selected);
+
+  std::string text_;
+  int max_length_ = 0;
+  int shown_length_ = 0;
+  int select_on_focus_ = 0;
+  int selected_ = 0;
+  bool select_on_click_ = false;
+  bool taken_when_left_ = false;
+  bool edited_ = false;
+};
+
+}  // namespace quorvel

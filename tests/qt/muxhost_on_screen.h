@@ -1,0 +1,121 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMenu>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "apps/muxhost/main_window.h"
+
+namespace quorvel::muxhost {
+
+/// Acts on the first window of a kind that comes on screen, from within the loop.
+class WhenShown : public QObject {
+ public:
+  explicit WhenShown(std::function<bool()> act) : act_(std::move(act)) {
+    QObject::connect(&timer_, &QTimer::timeout, this, [this] {
+      if (act_()) timer_.stop();
+    });
+    timer_.start(1);
+  }
+  ~WhenShown() override { EXPECT_FALSE(timer_.isActive()) << "the window did not come"; }
+
+ private:
+  std::function<bool()> act_;
+  QTimer timer_;
+};
+
+/// The host's window on screen, with a session whose link takes no time.
+class MuxhostOnScreen : public testing::Test {
+ protected:
+  MuxhostOnScreen() {
+    session_.Configure({.latency_ms = 0});
+    window_.show();
+  }
+
+  /// A part of a window by its text, its name for screen readers or its name in the code.
+  template <class QtWidget = QPushButton>
+  [[nodiscard]] static QtWidget* Find(QWidget* in, const QString& text) {
+    for (QtWidget* const widget : in->findChildren<QtWidget*>()) {
+      if (widget->property("text") == text || widget->accessibleName() == text ||
+          widget->objectName() == text) {
+        return widget;
+      }
+    }
+    return nullptr;
+  }
+  [[nodiscard]] QPushButton& Button(const char* text) { return *Find(&window_, text); }
+  [[nodiscard]] std::string Events() {
+    auto* const log = Find<QListWidget>(&window_, "Events");
+    std::string text;
+    for (int i = 0; i < log->count(); ++i)
+      text += log->item(i)->text().mid(11).toStdString() + "\n";
+    return text;
+  }
+  /// Presses a button of a modal window once it can be pressed.
+  static bool Press(const QString& text) {
+    QWidget* const modal = QApplication::activeModalWidget();
+    QPushButton* const button = modal == nullptr ? nullptr : Find(modal, text);
+    if (button == nullptr || !button->isEnabled() || !button->isVisible()) return false;
+    button->click();
+    return true;
+  }
+  void Download() {
+    const WhenShown finish([] { return Press("OK"); });
+    Button("Download").click();
+  }
+  /// Chooses what to send in the send dialog, and presses START.
+  static bool StartSending(const QString& choice) {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    auto* const option = dialog == nullptr ? nullptr : Find<QRadioButton>(dialog, choice);
+    if (option == nullptr) return false;
+    option->click();
+    return Press("START");
+  }
+  void SendModified() {
+    const WhenShown send([] { return StartSending("Select modified blocks"); });
+    const WhenShown finish(
+        [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
+    Button("Upload").click();
+  }
+  void Choose(const char* item) {
+    Button("Menu").click();
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    auto* const action = menu->findChild<QAction*>(item);
+    for (QMenu* const inner : menu->findChildren<QMenu*>()) {
+      if (!inner->actions().contains(action)) continue;
+      menu->setActiveAction(inner->menuAction());
+      QTest::keyClick(menu, Qt::Key_Right);
+      menu = inner;
+    }
+    ASSERT_TRUE(menu->actions().contains(action)) << item;
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+  }
+  /// A window that is on screen, by its name in the code.
+  [[nodiscard]] static QWidget* OnScreen(const char* name) {
+    QWidget* window = nullptr;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      for (QWidget* const it : QApplication::topLevelWidgets()) {
+        if (it->objectName() == name && it->isVisible()) window = it;
+      }
+      return window != nullptr;
+    })) << name;
+    return window;
+  }
+
+  QtPlatform platform_;
+  QObject turns_;
+  HostSession session_{platform_, [this](int milliseconds, std::function<void()> task) {
+                         QTimer::singleShot(milliseconds, &turns_, std::move(task));
+                       }};
+  MainWindow window_{platform_, session_};
+};
+
+}  // namespace quorvel::muxhost

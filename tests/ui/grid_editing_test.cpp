@@ -1,0 +1,213 @@
+#include "ui/editing/grid_editing.h"
+
+#include <gtest/gtest.h>
+
+#include "quorvel/headless_platform.h"
+#include "ui/editing/number_texts.h"
+
+namespace quorvel {
+namespace {
+
+using Reach = ColumnRules::Reach;
+
+/// A grid of four rows beside one control of every kind that can edit it.
+class Desk : public Dialog {
+ public:
+  explicit Desk(Platform& platform) : Dialog(platform, "frm_Desk") {
+    SetLayout(Row(grid, Column(list, combo, slider, shown, picker)));
+    grid.SetSize(5, 8);
+    list.SetItems({"NONE", "Macro 1", "Macro 1", "Macro 3"});
+    combo.SetItems({"----", "----", "5.0 pps"});
+    slider.SetRange(0, 5);
+  }
+  std::string TextsOf(int column) const {
+    std::string texts;
+    for (int row = 1; row < grid.Rows(); ++row) texts += grid.Cell(row, column) + "|";
+    return texts;
+  }
+
+  Grid grid{*this, "MSFG_Desk"};
+  ListBox list{*this, "lst_Macro"};
+  ComboBox combo{*this, "cbRate"};
+  Slider slider{*this, "slPreEvDur"};
+  Label shown{*this, "lbPreEv"};
+  TimePicker picker{*this, "DTPicker1"};
+};
+
+class Editing : public ::testing::Test {
+ protected:
+  Editing() { desk_->Show(); }
+  void Press(int row, int column) { EXPECT_EQ(desk_->grid.Press(row, column), Answer::kDone); }
+  void Drag(int first, int last, int column) {
+    Press(first, column);
+    EXPECT_EQ(desk_->grid.Release(first, last), Answer::kDone);
+  }
+  HeadlessPlatform platform_;
+  std::shared_ptr<Desk> desk_ = std::make_shared<Desk>(platform_);
+};
+
+TEST_F(Editing, LookingAtCellsChangesNone) {
+  GridEditing editing(desk_->grid);
+  editing.Bind(1, desk_->list, EmptyFor(desk_->list, 0));
+  editing.Bind(2, desk_->combo);
+  editing.Bind(3, desk_->slider, desk_->shown);
+  editing.Bind(4, desk_->picker);
+  const struct {
+    int column;
+    int item;
+    const char* text;
+    int kept;
+  } cases[] = {
+      {1, 0, "", 0},        {1, 2, "Macro 1", 2}, {1, 3, "Macro 3", 3},   {1, 77, "", -1},
+      {2, 1, "----", 1},    {2, -1, "", -1},      {2, 5, "", -1},         {3, 4, "4", 4},
+      {3, 200, "200", 200}, {3, -1, "", -1},      {4, 465, "07:45", 465}, {4, 1440, "", -1},
+  };
+  for (const auto& it : cases) {
+    SCOPED_TRACE(testing::Message() << it.column << " " << it.item);
+    desk_->list.Select(1);
+    editing.SetItem(3, it.column, it.item);
+    Drag(3, 3, it.column);
+    EXPECT_EQ(desk_->grid.Cell(3, it.column), it.text);
+    EXPECT_EQ(desk_->grid.Item(3, it.column), it.item);
+    EXPECT_EQ(editing.ItemAt(3, it.column), it.kept);
+  }
+  desk_->grid.SetCell(2, 1, "Macro 9");
+  Drag(2, 4, 1);
+  EXPECT_EQ(desk_->TextsOf(1), "|Macro 9|||");
+  desk_->grid.SetCell(2, 1, "Macro 1");
+  EXPECT_EQ(editing.ItemAt(2, 1), 1);
+}
+
+TEST_F(Editing, TheEndOfASelectionSelectsOrWrites) {
+  for (const auto release : {GridEditing::Release::kSelects, GridEditing::Release::kWrites}) {
+    const bool writes = release == GridEditing::Release::kWrites;
+    GridEditing editing(desk_->grid, release);
+    desk_->grid.SetSize(5, 8);
+    editing.Bind(1, desk_->list);
+    editing.SetItem(2, 1, 3);
+    Drag(2, 3, 1);
+    EXPECT_EQ(desk_->TextsOf(1), writes ? "|Macro 3|Macro 3||" : "|Macro 3|||");
+    desk_->list.Choose(3);
+    EXPECT_EQ(desk_->TextsOf(1), "|Macro 3|Macro 3||");
+  }
+}
+
+TEST_F(Editing, ControlsReachTheirColumnOrTheWholeRow) {
+  GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
+  std::vector<int> written;
+  ColumnRules whole_row{.shows = Reach::kInRow, .writes = Reach::kInRow};
+  editing.Bind(1, desk_->list);
+  editing.Bind(2, desk_->list);
+  editing.Bind(3, desk_->slider, desk_->shown, whole_row);
+  whole_row.takes = [](int row) { return row != 2; };
+  whole_row.written = [&written](int row) { written.push_back(row); };
+  editing.Bind(4, desk_->combo, whole_row);
+  editing.SetItem(1, 3, 5);
+  Drag(1, 3, 2);
+  EXPECT_EQ(desk_->slider.Value(), 5);
+  EXPECT_EQ(desk_->shown.Caption(), "5");
+  desk_->list.Choose(1);
+  desk_->combo.Choose(2);
+  desk_->slider.Slide(5);
+  EXPECT_EQ(desk_->TextsOf(1), "||||");
+  EXPECT_EQ(desk_->TextsOf(2), "Macro 1|Macro 1|Macro 1||");
+  EXPECT_EQ(desk_->TextsOf(3), "5|5|5||");
+  EXPECT_EQ(desk_->TextsOf(4), "5.0 pps||5.0 pps||");
+  EXPECT_EQ(written, (std::vector<int>{1, 3}));
+
+  Press(4, 1);  // nothing there: the slider stands at its end, and that can be chosen
+  EXPECT_EQ(desk_->combo.Current(), ChoiceWidget::kNone);
+  EXPECT_EQ(desk_->shown.Caption(), "");
+  desk_->slider.Slide(0);
+  EXPECT_EQ(desk_->grid.Cell(4, 3), "0");
+  EXPECT_EQ(desk_->shown.Caption(), "0");
+  Press(4, 0);
+  desk_->list.Choose(2);
+  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "||||Macro 1|Macro 1|Macro 1||");
+}
+
+TEST_F(Editing, OneListServesColumnsOfDifferentItems) {
+  GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
+  editing.Bind(1, desk_->combo, {.items = {"Low", "High"}});
+  editing.Bind(2, desk_->combo, {.items = {"5 pps", "10 pps", "20 pps"}});
+  editing.SetItem(1, 2, 2);
+  editing.SetItem(1, 1, 1);
+  int shown = 0;
+  editing.before_show = [this, &shown] { shown = desk_->combo.Count(); };
+  Press(1, 1);
+  EXPECT_EQ(desk_->combo.CurrentText(), "High");
+  Press(1, 2);
+  EXPECT_EQ(shown, 2);
+  EXPECT_EQ(desk_->combo.CurrentText(), "20 pps");
+  Press(1, 1);
+  EXPECT_EQ(editing.ItemAt(1, 2), 2);
+  desk_->combo.Choose(0);
+  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "Low||||20 pps||||");
+}
+
+TEST_F(Editing, HoursAndMinutesAreOneTime) {
+  GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
+  editing.BindPair(2, 3, desk_->picker);
+  desk_->grid.SetCell(1, 2, "07");
+  desk_->grid.SetCell(1, 3, "05");
+  desk_->grid.SetCell(2, 2, "07");
+  Press(1, 3);
+  EXPECT_EQ(desk_->picker.ValueText(), "07:05");
+  Drag(2, 3, 2);
+  EXPECT_EQ(desk_->picker.ValueText(), "");
+  desk_->picker.Pick({0, 9, 0});
+  EXPECT_EQ(desk_->TextsOf(2) + desk_->TextsOf(3), "07|00|00||05|09|09||");
+  EXPECT_EQ(editing.ItemAt(3, 3), 9);
+  Press(4, 1);
+  desk_->picker.Pick({1, 1, 0});
+  EXPECT_EQ(desk_->TextsOf(2), "07|00|00||");
+}
+
+TEST_F(Editing, PastesAllOrNothing) {
+  GridEditing editing(desk_->grid);
+  editing.Bind(1, desk_->list, EmptyFor(desk_->list, 0));
+  editing.Bind(2, desk_->slider, desk_->shown, {.takes = [](int row) { return row != 4; }});
+  editing.Bind(3, desk_->picker);
+  const struct {
+    int first, last, column;
+    const char* text;
+    Answer answer;
+    const char* cells;  ///< columns 1 to 3 afterwards
+  } cases[] = {
+      {1, 1, 1, "Macro 3\t5\t7:45\r\n\t0\t23:59\r\n", Answer::kDone,
+       "Macro 3||||5|0|||07:45|23:59|||"},
+      {2, 4, 1, "Macro 1", Answer::kDone, "|Macro 1|Macro 1|Macro 1|||||||||"},
+      {2, 4, 1, "Macro 3\nMacro 1", Answer::kDone, "|Macro 3|Macro 1||||||||||"},
+      {3, 3, 1, "Macro 3\nMacro 3\nMacro 3", Answer::kNoSuchPlace, "||||||||||||"},
+      {1, 1, 1, "Macro 3\t6", Answer::kNotAChoice, "||||||||||||"},
+      {1, 1, 1, "Macro 3\nNONE", Answer::kNotAChoice, "||||||||||||"},
+      {3, 3, 2, "1\n1", Answer::kNotAChoice, "||||||||||||"},
+      {1, 1, 3, "07:45\t1", Answer::kNotAChoice, "||||||||||||"},
+      {1, 1, 3, "24:00", Answer::kNotAChoice, "||||||||||||"},
+      {1, 1, 7, "\t\t", Answer::kNoSuchPlace, "||||||||||||"},
+  };
+  for (const auto& it : cases) {
+    SCOPED_TRACE(it.text);
+    desk_->grid.SetSize(5, 8);
+    Press(it.first, it.column);
+    desk_->list.Select(ChoiceWidget::kNone);
+    desk_->grid.Release(it.first, it.last);
+    EXPECT_EQ(desk_->grid.Paste(it.text), it.answer);
+    EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2) + desk_->TextsOf(3), it.cells);
+  }
+  desk_->grid.SetSize(5, 8);
+  editing.SetItem(1, 1, 2);
+  editing.SetItem(2, 2, 4);
+  Drag(1, 1, 1);
+  desk_->grid.SetCurrent(1, 1);
+  EXPECT_EQ(desk_->grid.Copied(1, 2), "Macro 1\t");
+  EXPECT_EQ(desk_->grid.Paste("Macro 1"), Answer::kDone);
+  EXPECT_EQ(editing.ItemAt(1, 1), 2);  // the text of two items; it was this one
+  EXPECT_EQ(desk_->grid.Paste("Macro 3"), Answer::kDone);
+  EXPECT_EQ(desk_->list.Current(), 3);
+  desk_->grid.SetCell(1, 1, "Macro 9");
+  EXPECT_EQ(desk_->grid.Paste("Macro 9"), Answer::kDone);  // as it is, listed or not
+}
+
+}  // namespace
+}  // namespace quorvel

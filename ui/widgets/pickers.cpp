@@ -1,0 +1,58 @@
+#include "quorvel/widgets/pickers.h"
+
+namespace quorvel {
+
+TimePicker::TimePicker(Dialog& dialog, std::string name)
+    : Widget(dialog, WidgetKind::kTimePicker, std::move(name)) {}
+
+std::string TimePicker::ValueText() const { return time_ ? TimeText(format_, *time_) : ""; }
+
+void TimePicker::SetFormat(ClockFormat format) {
+  format_ = format;
+  Redraw(Aspect::kState);
+  Redraw(Aspect::kSelection);
+}
+
+void TimePicker::SetTime(const ClockTime& time) { Put(time, false); }
+void TimePicker::Clear() { Put(std::nullopt, false); }
+
+void TimePicker::Put(std::optional<ClockTime> time, bool edited) {
+  time_ = time;
+  edited_ = edited;
+  Redraw(Aspect::kSelection);
+}
+
+Answer TimePicker::Pick(ClockTime time) {
+  const Answer refusal = Refusal();
+  if (refusal != Answer::kDone) return refusal;
+  if (!IsTime(time)) return Answer::kNotAChoice;
+  if (format_ == ClockFormat::kHoursMinutes) time.second = 0;
+  Put(time, true);
+  Raise(on_change);
+  return refusal;
+}
+
+DatePicker::DatePicker(Dialog& dialog, std::string name)
+    : Widget(dialog, WidgetKind::kDatePicker, std::move(name)) {}
+
+std::string DatePicker::ValueText() const { return date_ ? DateText(*date_) : ""; }
+
+void DatePicker::SetDate(const CalendarDate& date) { Put(date, false); }
+void DatePicker::Clear() { Put(std::nullopt, false); }
+
+void DatePicker::Put(std::optional<CalendarDate> date, bool edited) {
+  date_ = date;
+  edited_ = edited;
+  Redraw(Aspect::kSelection);
+}
+
+Answer DatePicker::Pick(const CalendarDate& date) {
+  const Answer refusal = Refusal();
+  if (refusal != Answer::kDone) return refusal;
+  if (!IsDate(date)) return Answer::kNotAChoice;
+  Put(date, true);
+  Raise(on_change);
+  return refusal;
+}
+
+}  // namespace quorvel
