@@ -24,7 +24,9 @@ install_missing() {
     apt-get install -q -y --no-install-recommends "${missing[@]}" >&2
 }
 
-# What building needs; what testing needs on top.
+# What building needs; what testing needs on top. The fuzz targets have a compiler of their own: its
+# sanitizers are a package that it only recommends, and llvm names the lines of a failure.
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
 RUN_PACKAGES=(fonts-dejavu-core)
 TEST_PACKAGES=(libgtest-dev clang-format)
+FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)

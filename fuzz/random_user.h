@@ -1,0 +1,27 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "fuzz/byte_source.h"
+#include "fuzz/desk.h"
+
+namespace quorvel::fuzz {
+
+/// Does to a control what a person could do, with rows, items and texts from the input.
+Answer Use(Widget& widget, ByteSource& in);
+
+/// Uses one of a dialog's controls by name; at the end of the input, none.
+void UseOneOf(Dialog& dialog, std::initializer_list<const char*> names, ByteSource& in);
+
+/// Uses any control of a dialog, or its window's close button. The dialog may be gone afterwards.
+void UseAny(Dialog& dialog, ByteSource& in);
+
+/// The items of a menu in the order in which UseMenu counts them.
+std::vector<std::string> MenuNames(const PopupMenu& menu);
+
+/// Picks an item of the menu that is up, or takes the menu down; nothing when none is up.
+void UseMenu(Desk& desk, ByteSource& in);
+
+}  // namespace quorvel::fuzz
