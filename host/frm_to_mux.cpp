@@ -37,6 +37,7 @@ void frm_ToMux::ArrangeControls() {
   optBlk(kModified).SetCaption(context_.GetText(263));
   optBlk(kAll).Select();
   lstBlkSav.SetVisible(false);
+  lstBlkSav.SetKeepsPlace(true);
   cmdStop.SetVisible(false);
   cmdOK.SetCaption(context_.GetText(217));
   cmdStop.SetCaption(context_.GetText(218));
