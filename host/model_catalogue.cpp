@@ -64,7 +64,7 @@ using IdentityBytes = std::array<Byte, kBlockSize>;
 /// Block 185, of zeros when the image ends before it.
 IdentityBytes IdentityOf(const BlockImage& image) {
   IdentityBytes bytes{};
-  if (image.Counts(kIdentityBlock)) std::ranges::copy(image.Block(kIdentityBlock), bytes.begin());
+  if (image.Holds(kIdentityBlock)) std::ranges::copy(image.Block(kIdentityBlock), bytes.begin());
   return bytes;
 }
 

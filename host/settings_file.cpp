@@ -43,7 +43,7 @@ void LockOldKeyboards(BlockImage& image, Byte host_comm_id) {
   constexpr Byte kFirstTriplexModel = 6;
   constexpr int kLockBlock = 60;
   constexpr std::size_t kLockByte = 5;
-  if (host_comm_id != 0 || !image.Counts(kIdentityBlock)) return;
+  if (host_comm_id != 0 || !image.Holds(kIdentityBlock)) return;
   if (image.Block(kIdentityBlock)[1] < kFirstTriplexModel) image.Block(kLockBlock)[kLockByte] = 1;
 }
 

@@ -3,12 +3,13 @@
 #include <fstream>
 
 #include "tests/muxhost/run_script.h"
+#include "tests/temp_path.h"
 
 namespace quorvel::muxhost {
 namespace {
 
 TEST(ScriptRunner, ListsAndComparesSettings) {
-  const std::string odd = ::testing::TempDir() + "odd.bin";
+  const std::string odd = TempPath("odd.bin");
   std::ofstream(odd) << "odd";
   ExpectOutput(R"(
 device model=6 cameras=4
@@ -120,7 +121,7 @@ TEST(ScriptRunner, LinesAfterHoldRunInsideTheDialogsLoop) {
 }
 
 TEST(ScriptRunner, TellsHowFarADownloadCame) {
-  const std::string path = testing::TempDir() + "muxhost_three_blocks.bin";
+  const std::string path = TempPath("three_blocks.bin");
   std::string image(48, '\0');
   image[15] = 5;
   std::ofstream(path, std::ios::binary) << image;

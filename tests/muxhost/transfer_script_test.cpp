@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "tests/muxhost/run_script.h"
+#include "tests/temp_path.h"
 
 namespace quorvel::muxhost {
 namespace {
@@ -18,7 +19,7 @@ constexpr const char* kEditShown =
 class SettingsFiles : public ::testing::Test {
  protected:
   ~SettingsFiles() override { std::remove(path_.c_str()); }
-  const std::string path_ = ::testing::TempDir() + "muxhost_settings.bin";
+  const std::string path_ = TempPath("settings.bin");
 };
 
 TEST(TransferScript, CombinedExchange) {

@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "quorvel/platform.h"
+#include "tests/temp_path.h"
 
 namespace quorvel {
 namespace {
@@ -25,7 +26,7 @@ class WholeFiles : public ::testing::Test {
   }
 
   const std::vector<std::uint8_t> bytes_{0, 13, 10, 255};
-  fs::path folder_ = fs::path(::testing::TempDir()) / "quorvel_whole_files";
+  fs::path folder_ = fs::path(TempPath("folder"));
 };
 
 TEST_F(WholeFiles, ReplaceWholeAndLeaveNothingElse) {
