@@ -30,7 +30,7 @@ class MuxhostWindow : public MuxhostOnScreen {
     auto* const kind = Find<QComboBox>(&window_, "Fault");
     kind->setCurrentIndex(kind->findText(fault, Qt::MatchStartsWith));
     Find<QSpinBox>(&window_, "Strikes number")->setValue(at);
-    Button("Arm").click();
+    Click("Arm");
   }
   /// Answers a file dialog.
   static bool Name(const QString& path) {
@@ -85,7 +85,7 @@ TEST_F(MuxhostWindow, AnotherDeviceIsConnectedWithTheButton) {
   EXPECT_EQ(model->count(), 21);
   model->setCurrentIndex(3);
   cameras->setCurrentIndex(1);
-  Button("Connect").click();
+  Click("Connect");
   EXPECT_EQ(session_.Device().ModelCode(), 3);
   EXPECT_EQ(session_.Device().IdentityBytes().at(0), 9);
   EXPECT_EQ(session_.Device().BlockCount(), 185);
@@ -102,7 +102,7 @@ TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
   macros->setValue(3);
   Find<QSpinBox>(&window_, "Bytes of a macro record")->setValue(20);
   window_.findChild<QDoubleSpinBox*>()->setValue(7.29);
-  Button("Connect").click();
+  Click("Connect");
   EXPECT_EQ(session_.Device().Sizes(), (std::vector<Byte>{0, 20, 3, 0, 225, 7, 29}));
 
   Download();
@@ -112,7 +112,7 @@ TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
     const WhenShown send([] { return StartSending("Select all data blocks"); });
     const WhenShown finish(
         [this] { return session_.LastExchange().array_bytes > 0 && Press("CLOSE"); });
-    Button("Upload").click();
+    Click("Upload");
   }
   EXPECT_TRUE(session_.LastExchange().read_back->AsSent());
   EXPECT_EQ(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
@@ -143,7 +143,7 @@ TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
     const bool closed = session_.LastExchange().end_written && Press("CLOSE");
     return closed && again;
   });
-  Button("Upload").click();
+  Click("Upload");
   EXPECT_EQ(told, "The device does not hold block 86 as sent.");
   EXPECT_TRUE(DeviceIsAsEdited());
   EXPECT_EQ(Enabled(), "CDoMUSRDe");
@@ -173,7 +173,7 @@ TEST_F(MuxhostWindow, WindowStaysUsableAfterWhateverTheLinkDoes) {
       if (it.pressed != nullptr) return *it.pressed == '\0' || Press(it.pressed);
       return dialog != nullptr && session_.LastExchange().blocks_read == 2 && dialog->close();
     });
-    Button("Download").click();
+    Click("Download");
     EXPECT_EQ(Enabled(), it.left) << it.fault;
     EXPECT_NE(Events().find(it.event), std::string::npos) << it.event;
   }
@@ -188,7 +188,7 @@ TEST_F(MuxhostWindow, StopIsPressedByTheLink) {
     return Events().find("Somebody pressed STOP of the send dialog.\n") != std::string::npos &&
            Press("CLOSE");
   });
-  Button("Upload").click();
+  Click("Upload");
   EXPECT_EQ(session_.LastExchange().blocks_written, (std::vector<Byte>{85}));
   EXPECT_EQ(Enabled(), "CDoMUSRDe");
   EXPECT_NE(Events().find("The upload has not come to its end.\n"), std::string::npos);
@@ -201,14 +201,14 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
   ChangeZones();
   {
     const WhenShown save([&] { return Name(file); });
-    Button("Save file").click();
+    Click("Save file");
   }
   ASSERT_EQ(QFileInfo(file).size(), 225 * 16);
 
   // Both ask first, as what was edited is not in the device.
   for (const char* const command : {"Defaults", "Restore file"}) {
     const WhenShown question([] { return Press("Cancel"); });
-    Button(command).click();
+    Click(command);
     EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5)) << command;
   }
   {
@@ -217,7 +217,7 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
       return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr &&
              Press("OK");
     });
-    Button("Defaults").click();
+    Click("Defaults");
     ASSERT_TRUE(QTest::qWaitFor([this] { return session_.LastExchange().arrived; }));
   }
   EXPECT_NE(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
@@ -230,7 +230,7 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
       QWidget* const modal = QApplication::activeModalWidget();
       return modal != nullptr && modal->objectName() == "frm_ULFrMux" && Press("OK");
     });
-    Button("Restore file").click();
+    Click("Restore file");
   }
   EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
   EXPECT_EQ(Enabled(), "CDoMUSRDe");
@@ -274,7 +274,7 @@ TEST_F(MuxhostWindow, ClosedInTheMiddleOfATransferItEndsTheTransfer) {
       EXPECT_EQ(window_.isVisible(), answer == "Cancel");
       return answers.isEmpty();
     });
-    Button(upload ? "Upload" : "Download").click();
+    Click(upload ? "Upload" : "Download");
     EXPECT_FALSE(window_.isVisible());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   }

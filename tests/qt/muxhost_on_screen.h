@@ -51,6 +51,11 @@ class MuxhostOnScreen : public testing::Test {
     return nullptr;
   }
   [[nodiscard]] QPushButton& Button(const char* text) { return *Find(&window_, text); }
+  /// Clicks a button of the window once it can be: the window looks for changes from time to time.
+  void Click(const char* text) {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Button(text).isEnabled(); })) << text;
+    Button(text).click();
+  }
   [[nodiscard]] std::string Events() {
     auto* const log = Find<QListWidget>(&window_, "Events");
     std::string text;
@@ -68,7 +73,7 @@ class MuxhostOnScreen : public testing::Test {
   }
   void Download() {
     const WhenShown finish([] { return Press("OK"); });
-    Button("Download").click();
+    Click("Download");
   }
   /// Chooses what to send in the send dialog, and presses START.
   static bool StartSending(const QString& choice) {
@@ -82,10 +87,10 @@ class MuxhostOnScreen : public testing::Test {
     const WhenShown send([] { return StartSending("Select modified blocks"); });
     const WhenShown finish(
         [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
-    Button("Upload").click();
+    Click("Upload");
   }
   void Choose(const char* item) {
-    Button("Menu").click();
+    Click("Menu");
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     auto* const action = menu->findChild<QAction*>(item);
