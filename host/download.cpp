@@ -69,9 +69,11 @@ void Download::OpenDialog(int round, bool restored) {
   if (restored) dialog->ShowRestored();
   if (!GoesOn(round)) return;
   dialog->StopUL = [this] {
+    // What is edited from now on must not be undone by what comes yet.
     StopReceive = true;
-    // What is edited from now on must not be undone when the array comes yet.
-    if (expecting_ == Expecting::kComboArray) expecting_ = Expecting::kNothing;
+    if (expecting_ == Expecting::kBlock || expecting_ == Expecting::kComboArray) {
+      expecting_ = Expecting::kNothing;
+    }
   };
   dialog->SaveFile = [this] { context_.Guard("SaveReceivedData", [this] { SaveReceivedData(); }); };
   frmUL = dialog;
