@@ -24,7 +24,8 @@ struct Mode {
   [[nodiscard]] bool WholeDoor() const { return Door() == 5 || Door() == 6; }
   [[nodiscard]] bool BlockDoor() const { return Door() == 7; }
   [[nodiscard]] bool Raw() const { return Bit(3); }
-  [[nodiscard]] bool OneByOne() const { return Bit(4); }
+  /// A walk over all blocks for each block: seldom.
+  [[nodiscard]] bool OneByOne() const { return Bit(4) && Bit(6) && Bit(7); }
   [[nodiscard]] bool Upload() const { return Bit(5); }
   [[nodiscard]] bool Survey() const { return survey_; }
 
