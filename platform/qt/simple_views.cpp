@@ -25,18 +25,6 @@ class LabelView : public ViewOf<Label, QLabel> {
   void Draw(Aspect) override { GetBody()->setText(Shown(GetModel()->Caption())); }
 };
 
-class ValueView : public ViewOf<Widget, QLabel> {
- public:
-  ValueView(VerbsUnderWay& verbs, Widget& model, QWidget& parent)
-      : ViewOf(verbs, model, new QLabel(&parent)) {
-    GetBody()->setTextFormat(Qt::PlainText);
-    DrawAll();
-  }
-
- private:
-  void Draw(Aspect) override { GetBody()->setText(Shown(GetModel()->ValueText())); }
-};
-
 /// A button whose arrow keys stay with it; in the toolkit they also lead into lists and grids,
 /// where the next one would change something.
 class DialogButton : public QPushButton {
@@ -153,10 +141,6 @@ class StatusBarView : public ViewOf<StatusBar, QWidget> {
 
 ViewPointer MakeLabel(VerbsUnderWay& verbs, Label& model, QWidget& parent) {
   return std::make_unique<LabelView>(verbs, model, parent);
-}
-
-ViewPointer MakeValue(VerbsUnderWay& verbs, Widget& model, QWidget& parent) {
-  return std::make_unique<ValueView>(verbs, model, parent);
 }
 
 ViewPointer MakeButton(VerbsUnderWay& verbs, Button& model, QWidget& parent) {

@@ -17,8 +17,6 @@ using ViewPointer = std::unique_ptr<ControlView>;
                                            QWidget& parent);
 [[nodiscard]] ViewPointer MakeProgressBar(VerbsUnderWay& verbs, ProgressBar& model,
                                           QWidget& parent);
-/// A control's value as a text that nobody can change.
-[[nodiscard]] ViewPointer MakeValue(VerbsUnderWay& verbs, Widget& model, QWidget& parent);
 [[nodiscard]] ViewPointer MakeStatusBar(VerbsUnderWay& verbs, StatusBar& model, QWidget& parent);
 
 }  // namespace quorvel::qt

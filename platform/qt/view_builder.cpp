@@ -7,8 +7,10 @@
 #include "platform/qt/container_views.h"
 #include "platform/qt/grid_view.h"
 #include "platform/qt/list_box_view.h"
+#include "platform/qt/picker_views.h"
 #include "platform/qt/simple_views.h"
 #include "platform/qt/text_box_view.h"
+#include "platform/qt/value_views.h"
 #include "platform/qt/view_space.h"
 
 namespace quorvel::qt {
@@ -96,9 +98,17 @@ QWidget& ViewBuilder::MakeView(Widget& model, QWidget& parent) {
       view = std::make_unique<ListBoxView>(verbs_, static_cast<ListBox&>(model), parent);
       break;
     case WidgetKind::kComboBox:
+      view = std::make_unique<ComboBoxView>(verbs_, static_cast<ComboBox&>(model), parent);
+      break;
     case WidgetKind::kSlider:
+      view = std::make_unique<SliderView>(verbs_, static_cast<Slider&>(model), parent);
+      break;
     case WidgetKind::kTimePicker:
-    case WidgetKind::kDatePicker: view = MakeValue(verbs_, model, parent); break;
+      view = MakeTimePicker(verbs_, static_cast<TimePicker&>(model), parent);
+      break;
+    case WidgetKind::kDatePicker:
+      view = MakeDatePicker(verbs_, static_cast<DatePicker&>(model), parent);
+      break;
     case WidgetKind::kGrid:
       view = std::make_unique<GridView>(verbs_, static_cast<Grid&>(model), parent);
       break;

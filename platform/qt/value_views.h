@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QComboBox>
+#include <QSlider>
+
+#include "platform/qt/control_view.h"
+#include "quorvel/widgets/choice.h"
+#include "quorvel/widgets/slider.h"
+
+namespace quorvel::qt {
+
+/// The toolkit's drop-down list. The wheel turns it only when it has the focus: a page that is
+/// scrolled past it must not change it.
+class DropDown : public QComboBox {
+ public:
+  explicit DropDown(QWidget& parent);
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+class ComboBoxView : public ViewOf<ComboBox, DropDown> {
+ public:
+  ComboBoxView(VerbsUnderWay& verbs, ComboBox& model, QWidget& parent);
+
+ private:
+  void Draw(Aspect what) override;
+};
+
+/// The toolkit's slider with one signal of its own: a person moved the handle, be it to where it
+/// stood, by letting go of it there or with Space.
+class Scale : public QSlider {
+ public:
+  explicit Scale(QWidget& parent);
+  std::function<void(int)> on_slide;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  int pressed_at_ = 0;
+};
+
+class SliderView : public ViewOf<Slider, Scale> {
+ public:
+  SliderView(VerbsUnderWay& verbs, Slider& model, QWidget& parent);
+
+ private:
+  void Draw(Aspect what) override;
+};
+
+}  // namespace quorvel::qt

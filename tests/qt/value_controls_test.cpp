@@ -1,0 +1,148 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSlider>
+#include <QTest>
+#include <QWheelEvent>
+#include <memory>
+
+#include "quorvel/qt_platform.h"
+#include "quorvel/widgets.h"
+
+namespace quorvel {
+namespace {
+
+class ValueDialog : public Dialog {
+ public:
+  explicit ValueDialog(Platform& platform) : Dialog(platform, "frm_Values") {
+    combo.SetItems({"Off", "On", "R&D"});
+    slider.SetRange(0, 20);
+    slider.SetValue(200);
+    time.SetTime({7, 45, 0});
+    SetLayout(Column(combo, slider, time, date, cmd_OK));
+    SetKeyButtons(&cmd_OK, nullptr);
+    combo.on_click = [this] { notes += "choose " + std::to_string(combo.Current()) + "; "; };
+    slider.on_change = [this] { notes += "slide " + std::to_string(slider.Value()) + "; "; };
+    time.on_change = [this] { notes += "time " + time.ValueText() + "; "; };
+    date.on_change = [this] { notes += "date " + date.ValueText() + "; "; };
+    cmd_OK.on_click = [this] { notes += "OK; "; };
+  }
+
+  ComboBox combo{*this, "cbAct"};
+  Slider slider{*this, "slAct"};
+  TimePicker time{*this, "dtAct"};
+  DatePicker date{*this, "Calendar"};
+  Button cmd_OK{*this, "cmd_OK", "OK"};
+  std::string notes;
+};
+
+class QtValues : public ::testing::Test {
+ protected:
+  QtValues() {
+    dialog_->Show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(platform_.WindowOf(*dialog_)));
+  }
+  template <class QtWidget>
+  [[nodiscard]] QtWidget& Body(const char* name) const {
+    return *platform_.WindowOf(*dialog_)->findChild<QtWidget*>(name);
+  }
+  static void TurnWheel(QWidget& on) {
+    QWheelEvent event(QPointF(5, 5), on.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&on, &event);
+  }
+  std::string TakeNotes() { return std::exchange(dialog_->notes, {}); }
+
+  QtPlatform platform_;
+  std::shared_ptr<ValueDialog> dialog_ = std::make_shared<ValueDialog>(platform_);
+};
+
+TEST_F(QtValues, DropDownChoosesAndShowsTheProgramsChoice) {
+  auto& box = Body<QComboBox>("cbAct");
+  EXPECT_EQ(box.currentIndex(), -1);
+  box.setFocus();
+  QTest::keyClick(&box, Qt::Key_Down);
+  QTest::keyClick(&box, Qt::Key_Down);
+  EXPECT_EQ(TakeNotes(), "choose 0; choose 1; ");
+  dialog_->combo.Select(2);
+  EXPECT_EQ(box.currentText(), "R&D");
+  dialog_->combo.SetItems({"1", "2"});
+  EXPECT_EQ(box.currentIndex(), -1);
+  Body<QSlider>("slAct").setFocus();
+  TurnWheel(box);
+  EXPECT_EQ(TakeNotes(), "");
+}
+
+TEST_F(QtValues, SliderKeepsWhatItCannotShowUntilItIsMoved) {
+  auto& scale = Body<QSlider>("slAct");
+  EXPECT_EQ(scale.value(), 20);
+  EXPECT_EQ(dialog_->slider.Value(), 200);
+  TurnWheel(scale);
+  EXPECT_EQ(dialog_->slider.Value(), 200);
+  scale.setFocus();
+  QTest::keyClick(&scale, Qt::Key_Space);
+  QTest::keyClick(&scale, Qt::Key_PageDown);
+  QTest::keyClick(&scale, Qt::Key_Left);
+  EXPECT_EQ(TakeNotes(), "slide 20; slide 15; slide 14; ");
+  dialog_->slider.SetValue(3);
+  EXPECT_EQ(scale.value(), 3);
+  EXPECT_EQ(TakeNotes(), "");
+}
+
+TEST_F(QtValues, TimesAreTypedOrSteppedAndTakenWhenTheBoxIsLeft) {
+  auto& box = Body<QAbstractSpinBox>("dtAct");
+  auto& line = *box.findChild<QLineEdit*>();
+  EXPECT_EQ(line.text(), "07:45");
+  box.setFocus();
+  line.selectAll();
+  QTest::keyClicks(&box, "9:05");
+  EXPECT_EQ(TakeNotes(), "");
+  Body<QSlider>("slAct").setFocus();
+  EXPECT_EQ(TakeNotes(), "time 09:05; ");
+  EXPECT_EQ(line.text(), "09:05");
+  box.setFocus();
+  line.setCursorPosition(1);
+  QTest::keyClick(&box, Qt::Key_Down);
+  line.setCursorPosition(4);
+  QTest::keyClick(&box, Qt::Key_Up);
+  EXPECT_EQ(TakeNotes(), "time 08:05; time 08:06; ");
+  line.selectAll();
+  QTest::keyClicks(&box, "25:99");
+  QTest::keyClick(&box, Qt::Key_Return);
+  EXPECT_EQ(line.text(), "08:06") << "no time";
+  EXPECT_EQ(TakeNotes(), "");
+  QTest::keyClick(&box, Qt::Key_Return);
+  EXPECT_EQ(TakeNotes(), "time 08:06; ") << "the same time is a choice as well";
+  line.selectAll();
+  QTest::keyClicks(&box, "10:00");
+  QTest::keyClick(&box, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(TakeNotes(), "time 10:00; OK; ");
+  dialog_->time.SetFormat(ClockFormat::kTwelveHours);
+  dialog_->time.SetTime({13, 5, 9});
+  EXPECT_EQ(line.text(), "01:05:09 PM");
+  dialog_->time.Clear();
+  EXPECT_EQ(line.text(), "");
+}
+
+TEST_F(QtValues, DatesKeepToTheCalendar) {
+  auto& box = Body<QAbstractSpinBox>("Calendar");
+  auto& line = *box.findChild<QLineEdit*>();
+  EXPECT_EQ(line.text(), "");
+  dialog_->date.SetDate({2024, 2, 29});
+  box.setFocus();
+  line.setCursorPosition(0);
+  QTest::keyClick(&box, Qt::Key_Up);
+  EXPECT_EQ(TakeNotes(), "date 2025-02-28; ");
+  line.setCursorPosition(10);
+  QTest::keyClick(&box, Qt::Key_Up);
+  EXPECT_EQ(TakeNotes(), "date 2025-03-01; ");
+  dialog_->date.SetDate({2024, 0, 1});
+  EXPECT_EQ(line.text(), "");
+  EXPECT_EQ(dialog_->date.Date()->month, 0);
+}
+
+}  // namespace
+}  // namespace quorvel
