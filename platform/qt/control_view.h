@@ -84,6 +84,9 @@ class ViewOf : public ControlView {
  private:
   void DrawState() {
     body_->setEnabled(model_->Enabled());
+    QSizePolicy policy = body_->sizePolicy();
+    policy.setRetainSizeWhenHidden(model_->KeepsPlace());
+    body_->setSizePolicy(policy);
     body_->setVisible(model_->Visible());
     body_->setObjectName(Shown(model_->Name()));
     DrawName();

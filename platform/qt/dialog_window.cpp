@@ -133,6 +133,13 @@ void DialogWindow::closeEvent(QCloseEvent* event) {
 
 void DialogWindow::PressKeyButton(Button* button) {
   const VerbsUnderWay::Scope scope(verbs_);
+  // A box that is taken as a whole is left, as it is when a button is clicked.
+  if (QWidget* const focus = focusWidget();
+      focus != nullptr && button == dialog_->DefaultButton()) {
+    focus->clearFocus();
+    if (dialog_ == nullptr) return;  // what was typed made the window go
+    focus->setFocus(Qt::OtherFocusReason);
+  }
   button->Click();
 }
 

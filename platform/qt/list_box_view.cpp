@@ -10,24 +10,22 @@ namespace quorvel::qt {
 ChoiceList::ChoiceList(QWidget& parent) : FocusShown(&parent) {
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
-  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-  // What stands below, as a button about to be clicked, stays in place when the list is shown.
-  policy.setRetainSizeWhenHidden(true);
-  setSizePolicy(policy);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   // Below the last whole row.
   setBackgroundRole(QPalette::Base);
   setAutoFillBackground(true);
 }
 
-void ChoiceList::FitItems() {
+void ChoiceList::FitItems(int rows) {
   constexpr int kLeastWidth = 90;
   constexpr int kMostWidth = 300;
   constexpr int kLeastRows = 4;
   constexpr int kMostRows = 14;
   const int frame = 2 * frameWidth();
   const int width = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + frame + 4;
-  const QSize hint(std::clamp(width, kLeastWidth, kMostWidth),
-                   RowHeight() * std::clamp(count(), kLeastRows, kMostRows) + frame);
+  const QSize hint(
+      std::clamp(width, kLeastWidth, kMostWidth),
+      RowHeight() * (rows > 0 ? rows : std::clamp(count(), kLeastRows, kMostRows)) + frame);
   const bool on_screen = window()->isVisible() && !hint_.isEmpty();
   hint_ = hint_.expandedTo(on_screen ? QSize(hint.width(), 0) : hint);
   updateGeometry();
@@ -108,8 +106,8 @@ void ListBoxView::Draw(Aspect what) {
   if (what == Aspect::kContent) {
     list.clear();
     for (const std::string& text : GetModel()->Items()) list.addItem(Shown(text));
-    list.FitItems();
   }
+  if (what != Aspect::kSelection) list.FitItems(GetModel()->Rows());
   list.ShowCurrent(GetModel()->Current());
 }
 

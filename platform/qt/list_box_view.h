@@ -16,11 +16,12 @@ class ChoiceList : public FocusShown<QListWidget> {
   explicit ChoiceList(QWidget& parent);
   std::function<void(int)> on_choose;
 
-  /// Space for the items, up to a limit. It only grows, and once on screen not in height, so that
-  /// nothing jumps about when another set of items is shown.
+  /// Space for the items, up to a limit, or for a number of lines. It only grows, and once on
+  /// screen not in height, so that nothing jumps about when another set of items is shown.
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
-  void FitItems();
+  /// `rows` lines, or 0: as many as there are items.
+  void FitItems(int rows);
   /// Makes an item current; -1 for none.
   void ShowCurrent(int item);
 

@@ -1,19 +1,39 @@
 #pragma once
 
 #include <QLineEdit>
+#include <functional>
 
 #include "platform/qt/control_view.h"
 #include "quorvel/widgets/text_box.h"
 
 namespace quorvel::qt {
 
+/// The toolkit's line of text with a signal of its own: the focus has come, or somebody clicks
+/// where it is. A click counts when the button is let go, after the toolkit has placed the cursor.
+class TextLine : public QLineEdit {
+ public:
+  explicit TextLine(QWidget& parent);
+  std::function<void(bool by_click)> on_focus;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  bool came_by_click_ = false;
+};
+
 /// A line of editable text.
-class TextBoxView : public ViewOf<TextBox, QLineEdit> {
+class TextBoxView : public ViewOf<TextBox, TextLine> {
  public:
   TextBoxView(VerbsUnderWay& verbs, TextBox& model, QWidget& parent);
 
  private:
   void Draw(Aspect what) override;
+  /// Hands over what was typed into a box that is taken as a whole.
+  void TakeWhole();
+  void Type(const QString& text);
+  void ShowSelection();
   void FitWidth();
 };
 

@@ -22,12 +22,24 @@ class ValueDialog : public Dialog {
     slider.SetRange(0, 20);
     slider.SetValue(200);
     time.SetTime({7, 45, 0});
-    SetLayout(Column(combo, slider, time, date, cmd_OK));
+    port.SetText("1027");
+    port.SetTakenWhenLeft(true);
+    port.SetSelectOnFocus(5);
+    octet.SetText("192");
+    octet.SetSelectOnFocus(TextBox::kWhole, true);
+    list.SetItems({"1", "2", "3"});
+    list.SetRows(9);
+    SetLayout(Column(combo, slider, time, date, Row(port, octet), Row(list, other), cmd_OK));
     SetKeyButtons(&cmd_OK, nullptr);
     combo.on_click = [this] { notes += "choose " + std::to_string(combo.Current()) + "; "; };
     slider.on_change = [this] { notes += "slide " + std::to_string(slider.Value()) + "; "; };
     time.on_change = [this] { notes += "time " + time.ValueText() + "; "; };
     date.on_change = [this] { notes += "date " + date.ValueText() + "; "; };
+    port.on_change = [this] { notes += "port " + port.Text() + "; "; };
+    octet.on_change = [this] {
+      if (octet.Text().size() > 3) octet.RewriteText("255");
+      notes += "octet " + octet.Text() + "; ";
+    };
     cmd_OK.on_click = [this] { notes += "OK; "; };
   }
 
@@ -35,6 +47,10 @@ class ValueDialog : public Dialog {
   Slider slider{*this, "slAct"};
   TimePicker time{*this, "dtAct"};
   DatePicker date{*this, "Calendar"};
+  TextBox port{*this, "txtPort"};
+  TextBox octet{*this, "txtOctet"};
+  ListBox list{*this, "lstAct"};
+  ListBox other{*this, "lstOther"};
   Button cmd_OK{*this, "cmd_OK", "OK"};
   std::string notes;
 };
@@ -142,6 +158,50 @@ TEST_F(QtValues, DatesKeepToTheCalendar) {
   dialog_->date.SetDate({2024, 0, 1});
   EXPECT_EQ(line.text(), "");
   EXPECT_EQ(dialog_->date.Date()->month, 0);
+}
+
+TEST_F(QtValues, BoxesThatSelectOnFocusAndOnesThatAreTakenAsAWhole) {
+  auto& port = Body<QLineEdit>("txtPort");
+  auto& octet = Body<QLineEdit>("txtOctet");
+  port.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(port.selectedText(), "1027");
+  QTest::keyClicks(&port, "80");
+  EXPECT_EQ(TakeNotes(), "");
+  QTest::mouseClick(&octet, Qt::LeftButton);
+  EXPECT_EQ(TakeNotes(), "port 80; ");
+  EXPECT_EQ(octet.selectedText(), "192");
+  QTest::keyClicks(&octet, "1234");
+  EXPECT_EQ(TakeNotes(), "octet 1; octet 12; octet 123; octet 255; ");
+  EXPECT_EQ(octet.selectedText(), "255") << "the next key replaces it";
+  octet.deselect();
+  QTest::mouseClick(&octet, Qt::LeftButton);
+  EXPECT_EQ(octet.selectedText(), "255");
+  QTest::mouseClick(&port, Qt::LeftButton);
+  port.deselect();
+  QTest::mouseClick(&port, Qt::LeftButton);
+  EXPECT_EQ(port.selectedText(), "") << "a click where the focus is places the cursor";
+  port.selectAll();
+  QTest::keyClicks(&port, "8080");
+  QTest::keyClick(&port, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(TakeNotes(), "port 8080; OK; ");
+}
+
+TEST_F(QtValues, ListsAreAsTallAsAskedAndLeaveTheirPlaceOnlyIfTheyMay) {
+  auto& list = Body<QWidget>("lstAct");
+  auto& other = Body<QWidget>("lstOther");
+  EXPECT_GT(list.sizeHint().height(), other.sizeHint().height());
+  const auto moves = [&] {
+    QApplication::processEvents();
+    const int before = other.x();
+    dialog_->list.SetVisible(false);
+    QApplication::processEvents();
+    const int after = other.x();
+    dialog_->list.SetVisible(true);
+    return before != after;
+  };
+  EXPECT_TRUE(moves());
+  dialog_->list.SetKeepsPlace(true);
+  EXPECT_FALSE(moves());
 }
 
 }  // namespace
