@@ -20,8 +20,6 @@ class ControlView : public WidgetView {
   [[nodiscard]] virtual QWidget& Body() const = 0;
   /// Ends the tie to the model, which is not touched when it lives no more.
   virtual void LetGo(bool model_lives) = 0;
-  /// Tells screen readers the control, where it has no caption, by that of a label before it.
-  virtual void NameAfter(const Widget& label) = 0;
 
  protected:
   ControlView() = default;
@@ -42,12 +40,6 @@ class ViewOf : public ControlView {
   void LetGo(bool model_lives) override {
     if (model_ != nullptr && model_lives) model_->AttachView(nullptr);
     model_ = nullptr;
-    label_ = nullptr;
-  }
-
-  void NameAfter(const Widget& label) override {
-    label_ = &label;
-    DrawName();
   }
 
   void Refresh(Aspect what) override {
@@ -89,18 +81,11 @@ class ViewOf : public ControlView {
     body_->setSizePolicy(policy);
     body_->setVisible(model_->Visible());
     body_->setObjectName(Shown(model_->Name()));
-    DrawName();
-  }
-
-  void DrawName() {
-    const bool own = !model_->Caption().empty() || label_ == nullptr;
-    const std::string& caption = own ? model_->Caption() : label_->Caption();
-    body_->setAccessibleName(Shown(caption.empty() ? model_->Name() : caption));
+    body_->setAccessibleName(Shown(model_->SpokenName()));
   }
 
   VerbsUnderWay& verbs_;
   Model* model_;
-  const Widget* label_ = nullptr;
   QtWidget* const body_;
   QObject context_;
 };

@@ -7,6 +7,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace quorvel::qt {
@@ -72,12 +74,32 @@ class CheckBoxView : public ViewOf<CheckBox, QCheckBox> {
   }
 };
 
-class OptionButtonView : public ViewOf<OptionButton, QRadioButton> {
+/// An option whose arrow keys pick the option before or after it in its group, as people know it;
+/// the toolkit's own keep to what stands nearest, and only move the focus.
+class OptionCircle : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+  std::function<void(int steps)> on_arrow;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    switch (event->key()) {
+      case Qt::Key_Left:
+      case Qt::Key_Up: return on_arrow(-1);
+      case Qt::Key_Right:
+      case Qt::Key_Down: return on_arrow(1);
+      default: QRadioButton::keyPressEvent(event);
+    }
+  }
+};
+
+class OptionButtonView : public ViewOf<OptionButton, OptionCircle> {
  public:
   OptionButtonView(VerbsUnderWay& verbs, OptionButton& model, QWidget& parent)
-      : ViewOf(verbs, model, new QRadioButton(&parent)) {
+      : ViewOf(verbs, model, new OptionCircle(&parent)) {
     // The model keeps the group: the toolkit's own would not show a group without a selection.
     GetBody()->setAutoExclusive(false);
+    GetBody()->on_arrow = [this](int steps) { Move(steps); };
     QObject::connect(GetBody(), &QRadioButton::clicked, Context(),
                      [this] { Act([](OptionButton& option) { option.Click(); }); });
     DrawAll();
@@ -87,6 +109,38 @@ class OptionButtonView : public ViewOf<OptionButton, QRadioButton> {
   void Draw(Aspect) override {
     GetBody()->setText(Captioned(GetModel()->Caption()));
     GetBody()->setChecked(GetModel()->Selected());
+    // One of the group is reached with Tab: the selected one or, without one, each.
+    GetBody()->setFocusPolicy(GetModel()->Selected() || !GroupHasSelection() ? Qt::StrongFocus
+                                                                             : Qt::ClickFocus);
+  }
+
+  [[nodiscard]] bool GroupHasSelection() const {
+    const OptionButton::Group* const group = GetModel()->GetGroup();
+    return group != nullptr && std::any_of(group->begin(), group->end(), [](const auto& it) {
+             return it.Selected() && it.Showing() && it.Enabled();
+           });
+  }
+
+  /// Clicks the next option of the group that can be clicked, round its ends.
+  void Move(int steps) {
+    OptionButton::Group* const group = GetModel() == nullptr ? nullptr : GetModel()->GetGroup();
+    if (group == nullptr) return;
+    const int count = static_cast<int>(group->size());
+    int place = 0;
+    while (&(*group)[static_cast<std::size_t>(place)] != GetModel()) ++place;
+    for (int tried = 1; tried < count; ++tried) {
+      place = (place + steps + count) % count;
+      OptionButton& next = (*group)[static_cast<std::size_t>(place)];
+      if (!next.Showing() || !next.Enabled()) continue;
+      FocusOn(next);
+      Act([&next](OptionButton&) { next.Click(); });
+      return;
+    }
+  }
+
+  void FocusOn(const OptionButton& option) {
+    auto* const body = GetBody()->window()->findChild<QRadioButton*>(Shown(option.Name()));
+    if (body != nullptr) body->setFocus(Qt::TabFocusReason);
   }
 };
 

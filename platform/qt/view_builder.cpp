@@ -57,7 +57,7 @@ QBoxLayout* ViewBuilder::BuildBox(const Layout& layout, QWidget& container, int 
     box->setSpacing(kLineSpacing);
   }
   const bool tall = row && !std::all_of(layout.parts.begin(), layout.parts.end(), &IsOneLine);
-  const Widget* label = nullptr;
+  const Label* label = nullptr;
   for (const Layout& part : layout.parts) {
     const int share = row ? ShareAcross(part) : ShareDown(part);
     if (part.kind == Layout::Kind::kStretch) {
@@ -67,8 +67,8 @@ QBoxLayout* ViewBuilder::BuildBox(const Layout& layout, QWidget& container, int 
     } else {
       QWidget& body = MakeView(*part.widget, container);
       const WidgetKind kind = part.widget->Kind();
-      if (kind == WidgetKind::kLabel) label = part.widget;
-      if (kind == WidgetKind::kTextBox && row && label != nullptr) views_.back()->NameAfter(*label);
+      if (kind == WidgetKind::kLabel) label = static_cast<const Label*>(part.widget);
+      if (kind == WidgetKind::kTextBox && row && label != nullptr) part.widget->SetLabel(*label);
       const bool one_line = IsOneLine(part);
       if (one_line && line_height > 0) body.setFixedHeight(line_height);
       box->addWidget(&body, share, one_line && tall ? Qt::AlignTop : Qt::Alignment());

@@ -16,7 +16,8 @@ namespace quorvel {
 
 using Notes = std::vector<std::string>;
 
-/// A sample dialog on screen, and the toolkit's widgets in it by what they tell screen readers.
+/// A sample dialog on screen, and the toolkit's widgets in it by what they tell screen readers or
+/// by their names in the code.
 class OnScreen : public testing::Test {
  protected:
   OnScreen() { Settle(); }
@@ -39,11 +40,12 @@ class OnScreen : public testing::Test {
   [[nodiscard]] QWidget& Window() const { return *platform_.WindowOf(*dialog_); }
 
   template <class QtWidget>
-  [[nodiscard]] QtWidget& Body(const char* accessible_name) const {
+  [[nodiscard]] QtWidget& Body(const char* name) const {
+    const QLatin1String wanted(name);
     for (QtWidget* const body : Window().findChildren<QtWidget*>()) {
-      if (body->accessibleName() == QLatin1String(accessible_name)) return *body;
+      if (body->accessibleName() == wanted || body->objectName() == wanted) return *body;
     }
-    throw std::invalid_argument(accessible_name);
+    throw std::invalid_argument(name);
   }
 
   QtPlatform platform_;

@@ -29,7 +29,12 @@ class ValueDialog : public Dialog {
     octet.SetSelectOnFocus(TextBox::kWhole, true);
     list.SetItems({"1", "2", "3"});
     list.SetRows(9);
-    SetLayout(Column(combo, slider, time, date, Row(port, octet), Row(list, other), cmd_OK));
+    opt(1).SetEnabled(false);
+    opt(3).SetVisible(false);
+    for (int i = 0; i < 4; ++i) {
+      opt(i).on_click = [this, i] { notes += "option " + std::to_string(i) + "; "; };
+    }
+    SetLayout(Column(opt, combo, slider, time, date, Row(port, octet), Row(list, other), cmd_OK));
     SetKeyButtons(&cmd_OK, nullptr);
     combo.on_click = [this] { notes += "choose " + std::to_string(combo.Current()) + "; "; };
     slider.on_change = [this] { notes += "slide " + std::to_string(slider.Value()) + "; "; };
@@ -43,6 +48,7 @@ class ValueDialog : public Dialog {
     cmd_OK.on_click = [this] { notes += "OK; "; };
   }
 
+  ControlArray<OptionButton> opt{*this, "opt", 4};
   ComboBox combo{*this, "cbAct"};
   Slider slider{*this, "slAct"};
   TimePicker time{*this, "dtAct"};
@@ -184,6 +190,22 @@ TEST_F(QtValues, BoxesThatSelectOnFocusAndOnesThatAreTakenAsAWhole) {
   QTest::keyClicks(&port, "8080");
   QTest::keyClick(&port, Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(TakeNotes(), "port 8080; OK; ");
+}
+
+TEST_F(QtValues, ArrowsPickAmongTheOptionsOfAGroupThatCanBePicked) {
+  auto& first = Body<QWidget>("opt(0)");
+  auto& third = Body<QWidget>("opt(2)");
+  first.setFocus();
+  QTest::keyClick(&first, Qt::Key_Down);
+  EXPECT_TRUE(third.hasFocus());
+  QTest::keyClick(&third, Qt::Key_Right);
+  EXPECT_TRUE(first.hasFocus());
+  QTest::keyClick(&first, Qt::Key_Up);
+  EXPECT_EQ(TakeNotes(), "option 2; option 0; option 2; ");
+  QTest::keyClick(&third, Qt::Key_Tab);
+  EXPECT_TRUE(Body<QWidget>("cbAct").hasFocus());
+  QTest::keyClick(&Body<QWidget>("cbAct"), Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(third.hasFocus()) << "Tab stops at the selected option";
 }
 
 TEST_F(QtValues, ListsAreAsTallAsAskedAndLeaveTheirPlaceOnlyIfTheyMay) {
