@@ -7,9 +7,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/grid_header.h"
+
 namespace quorvel::qt {
 
-GridTable::GridTable(QWidget& parent, GridTexts& texts) : FocusShown(&parent) {
+GridTable::GridTable(QWidget& parent, GridTexts& texts) : FocusShown(&parent), texts_(texts) {
   constexpr int kRowPadding = 6;
   setModel(&texts);
   setSelectionMode(NoSelection);  // by the toolkit; the grid's own selection is drawn
@@ -22,9 +24,7 @@ GridTable::GridTable(QWidget& parent, GridTexts& texts) : FocusShown(&parent) {
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
-  horizontalHeader()->setSectionsClickable(false);
-  horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setStretchLastSection(true);
+  setHorizontalHeader(new GridHeader(*this, texts));
   fit_.setSingleShot(true);
   QObject::connect(&fit_, &QTimer::timeout, this, [this] { FitColumns(false); });
 }
@@ -34,26 +34,25 @@ void GridTable::ShowSelection(int row, int column, int row_sel) {
   column_ = column;
   row_sel_ = row_sel;
   DrawSelection();
-  if (row_ == row_sel_ && row_ > 0) scrollTo(model()->index(row_ - 1, column_));
+  if (row_ == row_sel_ && row_ > 0) scrollTo(CellAt(row_, column_));
 }
 
 void GridTable::DrawSelection() {
-  if (row_ < 1 || row_ > LastRow()) {
+  if (row_ < FirstRow() || row_ > LastRow()) {
     selectionModel()->clear();
     return;
   }
-  const auto [first, last] = std::minmax(row_, std::clamp(row_sel_, 1, LastRow()));
-  selectionModel()->setCurrentIndex(model()->index(row_ - 1, column_),
-                                    QItemSelectionModel::NoUpdate);
-  selectionModel()->select(
-      QItemSelection(model()->index(first - 1, column_), model()->index(last - 1, column_)),
-      QItemSelectionModel::ClearAndSelect);
+  const auto [first, last] = std::minmax(row_, std::clamp(row_sel_, FirstRow(), LastRow()));
+  selectionModel()->setCurrentIndex(CellAt(row_, column_), QItemSelectionModel::NoUpdate);
+  selectionModel()->select(QItemSelection(CellAt(first, column_), CellAt(last, column_)),
+                           QItemSelectionModel::ClearAndSelect);
 }
 
 void GridTable::ExtendTo(int row) {
-  row_sel_ = std::clamp(row, 1, std::max(LastRow(), 1));
+  if (!texts_.SelectsRows() || LastRow() < FirstRow()) return;
+  row_sel_ = std::clamp(row, FirstRow(), LastRow());
   DrawSelection();
-  scrollTo(model()->index(row_sel_ - 1, column_));
+  scrollTo(CellAt(row_sel_, column_));
 }
 
 void GridTable::EndSelection() {
@@ -63,19 +62,19 @@ void GridTable::EndSelection() {
 }
 
 int GridTable::RowUnder(int y) const {
-  if (y < 0) return rowAt(0);  // one above the topmost, in the grid's numbers
+  if (y < 0) return rowAt(0) + FirstRow() - 1;  // one above the topmost
   if (y >= viewport()->height()) {
     const int lowest = rowAt(viewport()->height() - 1);
-    return lowest < 0 ? LastRow() : lowest + 2;
+    return lowest < 0 ? LastRow() : lowest + FirstRow() + 1;
   }
   const int row = rowAt(y);
-  return row < 0 ? LastRow() : row + 1;
+  return row < 0 ? LastRow() : row + FirstRow();
 }
 
 void GridTable::mousePressEvent(QMouseEvent* event) {
   const QModelIndex cell = indexAt(event->position().toPoint());
   if (event->button() != Qt::LeftButton || !cell.isValid()) return;
-  const int row = cell.row() + 1;
+  const int row = cell.row() + FirstRow();
   dragging_ = true;
   extending_ = false;
   const bool extend = (event->modifiers() & Qt::ShiftModifier) != 0;
@@ -107,18 +106,20 @@ bool GridTable::Move(const QKeyEvent& event, int& row, int& column) const {
     case Qt::Key_PageDown: row += page; break;
     case Qt::Key_Left: --column; break;
     case Qt::Key_Right: ++column; break;
-    case Qt::Key_Home: (control ? row : column) = 1; break;
+    case Qt::Key_Home: (control ? row : column) = control ? FirstRow() : 1; break;
     case Qt::Key_End: (control ? row : column) = control ? LastRow() : last_column; break;
     case Qt::Key_Space: break;
     default: return false;
   }
-  if (LastRow() == 0) return false;
-  row = std::clamp(row, 1, LastRow());
+  if (LastRow() < FirstRow()) return false;
+  row = std::clamp(row, FirstRow(), LastRow());
   column = std::clamp(column, std::min(1, last_column), last_column);
   return true;
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) return on_copy();
+  if (event->matches(QKeySequence::Paste)) return on_paste();
   const bool extend = (event->modifiers() & Qt::ShiftModifier) != 0 && row_ > 0;
   int row = extend ? row_sel_ : row_;
   int column = column_;
@@ -150,15 +151,17 @@ void GridTable::focusOutEvent(QFocusEvent* event) {
 
 void GridTable::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
-  if (row_ > 0 && row_ == row_sel_) scrollTo(model()->index(row_ - 1, column_));
+  if (row_ > 0 && row_ == row_sel_) scrollTo(CellAt(row_, column_));
 }
 
 void GridTable::FitColumns(bool anew) {
   constexpr int kPadding = 10;
   fit_.stop();
   for (int column = 0; column < model()->columnCount(); ++column) {
-    const int wanted =
-        kPadding + std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+    const int least = texts_.LeastWidth(column) * fontMetrics().averageCharWidth();
+    const int texts =
+        std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+    const int wanted = kPadding + std::max(least, texts);
     // Columns grow only: a grid whose columns move as texts change cannot be read.
     if (anew || wanted > columnWidth(column)) setColumnWidth(column, wanted);
   }
@@ -176,7 +179,7 @@ QSize GridTable::sizeHint() const {
                  ? columnWidth(column)
                  : std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
   }
-  const int rows = std::min(LastRow(), kMostRows);
+  const int rows = std::min(model()->rowCount(), kMostRows);
   return {std::min(width, kMostWidth), frame + horizontalHeader()->sizeHint().height() +
                                            rows * verticalHeader()->defaultSectionSize()};
 }

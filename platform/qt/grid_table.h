@@ -10,8 +10,8 @@
 namespace quorvel::qt {
 
 /// The toolkit's table with a grid's way of selecting: one cell is current, and a range of rows in
-/// its column is selected. Rows are numbered as in the grid, from 1. The table reports what a
-/// person does; what is selected afterwards is for its view to tell.
+/// its column is selected. Rows are numbered as in the grid, header included. The table reports
+/// what a person does; what is selected afterwards is for its view to tell.
 class GridTable : public FocusShown<QTableView> {
  public:
   GridTable(QWidget& parent, GridTexts& texts);
@@ -22,6 +22,10 @@ class GridTable : public FocusShown<QTableView> {
   std::function<void(int first, int last)> on_release;
   /// A selection was abandoned: the table must be told anew what is selected.
   std::function<void()> on_cancel;
+
+  /// The selected cells are to be copied, or replaced by what was copied.
+  std::function<void()> on_copy;
+  std::function<void()> on_paste;
 
   /// Draws this selection; row 0 for none.
   void ShowSelection(int row, int column, int row_sel);
@@ -43,13 +47,18 @@ class GridTable : public FocusShown<QTableView> {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  [[nodiscard]] int LastRow() const { return model()->rowCount(); }
+  [[nodiscard]] int FirstRow() const { return texts_.FirstRow(); }
+  [[nodiscard]] int LastRow() const { return FirstRow() + model()->rowCount() - 1; }
+  [[nodiscard]] QModelIndex CellAt(int row, int column) const {
+    return model()->index(row - FirstRow(), column);
+  }
   [[nodiscard]] int RowUnder(int y) const;
   [[nodiscard]] bool Move(const QKeyEvent& event, int& row, int& column) const;
   void ExtendTo(int row);
   void DrawSelection();
   void EndSelection();
 
+  const GridTexts& texts_;
   int row_ = 0;
   int column_ = 0;
   int row_sel_ = 0;

@@ -8,12 +8,15 @@
 namespace quorvel::qt {
 
 void GridTexts::TakeSize() {
-  rows_ = grid_ == nullptr ? 0 : grid_->Rows() - 1;
+  header_rows_ = grid_ == nullptr ? 1 : grid_->HeaderRows();
+  rows_ = grid_ == nullptr ? 0 : grid_->Rows() - header_rows_;
   columns_ = grid_ == nullptr ? 0 : grid_->Columns();
 }
 
 bool GridTexts::Renew() {
-  if (grid_->Rows() - 1 != rows_ || grid_->Columns() != columns_) {
+  const bool same = grid_->HeaderRows() == header_rows_ && grid_->Rows() - header_rows_ == rows_ &&
+                    grid_->Columns() == columns_;
+  if (!same) {
     beginResetModel();
     TakeSize();
     endResetModel();
@@ -44,7 +47,11 @@ QVariant GridTexts::Text(int grid_row, int column) const {
 }
 
 QVariant GridTexts::data(const QModelIndex& index, int role) const {
-  if (role == Qt::DisplayRole) return Text(index.row() + 1, index.column());
+  if (role == Qt::DisplayRole) return Text(index.row() + header_rows_, index.column());
+  if (role == Qt::TextAlignmentRole && grid_ != nullptr) {
+    const bool centred = grid_->Alignment() == Grid::Align::kCentre;
+    return QVariant::fromValue(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
+  }
   if (role == Qt::BackgroundRole && index.column() == 0) {
     return QApplication::palette().brush(QPalette::Button);
   }
@@ -55,7 +62,20 @@ QVariant GridTexts::headerData(int section, Qt::Orientation orientation, int rol
   if (orientation == Qt::Vertical) {
     return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
   }
-  return role == Qt::DisplayRole ? Text(0, section) : QVariant();
+  if (role != Qt::DisplayRole || grid_ == nullptr || section >= grid_->Columns()) return {};
+  return header_rows_ == 1 ? Text(0, section) : QVariant(Shown(grid_->ColumnName(section)));
+}
+
+std::vector<Grid::HeaderCell> GridTexts::Header() const {
+  return grid_ == nullptr ? std::vector<Grid::HeaderCell>() : grid_->Header();
+}
+
+int GridTexts::LeastWidth(int column) const {
+  return grid_ == nullptr || column >= grid_->Columns() ? 0 : grid_->LeastWidth(column);
+}
+
+bool GridTexts::SelectsRows() const {
+  return grid_ != nullptr && grid_->AllowedRange() == Grid::Range::kRows;
 }
 
 }  // namespace quorvel::qt

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <vector>
 
 #include "quorvel/widgets/grid.h"
 
 namespace quorvel::qt {
 
-/// A grid's texts for the toolkit's table, read where they are. The grid's row 0 is the table's
-/// header, so the table's row 0 is the grid's row 1.
+/// A grid's texts for the toolkit's table, read where they are. The grid's header rows are the
+/// table's header, so the table's row 0 is the grid's first row of data.
 class GridTexts : public QAbstractTableModel {
  public:
   explicit GridTexts(const Grid& grid) : grid_(&grid) { TakeSize(); }
@@ -16,6 +17,14 @@ class GridTexts : public QAbstractTableModel {
   bool Renew();
   /// Ends the tie to the grid: the table is empty from now on.
   void LetGo();
+  /// Number of the grid's first row of data.
+  [[nodiscard]] int FirstRow() const { return header_rows_; }
+  /// The header as it is drawn; empty without a grid.
+  [[nodiscard]] std::vector<Grid::HeaderCell> Header() const;
+  /// Characters that a column is wide at least.
+  [[nodiscard]] int LeastWidth(int column) const;
+  /// Whether more than one row can be selected.
+  [[nodiscard]] bool SelectsRows() const;
 
   [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
   [[nodiscard]] int columnCount(const QModelIndex& parent) const override;
@@ -28,6 +37,7 @@ class GridTexts : public QAbstractTableModel {
   [[nodiscard]] QVariant Text(int grid_row, int column) const;
 
   const Grid* grid_;
+  int header_rows_ = 1;
   int rows_ = 0;
   int columns_ = 0;
 };

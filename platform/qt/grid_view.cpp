@@ -1,5 +1,10 @@
 #include "platform/qt/grid_view.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QToolTip>
+
 namespace quorvel::qt {
 
 GridView::GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent)
@@ -14,6 +19,8 @@ GridView::GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent, GridTexts
   GetBody()->on_release = [this](int first, int last) {
     Act([first, last](Grid& grid) { grid.Release(first, last); });
   };
+  GetBody()->on_copy = [this] { Copy(); };
+  GetBody()->on_paste = [this] { Paste(); };
   GetBody()->on_cancel = [this] { Refresh(Aspect::kSelection); };
   DrawAll();
   GetBody()->FitColumns(true);
@@ -23,6 +30,26 @@ void GridView::LetGo(bool model_lives) {
   // The view ends after the window has let it go; the table, which owns the texts, still later.
   if (GetModel() != nullptr) texts_->LetGo();
   ViewOf::LetGo(model_lives);
+}
+
+void GridView::Copy() {
+  if (GetModel() == nullptr) return;
+  const int column = GetModel()->Column();
+  QGuiApplication::clipboard()->setText(Shown(GetModel()->Copied(column, column)));
+}
+
+/// A refused paste is said where it was tried.
+void GridView::Paste() {
+  const std::string text = Stored(QGuiApplication::clipboard()->text());
+  Answer answer = Answer::kDone;
+  const QPointer<GridTable> table(GetBody());
+  Act([&](Grid& grid) { answer = grid.Paste(text); });
+  if (table == nullptr || answer == Answer::kDone) return;
+  const QString why = answer == Answer::kNotAChoice
+                          ? "Nothing was pasted: a value is not a choice of its column."
+                          : "Nothing was pasted: it does not fit into the table here.";
+  const QRect cell = table->visualRect(table->currentIndex());
+  QToolTip::showText(table->viewport()->mapToGlobal(cell.bottomLeft()), why, table);
 }
 
 void GridView::Draw(Aspect what) {

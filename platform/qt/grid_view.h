@@ -15,6 +15,8 @@ class GridView : public ViewOf<Grid, GridTable> {
  private:
   GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent, GridTexts* texts);
   void Draw(Aspect what) override;
+  void Copy();
+  void Paste();
 
   GridTexts* const texts_;  ///< owned by the table
 };

@@ -206,6 +206,8 @@ TEST_F(QtValues, ArrowsPickAmongTheOptionsOfAGroupThatCanBePicked) {
   EXPECT_TRUE(Body<QWidget>("cbAct").hasFocus());
   QTest::keyClick(&Body<QWidget>("cbAct"), Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(third.hasFocus()) << "Tab stops at the selected option";
+  QTest::keyClick(&third, Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_FALSE(first.hasFocus()) << "and at no other of the group";
 }
 
 TEST_F(QtValues, ListsAreAsTallAsAskedAndLeaveTheirPlaceOnlyIfTheyMay) {

@@ -47,22 +47,24 @@ OptionButton::OptionButton(Dialog& dialog, std::string name, std::string caption
 
 std::string OptionButton::ValueText() const { return selected_ ? "on" : "off"; }
 
-void OptionButton::Set(bool selected) {
-  if (selected_ == selected) return;
-  selected_ = selected;
-  Redraw(Aspect::kSelection);
-}
-
+/// The whole group is drawn anew: how an option is reached depends on where the selection is.
 void OptionButton::Select() {
   if (group_ != nullptr) {
-    for (OptionButton& option : *group_) {
-      if (&option != this) option.Set(false);
-    }
+    for (OptionButton& option : *group_) option.selected_ = false;
   }
-  Set(true);
+  selected_ = true;
+  RedrawGroup();
 }
 
-void OptionButton::Deselect() { Set(false); }
+void OptionButton::Deselect() {
+  selected_ = false;
+  RedrawGroup();
+}
+
+void OptionButton::RedrawGroup() const {
+  if (group_ == nullptr) return Redraw(Aspect::kSelection);
+  for (const OptionButton& option : *group_) option.Redraw(Aspect::kSelection);
+}
 
 Answer OptionButton::Click() {
   const Answer refusal = Refusal();

@@ -56,7 +56,7 @@ class OptionButton : public Widget {
   [[nodiscard]] Group* GetGroup() const { return group_; }
 
  private:
-  void Set(bool selected);
+  void RedrawGroup() const;
   bool selected_ = false;
   Group* group_ = nullptr;
 };

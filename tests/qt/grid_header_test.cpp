@@ -1,0 +1,98 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QTableView>
+#include <QTest>
+#include <QToolTip>
+#include <memory>
+
+#include "quorvel/qt_platform.h"
+#include "quorvel/widgets.h"
+#include "ui/editing/grid_editing.h"
+
+namespace quorvel {
+namespace {
+
+/// A grid with two header rows, of which two columns share the first.
+class GridDialog : public Dialog {
+ public:
+  explicit GridDialog(Platform& platform) : Dialog(platform, "frm_Grid") {
+    grid.SetHeaderRows(2);
+    grid.SetMergedHeader(true);
+    grid.SetSize(6, 3);
+    const char* const texts[2][3] = {{"Camera", "Macro", "Macro"}, {"Camera", "1", "2"}};
+    for (int row = 0; row < 2; ++row) {
+      for (int column = 0; column < 3; ++column) grid.SetCell(row, column, texts[row][column]);
+    }
+    list.SetItems({"Off", "On"});
+    for (const int column : {1, 2}) editing.Bind(column, list);
+    for (int row = 2; row < 6; ++row) {
+      for (const int column : {1, 2}) editing.SetItem(row, column, 0);
+    }
+    SetLayout(Row(grid, list));
+  }
+  std::string Cells() const {
+    std::string cells;
+    for (int row = 2; row < 6; ++row) cells += grid.Cell(row, 1) + "," + grid.Cell(row, 2) + " ";
+    return cells;
+  }
+
+  Grid grid{*this, "MSFG"};
+  ListBox list{*this, "lst"};
+  GridEditing editing{grid, GridEditing::Release::kSelects};
+};
+
+class QtGridHeader : public ::testing::Test {
+ protected:
+  QtGridHeader() {
+    dialog_->Show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(platform_.WindowOf(*dialog_)));
+    table_ = platform_.WindowOf(*dialog_)->findChild<QTableView*>("MSFG");
+  }
+  QtPlatform platform_;
+  std::shared_ptr<GridDialog> dialog_ = std::make_shared<GridDialog>(platform_);
+  QTableView* table_ = nullptr;
+};
+
+TEST_F(QtGridHeader, TwoRowsAboveTheData) {
+  EXPECT_EQ(table_->model()->rowCount(), 4);
+  EXPECT_EQ(table_->model()->headerData(0, Qt::Horizontal), "Camera");
+  EXPECT_EQ(table_->model()->headerData(2, Qt::Horizontal), "Macro, 2");
+  EXPECT_GT(table_->horizontalHeader()->height(), table_->rowHeight(0));
+  QTest::mouseClick(table_->viewport(), Qt::LeftButton, {},
+                    table_->visualRect(table_->model()->index(0, 1)).center());
+  EXPECT_EQ(dialog_->grid.Row(), 2);
+  dialog_->list.Choose(1);
+  EXPECT_EQ(dialog_->Cells(), "On,Off Off,Off Off,Off Off,Off ");
+  EXPECT_EQ(table_->model()->index(0, 1).data(), "On");
+  QTest::keyClick(table_, Qt::Key_Up);
+  EXPECT_EQ(dialog_->grid.Row(), 2) << "the header is not entered";
+  QTest::keyClick(table_, Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(dialog_->grid.Row(), 5);
+  dialog_->grid.SetRange(Grid::Range::kOneRow);
+  QTest::keyClick(table_, Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(dialog_->grid.FirstSelected(), 5);
+}
+
+TEST_F(QtGridHeader, CopyAndPaste) {
+  dialog_->editing.SetItem(3, 1, 1);
+  dialog_->grid.Press(2, 1);
+  dialog_->grid.Release(2, 4);
+  QTest::keyClick(table_, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "Off\nOn\nOff");
+  dialog_->grid.Press(3, 2);
+  QTest::keyClick(table_, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(dialog_->Cells(), "Off,Off On,Off Off,On Off,Off ");
+  dialog_->grid.Press(3, 2);
+  for (const char* const text : {"On\nPerhaps", "On\nOn\nOn\nOn"}) {
+    QApplication::clipboard()->setText(text);
+    QTest::keyClick(table_, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(dialog_->Cells(), "Off,Off On,Off Off,On Off,Off ");
+    EXPECT_TRUE(QToolTip::text().startsWith("Nothing was pasted")) << text;
+  }
+}
+
+}  // namespace
+}  // namespace quorvel
