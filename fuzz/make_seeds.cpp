@@ -1,5 +1,5 @@
-// Writes the seed corpora, fuzz/corpus/<target>, afresh: real images, arrays, files and sequences
-// of calls. Its argument is the folder of the corpora.
+// Writes the first inputs of every target to fuzz/corpus/<target>, afresh: real images, arrays,
+// files and sequences of calls. Its argument is the folder of the corpora.
 
 #include <iostream>
 #include <string>

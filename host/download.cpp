@@ -27,7 +27,6 @@ constexpr Byte kModelCodeMask = 0x7F;
 int Download::BeginAnew() {
   expecting_ = Expecting::kNothing;
   arriving_.Clear();
-  StopReceive = false;
   progress_ = {};
   const int round = ++round_;
   CloseDialog();  // what it waited for does not come any more
@@ -69,8 +68,8 @@ void Download::OpenDialog(int round, bool restored) {
   if (restored) dialog->ShowRestored();
   if (!GoesOn(round)) return;
   dialog->StopUL = [this] {
-    // What is edited from now on must not be undone by what comes yet.
-    StopReceive = true;
+    // No further block is asked for, and what is edited from now on must not be undone by what
+    // comes yet.
     if (expecting_ == Expecting::kBlock || expecting_ == Expecting::kComboArray) {
       expecting_ = Expecting::kNothing;
     }
@@ -124,7 +123,7 @@ void Download::TakeBlock(std::span<const Byte> reply) {
   if (number >= count && bytes >= count * kBlockSize) {
     Adopt(std::exchange(arriving_, {}), ImageSource::kDevice);
     FinishReception(bytes);
-  } else if (number < count && !StopReceive) {
+  } else if (number < count) {
     Request(Expecting::kBlock, number + 1);
   }
 }

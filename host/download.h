@@ -74,10 +74,9 @@ class Download {
   std::string block_text_;
   std::string finished_text_;
   Expecting expecting_ = Expecting::kNothing;
-  int awaited_ = 0;          ///< number of the block that is expected
-  int round_ = 0;            ///< number of the sequence that is under way
-  BlockImage arriving_;      ///< the blocks that have come so far
-  bool StopReceive = false;  ///< the user has closed the dialog; no further block is asked for
+  int awaited_ = 0;                 ///< number of the block that is expected
+  int round_ = 0;                   ///< number of the sequence that is under way
+  BlockImage arriving_;             ///< the blocks that have come so far
   bool received_combined_ = false;  ///< the present data came as a combined array
   DefaultsDevice defaults_;
 };
