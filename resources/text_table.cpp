@@ -342,6 +342,12 @@ constexpr std::string_view kTexts[] = {
     /* 331 */ "Legacy",
     /* 332 */ "Current",
 };
+
+constexpr std::string_view kAddedTexts[] = {
+    /* 1000 */ "Needs text before and after \"@\": it will not be stored",
+    /* 1001 */ "More than 48 characters before or after \"@\": it will be cut",
+    /* 1002 */ "Nothing was pasted: a text does not fit the cell that it would go to",
+};
 // clang-format on
 
 static_assert(std::size(kTexts) == kTextCount);
@@ -349,7 +355,11 @@ static_assert(std::size(kTexts) == kTextCount);
 }  // namespace
 
 std::string_view BuiltInText(int id) {
-  return id >= 0 && id < kTextCount ? kTexts[id] : std::string_view();
+  const auto in = [id](const auto& texts, int first) {
+    return id >= first && id - first < static_cast<int>(std::size(texts));
+  };
+  if (in(kTexts, 0)) return kTexts[id];
+  return in(kAddedTexts, kFirstAddedText) ? kAddedTexts[id - kFirstAddedText] : std::string_view();
 }
 
 }  // namespace quorvel

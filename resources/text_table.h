@@ -6,7 +6,14 @@ namespace quorvel {
 
 inline constexpr int kTextCount = 333;
 
-/// The built-in English text of id 0 to 332, in UTF-8; empty for other ids.
+/// Texts beyond the table, for what a host's own vocabulary need not know. They are numbered apart,
+/// so that the table can grow.
+inline constexpr int kFirstAddedText = 1000;
+inline constexpr int kTextAddressNotStored = 1000;  ///< an e-mail address that would be dropped
+inline constexpr int kTextAddressCut = 1001;        ///< one that would be cut
+inline constexpr int kTextNotPasted = 1002;         ///< a paste that a grid has refused
+
+/// The built-in English text of id 0 to 332 or of an added text, in UTF-8; empty for other ids.
 [[nodiscard]] std::string_view BuiltInText(int id);
 
 }  // namespace quorvel

@@ -105,6 +105,13 @@ struct Context {
     ++generation_;
   }
 
+  /// The device's firmware version, 506 for 5.06: as the host has stated it, else as the combined
+  /// array says; 0 when neither does.
+  [[nodiscard]] int DeviceFirmware() const {
+    if (combo_sizes.ComboExtraA == 0) return ComboArray.Header().Firmware();
+    return combo_sizes.ComboExtraA * 100 + combo_sizes.ComboExtraB;
+  }
+
   /// Encodes the blocks that are listed as modified from the record into the image.
   void EncodeListedBlocks() {
     const LocalTime now = platform.Now();

@@ -10,9 +10,17 @@ bool IsAddress(int address) {
   return address >= 0 && address < static_cast<int>(kFirstBlockOfAddress.size());
 }
 
-int FirstBlock(int address) { return kFirstBlockOfAddress[static_cast<std::size_t>(address)]; }
-
 }  // namespace
+
+int clsEmailNotify::FirstBlock(int address) {
+  return kFirstBlockOfAddress.at(static_cast<std::size_t>(address));
+}
+
+clsEmailNotify::Halves clsEmailNotify::Split(std::string_view address) {
+  const auto at = address.find('@');
+  if (at == std::string_view::npos) return {};
+  return {address.substr(0, at), address.substr(at + 1)};
+}
 
 BlockText clsEmailNotify::BlkStrInit(int block) const {
   const auto index = TextIndex(block);
@@ -37,11 +45,9 @@ std::string clsEmailNotify::EmailString(int address) const {
 
 void clsEmailNotify::EmailString(int address, std::string_view text) {
   if (!IsAddress(address)) return;
-  const auto at = text.find('@');
-  const bool split = at != std::string_view::npos;
-  PutEmailBlocks(FirstBlock(address), split ? text.substr(0, at) : std::string_view());
-  PutEmailBlocks(FirstBlock(address) + kBlocksPerHalf,
-                 split ? text.substr(at + 1) : std::string_view());
+  const Halves halves = Split(text);
+  PutEmailBlocks(FirstBlock(address), halves.local);
+  PutEmailBlocks(FirstBlock(address) + kBlocksPerHalf, halves.domain);
 }
 
 void clsEmailNotify::PutEmailBlocks(int first_block, std::string_view text) {

@@ -33,6 +33,8 @@ class BlockText {
 class clsEmailNotify : public SettingOwner {
  public:
   static constexpr int kTextBlocks = 18;
+  static constexpr int kBlocksPerHalf = 3;
+  static constexpr std::size_t kLongestHalf = kBlocksPerHalf * BlockText::kMost;
 
   explicit clsEmailNotify(RecordEnvironment& env) : SettingOwner(env, "AlmEmailNotify") {}
   clsEmailNotify& operator=(const clsEmailNotify&) = default;
@@ -84,8 +86,16 @@ class clsEmailNotify : public SettingOwner {
   /// Splits at the first "@"; halves beyond 48 characters are cut. Without "@" both become empty.
   void EmailString(int address, std::string_view text);
 
+  /// An address as it is stored: what stands before its first "@" and after it, of which the first
+  /// kLongestHalf characters are kept. Both are empty without "@".
+  struct Halves {
+    std::string_view local, domain;
+  };
+  [[nodiscard]] static Halves Split(std::string_view address);
+  /// The first of the six blocks of address 0 to 2.
+  [[nodiscard]] static int FirstBlock(int address);
+
  private:
-  static constexpr int kBlocksPerHalf = 3;
   struct Half {
     static void Changed(SettingOwner& owner, int index) {
       const int first = TextBlock(index - index % kBlocksPerHalf);

@@ -44,10 +44,10 @@ TEST(Menu, ShowsWhatTheModelHas) {
     host.OpenMenu();
     PopupMenu& menu = host.platform.Menu();
     EXPECT_EQ(Names(menu, [](const MenuItem& item) { return !item.visible; }), it.hidden);
-    // Of the editors, only Camera Setup is there.
+    // Of the editors, Alarms and Camera Setup are there.
     EXPECT_EQ(Names(menu, [](const MenuItem& item) { return item.enabled; }),
-              (std::vector<std::string>{"mnu_MDetection", "mnu_CSetup", "mnu_FPanelLock",
-                                        "mnu_Factory", "mnu_Exit"}));
+              (std::vector<std::string>{"mnu_Alarm", "mnu_MDetection", "mnu_CSetup",
+                                        "mnu_FPanelLock", "mnu_Factory", "mnu_Exit"}));
     const bool lumacast = it.code == 18;
     EXPECT_EQ(menu.Item("mnu_VArchive").caption,
               lumacast ? "Lumacast Setup" : "Video Archive Setup");

@@ -5,6 +5,7 @@
 #include "core/commit.h"
 #include "ui/menu/frm_msg.h"
 #include "ui/menu/menu_items.h"
+#include "ui/setup/alarm/frm_alarm.h"
 #include "ui/setup/frm_camera_setup.h"
 
 namespace quorvel {
@@ -26,7 +27,8 @@ std::shared_ptr<Dialog> Create(Context& context) {
 frm_Menu::frm_Menu(Context& context)
     : context_(context),
       menu_(std::make_shared<PopupMenu>(MainMenuItems())),
-      editors_{{"fCamera", "mnu_CSetup", Create<frm_CameraSetup>, nullptr},
+      editors_{{"fAlarm", "mnu_Alarm", Create<frm_Alarm>, nullptr},
+               {"fCamera", "mnu_CSetup", Create<frm_CameraSetup>, nullptr},
                {"fMsg", "", Create<frmMsg>, nullptr}},
       message_(editors_.back()) {}
 

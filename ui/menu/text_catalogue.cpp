@@ -73,7 +73,9 @@ ObjStr::ObjStr(const TextCatalogue& texts)
 std::string TextCatalogue::GetText(int id) const {
   if (const auto source = source_) {  // a text source may install another one meanwhile
     try {
-      return source->Call("getresourcestring", id);
+      std::string text = source->Call("getresourcestring", id);
+      // A source may not know the added texts.
+      if (!text.empty() || id < kFirstAddedText) return text;
     } catch (...) {  // whatever the host's object throws, the built-in text serves
     }
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/editing/number_texts.h"
+#include "ui/editing/numbered_grid.h"
 
 namespace quorvel {
 
@@ -10,12 +11,10 @@ namespace {
 
 constexpr int kSettingColumn = 1;
 
-/// A header over one line for every camera, numbered from 1.
-void BuildCameraGrid(Grid& grid, int cameras, std::string camera, std::string setting) {
-  grid.SetSize(cameras + 1, 2);
-  grid.SetCell(0, 0, std::move(camera));
-  grid.SetCell(0, kSettingColumn, std::move(setting));
-  for (int row = 1; row <= cameras; ++row) grid.SetCell(row, 0, std::to_string(row));
+/// A title as it can be edited: up to its first zero byte, without blanks at its end.
+std::string_view EditableTitle(std::string_view title) {
+  title = title.substr(0, title.find('\0'));
+  return title.substr(0, title.find_last_not_of(' ') + 1);
 }
 
 }  // namespace
@@ -100,13 +99,6 @@ void frm_CameraSetup::NameForScreenReaders() {
   lstTextpos.SetSpokenName(Text(145));
 }
 
-std::string frm_CameraSetup::ShownTitle(const Cameras& camera) const {
-  std::string_view title = camera.title();
-  title = title.substr(0, title.find('\0'));
-  title = title.substr(0, title.find_last_not_of(' ') + 1);
-  return GetPlatform().ToUtf8(title);
-}
-
 void frm_CameraSetup::FillCameras() {
   const auto& words = Ctx().texts.Constants();
   const std::string& camera_word = Ctx().texts.Objects().objstCam;
@@ -115,21 +107,15 @@ void frm_CameraSetup::FillCameras() {
   const int most_gain = Id().IsTriplex() ? 150 : 10;
   lstSnlGain.SetItems(NumberTexts(least_gain, most_gain));
   lstTextpos.SetItems({words.cnstrTop, words.cnstrBottom});
-  BuildCameraGrid(MSFG_SnlGain, cameras, camera_word, Text(143));
-  BuildCameraGrid(MSFG_TextPos, cameras, camera_word, Text(145));
+  BuildNumberedGrid(MSFG_SnlGain, cameras, {camera_word, Text(143)});
+  BuildNumberedGrid(MSFG_TextPos, cameras, {camera_word, Text(145)});
   gain_editing_.Bind(kSettingColumn, lstSnlGain);
   text_position_editing_.Bind(kSettingColumn, lstTextpos);
 
   for (int c = 0; c < cameras; ++c) {
     const Cameras& camera = *Ctx().Record().CamInfo(c);
     m_CameraTitle(c).SetMaxLength(kTitleLength);
-    m_CameraTitle(c).SetText(ShownTitle(camera));
-    // Shows at once what the device's code page can keep of a text.
-    m_CameraTitle(c).on_change = [this, c] {
-      TextBox& box = m_CameraTitle(c);
-      const auto kept = GetPlatform().ToUtf8(GetPlatform().FromUtf8(box.Text()));
-      if (kept != box.Text()) box.RewriteText(kept);
-    };
+    titles_.emplace_back(m_CameraTitle(c), GetPlatform()).Show(EditableTitle(camera.title()));
     m_CameraCovert(c).SetChecked(camera.covert());
     m_CameraColor(c).SetChecked(camera.color());
     m_CameraDisable(c).SetChecked(camera.disable());
@@ -168,10 +154,8 @@ void frm_CameraSetup::WriteCamera(int c, Cameras& camera) {
   camera.covert(m_CameraCovert(c).Checked());
   camera.disable(m_CameraDisable(c).Checked());
 
-  // An untouched box says nothing about the title's bytes that it cannot show.
-  TextBox& box = m_CameraTitle(c);
-  if (box.Edited() && box.Text() != ShownTitle(camera)) {
-    camera.title(GetPlatform().FromUtf8(box.Text()).substr(0, kTitleLength));
+  if (const auto title = titles_.at(static_cast<std::size_t>(c)).Typed()) {
+    camera.title(title->substr(0, kTitleLength));
     Ctx().env.blocks.AddBlk(static_cast<Byte>(c + 1));
   }
   if (!Id().IsTriplex()) camera.color(m_CameraColor(c).Checked());

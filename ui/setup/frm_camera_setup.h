@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
-#include <string>
+#include <deque>
 
+#include "ui/editing/device_text.h"
 #include "ui/editing/editor.h"
 #include "ui/editing/grid_editing.h"
 
@@ -24,9 +24,6 @@ class frm_CameraSetup : public Editor {
   void FillDisplaySettings();
   void WriteCamera(int c, Cameras& camera);
   void TabChanged();
-
-  /// A title as it can be edited: up to its first zero byte, without blanks at its end.
-  [[nodiscard]] std::string ShownTitle(const Cameras& camera) const;
 
   static constexpr int kMonitors = 5;
 
@@ -64,6 +61,7 @@ class frm_CameraSetup : public Editor {
   Button cmd_OK{*this, "cmd_OK"};
   Button cmd_Cancel{*this, "cmd_Cancel"};
 
+  std::deque<DeviceText> titles_;
   GridEditing gain_editing_{MSFG_SnlGain};
   GridEditing text_position_editing_{MSFG_TextPos};
 };

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "ui/widgets/utf8.h"
+
 namespace quorvel {
 
 namespace {
-
-bool StartsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }
 
 /// The first `count` characters of a UTF-8 text.
 std::string_view FirstCharacters(std::string_view text, int count) {
@@ -15,10 +15,6 @@ std::string_view FirstCharacters(std::string_view text, int count) {
     if (StartsCharacter(text[end]) && taken++ == count) break;
   }
   return text.substr(0, end);
-}
-
-int CountCharacters(std::string_view text) {
-  return static_cast<int>(std::count_if(text.begin(), text.end(), &StartsCharacter));
 }
 
 }  // namespace

@@ -39,9 +39,13 @@ class ControlArray {
     for (const std::string& caption : captions) (*this)(i++).SetCaption(caption);
   }
 
-  /// Names the controls for screen readers: "Covert 1", "Covert 2".
+  /// Names the controls for screen readers by their captions, or else by their numbers: "Buzzer
+  /// ON", "Covert 2".
   void SetSpokenNames(const std::string& what) {
-    for (int i = 0; i < Count(); ++i) (*this)(i).SetSpokenName(what + " " + std::to_string(i + 1));
+    for (int i = 0; i < Count(); ++i) {
+      const std::string& caption = (*this)(i).Caption();
+      (*this)(i).SetSpokenName(what + " " + (caption.empty() ? std::to_string(i + 1) : caption));
+    }
   }
 
   /// Index of the option that is selected, hidden and disabled ones included, or kNone.

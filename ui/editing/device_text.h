@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "quorvel/platform.h"
+#include "quorvel/widgets.h"
+
+namespace quorvel {
+
+/// A text box over a byte string of the device. While somebody types it shows at once what the
+/// device's code page can keep. A box that nobody changed says nothing about the bytes, some of
+/// which it may be unable to show. Takes the box's on_change for itself.
+class DeviceText {
+ public:
+  DeviceText(TextBox& box, const Platform& platform);
+  DeviceText(const DeviceText&) = delete;
+  DeviceText& operator=(const DeviceText&) = delete;
+  ~DeviceText() = default;
+
+  void Show(std::string_view bytes);
+  /// What the box shows, as the device would hold it.
+  [[nodiscard]] std::string Bytes() const { return platform_.FromUtf8(box_.Text()); }
+  /// The bytes that somebody has typed; nothing when the box reads as it was shown.
+  [[nodiscard]] std::optional<std::string> Typed() const;
+  /// Called after every change by a person.
+  Handler on_change;
+
+ private:
+  TextBox& box_;
+  const Platform& platform_;
+  std::string shown_;
+};
+
+}  // namespace quorvel
