@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <QWidget>
 
+#include "platform/qt/label_buddies.h"
 #include "platform/qt/texts.h"
 #include "platform/qt/verbs_under_way.h"
 #include "quorvel/widgets/widget.h"
@@ -20,6 +21,8 @@ class ControlView : public WidgetView {
   [[nodiscard]] virtual QWidget& Body() const = 0;
   /// Ends the tie to the model, which is not touched when it lives no more.
   virtual void LetGo(bool model_lives) = 0;
+  /// Called when every control of the window has its view.
+  virtual void Complete() = 0;
 
  protected:
   ControlView() = default;
@@ -38,8 +41,14 @@ class ViewOf : public ControlView {
   [[nodiscard]] QWidget& Body() const override { return *body_; }
 
   void LetGo(bool model_lives) override {
-    if (model_ != nullptr && model_lives) model_->AttachView(nullptr);
+    if (model_ == nullptr) return;
+    if (model_lives) model_->AttachView(nullptr);
     model_ = nullptr;
+    body_->setObjectName({});  // it is not found any more while it waits to be deleted
+  }
+
+  void Complete() override {
+    if (model_ != nullptr) NameByLabel(*model_, *body_);
   }
 
   void Refresh(Aspect what) override {
@@ -47,6 +56,7 @@ class ViewOf : public ControlView {
     const QSignalBlocker quiet(body_);
     if (what == Aspect::kState) DrawState();
     Draw(what);
+    if (what == Aspect::kState) KeepWhole();
   }
 
  protected:
@@ -60,6 +70,7 @@ class ViewOf : public ControlView {
 
   /// First drawing, once the derived view is complete.
   void DrawAll() {
+    body_->ensurePolished();  // its font is final
     for (const Aspect what : {Aspect::kState, Aspect::kContent, Aspect::kSelection}) Refresh(what);
   }
 
@@ -82,6 +93,13 @@ class ViewOf : public ControlView {
     body_->setVisible(model_->Visible());
     body_->setObjectName(Shown(model_->Name()));
     body_->setAccessibleName(Shown(model_->SpokenName()));
+    NameByLabel(*model_, *body_);
+  }
+
+  /// A minimum that the layout has set counts for the toolkit instead of what the widget needs.
+  void KeepWhole() {
+    const QSize least = body_->minimumSize();
+    if (!least.isNull()) body_->setMinimumSize(least.expandedTo(body_->minimumSizeHint()));
   }
 
   VerbsUnderWay& verbs_;

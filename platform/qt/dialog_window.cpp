@@ -19,6 +19,7 @@ Contents::Contents(QWidget& parent, const Layout& layout, VerbsUnderWay& verbs)
   ViewBuilder builder(verbs);
   builder.Build(layout, *widget());
   views_ = builder.TakeViews();
+  for (auto& view : views_) view->Complete();
 }
 
 void Contents::LetGo(bool models_live) {
@@ -39,7 +40,9 @@ DialogWindow::DialogWindow(Dialog& dialog) : dialog_(&dialog) {
 DialogWindow::~DialogWindow() { LetGo(true); }
 
 void DialogWindow::Build() {
+  QString focus;
   if (contents_ != nullptr) {
+    if (focusWidget() != nullptr) focus = focusWidget()->objectName();
     contents_->LetGo(true);
     contents_->hide();
     layout()->removeWidget(contents_);
@@ -48,6 +51,9 @@ void DialogWindow::Build() {
   }
   contents_ = new Contents(*this, dialog_->Contents(), verbs_);
   layout()->addWidget(contents_);
+  if (isVisible()) contents_->show();
+  if (focus.isEmpty()) return;
+  if (auto* const again = contents_->findChild<QWidget*>(focus)) again->setFocus();
 }
 
 void DialogWindow::Refresh(Aspect what) {
@@ -77,12 +83,12 @@ QSize DialogWindow::LargestSize() const {
 void DialogWindow::Present(const QWidget* over) {
   if (!isVisible()) {
     hint_ = sizeHint();
-    QSize size = hint_;
+    const QSize largest = LargestSize();
     // A window that must scroll needs space for the bar, or it would scroll both ways.
-    if (size.height() > LargestSize().height()) {
-      size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    }
-    resize(size.boundedTo(LargestSize()));
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize bars(hint_.height() > largest.height() ? bar : 0,
+                     hint_.width() > largest.width() ? bar : 0);
+    resize((hint_ + bars).boundedTo(largest));
     const QRect space = screen()->availableGeometry();
     QRect place(QPoint(), this->size());
     place.moveCenter(over != nullptr ? over->frameGeometry().center() : space.center());
@@ -117,6 +123,8 @@ void DialogWindow::Fit() {
 bool DialogWindow::event(QEvent* event) {
   const bool done = QDialog::event(event);
   if (event->type() == QEvent::LayoutRequest && isVisible()) Fit();
+  // Sizes come from the font in many places.
+  if (event->type() == QEvent::ApplicationFontChange) Refresh(Aspect::kContent);
   return done;
 }
 

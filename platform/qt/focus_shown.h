@@ -15,9 +15,23 @@ class FocusDelegate : public QStyledItemDelegate {
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (option->widget != nullptr && !option->widget->hasFocus()) {
-      option->state &= ~QStyle::State_Active;
-    }
+    if (option->widget == nullptr || option->widget->hasFocus()) return;
+    option->state &= ~QStyle::State_Active;
+    // Not every palette has a colour of its own for this.
+    QPalette& colours = option->palette;
+    const QColor text = colours.color(QPalette::Inactive, QPalette::Text);
+    const QColor base = colours.color(QPalette::Inactive, QPalette::Base);
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, Between(base, text));
+    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, text);
+  }
+
+ private:
+  /// A colour not far from the first, towards the other.
+  static QColor Between(const QColor& from, const QColor& to) {
+    constexpr float kShare = 0.2F;
+    const auto mixed = [](float a, float b) { return a + (b - a) * kShare; };
+    return QColor::fromRgbF(mixed(from.redF(), to.redF()), mixed(from.greenF(), to.greenF()),
+                            mixed(from.blueF(), to.blueF()));
   }
 };
 
@@ -28,11 +42,6 @@ class FocusShown : public View {
  public:
   explicit FocusShown(QWidget* parent) : View(parent) {
     View::setItemDelegate(new FocusDelegate(this));
-    QPalette colours = View::palette();
-    // Not every style has a colour of its own here.
-    colours.setColor(QPalette::Inactive, QPalette::Highlight, QColor(200, 200, 200));
-    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
-    View::setPalette(colours);
   }
 
  protected:

@@ -3,6 +3,9 @@
 #include <QPainter>
 #include <QStyleOptionHeader>
 #include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <utility>
 
 #include "platform/qt/texts.h"
 
@@ -23,16 +26,71 @@ GridHeader::GridHeader(QWidget& parent, const GridTexts& texts)
   setStretchLastSection(true);
 }
 
-int GridHeader::LineHeight() const { return QHeaderView::sectionSizeFromContents(0).height(); }
+QString GridHeader::Wrapped(const std::string& text, int width) const {
+  const QString whole = Shown(text);
+  QString best = whole;
+  if (TextWidth(whole) <= width) return best;
+  for (auto at = whole.indexOf(' '); at >= 0; at = whole.indexOf(' ', at + 1)) {
+    const QString broken = whole.left(at) + QLatin1Char('\n') + whole.mid(at + 1);
+    if (TextWidth(broken) < TextWidth(best)) best = broken;
+  }
+  return best;
+}
 
-QRect GridHeader::PlaceOf(const Grid::HeaderCell& cell) const {
+int GridHeader::TextWidth(const QString& lines) const {
+  const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+  int width = 0;
+  for (const QString& line : lines.split(QLatin1Char('\n'))) {
+    width = std::max(width, fontMetrics().horizontalAdvance(line));
+  }
+  return width + 2 * (margin + 1);
+}
+
+int GridHeader::WidthOf(int column, int cells) const {
+  int width = cells;
+  for (const Grid::HeaderCell& cell : texts_.Header()) {
+    if (!Covers(cell, column)) continue;
+    const int needed = TextWidth(Wrapped(cell.text, cells * cell.columns));
+    width = std::max(width, (needed + cell.columns - 1) / cell.columns);
+  }
+  return width;
+}
+
+int GridHeader::WidthUnder(const Grid::HeaderCell& cell) const {
   int width = 0;
   for (int i = 0; i < cell.columns; ++i) width += sectionSize(cell.column + i);
-  const int line = height() / texts_.FirstRow();
-  // The last line takes what does not divide.
-  const int bottom =
-      cell.row + cell.rows == texts_.FirstRow() ? height() : (cell.row + cell.rows) * line;
-  return {sectionViewportPosition(cell.column), cell.row * line, width, bottom - cell.row * line};
+  return width;
+}
+
+int GridHeader::GivenWidthUnder(const Grid::HeaderCell& cell) const {
+  const auto begin = widths_.begin() + std::min<std::ptrdiff_t>(cell.column, std::ssize(widths_));
+  const auto end = begin + std::min<std::ptrdiff_t>(cell.columns, widths_.end() - begin);
+  return std::accumulate(begin, end, 0);
+}
+
+void GridHeader::SetWidths(std::vector<int> widths) {
+  widths_ = std::move(widths);
+  const int one_line = QHeaderView::sectionSizeFromContents(0).height();
+  heights_.assign(static_cast<std::size_t>(texts_.FirstRow()), one_line);
+  for (const Grid::HeaderCell& cell : texts_.Header()) {
+    if (cell.rows > 1) continue;
+    const auto more = Wrapped(cell.text, GivenWidthUnder(cell)).count(QLatin1Char('\n'));
+    int& height = heights_.at(static_cast<std::size_t>(cell.row));
+    height = std::max(height, one_line + static_cast<int>(more) * fontMetrics().lineSpacing());
+  }
+}
+
+QSize GridHeader::sizeHint() const {
+  return {length(), std::accumulate(heights_.begin(), heights_.end(), 0)};
+}
+
+QRect GridHeader::PlaceOf(const Grid::HeaderCell& cell) const {
+  const int first = heights_.empty() ? 0 : heights_.front();
+  const int top = cell.row == 0 ? 0 : first;
+  // The last row takes what is left.
+  const bool down = cell.row + cell.rows == texts_.FirstRow();
+  return {sectionViewportPosition(cell.column), top, WidthUnder(cell),
+          down ? height() - top : first};
 }
 
 /// Each column draws its part of the cells that cover it, as if it drew all of them.
@@ -43,7 +101,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int column) 
     initStyleOption(&option);
     option.rect = PlaceOf(cell);
     option.section = cell.column;
-    option.text = Shown(cell.text);
+    option.text = Wrapped(cell.text, option.rect.width());
     option.textAlignment = Qt::AlignCenter;
     option.position = QStyleOptionHeader::Middle;
     painter->save();
@@ -51,17 +109,6 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int column) 
     style()->drawControl(QStyle::CE_Header, &option, painter, this);
     painter->restore();
   }
-}
-
-QSize GridHeader::sectionSizeFromContents(int column) const {
-  constexpr int kMargin = 10;
-  int width = 0;
-  for (const Grid::HeaderCell& cell : texts_.Header()) {
-    if (!Covers(cell, column)) continue;
-    const int needed = fontMetrics().horizontalAdvance(Shown(cell.text)) + kMargin;
-    width = std::max(width, needed / cell.columns);
-  }
-  return {width, LineHeight() * texts_.FirstRow()};
 }
 
 }  // namespace quorvel::qt

@@ -5,13 +5,36 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
-#include "platform/qt/grid_header.h"
+#include "platform/qt/widest.h"
 
 namespace quorvel::qt {
 
-GridTable::GridTable(QWidget& parent, GridTexts& texts) : FocusShown(&parent), texts_(texts) {
+namespace {
+
+/// Sets the first column, which names the rows, off from the others.
+class GridDelegate : public FocusDelegate {
+ public:
+  using FocusDelegate::FocusDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    FocusDelegate::initStyleOption(option, index);
+    if (index.column() > 0) return;
+    QPalette& colours = option->palette;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+      colours.setBrush(group, QPalette::Text, colours.brush(group, QPalette::ButtonText));
+    }
+    option->backgroundBrush = colours.button();
+  }
+};
+
+}  // namespace
+
+GridTable::GridTable(QWidget& parent, GridTexts& texts)
+    : FocusShown(&parent), texts_(texts), header_(new GridHeader(*this, texts)) {
   constexpr int kRowPadding = 6;
   setModel(&texts);
   setSelectionMode(NoSelection);  // by the toolkit; the grid's own selection is drawn
@@ -24,9 +47,8 @@ GridTable::GridTable(QWidget& parent, GridTexts& texts) : FocusShown(&parent), t
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
-  setHorizontalHeader(new GridHeader(*this, texts));
-  fit_.setSingleShot(true);
-  QObject::connect(&fit_, &QTimer::timeout, this, [this] { FitColumns(false); });
+  setHorizontalHeader(header_);
+  setItemDelegate(new GridDelegate(this));
 }
 
 void GridTable::ShowSelection(int row, int column, int row_sel) {
@@ -154,36 +176,49 @@ void GridTable::resizeEvent(QResizeEvent* event) {
   if (row_ > 0 && row_ == row_sel_) scrollTo(CellAt(row_, column_));
 }
 
-void GridTable::FitColumns(bool anew) {
+int GridTable::NeededWidth(int column) const {
   constexpr int kPadding = 10;
-  fit_.stop();
-  for (int column = 0; column < model()->columnCount(); ++column) {
-    const int least = texts_.LeastWidth(column) * fontMetrics().averageCharWidth();
-    const int texts =
-        std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
-    const int wanted = kPadding + std::max(least, texts);
+  const int least = texts_.LeastWidth(column) * fontMetrics().averageCharWidth();
+  return header_->WidthOf(column, kPadding + std::max(least, WidestCell(*this, column)));
+}
+
+void GridTable::FitColumns(bool anew) {
+  std::vector<int> widths = anew ? std::vector<int>() : header_->Widths();
+  widths.resize(static_cast<std::size_t>(model()->columnCount()));
+  int column = 0;
+  for (int& width : widths) {
     // Columns grow only: a grid whose columns move as texts change cannot be read.
-    if (anew || wanted > columnWidth(column)) setColumnWidth(column, wanted);
+    width = std::max(width, NeededWidth(column));
+    if (anew || width > columnWidth(column)) setColumnWidth(column, width);
+    ++column;
   }
+  header_->SetWidths(std::move(widths));
+  updateGeometries();
   updateGeometry();
 }
 
 QSize GridTable::sizeHint() const {
-  constexpr int kMostWidth = 900;
+  constexpr int kMostCharacters = 140;
   constexpr int kMostRows = 16;
   const int frame = 2 * frameWidth();
-  int width = frame + verticalScrollBar()->sizeHint().width();
-  for (int column = 0; column < model()->columnCount(); ++column) {
-    // The last column may be stretched at the moment.
-    width += column + 1 < model()->columnCount()
-                 ? columnWidth(column)
-                 : std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
-  }
+  const auto& widths = header_->Widths();
+  const int bar = verticalScrollBar()->sizeHint().width();
+  const int width = std::accumulate(widths.begin(), widths.end(), frame + bar);
+  const int most = kMostCharacters * fontMetrics().averageCharWidth();
   const int rows = std::min(model()->rowCount(), kMostRows);
-  return {std::min(width, kMostWidth), frame + horizontalHeader()->sizeHint().height() +
-                                           rows * verticalHeader()->defaultSectionSize()};
+  int height = frame + header_->sizeHint().height();
+  height += rows * verticalHeader()->defaultSectionSize();
+  if (width > most) height += horizontalScrollBar()->sizeHint().height();
+  return {std::min(width, most), height};
 }
 
-QSize GridTable::minimumSizeHint() const { return sizeHint().boundedTo({160, 100}); }
+QSize GridTable::minimumSizeHint() const {
+  constexpr int kLeastCharacters = 24;
+  constexpr int kLeastRows = 3;
+  const int height = 2 * frameWidth() + header_->sizeHint().height() +
+                     horizontalScrollBar()->sizeHint().height() +
+                     kLeastRows * verticalHeader()->defaultSectionSize();
+  return sizeHint().boundedTo({kLeastCharacters * fontMetrics().averageCharWidth(), height});
+}
 
 }  // namespace quorvel::qt

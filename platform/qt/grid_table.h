@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QTableView>
-#include <QTimer>
 #include <functional>
 
 #include "platform/qt/focus_shown.h"
+#include "platform/qt/grid_header.h"
 #include "platform/qt/grid_texts.h"
 
 namespace quorvel::qt {
@@ -29,8 +29,7 @@ class GridTable : public FocusShown<QTableView> {
 
   /// Draws this selection; row 0 for none.
   void ShowSelection(int row, int column, int row_sel);
-  /// Widens columns to their header and texts, on the next turn of the loop.
-  void FitColumnsSoon() { fit_.start(); }
+  /// Widens columns to their header and texts; `anew`, narrows them as well.
   void FitColumns(bool anew);
 
   [[nodiscard]] QSize sizeHint() const override;
@@ -57,14 +56,16 @@ class GridTable : public FocusShown<QTableView> {
   void ExtendTo(int row);
   void DrawSelection();
   void EndSelection();
+  /// Width that a column needs for its header and its texts.
+  [[nodiscard]] int NeededWidth(int column) const;
 
   const GridTexts& texts_;
+  GridHeader* const header_;
   int row_ = 0;
   int column_ = 0;
   int row_sel_ = 0;
   bool dragging_ = false;
   bool extending_ = false;
-  QTimer fit_;
 };
 
 }  // namespace quorvel::qt

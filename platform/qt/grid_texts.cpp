@@ -1,8 +1,5 @@
 #include "platform/qt/grid_texts.h"
 
-#include <QApplication>
-#include <QPalette>
-
 #include "platform/qt/texts.h"
 
 namespace quorvel::qt {
@@ -13,18 +10,20 @@ void GridTexts::TakeSize() {
   columns_ = grid_ == nullptr ? 0 : grid_->Columns();
 }
 
-bool GridTexts::Renew() {
-  const bool same = grid_->HeaderRows() == header_rows_ && grid_->Rows() - header_rows_ == rows_ &&
-                    grid_->Columns() == columns_;
-  if (!same) {
-    beginResetModel();
-    TakeSize();
-    endResetModel();
-    return true;
+bool GridTexts::Resize() {
+  if (grid_->HeaderRows() == header_rows_ && grid_->Rows() - header_rows_ == rows_ &&
+      grid_->Columns() == columns_) {
+    return false;
   }
+  beginResetModel();
+  TakeSize();
+  endResetModel();
+  return true;
+}
+
+void GridTexts::Renew() {
   if (rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
-  emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
-  return false;
+  if (columns_ > 0) emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
 }
 
 void GridTexts::LetGo() {
@@ -52,17 +51,14 @@ QVariant GridTexts::data(const QModelIndex& index, int role) const {
     const bool centred = grid_->Alignment() == Grid::Align::kCentre;
     return QVariant::fromValue(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
   }
-  if (role == Qt::BackgroundRole && index.column() == 0) {
-    return QApplication::palette().brush(QPalette::Button);
-  }
   return {};
 }
 
 QVariant GridTexts::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation == Qt::Vertical) {
-    return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
-  }
-  if (role != Qt::DisplayRole || grid_ == nullptr || section >= grid_->Columns()) return {};
+  if (role != Qt::DisplayRole || grid_ == nullptr) return {};
+  // Drawn in the table itself, and told to screen readers here.
+  if (orientation == Qt::Vertical) return Text(section + header_rows_, 0);
+  if (section >= grid_->Columns()) return {};
   return header_rows_ == 1 ? Text(0, section) : QVariant(Shown(grid_->ColumnName(section)));
 }
 

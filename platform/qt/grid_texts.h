@@ -13,8 +13,10 @@ class GridTexts : public QAbstractTableModel {
  public:
   explicit GridTexts(const Grid& grid) : grid_(&grid) { TakeSize(); }
 
-  /// Tells the table that texts changed; true when the size changed with them.
-  bool Renew();
+  /// Tells the table a new size, which it must know at once; true when there is one.
+  bool Resize();
+  /// Tells the table that texts changed.
+  void Renew();
   /// Ends the tie to the grid: the table is empty from now on.
   void LetGo();
   /// Number of the grid's first row of data.

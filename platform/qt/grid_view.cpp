@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QToolTip>
+#include <utility>
 
 namespace quorvel::qt {
 
@@ -23,7 +24,7 @@ GridView::GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent, GridTexts
   GetBody()->on_paste = [this] { Paste(); };
   GetBody()->on_cancel = [this] { Refresh(Aspect::kSelection); };
   DrawAll();
-  GetBody()->FitColumns(true);
+  RenewTexts();  // the window is about to ask how large the table is
 }
 
 void GridView::LetGo(bool model_lives) {
@@ -52,17 +53,22 @@ void GridView::Paste() {
   QToolTip::showText(table->viewport()->mapToGlobal(cell.bottomLeft()), why, table);
 }
 
+/// Filling a table is one call a cell, and measuring its columns takes far longer than that.
 void GridView::Draw(Aspect what) {
+  bool select = what == Aspect::kSelection;
   if (what == Aspect::kContent) {
-    if (texts_->Renew()) {
-      GetBody()->FitColumns(true);
-    } else {
-      GetBody()->FitColumnsSoon();
-    }
+    if (texts_->Resize()) select = resized_ = true;  // a new size drops what was selected
+    renew_.Ask();
   }
-  if (what == Aspect::kSelection) {
+  if (select) {
     GetBody()->ShowSelection(GetModel()->Row(), GetModel()->Column(), GetModel()->RowSel());
   }
+}
+
+void GridView::RenewTexts() {
+  if (GetModel() == nullptr) return;
+  texts_->Renew();
+  GetBody()->FitColumns(std::exchange(resized_, false));
 }
 
 }  // namespace quorvel::qt

@@ -2,6 +2,7 @@
 
 #include "platform/qt/control_view.h"
 #include "platform/qt/grid_table.h"
+#include "platform/qt/soon.h"
 #include "quorvel/widgets/grid.h"
 
 namespace quorvel::qt {
@@ -15,10 +16,13 @@ class GridView : public ViewOf<Grid, GridTable> {
  private:
   GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent, GridTexts* texts);
   void Draw(Aspect what) override;
+  void RenewTexts();
   void Copy();
   void Paste();
 
   GridTexts* const texts_;  ///< owned by the table
+  bool resized_ = true;
+  Soon renew_{[this] { RenewTexts(); }};
 };
 
 }  // namespace quorvel::qt

@@ -4,6 +4,9 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
+
+#include "platform/qt/widest.h"
 
 namespace quorvel::qt {
 
@@ -17,51 +20,64 @@ ChoiceList::ChoiceList(QWidget& parent) : FocusShown(&parent) {
 }
 
 void ChoiceList::FitItems(int rows) {
-  constexpr int kLeastWidth = 90;
-  constexpr int kMostWidth = 300;
-  constexpr int kLeastRows = 4;
-  constexpr int kMostRows = 14;
-  const int frame = 2 * frameWidth();
-  const int width = sizeHintForColumn(0) + verticalScrollBar()->sizeHint().width() + frame + 4;
-  const QSize hint(
-      std::clamp(width, kLeastWidth, kMostWidth),
-      RowHeight() * (rows > 0 ? rows : std::clamp(count(), kLeastRows, kMostRows)) + frame);
-  const bool on_screen = window()->isVisible() && !hint_.isEmpty();
-  hint_ = hint_.expandedTo(on_screen ? QSize(hint.width(), 0) : hint);
+  rows_ = rows;
+  measured_ = false;
   updateGeometry();
 }
 
-int ChoiceList::RowHeight() const {
-  return std::max(sizeHintForRow(0), fontMetrics().height() + 2);
+QSize ChoiceList::SizeOfItems() const {
+  constexpr int kLeastCharacters = 10;
+  constexpr int kLeastRows = 4;
+  constexpr int kMostRows = 14;
+  const int frame = 2 * frameWidth();
+  const int bar = verticalScrollBar()->sizeHint().width();
+  const int width =
+      std::max(WidestCell(*this, 0) + 4, kLeastCharacters * fontMetrics().averageCharWidth());
+  const int rows = rows_ > 0 ? rows_ : std::clamp(model()->rowCount(), kLeastRows, kMostRows);
+  return {width + bar + frame, RowHeight() * rows + frame};
 }
 
-bool ChoiceList::InSight(int row) const {
-  const QRect place = visualItemRect(item(row));
+int ChoiceList::RowHeight() const {
+  return model()->rowCount() > 0 ? sizeHintForRow(0) : fontMetrics().height() + 2;
+}
+
+bool ChoiceList::InSight(const QModelIndex& item) const {
+  const QRect place = visualRect(item);
   return place.top() >= 0 && place.bottom() < viewport()->height();
 }
 
 void ChoiceList::ShowCurrent(int item) {
-  if (item == currentRow()) return;
-  const bool in_sight = item < 0 || item >= count() || InSight(item);
-  setCurrentRow(item);
-  if (!in_sight) scrollToItem(currentItem(), PositionAtCenter);
+  if (item == SelectedRow() && (item < 0 || item == currentIndex().row())) return;
+  const QModelIndex index = model()->index(item, 0);
+  if (!index.isValid()) return selectionModel()->clear();
+  const bool in_sight = InSight(index);
+  selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+  if (!in_sight) scrollTo(index, PositionAtCenter);
 }
 
 void ChoiceList::resizeEvent(QResizeEvent* event) {
-  QListWidget::resizeEvent(event);
+  QListView::resizeEvent(event);
   const int rest = (viewport()->height() + viewportMargins().bottom()) % RowHeight();
   if (rest != viewportMargins().bottom()) {
     setViewportMargins(0, 0, 0, rest);
-  } else if (currentRow() >= 0 && !InSight(currentRow())) {
-    scrollToItem(currentItem(), PositionAtCenter);
+  } else if (currentIndex().isValid() && !InSight(currentIndex())) {
+    scrollTo(currentIndex(), PositionAtCenter);
   }
 }
 
-QSize ChoiceList::sizeHint() const { return hint_; }
+QSize ChoiceList::sizeHint() const {
+  if (!std::exchange(measured_, true)) {
+    const QSize size = SizeOfItems();
+    const bool on_screen = window()->isVisible() && !hint_.isEmpty();
+    hint_ = hint_.expandedTo(on_screen ? QSize(size.width(), 0) : size);
+  }
+  return hint_;
+}
 
 QSize ChoiceList::minimumSizeHint() const {
-  constexpr int kLeastHeight = 60;
-  return {hint_.width(), std::min(hint_.height(), kLeastHeight)};
+  constexpr int kLeastRows = 3;
+  const QSize hint = sizeHint();
+  return {hint.width(), std::min(hint.height(), kLeastRows * RowHeight() + 2 * frameWidth())};
 }
 
 int ChoiceList::SelectedRow() const {
@@ -72,13 +88,13 @@ int ChoiceList::SelectedRow() const {
 void ChoiceList::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   pressed_ = indexAt(event->position().toPoint()).isValid();
-  if (pressed_) QListWidget::mousePressEvent(event);
+  if (pressed_) QListView::mousePressEvent(event);
 }
 
 void ChoiceList::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 
 void ChoiceList::mouseReleaseEvent(QMouseEvent* event) {
-  QListWidget::mouseReleaseEvent(event);
+  QListView::mouseReleaseEvent(event);
   if (event->button() != Qt::LeftButton || !std::exchange(pressed_, false)) return;
   if (SelectedRow() >= 0) on_choose(SelectedRow());
 }
@@ -88,27 +104,29 @@ void ChoiceList::keyPressEvent(QKeyEvent* event) {
   const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
   if (event->key() == Qt::Key_Space || (before < 0 && arrow)) {
     // The focus made item 0 current without selecting it; the first arrow selects it.
-    if (currentRow() >= 0) on_choose(currentRow());
+    if (currentIndex().isValid()) on_choose(currentIndex().row());
     return;
   }
-  QListWidget::keyPressEvent(event);
+  QListView::keyPressEvent(event);
   if (SelectedRow() >= 0 && SelectedRow() != before) on_choose(SelectedRow());
 }
 
 ListBoxView::ListBoxView(VerbsUnderWay& verbs, ListBox& model, QWidget& parent)
-    : ViewOf(verbs, model, new ChoiceList(parent)) {
+    : ViewOf(verbs, model, new ChoiceList(parent)), texts_(new ChoiceTexts(model, *GetBody())) {
+  GetBody()->setModel(texts_);
   GetBody()->on_choose = [this](int item) { Act([item](ListBox& list) { list.Choose(item); }); };
   DrawAll();
 }
 
+void ListBoxView::LetGo(bool model_lives) {
+  if (GetModel() != nullptr) texts_->LetGo();
+  ViewOf::LetGo(model_lives);
+}
+
 void ListBoxView::Draw(Aspect what) {
-  ChoiceList& list = *GetBody();
-  if (what == Aspect::kContent) {
-    list.clear();
-    for (const std::string& text : GetModel()->Items()) list.addItem(Shown(text));
-  }
-  if (what != Aspect::kSelection) list.FitItems(GetModel()->Rows());
-  list.ShowCurrent(GetModel()->Current());
+  if (what == Aspect::kContent) texts_->Renew();
+  if (what != Aspect::kSelection) GetBody()->FitItems(GetModel()->Rows());
+  GetBody()->ShowCurrent(GetModel()->Current());
 }
 
 }  // namespace quorvel::qt

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QListWidget>
+#include <QListView>
 #include <functional>
 
+#include "platform/qt/choice_texts.h"
 #include "platform/qt/control_view.h"
 #include "platform/qt/focus_shown.h"
 #include "quorvel/widgets/choice.h"
@@ -11,13 +12,14 @@ namespace quorvel::qt {
 
 /// The toolkit's list with one signal of its own: a person picked an item, with the mouse or from
 /// the keyboard, be it the current one.
-class ChoiceList : public FocusShown<QListWidget> {
+class ChoiceList : public FocusShown<QListView> {
  public:
   explicit ChoiceList(QWidget& parent);
   std::function<void(int)> on_choose;
 
-  /// Space for the items, up to a limit, or for a number of lines. It only grows, and once on
-  /// screen not in height, so that nothing jumps about when another set of items is shown.
+  /// Space for the items, all of their width and up to a limit of their number, or for a number of
+  /// lines. It only grows, and once on screen not in height, so that nothing jumps about when
+  /// another set of items is shown.
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
   /// `rows` lines, or 0: as many as there are items.
@@ -36,8 +38,13 @@ class ChoiceList : public FocusShown<QListWidget> {
   [[nodiscard]] int SelectedRow() const;
   [[nodiscard]] int RowHeight() const;
   /// True when the whole height of the item is to be seen.
-  [[nodiscard]] bool InSight(int item) const;
-  QSize hint_;
+  [[nodiscard]] bool InSight(const QModelIndex& item) const;
+  /// Space for the items as they are; measured when it is asked for.
+  [[nodiscard]] QSize SizeOfItems() const;
+
+  mutable QSize hint_;
+  mutable bool measured_ = false;
+  int rows_ = 0;
   bool pressed_ = false;
 };
 
@@ -45,9 +52,12 @@ class ChoiceList : public FocusShown<QListWidget> {
 class ListBoxView : public ViewOf<ListBox, ChoiceList> {
  public:
   ListBoxView(VerbsUnderWay& verbs, ListBox& model, QWidget& parent);
+  void LetGo(bool model_lives) override;
 
  private:
   void Draw(Aspect what) override;
+
+  ChoiceTexts* const texts_;  ///< owned by the list
 };
 
 }  // namespace quorvel::qt

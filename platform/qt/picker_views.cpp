@@ -1,11 +1,8 @@
 #include "platform/qt/picker_views.h"
 
 #include <QDate>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QTime>
-#include <QWheelEvent>
-#include <algorithm>
+
+#include "platform/qt/date_box.h"
 
 namespace quorvel::qt {
 
@@ -71,15 +68,18 @@ class TimePickerView : public ViewOf<TimePicker, PartsBox> {
   }
 };
 
-class DatePickerView : public ViewOf<DatePicker, PartsBox> {
+class DatePickerView : public ViewOf<DatePicker, DateBox> {
  public:
   DatePickerView(VerbsUnderWay& verbs, DatePicker& model, QWidget& parent)
-      : ViewOf(verbs, model, new PartsBox(parent)) {
+      : ViewOf(verbs, model, new DateBox(parent)) {
     GetBody()->on_typed = [this](const QString& text) {
       const auto date = ReadDate(text.toStdString());
       Act([&date](DatePicker& picker) {
         if (date) picker.Pick(*date);
       });
+    };
+    GetBody()->on_pick = [this](const QDate& date) {
+      Act([&date](DatePicker& picker) { picker.Pick({date.year(), date.month(), date.day()}); });
     };
     GetBody()->on_step = [this](int place, int steps) {
       Act([place, steps](DatePicker& picker) {
@@ -96,60 +96,6 @@ class DatePickerView : public ViewOf<DatePicker, PartsBox> {
 };
 
 }  // namespace
-
-PartsBox::PartsBox(QWidget& parent) : QAbstractSpinBox(&parent) { setFocusPolicy(Qt::StrongFocus); }
-
-void PartsBox::ShowText(const QString& text) {
-  shown_ = text;
-  if (lineEdit()->text() == text) return;
-  const int place = lineEdit()->cursorPosition();
-  lineEdit()->setText(text);
-  lineEdit()->setCursorPosition(std::min(place, static_cast<int>(text.size())));
-}
-
-void PartsBox::FitWidth(const QString& longest) {
-  constexpr int kButtonsAndFrame = 40;
-  setMinimumWidth(fontMetrics().horizontalAdvance(longest) + kButtonsAndFrame);
-}
-
-QAbstractSpinBox::StepEnabled PartsBox::stepEnabled() const {
-  return StepUpEnabled | StepDownEnabled;
-}
-
-void PartsBox::stepBy(int steps) {
-  Take(false);
-  on_step(lineEdit()->cursorPosition(), steps);
-}
-
-/// A text that is no value is not taken, and the view shows the model's again.
-void PartsBox::Take(bool unchanged_too) {
-  if (unchanged_too || lineEdit()->text() != shown_) on_typed(lineEdit()->text());
-}
-
-void PartsBox::focusOutEvent(QFocusEvent* event) {
-  QAbstractSpinBox::focusOutEvent(event);
-  Take(false);
-}
-
-void PartsBox::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!enter) {
-    QAbstractSpinBox::keyPressEvent(event);
-    return;
-  }
-  // Ctrl+Enter goes on to the dialog, as its OK.
-  const bool goes_on = (event->modifiers() & Qt::ControlModifier) != 0;
-  Take(!goes_on);
-  event->setAccepted(!goes_on);
-}
-
-void PartsBox::wheelEvent(QWheelEvent* event) {
-  if (hasFocus()) {
-    QAbstractSpinBox::wheelEvent(event);
-  } else {
-    event->ignore();
-  }
-}
 
 std::unique_ptr<ControlView> MakeTimePicker(VerbsUnderWay& verbs, TimePicker& model,
                                             QWidget& parent) {

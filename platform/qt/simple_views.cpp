@@ -24,7 +24,7 @@ class LabelView : public ViewOf<Label, QLabel> {
   }
 
  private:
-  void Draw(Aspect) override { GetBody()->setText(Shown(GetModel()->Caption())); }
+  void Draw(Aspect) override { ShowCaption(*GetBody(), GetModel()->Caption()); }
 };
 
 /// A button whose arrow keys stay with it; in the toolkit they also lead into lists and grids,
@@ -32,6 +32,14 @@ class LabelView : public ViewOf<Label, QLabel> {
 class DialogButton : public QPushButton {
  public:
   using QPushButton::QPushButton;
+
+  /// Not every style leaves space beside the text of a wide button.
+  [[nodiscard]] QSize sizeHint() const override {
+    constexpr int kLeastWidth = 84;
+    const QSize space(2 * fontMetrics().averageCharWidth(), 0);
+    return (QPushButton::sizeHint() + space).expandedTo({kLeastWidth, 0});
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
@@ -46,9 +54,7 @@ class ButtonView : public ViewOf<Button, DialogButton> {
  public:
   ButtonView(VerbsUnderWay& verbs, Button& model, QWidget& parent)
       : ViewOf(verbs, model, new DialogButton(&parent)) {
-    constexpr int kLeastWidth = 84;
     GetBody()->setAutoDefault(false);  // Return in a grid or list presses nothing
-    GetBody()->setMinimumWidth(kLeastWidth);
     QObject::connect(GetBody(), &QPushButton::clicked, Context(),
                      [this] { Act([](Button& button) { button.Click(); }); });
     DrawAll();
@@ -161,20 +167,29 @@ class ProgressBarView : public ViewOf<ProgressBar, QProgressBar> {
   }
 };
 
+/// A panel keeps some width also while it is empty.
+class StatusPanel : public QLabel {
+ public:
+  using QLabel::QLabel;
+  [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    constexpr int kLeastWidth = 110;
+    return QLabel::minimumSizeHint().expandedTo({kLeastWidth, 0});
+  }
+};
+
 class StatusBarView : public ViewOf<StatusBar, QWidget> {
  public:
   StatusBarView(VerbsUnderWay& verbs, StatusBar& model, QWidget& parent)
       : ViewOf(verbs, model, new QWidget(&parent)) {
-    constexpr int kLeastWidth = 110;
     auto* const line = new QHBoxLayout(GetBody());
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(2);
     for (int i = 0; i < model.Panels(); ++i) {
-      auto* const panel = new QLabel(GetBody());
+      auto* const panel = new StatusPanel(GetBody());
       panel->setTextFormat(Qt::PlainText);
       panel->setFrameStyle(QFrame::Panel | QFrame::Sunken);
       panel->setMargin(2);
-      panel->setMinimumWidth(kLeastWidth);
       line->addWidget(panel, i == 0 ? 1 : 0);
       panels_.push_back(panel);
     }

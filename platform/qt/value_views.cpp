@@ -19,18 +19,21 @@ void DropDown::wheelEvent(QWheelEvent* event) {
 }
 
 ComboBoxView::ComboBoxView(VerbsUnderWay& verbs, ComboBox& model, QWidget& parent)
-    : ViewOf(verbs, model, new DropDown(parent)) {
+    : ViewOf(verbs, model, new DropDown(parent)), texts_(new ChoiceTexts(model, *GetBody())) {
+  GetBody()->setModel(texts_);
   // Of all signals only this one comes from a person alone, and also for the current item.
   QObject::connect(GetBody(), &QComboBox::activated, Context(),
                    [this](int item) { Act([item](ComboBox& box) { box.Choose(item); }); });
   DrawAll();
 }
 
+void ComboBoxView::LetGo(bool model_lives) {
+  if (GetModel() != nullptr) texts_->LetGo();
+  ViewOf::LetGo(model_lives);
+}
+
 void ComboBoxView::Draw(Aspect what) {
-  if (what == Aspect::kContent) {
-    GetBody()->clear();
-    for (const std::string& text : GetModel()->Items()) GetBody()->addItem(Shown(text));
-  }
+  if (what == Aspect::kContent) texts_->Renew();
   // The toolkit makes the first item current by itself; without a current item it is blank.
   GetBody()->setCurrentIndex(GetModel()->Current());
 }

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QSlider>
 
+#include "platform/qt/choice_texts.h"
 #include "platform/qt/control_view.h"
 #include "quorvel/widgets/choice.h"
 #include "quorvel/widgets/slider.h"
@@ -22,9 +23,12 @@ class DropDown : public QComboBox {
 class ComboBoxView : public ViewOf<ComboBox, DropDown> {
  public:
   ComboBoxView(VerbsUnderWay& verbs, ComboBox& model, QWidget& parent);
+  void LetGo(bool model_lives) override;
 
  private:
   void Draw(Aspect what) override;
+
+  ChoiceTexts* const texts_;  ///< owned by the toolkit's list
 };
 
 /// The toolkit's slider with one signal of its own: a person moved the handle, be it to where it

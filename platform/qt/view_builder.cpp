@@ -1,6 +1,9 @@
 #include "platform/qt/view_builder.h"
 
+#include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
 #include <algorithm>
 #include <stdexcept>
 
@@ -39,6 +42,14 @@ void AlignRows(const Layout& layout, const QBoxLayout& column) {
   }
 }
 
+/// Height of a line that any control of one line fits into.
+int LineHeight() {
+  int height = QLineEdit().sizeHint().height();
+  height = std::max(height, QComboBox().sizeHint().height());
+  height = std::max(height, QSpinBox().sizeHint().height());
+  return std::max(height, QPushButton(QStringLiteral("OK")).sizeHint().height());
+}
+
 }  // namespace
 
 void ViewBuilder::Build(const Layout& layout, QWidget& container) {
@@ -53,7 +64,8 @@ QBoxLayout* ViewBuilder::BuildBox(const Layout& layout, QWidget& container, int 
   const bool row = layout.kind == Layout::Kind::kRow;
   auto* const box = new QBoxLayout(row ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   if (layout.kind == Layout::Kind::kLines) {
-    line_height = QLineEdit().sizeHint().height();
+    if (line_height_ == 0) line_height_ = LineHeight();
+    line_height = line_height_;
     box->setSpacing(kLineSpacing);
   }
   const bool tall = row && !std::all_of(layout.parts.begin(), layout.parts.end(), &IsOneLine);
@@ -70,7 +82,7 @@ QBoxLayout* ViewBuilder::BuildBox(const Layout& layout, QWidget& container, int 
       if (kind == WidgetKind::kLabel) label = static_cast<const Label*>(part.widget);
       if (kind == WidgetKind::kTextBox && row && label != nullptr) part.widget->SetLabel(*label);
       const bool one_line = IsOneLine(part);
-      if (one_line && line_height > 0) body.setFixedHeight(line_height);
+      if (one_line && line_height > 0) body.setMinimumHeight(line_height);
       box->addWidget(&body, share, one_line && tall ? Qt::AlignTop : Qt::Alignment());
     }
   }

@@ -26,6 +26,7 @@ class ViewBuilder {
   QWidget& MakeView(Widget& model, QWidget& container);
 
   VerbsUnderWay& verbs_;
+  int line_height_ = 0;
   std::vector<std::unique_ptr<ControlView>> views_;
 };
 

@@ -76,6 +76,16 @@ TEST_F(QtGridHeader, TwoRowsAboveTheData) {
   EXPECT_EQ(dialog_->grid.FirstSelected(), 5);
 }
 
+TEST_F(QtGridHeader, TextOverSeveralColumnsSharesTheirWidth) {
+  const int before = table_->horizontalHeader()->height();
+  for (const int column : {1, 2}) dialog_->grid.SetCell(0, column, "Camera position");
+  QApplication::processEvents();
+  EXPECT_GE(table_->columnWidth(1) + table_->columnWidth(2),
+            table_->fontMetrics().horizontalAdvance("position"));
+  EXPECT_LT(table_->columnWidth(1), table_->fontMetrics().horizontalAdvance("Camera position"));
+  EXPECT_GT(table_->horizontalHeader()->height(), before) << "it stands in two lines";
+}
+
 TEST_F(QtGridHeader, CopyAndPaste) {
   dialog_->editing.SetItem(3, 1, 1);
   dialog_->grid.Press(2, 1);

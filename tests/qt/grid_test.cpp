@@ -98,15 +98,6 @@ TEST_F(QtGrid, DrawingFollowsTheProgram) {
   EXPECT_EQ(dialog_->TakeNotes(), Notes{});
 }
 
-TEST_F(QtGrid, LongTextsWidenTheirColumnAndNothingEditsInPlace) {
-  QTableView& table = Table();
-  const int before = table.columnWidth(1);
-  dialog_->grid.SetCell(16, 1, "A text that is much longer than its header");
-  Settle();
-  EXPECT_GT(table.columnWidth(1), before);
-  EXPECT_EQ(table.editTriggers(), QAbstractItemView::NoEditTriggers);
-}
-
 TEST_F(QtGrid, HandlersMayRebuildOrCloseUnderThePress) {
   dialog_->grid.on_press = [this] { dialog_->grid.SetSize(3, 2); };
   QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, Place(9, 3));

@@ -116,6 +116,7 @@ TEST_F(QtWindows, LayoutMayBeReplacedWhileItIsOnScreen) {
   };
   ClickOk();
   Settle();
+  EXPECT_EQ(Window().focusWidget(), &Body<QPushButton>("OK"));
   EXPECT_TRUE(Body<QLineEdit>("m_Title(3)").isVisible());
   dialog_->m_Title(3).SetText("Roof");
   EXPECT_EQ(Body<QLineEdit>("m_Title(3)").text(), "Roof");

@@ -1,0 +1,230 @@
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QProcess>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <memory>
+
+#include "resources/default_images.h"
+#include "resources/text_table.h"
+#include "tests/qt/every_kind.h"
+#include "ui/setup/alarm/frm_alarm.h"
+#include "ui/setup/frm_camera_setup.h"
+
+namespace quorvel {
+namespace {
+
+/// Texts half again as long as the English ones.
+class LongTexts : public AutomationObject {
+ public:
+  std::string Call(std::string_view /*method*/, std::int32_t id) override {
+    return EveryKind::HalfAgain(std::string(BuiltInText(id)));
+  }
+};
+
+/// Width of a text in two lines, or in one where it has no blank.
+int WidthInTwoLines(const QFontMetrics& metrics, const QString& text) {
+  int least = metrics.horizontalAdvance(text);
+  for (auto at = text.indexOf(' '); at >= 0; at = text.indexOf(' ', at + 1)) {
+    least = std::min(least, std::max(metrics.horizontalAdvance(text.left(at)),
+                                     metrics.horizontalAdvance(text.mid(at + 1))));
+  }
+  return least;
+}
+
+/// Checks each control of a window against what its texts need.
+class Fits {
+ public:
+  Fits(const Dialog& dialog, const QWidget& window) {
+    for (const Widget* const model : dialog.Widgets()) {
+      const auto* body = window.findChild<QWidget*>(QString::fromStdString(model->Name()));
+      if (body == nullptr || !model->Showing()) continue;
+      SCOPED_TRACE(model->Name());
+      Check(*model, *body);
+    }
+  }
+
+ private:
+  static void Check(const Widget& model, const QWidget& body) {
+    EXPECT_GE(body.width(), body.minimumSizeHint().width());
+    EXPECT_GE(body.height(), body.minimumSizeHint().height());
+    EXPECT_TRUE(body.parentWidget()->rect().contains(body.geometry())) << "outside its parent";
+    const QFontMetrics metrics(body.font());
+    const QSize hint =
+        model.Kind() == WidgetKind::kFrame ? body.minimumSizeHint() : body.sizeHint();
+    switch (model.Kind()) {
+      case WidgetKind::kGrid:
+        return CheckTable(static_cast<const Grid&>(model), dynamic_cast<const QTableView&>(body));
+      case WidgetKind::kListBox: return CheckList(dynamic_cast<const QListView&>(body));
+      case WidgetKind::kTabStrip: {
+        const auto& tabs = dynamic_cast<const QTabWidget&>(body);
+        for (int i = 0; i < tabs.count(); ++i) {
+          if (!tabs.isTabVisible(i)) continue;
+          const QSize text = metrics.size(Qt::TextShowMnemonic, tabs.tabText(i));
+          EXPECT_GE(tabs.tabBar()->tabRect(i).width(), text.width());
+        }
+        return;
+      }
+      case WidgetKind::kTextBox: {
+        const int shown = std::min(static_cast<const TextBox&>(model).ShownLength(), 24);
+        EXPECT_GE(body.width(), metrics.horizontalAdvance(QString(shown, 'M')));
+        break;
+      }
+      case WidgetKind::kSlider:
+      case WidgetKind::kProgressBar: break;
+      default: EXPECT_GE(body.width(), TextWidth(body)); EXPECT_GE(body.width(), hint.width());
+    }
+    EXPECT_GE(body.height(), metrics.height());
+    EXPECT_GE(body.height(), hint.height());
+  }
+
+  static void CheckList(const QListView& list) {
+    const QFontMetrics metrics(list.font());
+    for (int row = 0; row < list.model()->rowCount(); ++row) {
+      const QModelIndex item = list.model()->index(row, 0);
+      EXPECT_GE(list.viewport()->width(), metrics.horizontalAdvance(item.data().toString()));
+      EXPECT_GE(list.visualRect(item).height(), metrics.height());
+    }
+  }
+
+  static int TextWidth(const QWidget& body) {
+    const QFontMetrics metrics(body.font());
+    if (const auto* box = qobject_cast<const QAbstractSpinBox*>(&body)) {
+      const auto* line = box->findChild<QLineEdit*>();
+      const int needed = metrics.horizontalAdvance(line->text());
+      EXPECT_GE(line->width() - line->textMargins().right(), needed);
+      return needed;
+    }
+    if (const auto* combo = qobject_cast<const QComboBox*>(&body)) {
+      int most = 0;
+      for (int i = 0; i < combo->count(); ++i) {
+        most = std::max(most, metrics.horizontalAdvance(combo->itemText(i)));
+      }
+      return most;
+    }
+    const char* const property = body.inherits("QGroupBox") ? "title" : "text";
+    return metrics.size(Qt::TextShowMnemonic, body.property(property).toString()).width();
+  }
+
+  static void CheckTable(const Grid& grid, const QTableView& table) {
+    constexpr int kMargins = 24;
+    const QFontMetrics metrics(table.font());
+    const QAbstractItemModel& cells = *table.model();
+    if (table.height() >= table.sizeHint().height() && !table.horizontalScrollBar()->isVisible()) {
+      EXPECT_GE(table.viewport()->height(), std::min(grid.Rows() - 1, 16) * table.rowHeight(0));
+    }
+    for (int column = 0; column < cells.columnCount(); ++column) {
+      int needed = grid.LeastWidth(column) * metrics.averageCharWidth();
+      for (int row = 0; row < cells.rowCount(); ++row) {
+        const QString text = cells.index(row, column).data().toString();
+        needed = std::max(needed, metrics.horizontalAdvance(text));
+        EXPECT_GE(table.rowHeight(row), metrics.height());
+      }
+      const QString name = cells.headerData(column, Qt::Horizontal).toString();
+      const int one_line = metrics.horizontalAdvance(name);
+      const int two_lines = WidthInTwoLines(metrics, name);
+      const int width = table.columnWidth(column);
+      EXPECT_GE(width, needed) << column;
+      EXPECT_GE(width, two_lines) << name.toStdString();
+      EXPECT_GE(table.horizontalHeader()->height(), metrics.height() * (one_line > width ? 2 : 1));
+      const bool last = column + 1 == cells.columnCount();  // it is stretched
+      if (!last && std::max(needed, two_lines) + kMargins < one_line) {
+        EXPECT_LT(width, one_line) << "in two lines it is narrower";
+      }
+    }
+  }
+};
+
+/// Whatever of a window is not to be seen can be scrolled to.
+void CheckScrolling(const QWidget& window) {
+  const QSize screen = window.screen()->availableSize();
+  EXPECT_LE(window.width(), screen.width());
+  EXPECT_LE(window.height(), screen.height());
+  for (const auto* area : window.findChildren<QScrollArea*>()) {
+    if (!area->isVisibleTo(&window)) continue;
+    const QSize hidden = area->widget()->size() - area->viewport()->size();
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), std::max(hidden.height(), 0));
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), std::max(hidden.width(), 0));
+  }
+}
+
+class QtSizes : public ::testing::Test {
+ protected:
+  ~QtSizes() override {
+    QApplication::setFont(font_);
+    QApplication::setPalette(palette_);
+  }
+
+  Context& MakeContext(bool long_texts) {
+    platform_.Classes().Register("Texts.Long", [] { return std::make_shared<LongTexts>(); });
+    context_ = std::make_unique<Context>(platform_);
+    if (long_texts) context_->texts.CreateTextSource(platform_.Classes(), "Texts.Long");
+    context_->InitGlobals();
+    context_->Adopt(LoadDefaultImage(401), ImageSource::kFactory);
+    return *context_;
+  }
+
+  /// Every page of a window.
+  void Check(const std::shared_ptr<Dialog>& dialog) {
+    for (Widget* const widget : dialog->Widgets()) {
+      if (widget->Kind() != WidgetKind::kTabStrip) continue;
+      auto& tabs = static_cast<TabStrip&>(*widget);
+      for (int page = 0; page < tabs.Count(); ++page) {
+        tabs.SetCurrent(page);
+        dialog->Show();
+        QApplication::processEvents();
+        QWidget& window = *platform_.WindowOf(*dialog);
+        Fits(*dialog, window);
+        CheckScrolling(window);
+      }
+    }
+  }
+  QFont font_ = QApplication::font();
+  QPalette palette_ = QApplication::palette();
+  QtPlatform platform_;
+  std::unique_ptr<Context> context_;
+};
+
+TEST_F(QtSizes, NothingClipsInAnyFontPaletteAndLengthOfTexts) {
+  const auto open_already = std::make_shared<EveryKind>(platform_);
+  open_already->Show();
+  for (const double larger : {1.0, 1.5, 2.0}) {
+    QFont font = font_;
+    font.setPointSizeF(font_.pointSizeF() * larger);
+    QApplication::setFont(font);
+    for (const bool dark : {false, true}) {
+      QApplication::setPalette(QColor(dark ? 0x1e1e22 : 0xf0f0f0));
+      for (const bool longer : {false, true}) {
+        SCOPED_TRACE(testing::Message()
+                     << larger << (dark ? " dark" : " light") << (longer ? " long texts" : ""));
+        Check(std::make_shared<EveryKind>(platform_,
+                                          longer ? EveryKind::HalfAgain : EveryKind::AsIs));
+        Context& context = MakeContext(longer);
+        Check(std::make_shared<frm_CameraSetup>(context));
+        Check(std::make_shared<frm_Alarm>(context));
+        Check(open_already);
+      }
+    }
+  }
+}
+
+/// The toolkit takes its scale when it starts, so this starts the test above anew.
+TEST_F(QtSizes, NothingClipsOnScaledScreens) {
+  for (const char* const scale : {"1.5", "2"}) {
+    QProcess again;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_SCALE_FACTOR", scale);
+    again.setProcessEnvironment(environment);
+    again.setProcessChannelMode(QProcess::MergedChannels);
+    again.start(QApplication::applicationFilePath(), {"--gtest_filter=QtSizes.*Length*"});
+    EXPECT_TRUE(again.waitForFinished(-1));
+    EXPECT_TRUE(again.exitStatus() == QProcess::NormalExit && again.exitCode() == 0)
+        << scale << "\n"
+        << again.readAll().toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace quorvel
