@@ -15,6 +15,7 @@ std::vector<Byte> Copy(std::span<const Byte> bytes) { return {bytes.begin(), byt
 void Exchange::NoteBlock(std::span<const Byte> packet) {
   if (packet.size() <= kBlockSize) return;
   sent_blocks[packet[0]] = Copy(packet.subspan(1, kBlockSize));
+  unanswered = packet[0];
 }
 
 void Exchange::NoteEnd(std::span<const Byte> packet) {

@@ -25,6 +25,7 @@ struct Exchange {
   std::size_t bytes_read = 0;        ///< bytes that came in one piece: an image or a combined array
   bool arrived = false;              ///< the control has reported the data's arrival
   std::vector<Byte> blocks_written;  ///< block by block: numbers, in the order of writing
+  std::optional<Byte> unanswered;    ///< the block handed over last, until it is acknowledged
   bool end_written = false;          ///< block by block: the packet that ends a send has come
   std::size_t array_bytes = 0;       ///< bytes of the combined array that has come; 0 without one
   bool array_taken = false;          ///< the device has taken it

@@ -57,6 +57,17 @@ void HostSession::SetFault(const std::optional<Fault>& fault) {
   if (on_change) on_change();
 }
 
+void HostSession::SwitchLink(bool on) {
+  link_.Switch(on);
+  Log(on ? "the link is on" : "the link is off");
+}
+
+bool HostSession::LinkIsOff() {
+  if (link_.IsOn()) return false;
+  Log("nothing crosses the link: it is off");
+  return true;
+}
+
 void HostSession::StateSettings() {
   const int usual = Device().ModelCode() < kFirstTriplexModel ? kDuplexFamily : kTriplexFamily;
   control_->HostCommId(static_cast<std::uint8_t>(settings_.comm_id));
@@ -89,6 +100,7 @@ void HostSession::Upload() {
 }
 
 void HostSession::ReadBackWritten(const std::shared_ptr<Exchange>& exchange) {
+  if (!exchange->sent_blocks.empty() && LinkIsOff()) return;
   exchange->read_back = CompareWith(Device(), *exchange);
   if (!exchange->read_back) return;
   for (std::string& sentence : InWords(*exchange->read_back)) Log(std::move(sentence));

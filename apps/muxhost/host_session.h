@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "apps/muxhost/device_reader.h"
 #include "apps/muxhost/exchange.h"
 #include "apps/muxhost/link.h"
 #include "quorvel/main_menu_ctrl.h"
@@ -45,6 +46,15 @@ class HostSession final : public MainMenuEvents {
   /// Sets what goes wrong on the link next, or nothing. See LinkFault.
   void SetFault(const std::optional<Fault>& fault);
   [[nodiscard]] const std::optional<Fault>& PendingFault() const { return link_.PendingFault(); }
+
+  /// Switches the link to the device off or on. Off, nothing is answered and nothing is written.
+  void SwitchLink(bool on);
+  [[nodiscard]] bool LinkIsOn() const { return link_.IsOn(); }
+  /// Reads the device without the control, as for a backup. Not while a transfer runs, which it
+  /// would break off. The session must outlive the reader.
+  [[nodiscard]] std::unique_ptr<DeviceReader> NewReader() {
+    return std::make_unique<DeviceReader>(link_);
+  }
 
   /// Commands 10 and 11. They return when their dialog has been closed.
   void Download();
@@ -97,6 +107,8 @@ class HostSession final : public MainMenuEvents {
   void StateIdentity();
   void BeginExchange();
   void Log(std::string entry);
+  /// Logs that it is, too.
+  [[nodiscard]] bool LinkIsOff();
   void LogInterruption(const Interruption& what);
   void ReadBackWritten(const std::shared_ptr<Exchange>& exchange);
   /// The whole image in one reply.

@@ -18,6 +18,7 @@ std::string_view WithoutPadding(std::string_view name) {
 
 void HostSession::RequestBlk(std::uint8_t blknum) {
   Log("RequestBlk " + std::to_string(blknum));
+  if (LinkIsOff()) return;
   if (settings_.comm_id != 0 && blknum == 1) {
     HandOverImage();
     return;
@@ -48,6 +49,7 @@ void HostSession::HandOverImage() {
 
 void HostSession::RequestComboBlocks() {
   Log("RequestComboBlocks");
+  if (LinkIsOff()) return;
   if (!Device().IsCombined()) {
     Log("not answered: the device exchanges single blocks");
     return;
@@ -64,13 +66,17 @@ void HostSession::RequestComboBlocks() {
 void HostSession::DownLoadData(std::span<std::uint8_t> bdata) {
   const std::string number = bdata.empty() ? "nothing" : std::to_string(bdata[0]);
   const bool ends = Device().EndsSend(bdata);
-  Log("DownLoadData " + (ends ? "end" : number));
   if (ends) {
     exchange_->NoteEnd(bdata);
   } else {
     exchange_->NoteBlock(bdata);
   }
-  const auto written = link_.WritePacket(bdata, [this] { control_->TriggerUploadTimer(); });
+  Log("DownLoadData " + (ends ? "end" : number));
+  if (LinkIsOff()) return;
+  const auto written = link_.WritePacket(bdata, [this, exchange = exchange_] {
+    exchange->unanswered.reset();
+    control_->TriggerUploadTimer();
+  });
   if (written == SimulatedDevice::Written::kRefused) {
     Log("not written: the device refuses block " + number);
   } else if (!ends) {
@@ -79,8 +85,9 @@ void HostSession::DownLoadData(std::span<std::uint8_t> bdata) {
 }
 
 void HostSession::SendComboBlocks(std::span<std::uint8_t> cb_data) {
-  Log("SendComboBlocks " + std::to_string(cb_data.size()) + " bytes");
   exchange_->NoteArray(cb_data);
+  Log("SendComboBlocks " + std::to_string(cb_data.size()) + " bytes");
+  if (LinkIsOff()) return;
   exchange_->array_taken = link_.WriteArray(cb_data);
   if (!exchange_->array_taken) Log("not written: the device does not take the array");
 }

@@ -33,6 +33,11 @@ void Link::SetPace(bool sync, int latency_ms) {
   latency_ms_ = latency_ms;
 }
 
+void Link::Switch(bool on) {
+  on_ = on;
+  if (!on) transfer_ = std::make_shared<const int>(0);
+}
+
 void Link::BeginTransfer() {
   transfer_ = std::make_shared<const int>(0);
   fault_.BeginTransfer();
@@ -68,6 +73,7 @@ void Link::AddInterruption(const std::optional<Fault>& fault, Traffic traffic,
 }
 
 void Link::Answer(Traffic traffic, std::vector<Byte> reply, Receive receive) {
+  if (!on_) return;
   const auto fault = Strike(traffic);
   if (Is(fault, FaultKind::kSilent)) return;
   if (fault) Spoil(fault->kind, traffic, reply);

@@ -42,13 +42,17 @@ class Link {
   /// The fault that waits to strike.
   [[nodiscard]] const std::optional<Fault>& PendingFault() const { return fault_.Pending(); }
 
+  /// Off, it carries nothing, and what is under way is lost. New links are on.
+  void Switch(bool on);
+  [[nodiscard]] bool IsOn() const { return on_; }
+
   /// A transfer begins: replies and acknowledgements of the one before are dropped.
   void BeginTransfer();
 
   /// Carries a reply of the device to the host.
   void Answer(Traffic traffic, std::vector<Byte> reply, Receive receive);
   /// Carries a packet to the device; `acknowledge` is called when the device has taken it. The
-  /// result is what the host has to believe.
+  /// result is what the host has to believe. Not for a link that is off; nor is WriteArray.
   SimulatedDevice::Written WritePacket(std::span<const Byte> packet, Step acknowledge);
   /// Carries a combined array to the device; false when the device does not take it. What the
   /// link loses counts as taken.
@@ -70,6 +74,7 @@ class Link {
   Scheduler scheduler_;
   SimulatedDevice device_;
   LinkFault fault_;
+  bool on_ = true;
   bool sync_ = false;
   int latency_ms_ = 0;
   /// Replaced by every transfer, so that steps of an old one find it gone.

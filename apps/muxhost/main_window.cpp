@@ -1,5 +1,6 @@
 #include "apps/muxhost/main_window.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -7,44 +8,18 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
-#include <set>
 #include <stdexcept>
 
+#include "apps/muxhost/window_desktop.h"
 #include "apps/muxhost/window_interruption.h"
 #include "apps/muxhost/window_side_area.h"
 #include "apps/muxhost/window_words.h"
-#include "host/model_catalogue.h"
 
 namespace quorvel::muxhost {
 
 namespace {
 
-/// True while an editor, or the menu, is on screen beside the window.
-bool OthersAreOpen(const QWidget* window) {
-  for (const QWidget* const other : QApplication::topLevelWidgets()) {
-    if (other != window && other->isVisible() && other->windowType() != Qt::ToolTip) return true;
-  }
-  return false;
-}
-
-/// Closes the windows that lock all others, the front one first, as a person would.
-void CloseLockingWindows() {
-  while (QWidget* const window = QApplication::activeModalWidget()) {
-    if (!window->close()) return;
-  }
-}
-
-QString DescribeDevice(const SimulatedDevice& device, const Platform& platform) {
-  const auto& identity = device.IdentityBytes();
-  const std::string name(identity.begin() + 2, identity.end());
-  const std::string model(ModelText(device.ModelCode()));
-  return QString("%1:  %2, %3 cameras, %4 blocks, %5")
-      .arg(QString::fromStdString(platform.ToUtf8(name.substr(0, name.find('\0')))).trimmed())
-      .arg(QString::fromStdString(model))
-      .arg(int{identity[0]})
-      .arg(device.BlockCount())
-      .arg(device.IsCombined() ? "combined array" : "single blocks");
-}
+constexpr int kPatience = SilenceWatch::kUsualPatience;
 
 }  // namespace
 
@@ -53,12 +28,15 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
       session_(session),
       picker_(new DevicePicker(platform)),
       options_(new HostOptions(session.Settings())),
+      backups_(new BackupBox),
       link_(new LinkBox),
       commands_(new CommandBox),
-      modified_box_(new QGroupBox),
-      modified_(new QListWidget),
+      hint_(new QLabel),
+      blocks_(new BlockMapBox(session)),
       log_(new EventLog),
-      identity_(new QLabel) {
+      identity_(new QLabel),
+      silence_([this](const std::string& sentence) { log_->Add(sentence); }),
+      uploader_({platform, session, *this, *backups_, *log_, silence_}) {
   constexpr int kWatchInterval = 150;
   setWindowTitle("muxhost");
   auto* const sides = new QHBoxLayout;
@@ -76,13 +54,15 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
   watch_.start(kWatchInterval);
   PlaceSurface();
   ShowLog();
+  commands_->FocusDefault();
   const QSize borders(16, 48);
-  resize(QSize(1060, 640).expandedTo(sizeHint()).boundedTo(screen()->availableSize() - borders));
+  resize(QSize(1180, 700).expandedTo(sizeHint()).boundedTo(screen()->availableSize() - borders));
 }
 
 void MainWindow::AttachToSession() {
   session_.on_change = [this] { ShowLog(); };
   session_.interrupt = &Interrupt;
+  uploader_.run = [this] { Run(&HostSession::Upload); };
   // Not from within the menu's own event.
   session_.on_zones_wanted = [this](int cameras) {
     zones_wanted_ = cameras;
@@ -90,12 +70,6 @@ void MainWindow::AttachToSession() {
   };
   zones_request_.setSingleShot(true);
   QObject::connect(&zones_request_, &QTimer::timeout, this, [this] { EditZones(zones_wanted_); });
-  defaults_patience_.setSingleShot(true);
-  QObject::connect(&defaults_patience_, &QTimer::timeout, this, [this] {
-    constexpr int kReplies = 2;
-    if (session_.LastExchange().blocks_read >= kReplies) return;
-    log_->Add("the device has not answered: there are no factory defaults");
-  });
 }
 
 MainWindow::~MainWindow() {
@@ -108,12 +82,13 @@ QWidget* MainWindow::MakeLeftSide() {
   auto* const side = new QWidget;
   auto* const column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(picker_);
-  column->addWidget(options_);
-  column->addWidget(link_);
+  for (QWidget* const box : std::initializer_list<QWidget*>{picker_, options_, backups_, link_}) {
+    column->addWidget(box);
+  }
   column->addStretch();
   picker_->on_connect = [this] { Connect(); };
   options_->on_change = [this](const HostSettings& settings) { session_.Configure(settings); };
+  options_->on_link = [this](bool on) { session_.SwitchLink(on); };
   link_->on_fault = [this](const std::optional<Fault>& fault) { session_.SetFault(fault); };
   return new SideArea(side);
 }
@@ -122,18 +97,27 @@ QWidget* MainWindow::MakeRightSide() {
   auto* const side = new QWidget;
   auto* const column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
+  hint_->setObjectName("Hint");
+  hint_->setWordWrap(true);
+  QFont bold = hint_->font();
+  bold.setBold(true);
+  hint_->setFont(bold);
   commands_->on_command = [this](Command command) { Do(command); };
   column->addWidget(commands_);
+  column->addWidget(blocks_, 5);
   auto* const row = new QHBoxLayout;
-  modified_->setAccessibleName("Modified blocks");
-  (new QVBoxLayout(modified_box_))->addWidget(modified_);
-  modified_box_->setFixedWidth(fontMetrics().horizontalAdvance("Modified blocks: 255  ") + 24);
   auto* const events = new QGroupBox("Events");
   (new QVBoxLayout(events))->addWidget(log_);
-  row->addWidget(modified_box_);
-  row->addWidget(events, 1);
-  column->addLayout(row, 1);
-  return side;
+  row->addWidget(events, 4);
+  row->addWidget(blocks_->ContentsBox(), 3);
+  column->addLayout(row, 3);
+  // The hint is not scrolled away.
+  auto* const right = new QWidget;
+  auto* const whole = new QVBoxLayout(right);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(hint_);
+  whole->addWidget(new MainArea(side), 1);
+  return right;
 }
 
 void MainWindow::PlaceSurface() {
@@ -141,28 +125,17 @@ void MainWindow::PlaceSurface() {
   commands_->SurfacePlace().addWidget(surface_);
 }
 
-std::size_t MainWindow::UnsentBlocks() {
-  // The list of modified blocks does not tell: it outlives a send.
-  if (!loaded_) return 0;
-  std::set<std::uint8_t> blocks;
-  const auto differences = session_.Control().DifferencesFrom(session_.Device().Bytes());
-  if (!differences.has_value()) return session_.Control().ModifiedBlocks().size();
-  for (const SettingDifference& difference : *differences) {
-    blocks.insert(difference.blocks.begin(), difference.blocks.end());
-  }
-  return blocks.size();
-}
-
 bool MainWindow::MayLoseChanges(const QString& by) {
-  const auto changed = UnsentBlocks();
+  blocks_->Update(transfer_runs_, true);
+  const auto changed = blocks_->States().Unwritten().size();
   QString question;
   if (changed > 0) {
-    question = QString("%1 changed %2 not been sent to the device. ")
+    question = QString("%1 modified %2 not been sent to the device. ")
                    .arg(changed)
                    .arg(changed == 1 ? "block has" : "blocks have");
   }
   // A transfer's dialog locks the window, an editor does not.
-  const bool locked = QApplication::activeModalWidget() != nullptr;
+  const bool locked = IsLocked();
   if (locked) {
     question += "A transfer or a question is still open. ";
   } else if (OthersAreOpen(this)) {
@@ -179,11 +152,12 @@ void MainWindow::Connect() {
   if (!MayLoseChanges("Connecting another device")) return;
   try {
     SimulatedDevice device(picker_->Setup());
-    defaults_patience_.stop();
+    silence_.End();
     surface_->Detach();
     delete surface_;
     surface_ = nullptr;
     loaded_ = false;
+    blocks_->Forget();
     session_.Connect(std::move(device));
     PlaceSurface();
     log_->Add("a new device is connected");
@@ -197,7 +171,9 @@ void MainWindow::Do(Command command) {
   switch (command) {
     case Command::kDownload: return Download();
     case Command::kMenu: return session_.OpenMenu();
-    case Command::kUpload: return Upload();
+    case Command::kZones: return EditZones(session_.Device().IdentityBytes().at(0));
+    case Command::kUploadModified: return uploader_.Upload(false, commands_->WithMacros());
+    case Command::kUploadAll: return uploader_.Upload(true, commands_->WithMacros());
     case Command::kSave: return Run(&HostSession::Save);
     case Command::kRestore:
       if (MayLoseChanges("Restoring a file")) Run(&HostSession::Restore);
@@ -207,8 +183,10 @@ void MainWindow::Do(Command command) {
 }
 
 void MainWindow::Run(void (HostSession::*command)()) {
-  defaults_patience_.stop();
-  (session_.*command)();
+  {
+    const QScopedValueRollback<bool> runs(transfer_runs_, true);
+    (session_.*command)();
+  }
   // Whatever became of it: what the control holds now decides what can be done next.
   loaded_ = !session_.Control().Settings().empty();
   ShowState();
@@ -217,36 +195,30 @@ void MainWindow::Run(void (HostSession::*command)()) {
 void MainWindow::Download() {
   if (!MayLoseChanges("Downloading")) return;
   loaded_ = false;
+  const bool with_dialog = session_.Settings().comm_id == 0;
+  silence_.Begin(
+      kPatience + session_.Settings().latency_ms,
+      [this] { return !session_.LastExchange().arrived; },
+      with_dialog ? "the device has not answered: close the dialog to break it off"
+                  : "the device has not answered");
   Run(&HostSession::Download);
-}
-
-void MainWindow::Upload() {
-  do {
-    Run(&HostSession::Upload);
-  } while (WantsToSendAgain());
-}
-
-bool MainWindow::WantsToSendAgain() {
-  const Exchange& exchange = session_.LastExchange();
-  const bool by_blocks = exchange.array_bytes == 0 && !exchange.sent_blocks.empty();
-  if (by_blocks && !exchange.end_written) log_->Add("the upload has not come to its end");
-  const QString trouble = WhatWentWrong(exchange);
-  if (trouble.isEmpty() || !isVisible()) return false;
-  QMessageBox box(QMessageBox::Warning, windowTitle(), trouble, QMessageBox::Close, this);
-  box.setInformativeText("Send again?");
-  const auto* const again = box.addButton("Send again", QMessageBox::AcceptRole);
-  box.exec();
-  return box.clickedButton() == again && isVisible();
+  if (!with_dialog) return;  // its answer is still to come
+  silence_.End();
+  if (!session_.LastExchange().arrived) {
+    log_->Add("the download has not come to its end: the control keeps what it had");
+  }
 }
 
 void MainWindow::BuildDefaults() {
   constexpr int kReplies = 2;
-  constexpr int kPatience = 2000;
   if (!MayLoseChanges("Taking the factory defaults")) return;
-  Run(&HostSession::BuildDefaults);
   const auto& fault = session_.PendingFault();
   const int later = fault && fault->kind == FaultKind::kLate ? fault->delay_ms : 0;
-  defaults_patience_.start(kPatience + kReplies * session_.Settings().latency_ms + later);
+  silence_.Begin(
+      kPatience + session_.Settings().latency_ms + later,
+      [this] { return session_.LastExchange().blocks_read < kReplies; },
+      "the device has not answered: there are no factory defaults");
+  Run(&HostSession::BuildDefaults);
 }
 
 void MainWindow::EditZones(int cameras) {
@@ -264,31 +236,46 @@ void MainWindow::EditZones(int cameras) {
 
 void MainWindow::ShowLog() {
   for (const std::string& entry : session_.TakeLog()) log_->Add(entry);
+  silence_.Notice();
   ShowState();
+}
+
+Situation MainWindow::PresentSituation() const {
+  const BlockStates& states = blocks_->States();
+  return {{.link_on = session_.LinkIsOn(),
+           .loaded = loaded_,
+           .modified = !session_.Control().ModifiedBlocks().empty(),
+           .others_open = OthersAreOpen(this),
+           .locked = IsLocked()},
+          states.Unwritten().size(),
+          states.In(BlockState::kFailed).size(),
+          states.In(BlockState::kVerified).size()};
 }
 
 void MainWindow::ShowState() {
   loaded_ = loaded_ || session_.LastExchange().arrived;
-  const bool others_open = OthersAreOpen(this);
-  commands_->Show({.loaded = loaded_,
-                   .others_open = others_open,
-                   .locked = QApplication::activeModalWidget() != nullptr});
-  picker_->AllowConnect(!others_open, CommandBox::Busy());
+  blocks_->Update(transfer_runs_, OthersAreOpen(this));
+  Situation situation = PresentSituation();
+  const NextStep step = NextStepIn(situation);
+  situation.commands.next = step.press;
+  commands_->Show(situation.commands);
+  hint_->setText(step.hint);
+  const bool free = !situation.commands.others_open;
+  picker_->AllowConnect(free, CommandBox::Busy(situation.commands.locked));
+  options_->AllowExchange(free, CommandBox::Busy(situation.commands.locked));
   link_->ShowPending(session_.PendingFault());
-  ShowModified();
-  identity_->setText(DescribeDevice(session_.Device(), platform_));
+  identity_->setText(Describe(session_.Device(), platform_));
 }
 
-void MainWindow::ShowModified() {
-  QStringList numbers;
-  for (const auto number : session_.Control().ModifiedBlocks()) {
-    numbers << QString("Block %1").arg(number);
-  }
-  modified_box_->setTitle(QString("Modified blocks: %1").arg(numbers.size()));
-  if (numbers == shown_modified_) return;
-  shown_modified_ = numbers;
-  modified_->clear();
-  modified_->addItems(numbers);
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  const QWidget* const focus = focusWidget();
+  const bool plain = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool elsewhere = qobject_cast<const QLineEdit*>(focus) != nullptr ||
+                         qobject_cast<const QAbstractSpinBox*>(focus) != nullptr ||
+                         qobject_cast<const QComboBox*>(focus) != nullptr ||
+                         qobject_cast<const QAbstractButton*>(focus) != nullptr;
+  if (!plain || elsewhere) return QMainWindow::keyPressEvent(event);
+  commands_->PressDefault();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -1,18 +1,21 @@
 #pragma once
 
-#include <QGroupBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
 
 #include "apps/muxhost/host_session.h"
+#include "apps/muxhost/window_backup_box.h"
+#include "apps/muxhost/window_block_map.h"
 #include "apps/muxhost/window_command_box.h"
 #include "apps/muxhost/window_device_picker.h"
 #include "apps/muxhost/window_event_log.h"
 #include "apps/muxhost/window_host_options.h"
 #include "apps/muxhost/window_link_box.h"
+#include "apps/muxhost/window_next_step.h"
+#include "apps/muxhost/window_silence_watch.h"
+#include "apps/muxhost/window_upload.h"
 #include "apps/muxhost/window_zone_editor.h"
 #include "quorvel/qt_control_surface.h"
 #include "quorvel/qt_platform.h"
@@ -27,8 +30,13 @@ class MainWindow : public QMainWindow {
   MainWindow(QtPlatform& platform, HostSession& session);
   ~MainWindow() override;
 
+  /// Where the device's configuration is kept before an upload.
+  [[nodiscard]] BackupBox& Backups() { return *backups_; }
+
  protected:
   void closeEvent(QCloseEvent* event) override;
+  /// Return presses the default button, unless something in the window has a use of its own for it.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void AttachToSession();
@@ -41,40 +49,37 @@ class MainWindow : public QMainWindow {
   /// Gives the session a command, which may run a loop of its own.
   void Run(void (HostSession::*command)());
   void Download();
-  void Upload();
   void BuildDefaults();
-  /// Tells what came of an upload; true when it is to be done again.
-  [[nodiscard]] bool WantsToSendAgain();
   void EditZones(int cameras);
 
-  /// How many blocks the device holds differently from the control.
-  [[nodiscard]] std::size_t UnsentBlocks();
   /// Asks before changes are lost that the device has not got, or that are still in an editor; true
   /// when they may be.
   [[nodiscard]] bool MayLoseChanges(const QString& by);
   void ShowLog();
   void ShowState();
-  void ShowModified();
+  [[nodiscard]] Situation PresentSituation() const;
 
   QtPlatform& platform_;
   HostSession& session_;
   DevicePicker* const picker_;
   HostOptions* const options_;
+  BackupBox* const backups_;
   LinkBox* const link_;
   CommandBox* const commands_;
   ControlSurfaceWidget* surface_ = nullptr;
-  QGroupBox* const modified_box_;
-  QListWidget* const modified_;
+  QLabel* const hint_;
+  BlockMapBox* const blocks_;
   EventLog* const log_;
   QLabel* const identity_;
   QPointer<ZoneEditor> zones_;
   QTimer watch_;
-  QTimer defaults_patience_;
   QTimer zones_request_;
-  QStringList shown_modified_;
-  int zones_wanted_ = 0;  ///< cameras
-  bool loaded_ = false;   ///< the control holds a configuration
-  bool closing_ = false;  ///< the user is being asked whether to
+  SilenceWatch silence_;
+  Uploader uploader_;
+  int zones_wanted_ = 0;        ///< cameras
+  bool loaded_ = false;         ///< the control holds a configuration
+  bool transfer_runs_ = false;  ///< a command that exchanges data with the device
+  bool closing_ = false;        ///< the user is being asked whether to
 };
 
 }  // namespace quorvel::muxhost

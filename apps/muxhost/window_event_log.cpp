@@ -15,7 +15,9 @@ constexpr int kMostLines = 2000;
 EventLog::EventLog(QWidget* parent) : QListWidget(parent) {
   setAccessibleName("Events");
   setSelectionMode(ExtendedSelection);
-  setUniformItemSizes(true);
+  setWordWrap(true);
+  setResizeMode(Adjust);
+  setTextElideMode(Qt::ElideNone);
 }
 
 void EventLog::Add(const std::string& entry) {

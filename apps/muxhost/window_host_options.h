@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QSpinBox>
 #include <functional>
@@ -16,14 +17,20 @@ class HostOptions : public QGroupBox {
 
   /// An option was changed.
   std::function<void(const HostSettings& settings)> on_change;
+  /// The link was switched.
+  std::function<void(bool on)> on_link;
+
+  /// Whether the exchange can be changed; the tool tip says why not.
+  void AllowExchange(bool allowed, const QString& why_not);
 
  private:
   void Tell();
 
   HostSettings settings_;
+  QCheckBox* const on_;
   QCheckBox* const link_;
   QCheckBox* const dvr_;
-  QCheckBox* const whole_image_;
+  QComboBox* const exchange_;
   QSpinBox* const latency_;
 };
 

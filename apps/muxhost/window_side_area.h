@@ -30,4 +30,16 @@ class SideArea : public QScrollArea {
   }
 };
 
+/// Fills the space there is; where that is too little for what it holds it scrolls.
+class MainArea : public QScrollArea {
+ public:
+  explicit MainArea(QWidget* side) {
+    setWidgetResizable(true);
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(side);
+  }
+  [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
 }  // namespace quorvel::muxhost

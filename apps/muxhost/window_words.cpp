@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 
 #include "apps/muxhost/script_report.h"
+#include "host/model_catalogue.h"
 
 namespace quorvel::muxhost {
 
@@ -89,6 +90,27 @@ QString InWords(FaultKind kind) {
     case FaultKind::kClose: return "somebody closes the dialog";
   }
   return {};
+}
+
+QString InWords(BlockState state) {
+  const auto name = NameOf(state);
+  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QString NameOf(const SimulatedDevice& device, const Platform& platform) {
+  const auto& identity = device.IdentityBytes();
+  const std::string name(identity.begin() + 2, identity.end());
+  return QString::fromStdString(platform.ToUtf8(name.substr(0, name.find('\0')))).trimmed();
+}
+
+QString Describe(const SimulatedDevice& device, const Platform& platform) {
+  const std::string model(ModelText(device.ModelCode()));
+  return QString("%1:  %2, %3 cameras, %4 blocks, %5")
+      .arg(NameOf(device, platform))
+      .arg(QString::fromStdString(model))
+      .arg(int{device.IdentityBytes().at(0)})
+      .arg(device.BlockCount())
+      .arg(device.IsCombined() ? "combined array" : "single blocks");
 }
 
 QString Sentence(const QString& entry) {

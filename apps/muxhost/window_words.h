@@ -3,8 +3,10 @@
 #include <QString>
 #include <span>
 
+#include "apps/muxhost/block_states.h"
 #include "apps/muxhost/exchange.h"
 #include "apps/muxhost/link_fault.h"
+#include "quorvel/platform.h"
 
 namespace quorvel::muxhost {
 
@@ -13,6 +15,13 @@ namespace quorvel::muxhost {
 
 /// What the fault does to what crosses the link: "no answer comes".
 [[nodiscard]] QString InWords(FaultKind kind);
+
+[[nodiscard]] QString InWords(BlockState state);
+
+/// "TX16:  Triplex NTSC, 16 cameras, 225 blocks, single blocks".
+[[nodiscard]] QString Describe(const SimulatedDevice& device, const Platform& platform);
+/// The device's name as text.
+[[nodiscard]] QString NameOf(const SimulatedDevice& device, const Platform& platform);
 
 /// An entry of the session's log as a sentence.
 [[nodiscard]] QString Sentence(const QString& entry);

@@ -1,6 +1,5 @@
 #include "apps/muxhost/main_window.h"
 
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
@@ -17,10 +16,12 @@ class MuxhostWindow : public MuxhostOnScreen {
   /// The commands that can be given, by the first letters of their buttons.
   [[nodiscard]] std::string Enabled() {
     std::string letters;
-    for (const char* const text :
-         {"Connect", "Download", "Menu", "Upload", "Save file", "Restore file", "Defaults"}) {
-      if (Button(text).isEnabled())
-        letters += text[0] == 'D' ? std::string(text, 2) : text[0] + std::string();
+    for (const char* const text : {"Connect", "Download", "Menu", "Zones", "Upload modified",
+                                   "Upload all", "Save file", "Restore file", "Defaults"}) {
+      if (!Button(text).isEnabled()) continue;
+      letters += text[0];
+      if (text[0] == 'D') letters += text[1];
+      if (text[0] == 'U') letters += text[7];
     }
     return letters;
   }
@@ -31,17 +32,6 @@ class MuxhostWindow : public MuxhostOnScreen {
     kind->setCurrentIndex(kind->findText(fault, Qt::MatchStartsWith));
     Find<QSpinBox>(&window_, "Strikes number")->setValue(at);
     Click("Arm");
-  }
-  /// Answers a file dialog.
-  static bool Name(const QString& path) {
-    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) return false;
-    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-    return QMetaObject::invokeMethod(dialog, "accept");
-  }
-  void ChangeZones() {
-    session_.WriteZones(0, std::vector<Byte>(32, 0xA5));
-    ASSERT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{85, 86}));
   }
   [[nodiscard]] bool DeviceIsAsEdited() {
     const auto image = session_.Control().Image();
@@ -54,7 +44,9 @@ TEST_F(MuxhostWindow, TitleTypedInTheEditorReachesTheDevice) {
   EXPECT_EQ(Enabled(), "CDoRDe");
   EXPECT_EQ(Button("Save file").toolTip(), "Download the device's configuration first");
   Download();
-  ASSERT_EQ(Enabled(), "CDoMUSRDe");
+  ASSERT_EQ(Enabled(), "CDoMZUaSRDe");
+  EXPECT_EQ(Button("Upload modified").toolTip(),
+            "No block is listed as modified; Upload all writes everything");
 
   Choose("mnu_CSetup");
   QWidget& editor = *OnScreen("frm_CameraSetup");
@@ -66,10 +58,7 @@ TEST_F(MuxhostWindow, TitleTypedInTheEditorReachesTheDevice) {
   QTest::keyClick(title, Qt::Key_Return, Qt::ControlModifier);
   EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
   QApplication::activePopupWidget()->close();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return Button("Upload").isEnabled(); }));
-  auto* const modified = Find<QListWidget>(&window_, "Modified blocks");
-  ASSERT_EQ(modified->count(), 1);
-
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Button("Upload modified").isEnabled(); }));
   SendModified();
   EXPECT_EQ(session_.LastExchange().blocks_written.size(), 1U);
   EXPECT_TRUE(DeviceIsAsEdited());
@@ -107,16 +96,26 @@ TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
 
   Download();
   EXPECT_EQ(session_.LastExchange().bytes_read, 13U + 225 * 16 + 3 * 20);
+  const auto zones = session_.ReadZones(0);
   ChangeZones();
+  window_.Backups().SetWanted(true);
   {
     const WhenShown send([] { return StartSending("Select all data blocks"); });
     const WhenShown finish(
         [this] { return session_.LastExchange().array_bytes > 0 && Press("CLOSE"); });
-    Click("Upload");
+    Click("Upload all");
   }
   EXPECT_TRUE(session_.LastExchange().read_back->AsSent());
   EXPECT_EQ(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
   EXPECT_NE(Events().find("Verified 225 blocks.\n"), std::string::npos);
+
+  ASSERT_EQ(BackupFiles().size(), 1);
+  const WhenShown name([this] { return Name(BackupFiles().front()); });
+  const WhenShown finish([] { return Press("OK"); });
+  Click("Restore file");
+  EXPECT_EQ(session_.ReadZones(0), zones);
+  EXPECT_EQ(Cell(86), "Block 86, changed");
+  EXPECT_TRUE(Button("Upload all").isDefault()) << "a file's blocks are not listed";
 }
 
 TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
@@ -131,6 +130,7 @@ TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box == nullptr) return false;
     told = box->text();
+    EXPECT_EQ(Cell(85) + ", " + Cell(86), "Block 85, verified, Block 86, failed");
     EXPECT_NE(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
     again = true;
     return Press("Send again");
@@ -143,10 +143,11 @@ TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
     const bool closed = session_.LastExchange().end_written && Press("CLOSE");
     return closed && again;
   });
-  Click("Upload");
+  Click("Upload modified");
   EXPECT_EQ(told, "The device does not hold block 86 as sent.");
   EXPECT_TRUE(DeviceIsAsEdited());
-  EXPECT_EQ(Enabled(), "CDoMUSRDe");
+  EXPECT_EQ(Cell(86), "Block 86, verified");
+  EXPECT_EQ(Enabled(), "CDoMZUmUaSRDe");
   const std::string events = Events();
   for (const char* const line :
        {"The link fails at number 2: it is lost on the way.\n", "Block 86 is not as sent.\n",
@@ -162,9 +163,10 @@ TEST_F(MuxhostWindow, WindowStaysUsableAfterWhateverTheLinkDoes) {
     const char* pressed;  ///< in the dialog that stays, or nothing
     const char* event;
   } const cases[] = {
-      {"silent", "CDoRDe", nullptr, "The link fails at number 3: no answer comes.\n"},
+      {"silent", "CDoRDe", nullptr,
+       "The download has not come to its end: the control keeps what it had.\n"},
       {"close", "CDoRDe", "", "Somebody closed the receive dialog.\n"},
-      {"duplicate", "CDoMUSRDe", "OK", "The link fails at number 3: it comes twice.\n"},
+      {"duplicate", "CDoMZUaSRDe", "OK", "The link fails at number 3: it comes twice.\n"},
   };
   for (const auto& it : cases) {
     Arm(it.fault, 3);
@@ -188,9 +190,9 @@ TEST_F(MuxhostWindow, StopIsPressedByTheLink) {
     return Events().find("Somebody pressed STOP of the send dialog.\n") != std::string::npos &&
            Press("CLOSE");
   });
-  Click("Upload");
+  Click("Upload modified");
   EXPECT_EQ(session_.LastExchange().blocks_written, (std::vector<Byte>{85}));
-  EXPECT_EQ(Enabled(), "CDoMUSRDe");
+  EXPECT_EQ(Enabled(), "CDoMZUmUaSRDe");
   EXPECT_NE(Events().find("The upload has not come to its end.\n"), std::string::npos);
 }
 
@@ -233,7 +235,7 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
     Click("Restore file");
   }
   EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
-  EXPECT_EQ(Enabled(), "CDoMUSRDe");
+  EXPECT_EQ(Enabled(), "CDoMZUaSRDe");
 }
 
 TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
@@ -274,7 +276,7 @@ TEST_F(MuxhostWindow, ClosedInTheMiddleOfATransferItEndsTheTransfer) {
       EXPECT_EQ(window_.isVisible(), answer == "Cancel");
       return answers.isEmpty();
     });
-    Click(upload ? "Upload" : "Download");
+    Click(upload ? "Upload modified" : "Download");
     EXPECT_FALSE(window_.isVisible());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   }

@@ -3,8 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QRadioButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -36,6 +41,8 @@ class MuxhostOnScreen : public testing::Test {
  protected:
   MuxhostOnScreen() {
     session_.Configure({.latency_ms = 0});
+    window_.Backups().SetFolder(backups_.filePath("kept"));
+    window_.Backups().SetWanted(false);  // a fault of the link would strike it
     window_.show();
   }
 
@@ -54,7 +61,7 @@ class MuxhostOnScreen : public testing::Test {
   /// Clicks a button of the window once it can be: the window looks for changes from time to time.
   void Click(const char* text) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return Button(text).isEnabled(); })) << text;
-    Button(text).click();
+    QTest::mouseClick(&Button(text), Qt::LeftButton);
   }
   [[nodiscard]] std::string Events() {
     auto* const log = Find<QListWidget>(&window_, "Events");
@@ -68,8 +75,30 @@ class MuxhostOnScreen : public testing::Test {
     QWidget* const modal = QApplication::activeModalWidget();
     QPushButton* const button = modal == nullptr ? nullptr : Find(modal, text);
     if (button == nullptr || !button->isEnabled() || !button->isVisible()) return false;
-    button->click();
+    QTest::mouseClick(button, Qt::LeftButton);
     return true;
+  }
+  /// What a screen reader is told of a block's cell in the map.
+  [[nodiscard]] std::string Cell(int block) {
+    return map_.model()->index(block - 1, 0).data(Qt::AccessibleTextRole).toString().toStdString();
+  }
+  /// The files that hold backups, with their paths.
+  [[nodiscard]] QStringList BackupFiles() {
+    const QDir folder(window_.Backups().Folder());
+    QStringList files = folder.entryList(QDir::Files);
+    for (QString& file : files) file = folder.filePath(file);
+    return files;
+  }
+  void ChangeZones() {
+    session_.WriteZones(0, std::vector<Byte>(32, 0xA5));
+    ASSERT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{85, 86}));
+  }
+  /// Answers a file dialog.
+  static bool Name(const QString& path) {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return false;
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+    return QMetaObject::invokeMethod(dialog, "accept");
   }
   void Download() {
     const WhenShown finish([] { return Press("OK"); });
@@ -87,7 +116,7 @@ class MuxhostOnScreen : public testing::Test {
     const WhenShown send([] { return StartSending("Select modified blocks"); });
     const WhenShown finish(
         [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
-    Click("Upload");
+    Click("Upload modified");
   }
   void Choose(const char* item) {
     Click("Menu");
@@ -115,12 +144,14 @@ class MuxhostOnScreen : public testing::Test {
     return window;
   }
 
+  QTemporaryDir backups_;
   QtPlatform platform_;
   QObject turns_;
   HostSession session_{platform_, [this](int milliseconds, std::function<void()> task) {
                          QTimer::singleShot(milliseconds, &turns_, std::move(task));
                        }};
   MainWindow window_{platform_, session_};
+  QListView& map_ = *Find<QListView>(&window_, "Blocks");
 };
 
 }  // namespace quorvel::muxhost

@@ -60,7 +60,7 @@ class MuxhostZones : public MuxhostOnScreen {
 TEST_F(MuxhostZones, CellsThatAreClickedReachTheBlocksOfTheirCamera) {
   Open();
   EXPECT_EQ(cameras_->count(), 16);
-  EXPECT_FALSE(Button("Upload").isEnabled());
+  EXPECT_FALSE(Button("Upload all").isEnabled());
   EXPECT_FALSE(Button("Menu").isEnabled());
   cameras_->setCurrentRow(2);
   Click(0, 0);
@@ -76,7 +76,8 @@ TEST_F(MuxhostZones, CellsThatAreClickedReachTheBlocksOfTheirCamera) {
 
   Press("OK");
   EXPECT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{89, 90, 92}));
-  EXPECT_TRUE(QTest::qWaitFor([this] { return editor_.isNull() && Button("Upload").isEnabled(); }));
+  EXPECT_TRUE(
+      QTest::qWaitFor([this] { return editor_.isNull() && Button("Upload all").isEnabled(); }));
   SendModified();
   EXPECT_EQ(session_.Device().ReadBlock(89).value().at(0), 0x80);
   EXPECT_EQ(session_.Device().ReadBlock(90).value().at(1), 0x40);

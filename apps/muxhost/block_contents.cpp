@@ -1,0 +1,76 @@
+#include "apps/muxhost/block_contents.h"
+
+#include <algorithm>
+#include <map>
+
+#include "apps/muxhost/script_report.h"
+#include "core/codec.h"
+#include "core/survey.h"
+
+namespace quorvel::muxhost {
+
+namespace {
+
+using layout::Place;
+
+std::vector<Byte> BytesOf(std::span<const Byte> image, int n) {
+  const auto end = static_cast<std::size_t>(n) * kBlockSize;
+  if (n < 1 || image.size() < end) return {};
+  const auto block = image.subspan(end - kBlockSize, kBlockSize);
+  return {block.begin(), block.end()};
+}
+
+/// What the block layouts put into block `n` of the image.
+std::vector<Place> PlacesIn(const std::vector<Byte>& bytes, int n) {
+  BlockImage image(bytes);
+  RecordEnvironment env;
+  MuxData record(env);
+  try {
+    DecodeImage(image, env, record);
+  } catch (const ImageError&) {
+    return {};
+  }
+  std::vector<Place> places = SurveyRecord(record, env.identity, image.BlkCount());
+  std::erase_if(places, [n](const Place& place) {
+    return place.block != n || place.role == Place::Role::kMark ||
+           place.role == Place::Role::kChangeMask;
+  });
+  return places;
+}
+
+std::string Line(const char* where, std::span<const Byte> bytes) {
+  return bytes.empty() ? std::string() : std::string(where) + ":\n" + HexBytes(bytes) + '\n';
+}
+
+}  // namespace
+
+BlockContents ContentsOf(const MainMenuCtrl& control, std::span<const Byte> device, int n) {
+  const std::vector<Byte> image = control.Image();
+  BlockContents contents{BytesOf(image, n), BytesOf(device, n), {}};
+  if (contents.in_control.empty()) return contents;
+  // The image does not hold what has been edited and not made ready to be sent; the list does.
+  std::map<std::string, std::string> values;
+  for (SettingLine& line : control.Settings()) values[line.name] = std::move(line.value);
+  for (Place& place : PlacesIn(image, n)) {
+    const auto edited = values.find(place.name);
+    contents.settings.push_back(
+        {place.name, edited == values.end() ? std::move(place.value) : edited->second});
+  }
+  return contents;
+}
+
+std::string InWords(const BlockContents& contents) {
+  const bool alike = contents.in_control == contents.in_device;
+  std::string text = alike ? Line("In control and device", contents.in_control)
+                           : Line("In the control", contents.in_control) +
+                                 Line("In the device", contents.in_device);
+  for (const SettingLine& line : contents.settings) text += line.name + " = " + line.value + '\n';
+  if (contents.in_control.empty()) {
+    text += "Its settings are known when the device's configuration has been downloaded.\n";
+  } else if (contents.settings.empty()) {
+    text += "No setting lives in it.\n";
+  }
+  return text;
+}
+
+}  // namespace quorvel::muxhost

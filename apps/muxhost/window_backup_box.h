@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace quorvel::muxhost {
+
+/// Whether, and where, the device's configuration is kept before an upload.
+class BackupBox : public QGroupBox {
+ public:
+  explicit BackupBox(QWidget* parent = nullptr);
+
+  [[nodiscard]] bool Wanted() const { return wanted_->isChecked(); }
+  void SetWanted(bool wanted) { wanted_->setChecked(wanted); }
+  /// At first a folder of its own among the user's documents.
+  [[nodiscard]] QString Folder() const { return folder_->text(); }
+  void SetFolder(const QString& folder);
+
+ private:
+  void AskForFolder();
+
+  QCheckBox* const wanted_;
+  QLineEdit* const folder_;
+  QPushButton* const change_;
+};
+
+}  // namespace quorvel::muxhost

@@ -1,0 +1,68 @@
+#include "apps/muxhost/window_upload.h"
+
+#include <QMessageBox>
+
+#include "apps/muxhost/window_backup.h"
+#include "apps/muxhost/window_send_choice.h"
+#include "apps/muxhost/window_words.h"
+
+namespace quorvel::muxhost {
+
+void Uploader::Upload(bool all, bool macros) {
+  if (at_.backups.Wanted() && !BackUp()) return;
+  do {
+    const SendChoice choice(all, macros);
+    at_.silence.Begin(
+        SilenceWatch::kUsualPatience + at_.session.Settings().latency_ms,
+        [this] { return at_.session.LastExchange().unanswered.has_value(); },
+        "the device has not acknowledged a block: STOP and START send again");
+    run();
+    at_.silence.End();
+  } while (WantsToSendAgain());
+}
+
+bool Uploader::BackUp() {
+  const BackupResult backup =
+      BackUpDevice(at_.platform, at_.session, at_.backups.Folder(), &at_.window);
+  switch (backup.outcome) {
+    case BackupResult::Outcome::kWritten:
+      at_.log.Add("backup of the device: " + backup.told.toStdString());
+      return at_.window.isVisible();
+    case BackupResult::Outcome::kCancelled:
+      at_.log.Add("the backup was cancelled: nothing is uploaded");
+      return false;
+    case BackupResult::Outcome::kFailed: break;
+  }
+  at_.log.Add("no backup of the device: " + backup.told.toStdString());
+  if (!at_.window.isVisible()) return false;
+  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(),
+                  "There is no backup of the device: " + backup.told + ".", QMessageBox::Cancel,
+                  &at_.window);
+  box.setInformativeText("Upload without one?");
+  const auto* const on = box.addButton("Upload without backup", QMessageBox::AcceptRole);
+  box.setDefaultButton(QMessageBox::Cancel);
+  box.exec();
+  return box.clickedButton() == on && at_.window.isVisible();
+}
+
+bool Uploader::WantsToSendAgain() {
+  const Exchange& exchange = at_.session.LastExchange();
+  const bool by_blocks = exchange.array_bytes == 0 && !exchange.sent_blocks.empty();
+  if (by_blocks && !exchange.end_written) {
+    const std::string where =
+        exchange.unanswered
+            ? ": block " + std::to_string(*exchange.unanswered) + " was not acknowledged"
+            : "";
+    at_.log.Add("the upload has not come to its end" + where);
+  }
+  const QString trouble = WhatWentWrong(exchange);
+  if (trouble.isEmpty() || !at_.window.isVisible()) return false;
+  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Close,
+                  &at_.window);
+  box.setInformativeText("Send again?");
+  const auto* const again = box.addButton("Send again", QMessageBox::AcceptRole);
+  box.exec();
+  return box.clickedButton() == again && at_.window.isVisible();
+}
+
+}  // namespace quorvel::muxhost
