@@ -49,8 +49,6 @@ void DeviceHost::ChangeGrid(Byte camera, Byte cell) {
   Check(control->UpdateActGrid(grid) == 0, "UpdateActGrid returns 0");
 }
 
-void DeviceHost::CheckControl() const { CheckModifiedBlocks(*control); }
-
 void DeviceHost::RequestComboBlocks() {
   Check(control->FillComboBlk(array) == 0, "FillComboBlk returns 0");
 }

@@ -27,8 +27,6 @@ class DeviceHost : public MainMenuEvents {
   void GiveWholeImage();
   /// Changes one activity grid, which lists a block.
   void ChangeGrid(Byte camera, Byte cell);
-  /// Ends the run unless a host may rely on what the control says about itself.
-  void CheckControl() const;
 
   void RequestComboBlocks() override;
   void SendComboBlocks(std::span<std::uint8_t> cb_data) override;

@@ -29,21 +29,15 @@ struct Lengths {
   bool whole = false;
 };
 
-/// What the first byte of an input says.
-struct Mode {
-  explicit Mode(Byte byte) : byte_(byte) {}
-  [[nodiscard]] bool Save() const { return Bit(0); }
-  [[nodiscard]] bool Edit() const { return Bit(1); }
-  [[nodiscard]] bool CutAfterwards() const { return Bit(2); }
-  [[nodiscard]] bool WholeImageHost() const { return Bit(3); }
-  [[nodiscard]] bool IdentifyFirst() const { return Bit(4); }
-  [[nodiscard]] bool ImageBefore() const { return Bit(5); }
-  /// The header is made to fit the bytes behind it, so that most arrays are taken.
-  [[nodiscard]] bool Fitting() const { return Bit(6); }
-
- private:
-  [[nodiscard]] bool Bit(int bit) const { return (byte_ >> bit & 1) != 0; }
-  Byte byte_;
+/// What the bits of an input's first byte say.
+enum Mode : unsigned {
+  kSave = 1,
+  kEdit = 2,
+  kCutAfterwards = 4,
+  kWholeImageHost = 8,
+  kIdentifyFirst = 16,
+  kImageBefore = 32,
+  kFitting = 64,  ///< the header is made to fit what is behind it, so that most arrays are taken
 };
 
 void PutWord(std::vector<Byte>& bytes, std::size_t at, std::size_t value) {
@@ -110,45 +104,46 @@ void CheckSaved(DeviceHost& host, std::span<const Byte> device) {
 
 class Exchange {
  public:
-  Exchange(Mode mode, ByteSource& in) : mode_(mode) {
+  explicit Exchange(ByteSource& in) : mode_(in.Next()) {
     host_.desk.answer_file = [](const FileRequest& request) {
       return request.default_name == "*.bin" ? "received" : "out";
     };
-    if (mode_.IdentifyFirst()) host_.control->SaveConnectedInfo(in.Padded(kSizesLength));
+    if (Is(kIdentifyFirst)) host_.control->SaveConnectedInfo(in.Padded(kSizesLength));
     host_.control->FillComboInfo(in.Padded(kSizesLength));
     clicks_ = in.Padded(kClicks);
     const auto rest = in.Rest();
     host_.array.assign(rest.begin(), rest.end());
-    if (mode_.Fitting()) MakeFit(host_.array);
-    if (mode_.ImageBefore()) {
+    if (Is(kFitting)) MakeFit(host_.array);
+    if (Is(kImageBefore)) {
       host_.control->FillComboBlk(CombinedBytes(DefaultImage(2), 16, 2));
       Check(host_.arrivals == 1, "an array that nobody asked for is taken while nothing is edited");
     }
-    if (mode_.WholeImageHost()) host_.control->HostCommId(1);
+    if (Is(kWholeImageHost)) host_.control->HostCommId(1);
   }
 
   void Run() {
     const int arrivals_before = host_.arrivals;
     const int failures_before = host_.desk.failures_told;
-    host_.Download(mode_.Save());
+    host_.Download(Is(kSave));
     Check(host_.arrivals - arrivals_before + host_.desk.failures_told - failures_before == 1,
           "an array arrives or is refused");
     // Where no image was before, an array that arrives is the device's.
     arrived_ = host_.arrivals > arrivals_before && arrivals_before == 0;
     const Lengths lengths(host_.array);
     own_ = arrived_ && lengths.whole;
-    if (arrived_ && mode_.Save() && !mode_.WholeImageHost()) CheckReceived();
+    if (arrived_ && Is(kSave) && !Is(kWholeImageHost)) CheckReceived();
     ByteSource clicks(clicks_);
-    if (mode_.Edit()) host_.ChangeGrid(1, clicks_.back());
+    if (Is(kEdit)) host_.ChangeGrid(1, clicks_.back());
     Send(clicks);
-    if (mode_.CutAfterwards()) HandOverCut();
+    if (Is(kCutAfterwards)) HandOverCut();
     Send(clicks);
     host_.control->Custom(14, 0, 0);
     if (own_) CheckSaved(host_, kept_);
-    host_.CheckControl();
+    CheckModifiedBlocks(*host_.control);
   }
 
  private:
+  [[nodiscard]] bool Is(Mode bit) const { return (mode_ & bit) != 0; }
   void CheckReceived() {
     const auto total = static_cast<std::size_t>(Lengths(host_.array).Total());
     const auto here = std::span(host_.array).first(std::min(total, host_.array.size()));
@@ -183,7 +178,7 @@ class Exchange {
   }
 
   DeviceHost host_;
-  Mode mode_;
+  unsigned mode_;
   std::vector<Byte> clicks_;
   std::vector<Byte> kept_;  ///< the array that the control must have
   bool arrived_ = false;
@@ -196,7 +191,6 @@ class Exchange {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quorvel::fuzz;
   ByteSource in({data, size});
-  const Mode mode(in.Next());
-  Exchange(mode, in).Run();
+  Exchange(in).Run();
   return 0;
 }

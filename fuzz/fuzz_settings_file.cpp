@@ -13,27 +13,20 @@ namespace {
 constexpr std::uint32_t kSurveyShare = 1024;
 constexpr std::size_t kStatedLength = 18;
 constexpr std::size_t kSizesLength = 7;
-constexpr std::size_t kTooLong = 32768;
+constexpr std::size_t kLongerThanAny = 32768;
 
-/// What the first two bytes of an input say.
-struct Mode {
-  Mode(Byte first, Byte second) : bits_(first | second << 8) {}
-  [[nodiscard]] bool Combined() const { return Bit(0); }
-  [[nodiscard]] bool ImageBefore() const { return Bit(1); }
-  [[nodiscard]] bool WholeImageHost() const { return Bit(2); }
-  [[nodiscard]] bool Edit() const { return Bit(3); }
-  [[nodiscard]] bool Structured() const { return Bit(4); }
-  [[nodiscard]] bool Send() const { return Bit(5); }
-  /// The host is connected to the device whose file it is.
-  [[nodiscard]] bool SameDevice() const { return Bit(6); }
-  [[nodiscard]] bool ReadFails() const { return Bits(8) == 7; }
-  [[nodiscard]] bool WriteFails() const { return Bits(11) == 7; }
-  [[nodiscard]] bool TooLong() const { return Bits(14) == 3; }
-
- private:
-  [[nodiscard]] bool Bit(int bit) const { return (bits_ >> bit & 1) != 0; }
-  [[nodiscard]] int Bits(int first) const { return bits_ >> first & (first == 14 ? 3 : 7); }
-  int bits_;
+/// What the bits of an input's first two bytes say. What needs several of them happens seldom.
+enum Mode : unsigned {
+  kCombined = 1,
+  kImageBefore = 2,
+  kWholeImageHost = 4,
+  kEdit = 8,
+  kStructured = 16,
+  kSend = 32,
+  kSameDevice = 64,  ///< the host is connected to the device whose file it is
+  kReadFails = 0x0700,
+  kWriteFails = 0x3800,
+  kTooLong = 0xC000,
 };
 
 /// Byte 949 locks the keyboard of older devices; decoding repairs the compression of block 44.
@@ -51,16 +44,16 @@ void CheckKept(std::span<const Byte> before, std::span<const Byte> after, const 
 
 class Restore {
  public:
-  Restore(Mode mode, ByteSource& in, bool survey) : mode_(mode), survey_(survey) {
+  Restore(unsigned mode, ByteSource& in, bool survey) : mode_(mode), survey_(survey) {
     stated_ = in.Padded(kStatedLength);
-    if (mode_.Structured()) {
+    if (Is(kStructured)) {
       const auto image = TakeImage(in, false);
       file_.assign(image.Bytes().begin(), image.Bytes().end());
     } else {
       const auto rest = in.Rest();
       file_.assign(rest.begin(), rest.end());
     }
-    if (mode_.TooLong()) file_.resize(kTooLong);
+    if (Is(kTooLong)) file_.resize(kLongerThanAny);
     host_.desk.files["in"] = file_;
     Prepare(host_);
   }
@@ -68,40 +61,41 @@ class Restore {
   void Run() {
     const auto before = host_.control->Image();
     const int arrivals = host_.arrivals;
-    RestoreFile(host_, "in", mode_.ReadFails());
+    RestoreFile(host_, "in", Is(kReadFails));
     if (host_.arrivals == arrivals) {
       Check(host_.desk.failures_told == 1, "a file is restored or refused");
       Check(host_.control->Image() == before, "a refused file changes nothing");
       return;
     }
-    Check(!mode_.ReadFails() && !mode_.TooLong(), "what cannot be read is not restored");
+    Check(!Is(kReadFails) && !Is(kTooLong), "what cannot be read is not restored");
     Check(host_.control->ModifiedBlocks().empty(), "a file is restored without changes");
     const auto image = host_.control->Image();
     const bool plain = image.size() == file_.size();
     if (plain) CheckKept(file_, image, "a plain file holds the image");
-    if (mode_.Edit()) host_.ChangeGrid(0, stated_.back());
+    if (Is(kEdit)) host_.ChangeGrid(0, stated_.back());
     Save(plain);
-    if (mode_.Send()) SendIt();
-    host_.CheckControl();
+    if (Is(kSend)) SendIt();
+    CheckModifiedBlocks(*host_.control);
   }
 
  private:
+  [[nodiscard]] bool Is(Mode bits) const { return (mode_ & bits) == bits; }
   /// What the host states, and an image that is there before.
   void Prepare(DeviceHost& host) const {
     auto& control = *host.control;
-    if (mode_.ImageBefore()) {
+    if (Is(kImageBefore)) {
       control.HostCommId(1);
       host.device = DefaultImage(1);
       host.GiveWholeImage();
     }
-    control.HostCommId(mode_.WholeImageHost() ? 1 : 0);
+    control.HostCommId(Is(kWholeImageHost) ? 1 : 0);
     control.SaveConnectedInfo(Identity());
-    if (mode_.Combined()) control.FillComboInfo(std::span(stated_).first(kSizesLength));
+    if (Is(kCombined)) control.FillComboInfo(std::span(stated_).first(kSizesLength));
   }
 
   [[nodiscard]] std::vector<Byte> Identity() const {
     constexpr std::size_t kAt = std::size_t{kIdentityBlock - 1} * kBlockSize;
-    if (!mode_.SameDevice() || file_.size() < kAt + kBlockSize) return stated_;
+    if (!Is(kSameDevice) || file_.size() < kAt + kBlockSize) return stated_;
     std::vector<Byte> identity{0};
     identity.insert(identity.end(), file_.begin() + kAt, file_.begin() + kAt + kBlockSize);
     return identity;
@@ -119,20 +113,20 @@ class Restore {
   void Save(bool plain) {
     auto& desk = host_.desk;
     desk.files["out"] = std::vector<Byte>(5000, 'O');
-    desk.disk_fails = mode_.WriteFails();
+    desk.disk_fails = Is(kWriteFails);
     desk.answer_file = [](const FileRequest&) { return "out"; };
     const int failures = desk.failures_told;
     Check(host_.control->Custom(14, 0, 0) == 0, "Custom returns 0");
     desk.disk_fails = false;
     const auto& saved = desk.files["out"];
-    if (mode_.WriteFails()) {
+    if (Is(kWriteFails)) {
       Check(saved.size() == 5000 && desk.failures_told == failures + 1,
             "a file that cannot be written stays as it is");
       return;
     }
     Check(desk.failures_told == failures, "what was restored can be saved");
     const auto image = host_.control->Image();
-    const bool saved_plain = plain && !mode_.Combined();
+    const bool saved_plain = plain && !Is(kCombined);
     if (saved_plain) {
       Check(saved == image, "a plain file is the image");
     } else {
@@ -182,7 +176,7 @@ class Restore {
   }
 
   DeviceHost host_;
-  Mode mode_;
+  unsigned mode_;
   bool survey_;
   std::vector<Byte> stated_;
   std::vector<Byte> file_;
@@ -194,8 +188,8 @@ class Restore {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace quorvel::fuzz;
   ByteSource in({data, size});
-  const quorvel::Byte first = in.Next();
-  const Mode mode(first, in.Next());
+  unsigned mode = in.Next();
+  mode |= in.Next() * 256U;
   Restore(mode, in, IsOneIn(kSurveyShare, {data, size})).Run();
   return 0;
 }

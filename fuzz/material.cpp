@@ -25,13 +25,6 @@ BlockImage TakeImage(ByteSource& in, bool raw) {
   return image;
 }
 
-std::vector<Byte> ImageInput(const BlockImage& image) {
-  const auto identity = image.Block(kIdentityBlock);
-  std::vector<Byte> input{image.BlkCount(), identity[0], identity[1]};
-  input.insert(input.end(), image.Bytes().begin(), image.Bytes().end());
-  return input;
-}
-
 const BlockImage& DefaultImage(int which) {
   static const std::array images = {LoadDefaultImage(104), LoadDefaultImage(301),
                                     LoadDefaultImage(401)};

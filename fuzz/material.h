@@ -12,8 +12,6 @@ namespace quorvel::fuzz {
 /// bytes, with those three put where they belong, so that most inputs can be decoded. `raw`: the
 /// bytes just as they are.
 BlockImage TakeImage(ByteSource& in, bool raw);
-/// The input that TakeImage makes `image` of.
-std::vector<Byte> ImageInput(const BlockImage& image);
 
 /// A factory-default image, 0 to 2, made once.
 const BlockImage& DefaultImage(int which);

@@ -77,15 +77,10 @@ void UseAny(Dialog& dialog, ByteSource& in) {
   }
 }
 
-std::vector<std::string> MenuNames(const PopupMenu& menu) {
-  std::vector<std::string> names;
-  CollectNames(menu.Root(), names);
-  return names;
-}
-
 void UseMenu(Desk& desk, ByteSource& in) {
   if (!desk.MenuIsUp()) return;
-  const auto names = MenuNames(desk.Menu());
+  std::vector<std::string> names;
+  CollectNames(desk.Menu().Root(), names);
   const auto choice = static_cast<std::size_t>(in.Below(static_cast<int>(names.size()) + 1));
   if (choice < names.size()) {
     desk.ChooseMenu(names[choice]);

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <initializer_list>
-#include <string>
-#include <vector>
 
 #include "fuzz/byte_source.h"
 #include "fuzz/desk.h"
@@ -17,9 +15,6 @@ void UseOneOf(Dialog& dialog, std::initializer_list<const char*> names, ByteSour
 
 /// Uses any control of a dialog, or its window's close button. The dialog may be gone afterwards.
 void UseAny(Dialog& dialog, ByteSource& in);
-
-/// The items of a menu in the order in which UseMenu counts them.
-std::vector<std::string> MenuNames(const PopupMenu& menu);
 
 /// Picks an item of the menu that is up, or takes the menu down; nothing when none is up.
 void UseMenu(Desk& desk, ByteSource& in);

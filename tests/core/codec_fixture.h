@@ -4,36 +4,23 @@
 
 #include <algorithm>
 #include <array>
-#include <concepts>
 #include <cstdio>
 #include <map>
 #include <memory>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "core/codec.h"
-#include "core/layout/survey_pass.h"
-#include "tests/core/setting_walk.h"
 
 namespace quorvel {
 
-/// Values by full name, numbers as the record holds them, texts in quotes.
-struct SettingValues {
-  std::map<std::string, std::string, std::less<>> by_name;
-
-  template <class Item>
-  void Setting(int block, Item&& item) {
-    using Value = layout::ValueOf<Item>;
-    if constexpr (std::integral<Value>) {
-      by_name[layout::FullName(item.Owner(), item.Name(), item.EntryIndex())] =
-          std::to_string(+item());
-    } else {
-      const int entry = item.EntryIndex() < 0 ? -1 : block;  // text blocks go by their block
-      by_name[layout::FullName(item.Owner(), item.Name(), entry)] = '"' + std::string(item()) + '"';
-    }
-  }
-  void Device(const char* name, Byte value) { by_name[name] = std::to_string(value); }
-};
+/// The blocks of a list, in its order.
+inline std::vector<int> Listed(const clsBlkSave& list) {
+  std::vector<int> numbers;
+  for (Byte i = 0; i < list.BlkSavIdx(); ++i) numbers.push_back(list.BlkNumSav(i));
+  return numbers;
+}
 
 /// An empty image of a device, and a record decoded from it.
 class Codec : public ::testing::Test {
@@ -75,13 +62,6 @@ class Codec : public ::testing::Test {
     std::ranges::fill(image_.Block(block), Byte{0xEE});
     Encode(block);
     return Hex(block);
-  }
-  /// What the decoder has read: the device's settings, and its bytes about itself.
-  SettingValues Values() {
-    SettingValues values;
-    SettingWalk<SettingValues, false> walk{values, env_.identity.MaxCam};
-    layout::DescribeBlocks(walk, *rec_, env_.identity);
-    return values;
   }
 
   BlockImage image_;

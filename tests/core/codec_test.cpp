@@ -5,15 +5,7 @@
 namespace quorvel {
 namespace {
 
-TEST_F(Codec, ValuesThatADeviceCannotMeanAreRepaired) {
-  const struct { Byte read, repaired; } durations[] = {{0, 1}, {1, 1}, {5, 5}, {6, 1}, {255, 1}};
-  for (const auto& it : durations) {
-    Make(1);
-    image_.Block(59)[13] = it.read;
-    Decode();
-    EXPECT_EQ(rec_->PreAlDuration(), it.repaired);
-  }
-  // What no timed macro can mean leaves the value of before.
+TEST_F(Codec, WhatNoTimedMacroCanMeanLeavesTheValueOfBefore) {
   Make(6);
   Put(65, "08 17 3a 10 00 00 00 00 00 00 00 00 00 00 00 00");
   Decode();
@@ -32,21 +24,6 @@ TEST_F(Codec, TheEncoderWritesUnrepaired) {
   EXPECT_EQ(Rewritten(59), "00 00 00 00 00 00 00 00 00 00 00 00 00 07 00 00");
   EXPECT_EQ(Rewritten(64), "00 00 3b 00 00 00 00 00 00 00 00 00 00 00 00 00");
   EXPECT_EQ(Rewritten(44), "00 00 00 00 00 00 00 00 0c ee ee ee ee ee ee ee");
-}
-
-TEST_F(Codec, YearsOfTwoDigits) {
-  const struct {
-    Byte byte;
-    int year;
-  } years[] = {{0, 2000}, {7, 2007}, {59, 2059}, {60, 1960}, {99, 1999}};
-  Make(6);
-  for (const auto& it : years) {
-    image_.Block(61)[5] = it.byte;
-    Decode();
-    EXPECT_EQ(rec_->TDInfo.CurrentYear(), it.year);
-    Encode(61);
-    EXPECT_EQ(image_.Block(61)[5], it.byte);
-  }
 }
 
 TEST_F(Codec, ModifiedBlocksOnlyAndTheClockOfThePc) {
@@ -70,46 +47,7 @@ TEST_F(Codec, ModifiedBlocksOnlyAndTheClockOfThePc) {
   EXPECT_EQ(env_.blocks.BlkSavIdx(), 2);
 }
 
-TEST_F(Codec, TurboMarksTurnRatesOf0Into99) {
-  Make(6, 10);
-  Put(62, "00 00 07 00 00 00 00 00 00 00 00 00 00 00 00 00");
-  Put(58, "00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00");
-  Put(63, "00 00 00 00 00 00 00 00 00 14 00 00 00 00 00 00");
-  const std::string marks = "01 05 06 02 00 00 03 01 00 00 00 00 00 00 00 00";
-  Put(219, marks);  // camera 10, in byte 2, is none of the device's
-  Decode();
-  Encode(219);
-  EXPECT_EQ(Hex(219), marks);
-  EXPECT_EQ(Rewritten(62), "63 00 07 00 00 00 00 00 00 63 00 00 00 00 00 00");
-  EXPECT_EQ(Rewritten(58), "00 63 00 00 00 00 00 00 00 00 00 00 00 00 00 00");
-  EXPECT_EQ(Rewritten(63), "00 00 00 00 00 00 00 00 63 14 00 00 00 00 00 00");
-  EXPECT_EQ(Rewritten(59), "00 00 00 00 00 00 00 63 00 00 00 00 00 01 00 00");
-  image_.Block(59)[7] = 5;
-  Decode();
-  EXPECT_EQ(rec_->Alarm_Rec_Index(), 5);
-  image_.Block(59)[7] = 0;
-  image_.Block(219)[7] = 2;
-  Decode();
-  EXPECT_EQ(rec_->Alarm_Rec_Index(), 0);
-  EXPECT_EQ(rec_->Rec120sp(), 1);
-  image_.Block(1)[15] = 218;  // Rec120sp is of the image, whether it holds block 219 or not
-  Decode();
-  EXPECT_EQ(rec_->Rec120sp(), 0);
-}
-
-TEST_F(Codec, QualityNibblesAreRepairedInTheImageToo) {
-  Make(6);
-  image_.Block(45)[13] = 1;
-  image_.Block(44)[8] = 0xC3;
-  image_.Block(44)[15] = 0x79;
-  Decode();
-  EXPECT_EQ(rec_->CamInfo(0)->Compress(), 3);
-  EXPECT_EQ(rec_->CamInfo(1)->Compress(), 8);
-  EXPECT_EQ(image_.Block(44)[8], 0x83);
-  EXPECT_EQ(Rewritten(44), "00 00 00 00 00 00 00 00 83 00 00 00 00 00 00 78");
-}
-
-TEST_F(Codec, TitlesAreTrimmedPaddedAndCut) {
+TEST_F(Codec, TitlesArePaddedAndCut) {
   const struct {
     const char* title;
     const char* bytes;
@@ -121,15 +59,6 @@ TEST_F(Codec, TitlesAreTrimmedPaddedAndCut) {
     rec_->CamInfo(14)->title(it.title);
     EXPECT_EQ(Rewritten(15), it.bytes);
   }
-  const std::string of_a_default_image = "43 61 6d 65 72 61 20 30 31 20 20 20 00 ee ee ee";
-  Put(1, "20 20 41 20 42 20 20 20 20 20 20 20 20 00 00 e1");
-  Put(2, of_a_default_image);
-  Put(16, "4e 6f 20 63 61 6d 65 72 61 20 20 20 20 00 00 00");
-  Decode();
-  EXPECT_EQ(rec_->CamInfo(0)->title(), "A B");
-  EXPECT_EQ(rec_->CamInfo(1)->title(), std::string("Camera 01   \0", 13));
-  EXPECT_EQ(rec_->AllCameras()[15].title(), "");
-  EXPECT_EQ(Rewritten(2), of_a_default_image);
 }
 
 TEST_F(Codec, ReadOnlyBlocksAndBlocksBeyondTheImageStay) {
@@ -160,8 +89,16 @@ TEST_F(Codec, RefusesWhatIsNoImageBeforeAnythingChanges) {
   refuse(crowded);
 }
 
-TEST_F(Codec, AnImageWithoutIdentityBlock) {
+TEST_F(Codec, WhatAnImageLeavesOutOfAnEarlierOne) {
   Make(6);
+  image_.Block(219)[0] = 1;
+  image_.Block(45)[13] = 1;
+  image_.Block(44)[8] = 0xC3;
+  Decode();
+  EXPECT_EQ(image_.Block(44)[8], 0x83);  // the repair is made in the image, too
+  image_.Block(1)[15] = 218;  // Rec120sp is of the image, whether it holds block 219 or not
+  Decode();
+  EXPECT_EQ(rec_->Rec120sp(), 0);
   Make(14, 4, 60);
   EXPECT_EQ(env_.identity.MaxCam, 16);
   EXPECT_EQ(env_.identity.ModelCode, 0);
@@ -171,29 +108,13 @@ TEST_F(Codec, AnImageWithoutIdentityBlock) {
   EXPECT_EQ(rec_->CamInfo(15)->SignalGain(), 5);
 }
 
-TEST_F(Codec, IdentityAndRecorderKind) {
+TEST_F(Codec, IdentityBits) {
   Make(0x86, 0);
   EXPECT_EQ(env_.identity.ModelCode, 6);
   EXPECT_TRUE(env_.identity.ExtendedImage);
   Make(19, 16, 224);
   EXPECT_FALSE(env_.identity.ExtendedImage);
   EXPECT_TRUE(env_.identity.PlexarProModel && env_.identity.LumacastModel);
-  const struct {
-    const char* name;
-    Byte kind;
-  } names[] = {{"AB16T", 2},  {"AB16D", 1},  {"AB16DX", 1}, {"AB16TMX", 2},
-               {"AB16DM", 1}, {"AB16T ", 0}, {"XM", 0},     {"", 0}};
-  for (const auto& it : names) {
-    Make(0);
-    WriteIdentityBlock(image_, 16, 0, it.name);
-    image_.Block(182)[8] = 7;
-    Decode();
-    EXPECT_EQ(env_.identity.RecorderKind, it.kind) << it.name;
-  }
-  Make(6);
-  image_.Block(182)[8] = 7;
-  Decode();
-  EXPECT_EQ(env_.identity.RecorderKind, 7);
 }
 
 }  // namespace

@@ -1,19 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <stdexcept>
-#include <vector>
 
-#include "core/record/mux_data.h"
+#include "tests/core/codec_fixture.h"
 
 namespace quorvel {
 namespace {
-
-std::vector<int> Listed(const clsBlkSave& list) {
-  std::vector<int> numbers;
-  for (Byte i = 0; i < list.BlkSavIdx(); ++i) numbers.push_back(list.BlkNumSav(i));
-  return numbers;
-}
 
 TEST(ModifiedBlocks, DistinctInOrderOfFirstChange) {
   clsBlkSave list;
@@ -105,20 +95,6 @@ TEST(Record, ReplacingAnElementCopiesItsSettingsOnly) {
   record->CamInfo(5)->SignalGain(1);
   EXPECT_EQ(Listed(env.blocks), (std::vector<int>{47}));
   EXPECT_EQ(Listed(other_env.blocks), (std::vector<int>{}));
-}
-
-TEST(Record, EventSettingsUnpack) {
-  RecordEnvironment env;
-  clsEvents events(env, 0);
-  const struct {
-    Byte packed, pre, link, type;
-  } cases[] = {{0xD5, 5, 1, 2}, {0x80, 0, 0, 0}, {0x40, 0, 0, 1}, {0x7F, 7, 1, 1}};
-  for (const auto& it : cases) {
-    events.EventSettings(it.packed);
-    EXPECT_EQ(events.PreEvDuration(), it.pre);
-    EXPECT_EQ(events.LnkToEvent(), it.link);
-    EXPECT_EQ(events.EType(), it.type);
-  }
 }
 
 }  // namespace

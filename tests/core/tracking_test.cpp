@@ -1,74 +1,78 @@
-#include <array>
+#include <concepts>
+#include <fstream>
 #include <map>
 #include <set>
-#include <sstream>
-#include <string>
-#include <vector>
 
+#include "core/layout/blocks.h"
+#include "core/layout/survey_pass.h"
 #include "tests/core/codec_fixture.h"
 
 namespace quorvel {
 namespace {
 
-struct FlagRow {
-  int flag;
-  const char* settings;
-};
-constexpr int kNever = -1;
-
-const FlagRow kFlags[] = {
-    {CommitTimeDate,
-     "TransmitSpiTime TDInfo.NTPUpdate TDInfo.NTPPrimServer TDInfo.NTPBkupServer "
-     "TDInfo.DaylightRegion TDInfo.TimeZoneIdx TDInfo.TDDisplay TDInfo.CurrentDay "
-     "TDInfo.CurrentMonth TDInfo.CurrentYear TDInfo.CurrentHour TDInfo.CurrentMin "
-     "TDInfo.CurrentSec TDInfo.TimeFormat TDInfo.DateFormat"},
-    {CommitSequence, "MultiDwell FullDwell MatrixInfo.GroupSetup MatrixInfo.GroupSwEnable"},
-    {CommitRecord,
-     "Rec120sp DvrRecMode RecLock Alarm_Rec_Index CamInfo.Compress CamEvent.EvAssociated "
-     "CamEvent.PostEvDuration CamEvent.PreEvDuration CamEvent.LnkToEvent CamEvent.EType "
-     "CamEvent.Act_RRIndex CamEvent.TL_RRIndex CamEvent.Event_RRIndex MRecTimer.RTdate "
-     "MRecTimer.RTstart_hh MRecTimer.RTstart_mm MRecTimer.RTstop_hh MRecTimer.RTstop_mm "
-     "MRecTimer.RTmacrolnk MRecTimer.RTstatus MRecTimer.RTvalid"},
-    {CommitAlarm,
-     "PreAlDuration DvrArchAlm Buzzer Relay1Conf Relay2Conf FullscrAlm AlmRecMode AlarmMode "
-     "AlarmTimeOut AlarmInfo.MacroLnk AlarmInfo.VlBuzzer AlarmInfo.VlRelay2 AlarmInfo.VlRelay1 "
-     "AlarmInfo.ExtAlmAction AlarmInfo.InputConf AlarmInfo.Enable AlmActionInfo.GateIntrus "
-     "AlmActionInfo.Preset3 AlmActionInfo.Preset2 AlmActionInfo.Preset1 AlmActionInfo.Preset0 "
-     "AlmActionInfo.Display3 AlmActionInfo.Display2 AlmActionInfo.Display1 AlmActionInfo.Display0 "
-     "AlmActionInfo.Relay AlmActionInfo.Freeze AlmEmailNotify.TCPNotify AlmEmailNotify.TCPPort "
-     "AlmEmailNotify.TCPInterval AlmEmailNotify.TCPHost AlmEmailNotify.TCPBkUpHost "
-     "AlmEmailNotify.SMTPServer AlmEmailNotify.SMTPPort AlmEmailNotify.EmailNotify "
-     "AlmEmailNotify.BlkStrInit MatrixInfo.AuxMonitor"},
-    {CommitMacro,
-     "TimeMacroInfo.MacroNum TimeMacroInfo.Minute TimeMacroInfo.Hour TimeMacroInfo.Day "
-     "SubMacroInfo.SMacroByte SubMacroInfo.SMacroLen"},
-    {CommitMotion,
-     "ActIndicate ActivityType ActivityEnable CamInfo.Reject CamInfo.Relay CamInfo.size "
-     "CamInfo.LnkALM CamInfo.Sensitivity CamInfo.Rate"},
-    {CommitCamera,
-     "PubMonitor SVHS_MonB FullScrResolution AutoDisable TitleDisplay CamInfo.TextPos "
-     "CamInfo.SignalGain CamInfo.covert CamInfo.disable CamInfo.color"},
-    {CommitComm, "NetworkAddr BaudRatePPC BaudRate"},
-    {CommitArchive, "ArchPortSelect LumacastCDW DvrArchiveOn DvrArchiveSet"},
-    {CommitMenu, "MuxLang LockKeyBoard"},
-    {CommitTelemetry, "TelAC_DC TelEnable PresetPGM PresetMode Tel_options"},
-    {CommitVCR, "PlaybackOld VCR_Signal_Level SwitchEdge ExtCam_SwAct VCRType PlaybackFormat"},
-    {kNever,
-     "Normal_Rec_Index RecSeqLst CamInfo.ActGrid CamInfo.VidLoss CamInfo.title TDInfo.NTPchange "
-     "AlmEmailNotify.AlmServerChange"},
-};
-
-/// The commit flag of every setting; of two it depends on the model.
+/// The commit flag of every setting, from commit_flags.txt, where they stand in their order;
+/// kCommitFlagCount for none.
 std::map<std::string, int> FlagsBySetting(int code) {
   std::map<std::string, int> flags;
-  for (const FlagRow& row : kFlags) {
-    std::istringstream names(row.settings);
-    for (std::string name; names >> name;) flags[name] = row.flag;
+  std::ifstream file(QUORVEL_SOURCE_DIR "/tests/core/commit_flags.txt");
+  int flag = -1;
+  for (std::string word; file >> word;) {
+    if (word == "#") {
+      std::getline(file, word);
+    } else if (word.ends_with(':')) {
+      ++flag;
+    } else {
+      flags[word] = flag;
+    }
   }
-  flags["PlayDwell"] = code == 0 ? CommitSequence : kNever;
-  flags["PlayRecLnk"] = code == 0 ? CommitMacro : code >= 6 ? CommitRecord : kNever;
+  flags["PlayDwell"] = code == 0 ? CommitSequence : kCommitFlagCount;
+  flags["PlayRecLnk"] = code == 0  ? CommitMacro
+                        : code < 6 ? kCommitFlagCount
+                                   : static_cast<int>(CommitRecord);
   return flags;
 }
+
+/// A pass over the layouts of a 16-camera device, as the encoder's, that hands on each setting; of
+/// long runs every fifth.
+template <class Visitor>
+class SettingPass {
+ public:
+  static constexpr bool kReading = false;
+  static constexpr bool kWriting = true;
+
+  SettingPass(Visitor& visitor, int block) : visitor_(visitor), block_(block) {}
+
+  void Byte(int, auto&& item) { visitor_.Setting(block_, item); }
+  void ByteBelow(int, int, auto&& item) { Byte(0, item); }
+  void Coded(int, int, auto& item, auto, auto) { Byte(0, item); }
+  void CodedBytes(int, int count, int, auto items, auto, auto) { Bytes(0, count, items); }
+  void ChangeMask(int, auto& item) { Byte(0, item); }
+  void Elsewhere(int, int, auto&) {}
+  void Device(int, std::uint8_t&, const char*) {}
+  void Rebuilt(int, int) {}
+  void Flag(int, auto& item) { Byte(0, item); }
+  void BitFlags(int, auto&... items) { (Byte(0, items), ...); }
+  template <class Array>
+  void Bits(int, Array& array, int written = Array::kSize) {
+    Bytes(0, written, layout::Each(array));
+  }
+  void CameraBits(int, auto items, layout::Sense = {}) { CameraBytes(items); }
+  void CameraPairs(int, auto items) { CameraBytes(items); }
+  void CameraNibbles(int, auto items) { CameraBytes(items); }
+  void CameraBytes(auto items) { Bytes(0, 16, items); }
+  void Bytes(int, int count, auto items) {
+    for (int k = 0; k<count; k += count> 5 ? 5 : 1) Byte(0, items[k]);
+  }
+  void Word(int, auto& item) { Byte(0, item); }
+  void PaddedText(int, int, auto& item) { Byte(0, item); }
+  void ZeroEndedText(int, int, auto&& item) { Byte(0, item); }
+  void CameraMarks(int, auto, int) {}
+  void Mark(int, auto&, int) {}
+
+ private:
+  Visitor& visitor_;
+  int block_;
+};
 
 /// Changes one setting after the other through its setter, and compares the blocks that it lists
 /// with those whose bytes change.
@@ -86,7 +90,13 @@ class TrackingCheck {
   Identity& identity() { return env_.identity; }
   const std::set<std::string>& seen() const { return seen_; }
 
-  void Device(const char* /*name*/, Byte /*value*/) {}
+  void Block(int number, const auto& visit) {
+    SettingPass<TrackingCheck> pass(*this, number);
+    visit(pass);
+  }
+  void Blocks(int first, int count, const auto& visit) {
+    for (int i = 0; i < count; ++i) Block(first + i, [&](auto& pass) { visit(pass, i); });
+  }
   template <class Item>
   void Setting(int block, Item&& item) {
     if constexpr (requires { item.array; }) {
@@ -121,7 +131,7 @@ class TrackingCheck {
       const CommitScope scope(env_.commit, static_cast<CommitFlag>(raised));
       set(Other(old));
       const auto expected = raised == flag->second ? Together(block) : std::vector<int>{};
-      EXPECT_EQ(Listed(), expected) << "under flag " << raised;
+      EXPECT_EQ(Listed(env_.blocks), expected) << "under flag " << raised;
       env_.blocks.SetMaxBlk(225);
       set(Other(old));  // the value that it has
       EXPECT_EQ(env_.blocks.BlkSavIdx(), 0) << "under flag " << raised;
@@ -135,11 +145,6 @@ class TrackingCheck {
     if (!text) return {block};
     const int first = block - (block - (block >= 220 ? 220 : 201)) % 3;
     return {first, first + 1, first + 2};
-  }
-  std::vector<int> Listed() const {
-    std::vector<int> numbers;
-    for (Byte i = 0; i < env_.blocks.BlkSavIdx(); ++i) numbers.push_back(env_.blocks.BlkNumSav(i));
-    return numbers;
   }
   std::vector<int> ChangedByEncoding() {
     BlockImage encoded = image_;
@@ -163,8 +168,7 @@ TEST(Tracking, EverySetterListsTheBlockWhoseBytesChange) {
   for (const int code : {0, 1, 5, 6, 14, 18}) {
     SCOPED_TRACE("code " + std::to_string(code));
     TrackingCheck check(code);
-    SettingWalk<TrackingCheck, true> walk{check, 16, 5};
-    layout::DescribeBlocks(walk, check.rec(), check.identity());
+    layout::DescribeBlocks(check, check.rec(), check.identity());
     seen.insert(check.seen().begin(), check.seen().end());
   }
   for (const auto& [name, flag] : FlagsBySetting(0)) {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "core/bit_fields.h"
 #include "tests/host/test_host.h"
 
 namespace quorvel {
@@ -10,28 +9,13 @@ namespace {
 class Combined : public ::testing::Test {
  protected:
   void SetUp() override {
-    host_.control->FillComboInfo(std::vector<Byte>{0, 4, 2, 0, 200, 5, 6});
+    host_.StateSizes();
     host_.combo = ArrayOf(host_.device, {0, 13, 0x0C, 0x80, 0, 8, 0, 4, 2, 0, 200, 5, 6});
   }
   static std::vector<Byte> ArrayOf(const BlockImage& image, std::vector<Byte> header) {
     header.insert(header.end(), image.Bytes().begin(), image.Bytes().end());
     for (const Byte macro : {1, 2, 3, 4, 5, 6, 7, 8}) header.push_back(macro);
     return header;
-  }
-  /// Makes the device one of 225 blocks.
-  void Extend(Byte model_code) {
-    host_.Identify(16, model_code);
-    host_.device.ResizeBlocks(225);
-    host_.device.Block(1)[15] = 225;
-  }
-  void Receive225() {
-    host_.combo = ArrayOf(host_.device, {0, 13, 0x0E, 0x10, 0, 8, 0, 4, 2, 0, 225, 5, 6});
-    host_.Download();
-  }
-  void EditTitle(int camera, const char* title) {
-    auto& editor = host_.OpenCameraSetup();
-    editor.Find<TextBox>("m_CameraTitle(" + std::to_string(camera) + ")").Type(title);
-    editor.Find<Button>("cmd_OK").Click();
   }
   struct Choice {
     bool modified = false;
@@ -71,29 +55,6 @@ class Combined : public ::testing::Test {
   bool clear_was_offered_ = false;
 };
 
-TEST_F(Combined, ReceivesEverythingInOneCall) {
-  for (const bool sync : {false, true}) {
-    host_.sync = sync;
-    host_.log.clear();
-    bool opened = false;
-    host_.platform.at_modal = [&opened](Dialog& dialog) {
-      if (!dialog.Find<Button>("cmdOK").Enabled()) return false;
-      opened = true;
-      EXPECT_EQ(dialog.Find<Label>("Label3").Caption(), "3221");
-      EXPECT_EQ(dialog.Find<Label>("Label4").Caption(), "Finished");
-      EXPECT_EQ(dialog.Find<ProgressBar>("prgBar1").Maximum(), 200);
-      EXPECT_EQ(dialog.Find<ProgressBar>("prgBar1").Value(), 200);
-      EXPECT_TRUE(dialog.Find<Button>("cmdSaveFile").Enabled());
-      return dialog.CloseWindow() == Answer::kDone;
-    };
-    host_.control->Custom(10, 0, 0);
-    EXPECT_TRUE(opened);
-    EXPECT_EQ(host_.log, (std::vector<std::string>{"RequestComboBlocks", "UploadSucceeded"}));
-  }
-  EXPECT_EQ(host_.control->Settings("MaxCam").size() + host_.control->Settings().size() > 100,
-            true);
-}
-
 TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
   const struct {
     const char* name;
@@ -113,7 +74,7 @@ TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
       SetUp();
       if (had_image) {
         host_.Download();
-        EditTitle(3, "Typed");
+        host_.EditTitle(3, "Typed");
       }
       const auto before = host_.control->Image();
       host_.log.clear();
@@ -145,31 +106,17 @@ TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
 
 TEST_F(Combined, ALateOrSecondArrayUndoesNothing) {
   host_.Download();
-  EditTitle(0, "Typed");
-  host_.control->FillComboBlk(host_.combo);
-  EXPECT_EQ(host_.Modified(), std::vector<int>{1});
+  host_.EditTitle(0, "Typed");
+  host_.control->FillComboBlk(host_.combo);  // a second time
   EXPECT_EQ(host_.Count("UploadSucceeded"), 1);
   EXPECT_EQ(host_.control->Settings("CamInfo(0).title").at(0).value, "\"Typed\"");
-}
-
-TEST_F(Combined, WithoutAnAnswerThePresentImageStays) {
-  host_.Download();
-  EditTitle(0, "Typed");
-  auto answer = std::exchange(host_.combo, {});
+  const auto answer = std::exchange(host_.combo, {});
   host_.control->Custom(10, 0, 0);  // the dialog is closed when nothing more happens
+  host_.control->FillComboBlk(answer);
   EXPECT_EQ(host_.Modified(), std::vector<int>{1});
   EXPECT_EQ(Send({.modified = true}), "\"Upload block number :\" | \"1\" | \"Finished\"");
   EXPECT_EQ(host_.sent, (std::vector<int>{1, 255}));
   EXPECT_EQ(host_.device.Block(1)[0], 'T');
-}
-
-TEST_F(Combined, AnArrayThatComesAfterTheDialogWasClosedUndoesNothing) {
-  host_.Download();
-  const auto late = std::exchange(host_.combo, {});
-  host_.control->Custom(10, 0, 0);
-  EditTitle(0, "Typed");
-  host_.control->FillComboBlk(late);
-  EXPECT_EQ(host_.Modified(), std::vector<int>{1});
 }
 
 /// The blocks that are not listed travel as well: they must be this unit's.
@@ -178,8 +125,8 @@ TEST_F(Combined, AnArrayOfAnotherUnitIsNotSent) {
   host_.device.Block(5)[0] = 'B';
   host_.control->SaveConnectedInfo(std::vector<Byte>{0, 16, 6, 'T'});
   host_.Download();
-  host_.control->FillComboInfo(std::vector<Byte>{0, 4, 2, 0, 200, 5, 6});
-  EditTitle(0, "Lobby");
+  host_.StateSizes();
+  host_.EditTitle(0, "Lobby");
   Send({.modified = true, .macros = true});
   EXPECT_EQ(SentByte(5, 0), 'B');
   EXPECT_EQ(host_.sent_combo.size(), 3213U);  // the other unit's macros stay away, too
@@ -187,7 +134,7 @@ TEST_F(Combined, AnArrayOfAnotherUnitIsNotSent) {
 
 TEST_F(Combined, SendsWhatIsIncluded) {
   host_.Download();
-  EditTitle(0, "Lobby");
+  host_.EditTitle(0, "Lobby");
   auto expected = host_.combo;
   std::ranges::copy(std::string("Lobby        "), expected.begin() + 13);
   auto with_macros = expected;
@@ -218,30 +165,6 @@ TEST_F(Combined, SendsWhatIsIncluded) {
   EXPECT_EQ(host_.Modified(), std::vector<int>{1});
 }
 
-/// A send of single packets is stopped after both boxes have been cleared.
-TEST_F(Combined, StopDoesNotOfferToSendNothing) {
-  host_.Download();
-  EditTitle(0, "Lobby");
-  int step = 0;
-  host_.acknowledge = false;
-  host_.platform.at_modal = [&](Dialog& dialog) {
-    switch (step++) {
-      case 0:
-        dialog.Find<OptionButton>("optBlk(1)").Click();
-        dialog.Find<Button>("cmdOK").Click();
-        dialog.Find<CheckBox>("chkMacro(1)").Click();
-        dialog.Find<Button>("cmdStop").Click();
-        EXPECT_FALSE(dialog.Find<Button>("cmdOK").Enabled());
-        dialog.Find<CheckBox>("chkMacro(0)").Click();
-        EXPECT_TRUE(dialog.Find<Button>("cmdOK").Enabled());
-        return true;
-      default: return dialog.CloseWindow() == Answer::kDone;
-    }
-  };
-  host_.control->Custom(11, 0, 0);
-  EXPECT_EQ(step, 2);
-}
-
 TEST_F(Combined, MacrosOfAnotherSizeAreSentWhenTheUserAgrees) {
   host_.Download();
   host_.control->FillComboInfo(std::vector<Byte>{0, 5, 2, 0, 200, 5, 6});
@@ -257,46 +180,6 @@ TEST_F(Combined, MacrosOfAnotherSizeAreSentWhenTheUserAgrees) {
     EXPECT_EQ(messages[0].buttons, Message::Buttons::kOkCancel);
     EXPECT_EQ(host_.sent_combo.size(), agreed ? 3221U : 0U);
   }
-}
-
-TEST_F(Combined, ASendOfAllBlocksIsFixedUp) {
-  const struct {
-    Byte model_code;
-    Byte list_layout;
-  } cases[] = {{6, 7}, {8, 1}, {18, 7}};
-  for (const auto& it : cases) {
-    Extend(it.model_code);
-    auto turbo = host_.device.Block(219);
-    turbo[0] = 1;     // turbo recording
-    turbo[1] = 0x01;  // time-lapse of camera 0
-    turbo[4] = 0x80;  // event of camera 15
-    turbo[5] = 0x02;  // activity of camera 1
-    turbo[7] = 1;     // alarm
-    for (const int block : {62, 58, 63}) {
-      const auto rates = host_.device.Block(block);
-      std::fill(rates.begin(), rates.end(), Byte{0});
-    }
-    host_.device.Block(63)[1] = 5;  // a rate that is none of turbo's
-    host_.device.Block(59)[7] = 0;
-    Receive225();
-    Send({});
-    SCOPED_TRACE(int{it.model_code});
-    EXPECT_EQ(SentByte(61, 15), 1);
-    EXPECT_EQ(SentByte(213, 0), it.list_layout);
-    EXPECT_EQ(SentByte(217, 0), 3);
-    const Byte rate = it.model_code == 18 ? 99 : 0;
-    EXPECT_EQ(SentByte(62, 0), rate);
-    EXPECT_EQ(SentByte(62, 1), 0);
-    EXPECT_EQ(SentByte(58, 15), rate);
-    EXPECT_EQ(SentByte(63, 1), 5);
-    EXPECT_EQ(SentByte(59, 7), rate);
-  }
-}
-
-TEST_F(Combined, NothingIsSentWithoutAnImage) {
-  Send({});
-  EXPECT_EQ(host_.OnlyMessage(), "The current data does not match the data of the remote device");
-  EXPECT_TRUE(host_.sent_combo.empty());
 }
 
 }  // namespace

@@ -55,67 +55,56 @@ TEST(Control, PropertiesAndSurface) {
   EXPECT_EQ(CreateControl("Quorvel.Other", host.platform, host), nullptr);
 }
 
-TEST(Control, ActivityGrids) {
+TEST(Control, GridsOfNoCameraAreNeitherGivenNorTaken) {
   TestHost host;
   host.Download();
-  std::vector<Byte> grid(33);
-  host.control->Custom(17, 2, 0);
-  ASSERT_EQ(host.grid.size(), 32U);
-  std::copy(host.grid.begin(), host.grid.end(), grid.begin() + 1);
-  grid[0] = 2;
-  grid[1 + 30] ^= 1;
-  grid[1 + 3] ^= 1;
-  host.control->UpdateActGrid(grid);
-  host.control->UpdateActGrid(grid);
-  EXPECT_EQ(host.Modified(), (std::vector<int>{89, 90}));
-  host.control->Custom(17, 2, 0);
-  EXPECT_TRUE(std::equal(host.grid.begin(), host.grid.end(), grid.begin() + 1));
-
-  host.grid.clear();
   host.control->Custom(17, 16, 0);
-  grid[0] = 16;
-  host.control->UpdateActGrid(grid);
+  host.control->UpdateActGrid(std::vector<Byte>(33, 16));
+  host.control->UpdateActGrid(std::vector<Byte>(32, 2));
   host.control->UpdateActGrid({});
   EXPECT_TRUE(host.grid.empty());
-  EXPECT_EQ(host.Modified(), (std::vector<int>{89, 90}));
+  EXPECT_TRUE(host.Modified().empty());
 }
 
 TEST(Control, MayBeDestroyedInAnyEvent) {
-  for (const char* event :
+  for (const std::string event :
        {"RequestBlk 1", "RequestBlk 9", "UploadSucceeded", "ULSucceededWithStr TX16 6 16",
-        "DownLoadData 1", "DownLoadData 255", "ActGridPop 16", "ActGridData", "Click"}) {
+        "DownLoadData 1", "DownLoadData 255", "ActGridPop 16", "ActGridData", "Click",
+        "RequestComboBlocks", "SendComboBlocks 3213", "RequestBlk 183", "RequestBlk 185"}) {
     for (const bool sync : {false, true}) {
       SCOPED_TRACE(event);
       TestHost host;
       host.sync = sync;
+      if (event.find("Combo") != std::string::npos || event.starts_with("RequestBlk 18")) {
+        host.control->FillComboInfo(std::vector<Byte>{0, 4, 0, 0, 200, 5, 6});
+        host.combo = {0, 13, 0x0C, 0x80, 0, 0, 0, 4, 0, 0, 200, 5, 6};
+        host.combo.insert(host.combo.end(), host.device.Bytes().begin(), host.device.Bytes().end());
+      }
       host.act_in = event;
       host.act = [&host] {
         host.control.reset();
         throw std::runtime_error("and the host fails");
       };
-      const bool whole = std::string_view(event).starts_with("UL");
-      if (whole) {
+      if (event.starts_with("UL")) {
         host.control->HostCommId(1);
         std::vector<Byte> image(host.device.Bytes().begin(), host.device.Bytes().end());
         image.push_back(0);
         host.control->FillDataBlk(image);
-      } else {
-        host.Download();
       }
-      if (host.control) {
-        host.OpenMenu();
-        host.platform.ChooseMenu("mnuActGrid");
-      }
-      if (host.control) host.control->Custom(17, 0, 0);
-      if (host.control) host.control->Surface().Click();
-      if (host.control) {
-        host.platform.at_modal = [](Dialog& dialog) {
-          return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
-        };
-        host.control->Custom(11, 0, 0);
+      const std::function<void()> steps[] = {[&host] { host.Download(); },
+                                             [&host] {
+                                               host.OpenMenu();
+                                               host.platform.ChooseMenu("mnuActGrid");
+                                             },
+                                             [&host] { host.control->Custom(17, 0, 0); },
+                                             [&host] { host.control->Surface().Click(); },
+                                             [&host] { host.CommandWithOk(11); },
+                                             [&host] { host.control->Custom(16, 0, 0); }};
+      for (const auto& step : steps) {
+        if (host.control) step();
+        host.platform.RunUntilIdle();
       }
       EXPECT_EQ(host.control, nullptr);
-      host.platform.RunUntilIdle();
       EXPECT_TRUE(host.platform.Windows().empty());
       EXPECT_TRUE(host.platform.TakeMessages().empty());
     }
@@ -132,75 +121,38 @@ TEST(Control, AHostThatFailsInAnEventIsToldAndTheSequenceCanBeRepeated) {
   EXPECT_EQ(host.Count("UploadSucceeded"), 2);
 }
 
-TEST(Control, MayBeDestroyedInTheEventsOfTheCombinedExchangeAndOfDefaults) {
-  for (const char* event :
-       {"RequestComboBlocks", "SendComboBlocks 3213", "RequestBlk 183", "RequestBlk 185"}) {
-    for (const bool sync : {false, true}) {
-      SCOPED_TRACE(event);
-      TestHost host;
-      host.sync = sync;
-      host.control->FillComboInfo(std::vector<Byte>{0, 4, 0, 0, 200, 5, 6});
-      host.combo = {0, 13, 0x0C, 0x80, 0, 0, 0, 4, 0, 0, 200, 5, 6};
-      host.combo.insert(host.combo.end(), host.device.Bytes().begin(), host.device.Bytes().end());
-      host.act_in = event;
-      host.act = [&host] {
-        host.control.reset();
-        throw std::runtime_error("and the host fails");
-      };
-      host.Download();
-      if (host.control && event[0] == 'S') {
-        host.platform.at_modal = [](Dialog& dialog) {
-          return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
-        };
-        host.control->Custom(11, 0, 0);
-      } else if (host.control) {
-        host.control->Custom(16, 0, 0);
-      }
-      host.platform.RunUntilIdle();
-      EXPECT_EQ(host.control, nullptr);
-      EXPECT_TRUE(host.platform.Windows().empty());
-      EXPECT_TRUE(host.platform.TakeMessages().empty());
-    }
-  }
-}
-
-/// A source of texts that, asked for the time `at`, gives a command or, for 0, destroys the
-/// control.
+/// A source of texts that does something each time it is asked.
 class MeddlingSource : public AutomationObject {
  public:
-  MeddlingSource(TestHost& host, int command, int at) : host_(host), command_(command), at_(at) {}
+  explicit MeddlingSource(std::function<void()> act) : act_(std::move(act)) {}
   std::string Call(std::string_view, std::int32_t) override {
-    if (host_.control == nullptr || --at_ != 0) return "X";
-    if (command_ == 0) {
-      host_.control.reset();
-    } else {
-      host_.control->Custom(static_cast<std::int16_t>(command_), 0, 0);
-    }
+    act_();
     return "X";
   }
 
  private:
-  TestHost& host_;
-  int command_;
-  int at_;
+  std::function<void()> act_;
 };
 
+/// For the text asked for as the `at`th; 0 is the destruction.
 TEST(Control, ATextSourceMayGiveCommandsOrDestroyTheControl) {
-  for (const int meddling : {0, 10, 11, 12, 16}) {
+  for (const std::int16_t meddling : {0, 10, 11, 12, 16}) {
     for (const std::int16_t command : {10, 11, 12, 14, 15, 16}) {
       for (const int at : {1, 2, 3, 5, 8, 13, 21, 34}) {
         TestHost host;
         host.platform.files["x"].assign(host.device.Bytes().begin(), host.device.Bytes().end());
         host.Download();
         host.platform.AnswerNextFile("x");
-        host.platform.Classes().Register("Source", [&host, meddling, at] {
-          return std::make_shared<MeddlingSource>(host, meddling, at);
-        });
-        host.control->CustomWithString(191, 0, 0, "Source");
-        host.platform.at_modal = [](Dialog& dialog) {
-          return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+        int asked = 0;
+        const auto meddle = [&] {
+          if (host.control == nullptr || ++asked != at) return;
+          if (meddling != 0) host.control->Custom(meddling, 0, 0);
+          if (meddling == 0) host.control.reset();
         };
-        if (host.control) host.control->Custom(command, 0, 0);
+        host.platform.Classes().Register(
+            "Source", [meddle] { return std::make_shared<MeddlingSource>(meddle); });
+        host.control->CustomWithString(191, 0, 0, "Source");
+        if (host.control) host.CommandWithOk(command);
         host.platform.RunUntilIdle();
         EXPECT_TRUE(host.platform.Windows().empty()) << meddling << " in " << command;
       }
@@ -213,9 +165,7 @@ TEST(Control, TwoControlsEditTwoDevices) {
   TestHost second(301);
   first.Download();
   second.Download();
-  auto& editor = first.OpenCameraSetup();
-  editor.Find<TextBox>("m_CameraTitle(0)").Type("First");
-  editor.Find<Button>("cmd_OK").Click();
+  first.EditTitle(0, "First");
   EXPECT_EQ(first.Modified(), std::vector<int>{1});
   EXPECT_TRUE(second.Modified().empty());
   second.OpenMenu();
@@ -272,6 +222,7 @@ TEST_F(Identities, OfARestoredImageMustFit) {
                {"MX", 20, 16, 21, "MX", false},
                {"Vaultline Adv  ", 12, 16, 13, "Vaultline Pro", true},
                {"Vaultline Pro", 12, 16, 12, "Vaultline Adv", true},
+               {"  Vaultline Pro ", 6, 16, 6, "Vaultline Adv", true},
                {"Vaultline Adv", 12, 16, 12, "Vaultline", false}};
   for (const auto& it : cases) {
     Connect(16, it.connected_code, it.connected_name);

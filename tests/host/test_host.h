@@ -43,13 +43,25 @@ class TestHost : public MainMenuEvents {
     control = std::make_unique<MainMenuCtrl>(platform, *this);
     control->InitProperties();
   }
-  /// Command 10, as somebody does who waits for the end and presses OK.
-  void Download() {
+  /// Gives a command that opens a modal dialog, in which somebody presses OK as soon as he can.
+  void CommandWithOk(std::int16_t command) {
     platform.at_modal = [](Dialog& dialog) {
       return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
     };
-    control->Custom(10, 0, 0);
+    control->Custom(command, 0, 0);
     platform.at_modal = nullptr;
+  }
+  void Download() { CommandWithOk(10); }
+  /// True when command 11 opens its dialog, which is closed again.
+  bool SendOpens() {
+    bool opened = false;
+    platform.at_modal = [&opened](Dialog& dialog) {
+      opened = true;
+      return dialog.CloseWindow() == Answer::kDone;
+    };
+    control->Custom(11, 0, 0);
+    platform.at_modal = nullptr;
+    return opened;
   }
   /// Command 15 and the popup.
   void OpenMenu(std::int32_t link = 1) {
@@ -61,9 +73,27 @@ class TestHost : public MainMenuEvents {
     platform.ChooseMenu("mnu_CSetup");
     return platform.Window("frm_CameraSetup");
   }
+  void EditTitle(int camera, const char* title) {
+    auto& editor = OpenCameraSetup();
+    editor.Find<TextBox>("m_CameraTitle(" + std::to_string(camera) + ")").Type(title);
+    editor.Find<Button>("cmd_OK").Click();
+  }
+  /// States the sizes of the combined exchange: 2 macro records of 4 bytes.
+  void StateSizes(Byte blocks = 200) {
+    control->FillComboInfo(std::vector<Byte>{0, 4, 2, 0, blocks, 5, 6});
+  }
   void Identify(Byte cameras, Byte model_code, Byte variant = '4') {
     WriteIdentityBlock(device, cameras, model_code, "UNIT 1");
     device.Block(183)[7] = variant;
+  }
+
+  /// Hands over a block of the device, asked for or not.
+  void Give(int number, std::size_t length = 1 + kBlockSize) {
+    std::vector<Byte> reply{static_cast<Byte>(number)};
+    const auto block = device.Block(number);
+    reply.insert(reply.end(), block.begin(), block.end());
+    reply.resize(length);
+    control->FillDataBlk(reply);
   }
 
   void RequestBlk(std::uint8_t blknum) override {
@@ -154,12 +184,8 @@ class TestHost : public MainMenuEvents {
   }
   void Reply(Byte number) {
     if (control == nullptr || !device.Holds(number)) return;
-    std::vector<Byte> reply{number};
-    const auto block = device.Block(number);
     // Block 1 is whole, so that the count is known.
-    const auto bytes = number == 1 ? std::size_t{kBlockSize} : reply_bytes;
-    reply.insert(reply.end(), block.begin(), block.begin() + static_cast<std::ptrdiff_t>(bytes));
-    control->FillDataBlk(reply);
+    Give(number, 1 + (number == 1 ? std::size_t{kBlockSize} : reply_bytes));
   }
 };
 

@@ -6,7 +6,6 @@
 #include <fstream>
 
 #include "quorvel/platform.h"
-#include "tests/temp_path.h"
 
 namespace quorvel {
 namespace {
@@ -26,7 +25,9 @@ class WholeFiles : public ::testing::Test {
   }
 
   const std::vector<std::uint8_t> bytes_{0, 13, 10, 255};
-  fs::path folder_ = fs::path(TempPath("folder"));
+  fs::path folder_ =
+      fs::path(::testing::TempDir()) /
+      ("quorvel_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
 };
 
 TEST_F(WholeFiles, ReplaceWholeAndLeaveNothingElse) {

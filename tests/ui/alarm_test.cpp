@@ -20,21 +20,6 @@ class Alarm : public ::testing::Test {
   TestHost host_;
 };
 
-TEST_F(Alarm, OpenAndOkMarksNothingOnAnyModel) {
-  for (const int resource : {104, 301, 401}) {
-    host_.device = LoadDefaultImage(resource);
-    const int first = resource == 104 ? 0 : resource == 301 ? 2 : 6;
-    const int last = resource == 104 ? 1 : resource == 301 ? 5 : 20;
-    for (int code = first; code <= last; ++code) {
-      for (const char variant : {'4', '0', '1', '2', 'A', 'C'}) {
-        host_.Identify(code % 2 == 0 ? 16 : 4, static_cast<Byte>(code), static_cast<Byte>(variant));
-        Ok(Open());
-        EXPECT_EQ(host_.Modified(), std::vector<int>{}) << code << " " << variant;
-      }
-    }
-  }
-}
-
 TEST_F(Alarm, WhatNoControlCanShow) {
   const int kNothing = 0;
   const struct {

@@ -4,7 +4,7 @@ namespace quorvel {
 
 frm_Alarm::frm_Alarm(Context& context)
     : Editor(context, "frm_Alarm", CommitAlarm),
-      face_(AlarmFaceOf(Id(), context.DeviceFirmware(), context.BlkImage.BlkCount())),
+      face_(AlarmFaceOf(Id(), context.DeviceFirmware(), context.BlkImage.BlkCountOrZero())),
       input_page_(*this, context),
       action_page_(*this, context, face_),
       external_page_(*this, context),
