@@ -5,20 +5,59 @@
 
 #include "platform/qt/fitted_scroll_area.h"
 #include "platform/qt/view_builder.h"
+#include "platform/qt/view_space.h"
 
 namespace quorvel::qt {
 
+void GroupBox::ShowCaption(const QString& caption) {
+  setTitle(caption);
+  Trim();
+  updateGeometry();
+}
+
+void GroupBox::Trim() {
+  if (layout() == nullptr) return;
+  if (title().isEmpty()) {
+    setContentsMargins(0, 0, 0, 0);
+    layout()->setContentsMargins(0, 0, 0, 0);
+  } else {
+    layout()->unsetContentsMargins();
+  }
+}
+
+QSize GroupBox::sizeHint() const {
+  return title().isEmpty() ? QWidget::sizeHint() : QGroupBox::sizeHint();
+}
+
+QSize GroupBox::minimumSizeHint() const {
+  return title().isEmpty() ? QWidget::minimumSizeHint() : QGroupBox::minimumSizeHint();
+}
+
+void GroupBox::paintEvent(QPaintEvent* event) {
+  if (!title().isEmpty()) QGroupBox::paintEvent(event);
+}
+
+void GroupBox::resizeEvent(QResizeEvent* event) {
+  QGroupBox::resizeEvent(event);
+  Trim();
+}
+
+void GroupBox::changeEvent(QEvent* event) {
+  QGroupBox::changeEvent(event);
+  Trim();
+}
+
 FrameView::FrameView(ViewBuilder& builder, Frame& model, QWidget& parent)
-    : ViewOf(builder.Verbs(), model, new QGroupBox(&parent)) {
+    : ViewOf(builder.Verbs(), model, new GroupBox(parent)) {
   builder.Build(model.Content(), *GetBody());
   DrawAll();
 }
 
 void FrameView::Draw(Aspect) {
-  // A border without a caption leaves out the caption's line; beside one that has a caption, its
-  // lines would stand higher.
   const QString caption = Captioned(GetModel()->Caption());
-  GetBody()->setTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
+  // Lines in a border without a caption stand as high as those beside them, whose frames have one.
+  const bool lines = !IsOneLine(GetModel()->Content());
+  GetBody()->ShowCaption(caption.isEmpty() && lines ? QStringLiteral(" ") : caption);
 }
 
 QSize WideTabs::sizeHint() const {

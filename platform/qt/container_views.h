@@ -11,8 +11,24 @@ namespace quorvel::qt {
 
 class ViewBuilder;
 
-/// A captioned border around a group of controls.
-class FrameView : public ViewOf<Frame, QGroupBox> {
+/// A captioned border around a group of controls. A single line without a caption has no border.
+class GroupBox : public QGroupBox {
+ public:
+  explicit GroupBox(QWidget& parent) : QGroupBox(&parent) {}
+  void ShowCaption(const QString& caption);
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Trim();
+};
+
+class FrameView : public ViewOf<Frame, GroupBox> {
  public:
   FrameView(ViewBuilder& builder, Frame& model, QWidget& parent);
 

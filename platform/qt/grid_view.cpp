@@ -6,6 +6,8 @@
 #include <QToolTip>
 #include <utility>
 
+#include "quorvel/widgets/dialog.h"
+
 namespace quorvel::qt {
 
 GridView::GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent)
@@ -45,10 +47,8 @@ void GridView::Paste() {
   Answer answer = Answer::kDone;
   const QPointer<GridTable> table(GetBody());
   Act([&](Grid& grid) { answer = grid.Paste(text); });
-  if (table == nullptr || answer == Answer::kDone) return;
-  const QString why = answer == Answer::kNotAChoice
-                          ? "Nothing was pasted: a value is not a choice of its column."
-                          : "Nothing was pasted: it does not fit into the table here.";
+  if (table == nullptr || answer == Answer::kDone || GetModel() == nullptr) return;
+  const QString why = Shown(GetModel()->Owner().PasteRefusal(answer));
   const QRect cell = table->visualRect(table->currentIndex());
   QToolTip::showText(table->viewport()->mapToGlobal(cell.bottomLeft()), why, table);
 }

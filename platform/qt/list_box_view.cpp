@@ -10,6 +10,10 @@
 
 namespace quorvel::qt {
 
+namespace {
+constexpr int kLeastRows = 4;  // of a list that has space
+}
+
 ChoiceList::ChoiceList(QWidget& parent) : FocusShown(&parent) {
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
@@ -23,11 +27,13 @@ void ChoiceList::FitItems(int rows) {
   rows_ = rows;
   measured_ = false;
   updateGeometry();
+  // Space below the last item would look like something that is missing.
+  const int most = std::max({model()->rowCount(), rows, kLeastRows});
+  setMaximumHeight(RowHeight() * most + 2 * frameWidth());
 }
 
 QSize ChoiceList::SizeOfItems() const {
   constexpr int kLeastCharacters = 10;
-  constexpr int kLeastRows = 4;
   constexpr int kMostRows = 14;
   const int frame = 2 * frameWidth();
   const int bar = verticalScrollBar()->sizeHint().width();
@@ -75,9 +81,9 @@ QSize ChoiceList::sizeHint() const {
 }
 
 QSize ChoiceList::minimumSizeHint() const {
-  constexpr int kLeastRows = 3;
+  constexpr int kFewestRows = 3;
   const QSize hint = sizeHint();
-  return {hint.width(), std::min(hint.height(), kLeastRows * RowHeight() + 2 * frameWidth())};
+  return {hint.width(), std::min(hint.height(), kFewestRows * RowHeight() + 2 * frameWidth())};
 }
 
 int ChoiceList::SelectedRow() const {

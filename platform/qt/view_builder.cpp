@@ -50,6 +50,14 @@ int LineHeight() {
   return std::max(height, QPushButton(QStringLiteral("OK")).sizeHint().height());
 }
 
+/// A list that has no more items than space ends below them; a row would put it in the middle.
+void AddAtTop(QBoxLayout& row, QWidget& list, int share) {
+  auto* const column = new QVBoxLayout;
+  column->addWidget(&list, 1000 * kEmptySpaceShare);
+  column->addStretch(kEmptySpaceShare);
+  row.addLayout(column, share);
+}
+
 }  // namespace
 
 void ViewBuilder::Build(const Layout& layout, QWidget& container) {
@@ -83,7 +91,11 @@ QBoxLayout* ViewBuilder::BuildBox(const Layout& layout, QWidget& container, int 
       if (kind == WidgetKind::kTextBox && row && label != nullptr) part.widget->SetLabel(*label);
       const bool one_line = IsOneLine(part);
       if (one_line && line_height > 0) body.setMinimumHeight(line_height);
-      box->addWidget(&body, share, one_line && tall ? Qt::AlignTop : Qt::Alignment());
+      if (kind == WidgetKind::kListBox && row) {
+        AddAtTop(*box, body, share);
+      } else {
+        box->addWidget(&body, share, one_line && tall ? Qt::AlignTop : Qt::Alignment());
+      }
     }
   }
   if (!row) AlignRows(layout, *box);

@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kLarge = 4000;
 constexpr int kSmall = 1000;
+constexpr int kLittle = 40;  // beside something large, next to nothing
 
 /// The largest share of the parts. A stretch fills the row or column that it is in, and claims no
 /// space for the whole.
@@ -41,20 +42,23 @@ int ShareDown(const Layout& layout) {
   if (layout.kind != Layout::Kind::kWidget) return MostOf(layout, &ShareDown);
   switch (layout.widget->Kind()) {
     case WidgetKind::kGrid:
-    case WidgetKind::kListBox:
     case WidgetKind::kTabStrip: return kLarge;
+    case WidgetKind::kListBox: return kLittle;
     case WidgetKind::kFrame: return ShareDown(static_cast<const Frame*>(layout.widget)->Content());
     default: return 0;
   }
 }
 
 bool IsOneLine(const Layout& layout) {
+  if (layout.kind == Layout::Kind::kRow) return std::ranges::all_of(layout.parts, &IsOneLine);
   if (layout.kind != Layout::Kind::kWidget) return layout.kind == Layout::Kind::kStretch;
   switch (layout.widget->Kind()) {
     case WidgetKind::kGrid:
     case WidgetKind::kListBox:
-    case WidgetKind::kTabStrip:
-    case WidgetKind::kFrame: return false;
+    case WidgetKind::kTabStrip: return false;
+    case WidgetKind::kFrame:
+      return layout.widget->Caption().empty() &&
+             IsOneLine(static_cast<const Frame*>(layout.widget)->Content());
     default: return true;
   }
 }

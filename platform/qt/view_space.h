@@ -10,7 +10,8 @@ namespace quorvel::qt {
 /// Share of the empty space at the end: next to nothing, but all of it when nothing else grows.
 inline constexpr int kEmptySpaceShare = 1;
 
-/// True for a control that is one line high, like a button or a text box.
+/// True for what is one line high, like a button, a text box, or a row of them, also in a frame
+/// without a caption.
 [[nodiscard]] bool IsOneLine(const Layout& layout);
 
 }  // namespace quorvel::qt

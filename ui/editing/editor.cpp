@@ -1,6 +1,7 @@
 #include "ui/editing/editor.h"
 
 #include "resources/icon.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
@@ -17,6 +18,7 @@ Editor::Editor(Context& context, std::string name, CommitFlag flag)
   context_.env.commit.Set(flag_, false);
   KeepAliveWith(context.life);
   SetIcon(&Icon101());
+  SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
 }
 
 void Editor::BindButtons(Button& ok, Button& cancel) {

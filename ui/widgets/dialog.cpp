@@ -25,6 +25,11 @@ void Dialog::ThrowNoControl(std::string_view name) const {
   throw std::invalid_argument(name_ + " has no such control: " + std::string(name));
 }
 
+void Dialog::SetPasteRefusals(std::string not_a_choice, std::string does_not_fit) {
+  not_a_choice_ = std::move(not_a_choice);
+  does_not_fit_ = std::move(does_not_fit);
+}
+
 void Dialog::SetCaption(std::string caption) {
   caption_ = std::move(caption);
   if (view_ != nullptr) view_->Refresh(Aspect::kState);

@@ -47,6 +47,12 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
   [[nodiscard]] Button* DefaultButton() const { return default_button_; }
   [[nodiscard]] Button* CancelButton() const { return cancel_button_; }
 
+  /// What to tell somebody whose paste into a grid was refused: kNotAChoice or kNoSuchPlace.
+  [[nodiscard]] const std::string& PasteRefusal(Answer answer) const {
+    return answer == Answer::kNotAChoice ? not_a_choice_ : does_not_fit_;
+  }
+
+  void SetPasteRefusals(std::string not_a_choice, std::string does_not_fit);
   void SetCaption(std::string caption);
   void SetIcon(const Picture* icon) { icon_ = icon; }
   void SetLayout(Layout layout);
@@ -83,6 +89,8 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
   Platform& platform_;
   std::string name_;
   std::string caption_;
+  std::string not_a_choice_;
+  std::string does_not_fit_;
   const Picture* icon_ = nullptr;
   Layout layout_;
   std::vector<Widget*> widgets_;
