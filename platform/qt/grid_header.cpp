@@ -38,12 +38,13 @@ QString GridHeader::Wrapped(const std::string& text, int width) const {
 }
 
 int GridHeader::TextWidth(const QString& lines) const {
+  constexpr int kAir = 3;  // names of narrow columns would read as one
   const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
   int width = 0;
   for (const QString& line : lines.split(QLatin1Char('\n'))) {
     width = std::max(width, fontMetrics().horizontalAdvance(line));
   }
-  return width + 2 * (margin + 1);
+  return width + 2 * (margin + kAir);
 }
 
 int GridHeader::WidthOf(int column, int cells) const {

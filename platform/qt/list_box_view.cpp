@@ -81,9 +81,13 @@ QSize ChoiceList::sizeHint() const {
 }
 
 QSize ChoiceList::minimumSizeHint() const {
+  // A short list is shown whole: one that scrolls between two items cannot be read at a glance.
   constexpr int kFewestRows = 3;
+  constexpr int kShortList = 6;
+  const int items = rows_ > 0 ? rows_ : model()->rowCount();
+  const int rows = items <= kShortList ? std::max(items, kFewestRows) : kFewestRows;
   const QSize hint = sizeHint();
-  return {hint.width(), std::min(hint.height(), kFewestRows * RowHeight() + 2 * frameWidth())};
+  return {hint.width(), std::min(hint.height(), rows * RowHeight() + 2 * frameWidth())};
 }
 
 int ChoiceList::SelectedRow() const {

@@ -25,7 +25,7 @@ constexpr int kUsualSmtpPort = 25;
 constexpr int kLeastTcpPort = 1027;
 constexpr int kMostTcpPort = 32767;
 constexpr int kLongestInterval = 60;  // minutes
-constexpr int kAddressWidth = 32;     // characters
+constexpr int kAddressWidth = 44;     // characters; about as wide as the warnings
 
 void TickEvents(ControlArray<CheckBox>& boxes, Byte mask) {
   for (int k = 0; k < boxes.Count(); ++k) {
