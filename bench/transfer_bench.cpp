@@ -40,6 +40,14 @@ class QuickHost : public MainMenuEvents {
     if (packets_ != 225 - 32 - 2 + 1) throw std::logic_error("the upload did not end");
   }
 
+  void OpenMenu() { control_.Custom(15, 1, 0); }
+  /// Opens an editor from the menu that has popped up, and leaves it with Cancel.
+  void OpenEditor(const char* item) {
+    platform_.RunUntilIdle();
+    if (platform_.ChooseMenu(item) != Answer::kDone) throw std::logic_error("no such editor");
+    platform_.Windows().back()->CloseWindow();
+  }
+
   void RequestBlk(std::uint8_t blknum) override {
     std::array<std::uint8_t, 17> reply{blknum};
     const auto block = device_.Block(blknum);
@@ -74,6 +82,13 @@ void RegisterTransfers() {
         QuickHost host;
         host.Download();
         for (auto _ : state) host.Upload();
+      }));
+  RatioReporter::Keep(
+      benchmark::RegisterBenchmark("open_and_leave_alarms", [](benchmark::State& state) {
+        QuickHost host;
+        host.Download();
+        host.OpenMenu();
+        for (auto _ : state) host.OpenEditor("mnu_Alarm");
       }));
 }
 
