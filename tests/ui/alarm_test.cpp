@@ -89,5 +89,47 @@ TEST_F(Alarm, TheTimeOutComesAndGoesWithItsOption) {
   EXPECT_EQ(host_.Modified(), std::vector<int>{59});
 }
 
+/// A text source that hands the control another device's image when it is asked for one text.
+class ImageBringer : public AutomationObject {
+ public:
+  explicit ImageBringer(TestHost& host) : host_(host) {}
+  std::string Call(std::string_view /*method*/, std::int32_t id) override {
+    if (id == asked_for) {
+      std::vector<Byte> image(host_.device.Bytes().begin(), host_.device.Bytes().end());
+      image.push_back(0);
+      host_.control->FillDataBlk(image);
+    }
+    return "text";
+  }
+  int asked_for = 0;
+
+ private:
+  TestHost& host_;
+};
+
+TEST_F(Alarm, OpensForOneDeviceWhateverATextSourceDoes) {
+  for (const int asked_for : {60, 93, 106, 56}) {
+    for (const auto& [before, after] : {std::pair{16, 4}, std::pair{4, 16}}) {
+      const auto source = std::make_shared<ImageBringer>(host_);
+      host_.platform.Classes().Register("Texts", [source] { return source; });
+      host_.NewControl();
+      host_.Identify(static_cast<Byte>(before), 6, '2');
+      host_.Download();
+      host_.control->HostCommId(1);
+      host_.control->CustomWithString(191, 0, 0, "Texts");
+      host_.OpenMenu();
+      host_.Identify(static_cast<Byte>(after), 6, '2');
+      source->asked_for = asked_for;
+      EXPECT_EQ(host_.platform.ChooseMenu("mnu_Alarm"), Answer::kDone);
+      source->asked_for = 0;
+      EXPECT_TRUE(host_.platform.TakeMessages().empty()) << asked_for;
+      EXPECT_EQ(host_.platform.Window("frm_Alarm").Find<Grid>("MSFG_VidLoss").Rows(), before + 1);
+      Ok(host_.platform.Window("frm_Alarm"));
+      EXPECT_EQ(host_.OnlyMessage(), "text") << "the data does not match";
+      EXPECT_TRUE(host_.Modified().empty());
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quorvel

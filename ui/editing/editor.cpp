@@ -14,10 +14,12 @@ Editor::Editor(Context& context, std::string name, CommitFlag flag)
     : Dialog(context.platform, std::move(name)),
       context_(context),
       flag_(flag),
-      generation_(context.ImageGeneration()) {
+      generation_(context.ImageGeneration()),
+      id_(context.env.identity) {
   context_.env.commit.Set(flag_, false);
   KeepAliveWith(context.life);
   SetIcon(&Icon101());
+  context_.texts.CreateCatalogues();
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
 }
 
@@ -30,7 +32,7 @@ void Editor::BindButtons(Button& ok, Button& cancel) {
 }
 
 void Editor::Ok() {
-  if (generation_ != context_.ImageGeneration()) {
+  if (!BelongsToImage()) {
     context_.platform.Ask(
         {Text(kTextDataDoesNotMatch), Text(kTextErrorMessage), Message::Buttons::kOk});
     return;

@@ -13,7 +13,9 @@ namespace quorvel {
 /// and the window's close button write nothing. However it closes, on_closed tells the menu.
 ///
 /// An editor that stays open while another image arrives belongs to settings that are gone: its OK
-/// says that the data does not match and writes nothing, and what was typed stays on screen.
+/// says that the data does not match and writes nothing, and what was typed stays on screen. That
+/// may be while it opens, from inside a text source: so editors ask for all texts before they fill
+/// their controls, and fill them only when BelongsToImage.
 class Editor : public Dialog {
  public:
   Editor(Context& context, std::string name, CommitFlag flag);
@@ -25,15 +27,21 @@ class Editor : public Dialog {
   virtual void WriteBack(MuxData& record) = 0;
 
   [[nodiscard]] Context& Ctx() { return context_; }
-  [[nodiscard]] const Identity& Id() const { return context_.env.identity; }
+  /// The device that the editor has opened for, which stays the same while a text source of the
+  /// host's, asked for a caption, brings another image.
+  [[nodiscard]] const Identity& Id() const { return id_; }
+  /// False once another image has arrived: then nothing may be written any more.
+  [[nodiscard]] bool BelongsToImage() const { return generation_ == context_.ImageGeneration(); }
   [[nodiscard]] std::string Text(int id) const { return context_.GetText(id); }
 
  private:
+  friend class EditorPage;
   void Ok();
 
   Context& context_;
   CommitFlag flag_;
   int generation_;
+  Identity id_;
 };
 
 }  // namespace quorvel

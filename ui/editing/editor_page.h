@@ -2,8 +2,7 @@
 
 #include <string>
 
-#include "quorvel/widgets.h"
-#include "ui/context.h"
+#include "ui/editing/editor.h"
 
 namespace quorvel {
 
@@ -15,17 +14,17 @@ class EditorPage {
   EditorPage& operator=(const EditorPage&) = delete;
 
  protected:
-  explicit EditorPage(Context& context) : context_(context) {}
+  explicit EditorPage(Editor& editor) : editor_(editor) {}
   ~EditorPage() = default;
 
-  [[nodiscard]] Context& Ctx() { return context_; }
-  [[nodiscard]] MuxData& Record() { return context_.Record(); }
-  [[nodiscard]] const Identity& Id() const { return context_.env.identity; }
-  [[nodiscard]] const GlobalCnst& Words() { return context_.texts.Constants(); }
-  [[nodiscard]] std::string Text(int id) const { return context_.GetText(id); }
+  [[nodiscard]] Context& Ctx() { return editor_.Ctx(); }
+  [[nodiscard]] MuxData& Record() { return Ctx().Record(); }
+  [[nodiscard]] const Identity& Id() const { return editor_.Id(); }
+  [[nodiscard]] const GlobalCnst& Words() { return Ctx().texts.Constants(); }
+  [[nodiscard]] std::string Text(int id) const { return editor_.Text(id); }
 
  private:
-  Context& context_;
+  Editor& editor_;
 };
 
 }  // namespace quorvel

@@ -23,11 +23,14 @@ frm_CameraSetup::frm_CameraSetup(Context& context)
     : Editor(context, "frm_CameraSetup", CommitCamera) {
   SetCaption(Text(121));
   ArrangeControls();
+  BuildGrids();
   ShowWhatTheModelHas();
-  FillCameras();
-  FillDisplaySettings();
   NameForScreenReaders();
   BindButtons(cmd_OK, cmd_Cancel);
+  if (BelongsToImage()) {
+    FillCameras();
+    FillDisplaySettings();
+  }
   gain_editing_.GoTo(1, kSettingColumn);
   text_position_editing_.GoTo(1, kSettingColumn);
   SSTab1.on_change = [this] { TabChanged(); };
@@ -99,20 +102,21 @@ void frm_CameraSetup::NameForScreenReaders() {
   lstTextpos.SetSpokenName(Text(145));
 }
 
+void frm_CameraSetup::BuildGrids() {
+  const std::string& camera = Ctx().texts.Objects().objstCam;
+  BuildNumberedGrid(MSFG_SnlGain, Id().MaxCam, {camera, Text(143)});
+  BuildNumberedGrid(MSFG_TextPos, Id().MaxCam, {camera, Text(145)});
+  gain_editing_.Bind(kSettingColumn, lstSnlGain);
+  text_position_editing_.Bind(kSettingColumn, lstTextpos);
+}
+
 void frm_CameraSetup::FillCameras() {
   const auto& words = Ctx().texts.Constants();
-  const std::string& camera_word = Ctx().texts.Objects().objstCam;
-  const int cameras = Id().MaxCam;
   const int least_gain = Id().IsTriplex() ? 50 : 1;  // as shown; it is stored as 0
   const int most_gain = Id().IsTriplex() ? 150 : 10;
   lstSnlGain.SetItems(NumberTexts(least_gain, most_gain));
   lstTextpos.SetItems({words.cnstrTop, words.cnstrBottom});
-  BuildNumberedGrid(MSFG_SnlGain, cameras, {camera_word, Text(143)});
-  BuildNumberedGrid(MSFG_TextPos, cameras, {camera_word, Text(145)});
-  gain_editing_.Bind(kSettingColumn, lstSnlGain);
-  text_position_editing_.Bind(kSettingColumn, lstTextpos);
-
-  for (int c = 0; c < cameras; ++c) {
+  for (int c = 0; c < Id().MaxCam; ++c) {
     const Cameras& camera = *Ctx().Record().CamInfo(c);
     m_CameraTitle(c).SetMaxLength(kTitleLength);
     titles_.emplace_back(m_CameraTitle(c), GetPlatform()).Show(EditableTitle(camera.title()));

@@ -20,6 +20,8 @@ class frm_CameraSetup : public Editor {
   void ArrangeControls();
   void ShowWhatTheModelHas();
   void NameForScreenReaders();
+  void BuildGrids();
+  /// These ask for no texts: a text source may bring another image, which is not shown then.
   void FillCameras();
   void FillDisplaySettings();
   void WriteCamera(int c, Cameras& camera);

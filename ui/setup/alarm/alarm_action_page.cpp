@@ -35,22 +35,22 @@ void ForPresets(Action& action, const Each& each) {
 
 }  // namespace
 
-AlarmActionPage::AlarmActionPage(Dialog& dialog, Context& context, const AlarmFace& face)
-    : EditorPage(context),
+AlarmActionPage::AlarmActionPage(Editor& editor, const AlarmFace& face)
+    : EditorPage(editor),
       face_(face),
-      MSFG_AlAction(dialog, "MSFG_AlAction"),
-      Label3(dialog, "Label3", Text(78)),
-      lst_ALFrz(dialog, "lst_ALFrz"),
-      Label4(dialog, "Label4", Text(71)),
-      cbAlCamera(dialog, "cbAlCamera"),
-      lbPreset(dialog, "lbPreset", Text(98)),
-      cbPreset(dialog, "cbPreset"),
-      Label5(dialog, "Label5", Text(102)),
-      lst_AlRelay(dialog, "lst_AlRelay"),
-      lbAndOr(dialog, "lbAndOr", Text(305)),
-      lstAndOr(dialog, "lstAndOr"),
-      lbAuxMon(dialog, "lbAuxMon", Text(67)),
-      lstAuxMon(dialog, "lstAuxMon") {
+      MSFG_AlAction(editor, "MSFG_AlAction"),
+      Label3(editor, "Label3", Text(78)),
+      lst_ALFrz(editor, "lst_ALFrz"),
+      Label4(editor, "Label4", Text(71)),
+      cbAlCamera(editor, "cbAlCamera"),
+      lbPreset(editor, "lbPreset", Text(98)),
+      cbPreset(editor, "cbPreset"),
+      Label5(editor, "Label5", Text(102)),
+      lst_AlRelay(editor, "lst_AlRelay"),
+      lbAndOr(editor, "lbAndOr", Text(305)),
+      lstAndOr(editor, "lstAndOr"),
+      lbAuxMon(editor, "lbAuxMon", Text(67)),
+      lstAuxMon(editor, "lstAuxMon") {
   MSFG_AlAction.SetSpokenName(Text(59));
   BuildColumns();
 }

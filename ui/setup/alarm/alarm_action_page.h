@@ -10,7 +10,7 @@ namespace quorvel {
 /// model; those of presets, intrusion and auxiliary monitors are not on all.
 class AlarmActionPage : public EditorPage {
  public:
-  AlarmActionPage(Dialog& dialog, Context& context, const AlarmFace& face);
+  AlarmActionPage(Editor& editor, const AlarmFace& face);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

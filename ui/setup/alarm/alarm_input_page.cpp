@@ -9,13 +9,13 @@ constexpr int kWiring = 1;
 constexpr int kEnable = 2;
 }  // namespace
 
-AlarmInputPage::AlarmInputPage(Dialog& dialog, Context& context)
-    : EditorPage(context),
-      MSFG_AlInput(dialog, "MSFG_AlInput"),
-      Label1(dialog, "Label1", Text(84)),
-      lst_AlInput(dialog, "lst_AlInput"),
-      Label2(dialog, "Label2", Text(76)),
-      lst_AlEnable(dialog, "lst_AlEnable") {
+AlarmInputPage::AlarmInputPage(Editor& editor)
+    : EditorPage(editor),
+      MSFG_AlInput(editor, "MSFG_AlInput"),
+      Label1(editor, "Label1", Text(84)),
+      lst_AlInput(editor, "lst_AlInput"),
+      Label2(editor, "Label2", Text(76)),
+      lst_AlEnable(editor, "lst_AlEnable") {
   MSFG_AlInput.SetSpokenName(Text(60));
   BuildNumberedGrid(MSFG_AlInput, Id().MaxCam,
                     {Ctx().texts.Objects().objstAlarm, Text(84), Text(76)});

@@ -53,38 +53,37 @@ void WriteOctets(const OctetBoxes& boxes, Octets& octets, int count) {
 
 }  // namespace
 
-AlarmNotificationPage::AlarmNotificationPage(Dialog& dialog, Context& context,
-                                             const AlarmFace& face)
-    : EditorPage(context),
+AlarmNotificationPage::AlarmNotificationPage(Editor& editor, const AlarmFace& face)
+    : EditorPage(editor),
       face_(face),
-      Frame12(dialog, "Frame12", Text(74)),
-      Frame13(dialog, "Frame13", Text(91)),
-      chkboxNotify(dialog, "chkboxNotify", kEvents),
-      Frame16(dialog, "Frame16", Text(106)),
-      txSMTPServer(dialog, "txSMTPServer", kOctets),
-      lbSMTPPort(dialog, "lbSMTPPort", Text(105) + " (0 - 65535)"),
-      txtSMTPPort(dialog, "txtSMTPPort"),
-      lbUser1Addr(dialog, "lbUser1Addr", Text(111)),
-      txtUser1Addr(dialog, "txtUser1Addr"),
-      lbUser1Warning(dialog, "lbUser1Warning"),
-      lbUser2Addr(dialog, "lbUser2Addr", Text(112)),
-      txtUser2Addr(dialog, "txtUser2Addr"),
-      lbUser2Warning(dialog, "lbUser2Warning"),
-      lbLocalEmail(dialog, "lbLocalEmail", "Local email address:"),
-      txtLocalEmail(dialog, "txtLocalEmail"),
-      lbLocalWarning(dialog, "lbLocalWarning"),
-      Frame14(dialog, "Frame14", Text(107)),
-      Frame15(dialog, "Frame15", Text(91)),
-      chkboxTCPNotify(dialog, "chkboxTCPNotify", kEvents),
-      Frame17(dialog, "Frame17", Text(100)),
-      txTCPHost(dialog, "txTCPHost", kOctets),
-      Frame18(dialog, "Frame18", Text(68)),
-      txTCPBkHost(dialog, "txTCPBkHost", kOctets),
-      lbTCPPort(dialog, "lbTCPPort", Text(95) + " (1027 - 32767)"),
-      txtTCPPort(dialog, "txtTCPPort"),
-      lbTCPInterval(dialog, "lbTCPInterval", Text(90)),
-      cbTCPInterval(dialog, "cbTCPInterval"),
-      lbTxdotIP(dialog, "lbTxdotIP", 3 * (kOctets - 1)),
+      Frame12(editor, "Frame12", Text(74)),
+      Frame13(editor, "Frame13", Text(91)),
+      chkboxNotify(editor, "chkboxNotify", kEvents),
+      Frame16(editor, "Frame16", Text(106)),
+      txSMTPServer(editor, "txSMTPServer", kOctets),
+      lbSMTPPort(editor, "lbSMTPPort", Text(105) + " (0 - 65535)"),
+      txtSMTPPort(editor, "txtSMTPPort"),
+      lbUser1Addr(editor, "lbUser1Addr", Text(111)),
+      txtUser1Addr(editor, "txtUser1Addr"),
+      lbUser1Warning(editor, "lbUser1Warning"),
+      lbUser2Addr(editor, "lbUser2Addr", Text(112)),
+      txtUser2Addr(editor, "txtUser2Addr"),
+      lbUser2Warning(editor, "lbUser2Warning"),
+      lbLocalEmail(editor, "lbLocalEmail", "Local email address:"),
+      txtLocalEmail(editor, "txtLocalEmail"),
+      lbLocalWarning(editor, "lbLocalWarning"),
+      Frame14(editor, "Frame14", Text(107)),
+      Frame15(editor, "Frame15", Text(91)),
+      chkboxTCPNotify(editor, "chkboxTCPNotify", kEvents),
+      Frame17(editor, "Frame17", Text(100)),
+      txTCPHost(editor, "txTCPHost", kOctets),
+      Frame18(editor, "Frame18", Text(68)),
+      txTCPBkHost(editor, "txTCPBkHost", kOctets),
+      lbTCPPort(editor, "lbTCPPort", Text(95) + " (1027 - 32767)"),
+      txtTCPPort(editor, "txtTCPPort"),
+      lbTCPInterval(editor, "lbTCPInterval", Text(90)),
+      cbTCPInterval(editor, "cbTCPInterval"),
+      lbTxdotIP(editor, "lbTxdotIP", 3 * (kOctets - 1)),
       smtp_port_(txtSMTPPort, 0, kMostPort, kUsualSmtpPort),
       tcp_port_(txtTCPPort, kLeastTcpPort, kMostTcpPort, kLeastTcpPort) {
   CaptionControls();
@@ -124,6 +123,9 @@ void AlarmNotificationPage::CaptionControls() {
     chkboxNotify(k).SetCaption(event);
     chkboxTCPNotify(k).SetCaption(event);
   }
+  auto intervals = NumberTexts(1, kLongestInterval);
+  intervals.insert(intervals.begin(), Text(81));
+  cbTCPInterval.SetItems(std::move(intervals));
   chkboxNotify.SetSpokenNames(Frame12.Caption());
   chkboxTCPNotify.SetSpokenNames(Frame14.Caption());
   txSMTPServer.SetSpokenNames(Frame16.Caption());
@@ -157,9 +159,6 @@ void AlarmNotificationPage::FillEmail() {
 }
 
 void AlarmNotificationPage::FillTcp() {
-  auto intervals = NumberTexts(1, kLongestInterval);
-  intervals.insert(intervals.begin(), Text(81));
-  cbTCPInterval.SetItems(std::move(intervals));
   if (!face_.tcp_notification) {
     // These models do not report over TCP: nothing that somebody sets here would be kept.
     for (auto* const boxes : {&txTCPHost, &txTCPBkHost}) {

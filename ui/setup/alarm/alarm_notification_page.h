@@ -14,7 +14,7 @@ namespace quorvel {
 /// Notification: which events are reported by e-mail and over TCP, and to whom.
 class AlarmNotificationPage : public EditorPage {
  public:
-  AlarmNotificationPage(Dialog& dialog, Context& context, const AlarmFace& face);
+  AlarmNotificationPage(Editor& editor, const AlarmFace& face);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

@@ -11,11 +11,11 @@ constexpr int kFirstModelWithoutExternalOutputs = 4;
 constexpr int kLastExternalAction = 7;
 }  // namespace
 
-ExternalAlarmPage::ExternalAlarmPage(Dialog& dialog, Context& context)
-    : EditorPage(context),
-      MSFG_AlExt(dialog, "MSFG_AlExt"),
-      Label6(dialog, "Label6", Text(93)),
-      lst_AlExternal(dialog, "lst_AlExternal") {
+ExternalAlarmPage::ExternalAlarmPage(Editor& editor)
+    : EditorPage(editor),
+      MSFG_AlExt(editor, "MSFG_AlExt"),
+      Label6(editor, "Label6", Text(93)),
+      lst_AlExternal(editor, "lst_AlExternal") {
   MSFG_AlExt.SetSpokenName(Text(77));
   BuildNumberedGrid(MSFG_AlExt, Id().MaxCam, {Text(104), Text(93)});
 }
@@ -45,11 +45,11 @@ void ExternalAlarmPage::Write() {
 
 void ExternalAlarmPage::GoToStart() { editing_.GoTo(1, kColumn); }
 
-MacroLinkPage::MacroLinkPage(Dialog& dialog, Context& context)
-    : EditorPage(context),
-      MSFG_AlMacro(dialog, "MSFG_AlMacro"),
-      Label7(dialog, "Label7", Text(88)),
-      lst_AlMacro(dialog, "lst_AlMacro") {
+MacroLinkPage::MacroLinkPage(Editor& editor)
+    : EditorPage(editor),
+      MSFG_AlMacro(editor, "MSFG_AlMacro"),
+      Label7(editor, "Label7", Text(88)),
+      lst_AlMacro(editor, "lst_AlMacro") {
   MSFG_AlMacro.SetSpokenName(Text(86));
   BuildNumberedGrid(MSFG_AlMacro, Id().MaxCam, {Ctx().texts.Objects().objstAlarm, Text(88)});
 }

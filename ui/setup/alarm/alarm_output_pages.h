@@ -8,7 +8,7 @@ namespace quorvel {
 /// External Alarm Action: the output that each remote input switches.
 class ExternalAlarmPage : public EditorPage {
  public:
-  ExternalAlarmPage(Dialog& dialog, Context& context);
+  ExternalAlarmPage(Editor& editor);
   [[nodiscard]] Layout Contents();
   void Fill();
   /// Writes on models that keep these outputs.
@@ -25,7 +25,7 @@ class ExternalAlarmPage : public EditorPage {
 /// Link to a Macro: the macro that each alarm starts.
 class MacroLinkPage : public EditorPage {
  public:
-  MacroLinkPage(Dialog& dialog, Context& context);
+  MacroLinkPage(Editor& editor);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

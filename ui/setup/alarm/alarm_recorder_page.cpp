@@ -10,14 +10,14 @@ namespace {
 constexpr int kLongestPreAlarm = 5;  // seconds
 }
 
-AlarmRecorderPage::AlarmRecorderPage(Dialog& dialog, Context& context)
-    : EditorPage(context),
-      frmPreAlDur(dialog, "frmPreAlDur", Text(97)),
-      lstPreAlDur(dialog, "lstPreAlDur"),
-      lbTime(dialog, "lbTime", Text(57)),
-      frmArchAL(dialog, "frmArchAL", Text(66)),
-      lbArchAL(dialog, "lbArchAL", Text(102) + " 2"),
-      optArchAL(dialog, "optArchAL", 2) {
+AlarmRecorderPage::AlarmRecorderPage(Editor& editor)
+    : EditorPage(editor),
+      frmPreAlDur(editor, "frmPreAlDur", Text(97)),
+      lstPreAlDur(editor, "lstPreAlDur"),
+      lbTime(editor, "lbTime", Text(57)),
+      frmArchAL(editor, "frmArchAL", Text(66)),
+      lbArchAL(editor, "lbArchAL", Text(102) + " 2"),
+      optArchAL(editor, "optArchAL", 2) {
   frmPreAlDur.SetVisible(!Id().IsMultiplexer());
   frmArchAL.SetVisible(!Id().IsMultiplexer());
 }

@@ -7,7 +7,7 @@ namespace quorvel {
 /// The second page of other settings, of recorders: pre-alarm duration and archive alarm.
 class AlarmRecorderPage : public EditorPage {
  public:
-  AlarmRecorderPage(Dialog& dialog, Context& context);
+  AlarmRecorderPage(Editor& editor);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

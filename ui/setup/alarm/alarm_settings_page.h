@@ -11,7 +11,7 @@ namespace quorvel {
 /// buzzers. Groups that the model lacks keep what is stored.
 class AlarmSettingsPage : public EditorPage {
  public:
-  AlarmSettingsPage(Dialog& dialog, Context& context, const AlarmFace& face);
+  AlarmSettingsPage(Editor& editor, const AlarmFace& face);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

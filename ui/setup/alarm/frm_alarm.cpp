@@ -5,14 +5,14 @@ namespace quorvel {
 frm_Alarm::frm_Alarm(Context& context)
     : Editor(context, "frm_Alarm", CommitAlarm),
       face_(AlarmFaceOf(Id(), context.DeviceFirmware(), context.BlkImage.BlkCountOrZero())),
-      input_page_(*this, context),
-      action_page_(*this, context, face_),
-      external_page_(*this, context),
-      macro_page_(*this, context),
-      video_loss_page_(*this, context, face_),
-      settings_page_(*this, context, face_),
-      recorder_page_(*this, context),
-      notification_page_(*this, context, face_) {
+      input_page_(*this),
+      action_page_(*this, face_),
+      external_page_(*this),
+      macro_page_(*this),
+      video_loss_page_(*this, face_),
+      settings_page_(*this, face_),
+      recorder_page_(*this),
+      notification_page_(*this, face_) {
   SetCaption(Text(64));
   SSTab1.SetSpokenName(Caption());
   ArrangePages();
@@ -37,7 +37,10 @@ void frm_Alarm::ArrangePages() {
       Row(Stretch(), cmd_OK, cmd_Cancel)));
 }
 
+/// Filling asks for no texts, so the image stays. One that a text source has brought before is not
+/// shown: OK says so.
 void frm_Alarm::FillPages() {
+  if (!BelongsToImage()) return;
   input_page_.Fill();
   if (face_.action_page) action_page_.Fill();
   if (face_.external_page) external_page_.Fill();

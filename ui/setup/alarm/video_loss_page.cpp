@@ -10,16 +10,16 @@ constexpr int kRelay2 = 2;
 constexpr int kBuzzer = 3;
 }  // namespace
 
-VideoLossPage::VideoLossPage(Dialog& dialog, Context& context, const AlarmFace& face)
-    : EditorPage(context),
+VideoLossPage::VideoLossPage(Editor& editor, const AlarmFace& face)
+    : EditorPage(editor),
       face_(face),
-      MSFG_VidLoss(dialog, "MSFG_VidLoss"),
-      Label8(dialog, "Label8", Text(102) + " 1"),
-      lst_AlRelay1(dialog, "lst_AlRelay1"),
-      Label9(dialog, "Label9", Text(102) + " 2"),
-      lst_AlRelay2(dialog, "lst_AlRelay2"),
-      Label10(dialog, "Label10", Text(69)),
-      lst_AlBuz(dialog, "lst_AlBuz") {
+      MSFG_VidLoss(editor, "MSFG_VidLoss"),
+      Label8(editor, "Label8", Text(102) + " 1"),
+      lst_AlRelay1(editor, "lst_AlRelay1"),
+      Label9(editor, "Label9", Text(102) + " 2"),
+      lst_AlRelay2(editor, "lst_AlRelay2"),
+      Label10(editor, "Label10", Text(69)),
+      lst_AlBuz(editor, "lst_AlBuz") {
   MSFG_VidLoss.SetSpokenName(Text(114));
   BuildNumberedGrid(MSFG_VidLoss, Id().MaxCam,
                     {Ctx().texts.Objects().objstCam, Label8.Caption(), Label9.Caption()});

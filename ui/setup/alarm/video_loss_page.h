@@ -9,7 +9,7 @@ namespace quorvel {
 /// Videoloss Action: the relays and the buzzer that the loss of each camera switches.
 class VideoLossPage : public EditorPage {
  public:
-  VideoLossPage(Dialog& dialog, Context& context, const AlarmFace& face);
+  VideoLossPage(Editor& editor, const AlarmFace& face);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();
