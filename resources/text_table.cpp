@@ -344,7 +344,7 @@ constexpr std::string_view kTexts[] = {
 };
 
 constexpr std::string_view kAddedTexts[] = {
-    /* 1000 */ "Needs text before and after \"@\": it will not be stored",
+    /* 1000 */ "Needs text before and after \"@\": the address will be empty",
     /* 1001 */ "More than 48 characters before or after \"@\": it will be cut",
     /* 1002 */ "Nothing was pasted: a value is not a choice of its column",
     /* 1003 */ "Nothing was pasted: it does not fit into the table here",

@@ -53,7 +53,7 @@ TEST_F(Widgets, BoxesKeepNumbersThatFit) {
       {dialog_->octets(0), "223", "223"},    {dialog_->octets(0), "224", "223"},
       {dialog_->octets(1), "255", "255"},    {dialog_->octets(1), "1000", "255"},
       {dialog_->octets(1), "", "0"},         {dialog_->octets(1), "-1", "0"},
-      {dialog_->octets(1), " 7", "0"},       {dialog_->octets(1), "1.5", "0"},
+      {dialog_->octets(1), " 7", "7"},       {dialog_->octets(1), "1.5", "0"},
       {dialog_->octets(1), "007", "007"},    {dialog_->port_box, "1026", "1027"},
       {dialog_->port_box, "32768", "32767"}, {dialog_->port_box, "99999999999", "32767"},
       {dialog_->port_box, "abc", "1027"},

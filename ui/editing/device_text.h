@@ -22,7 +22,8 @@ class DeviceText {
   void Show(std::string_view bytes);
   /// What the box shows, as the device would hold it.
   [[nodiscard]] std::string Bytes() const { return platform_.FromUtf8(box_.Text()); }
-  /// The bytes that somebody has typed; nothing when the box reads as it was shown.
+  /// The bytes that somebody has typed; nothing when the box reads as it was shown, also after
+  /// something else had been typed meanwhile.
   [[nodiscard]] std::optional<std::string> Typed() const;
   /// Called after every change by a person.
   Handler on_change;

@@ -33,8 +33,9 @@ void Editor::BindButtons(Button& ok, Button& cancel) {
 
 void Editor::Ok() {
   if (!BelongsToImage()) {
-    context_.platform.Ask(
-        {Text(kTextDataDoesNotMatch), Text(kTextErrorMessage), Message::Buttons::kOk});
+    const Message refusal{Text(kTextDataDoesNotMatch), Text(kTextErrorMessage),
+                          Message::Buttons::kOk};
+    if (!context_.terminated) context_.platform.Ask(refusal);  // a text source may have ended it
     return;
   }
   {

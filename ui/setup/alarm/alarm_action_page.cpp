@@ -100,9 +100,12 @@ void AlarmActionPage::Fill() {
   FillLists();
   editing_.Bind(kFreezeColumn, lst_ALFrz);
   for (int i = 0; i < kDisplays; ++i) editing_.Bind(kFirstCameraColumn + i, cbAlCamera);
+  ColumnRules preset_rules;
+  preset_rules.takes = [this](int /*row*/) { return face_.presets_kept; };
   for (int i = 0; face_.presets && i < kDisplays; ++i) {
-    editing_.Bind(kFirstPresetColumn + i, cbPreset);
+    editing_.Bind(kFirstPresetColumn + i, cbPreset, preset_rules);
   }
+  cbPreset.SetEnabled(face_.presets_kept);
   editing_.Bind(RelayColumn, lst_AlRelay);
   if (face_.intrusion_gate) editing_.Bind(GateColumn, lstAndOr);
   if (face_.aux_monitor) editing_.Bind(AuxColumn, lstAuxMon);

@@ -5,11 +5,16 @@ namespace quorvel {
 namespace {
 constexpr int kDiskBuzzerFirmware = 506;
 constexpr int kMostBlocksWithoutNotification = 200;
+// Blocks that a device needs to keep what the pages show.
+constexpr int kLastPresetBlock = 192;
+constexpr int kLastUser1Block = 206;
+constexpr int kLastUser2Block = 212;
+constexpr int kHostsBlock = 213;
 }  // namespace
 
 AlarmFace AlarmFaceOf(const Identity& id, int firmware, int blocks) {
   const bool recorder = !id.IsMultiplexer();
-  const bool lite = recorder && id.LiteRecordModel;
+  const bool lite = id.LiteRecordModel;
   const bool small_lite = lite && id.Model4L;
   const bool small_triplex = id.IsTriplex() && !lite && id.VariantChar == '2' && id.MaxCam == 4;
 
@@ -26,9 +31,9 @@ AlarmFace AlarmFaceOf(const Identity& id, int firmware, int blocks) {
   face.video_loss_page = !basic && !compact && (!lite || id.VariantChar == '2');
   face.recorder_page = recorder && !lite;
   face.notification_page = id.IsTriplex() && !id.Model4L && blocks > kMostBlocksWithoutNotification;
-  face.numbered_settings = face.recorder_page;
 
   face.presets = id.VariantChar == '0';
+  face.presets_kept = blocks >= kLastPresetBlock;
   face.intrusion_gate = id.IsTriplex();
   face.aux_monitor = id.IsTriplexMatrix();
   face.video_loss_buzzer = !(lite && id.VariantChar == '2');
@@ -44,7 +49,10 @@ AlarmFace AlarmFaceOf(const Identity& id, int firmware, int blocks) {
   face.disk_buzzer = firmware >= kDiskBuzzerFirmware;
   face.fixed_settings = lite;
 
+  face.user1_kept = blocks >= kLastUser1Block;
+  face.user2_kept = blocks >= kLastUser2Block;
   face.local_address = id.ExtendedImage;
+  face.hosts_kept = blocks >= kHostsBlock;
   face.tcp_notification = !lite;
   return face;
 }

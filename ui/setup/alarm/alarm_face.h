@@ -13,10 +13,10 @@ struct AlarmFace {
   bool video_loss_page;
   bool recorder_page;
   bool notification_page;
-  bool numbered_settings;  ///< "Other Settings 1" and "Other Settings 2", not "Other Settings"
 
   // Columns of the action page and of the video-loss page.
   bool presets;
+  bool presets_kept;  ///< the device has blocks for them
   bool intrusion_gate;
   bool aux_monitor;
   bool video_loss_buzzer;
@@ -33,8 +33,11 @@ struct AlarmFace {
   bool disk_buzzer;             ///< frameDskBuz
   bool fixed_settings;          ///< of these groups, only latch and global buzzer can be changed
 
-  // Groups of the notification page.
+  // Groups of the notification page, and what of it the device has blocks for.
+  bool user1_kept;
+  bool user2_kept;
   bool local_address;
+  bool hosts_kept;
   bool tcp_notification;
 };
 

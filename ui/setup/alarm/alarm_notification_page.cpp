@@ -41,14 +41,21 @@ Byte TickedEvents(const ControlArray<CheckBox>& boxes, Byte mask) {
   return mask;
 }
 
+constexpr int kOctets = 4;
+
 template <class Octets>
-void ShowOctets(OctetBoxes& boxes, const Octets& octets, int count) {
-  for (int i = 0; i < count; ++i) boxes.Show(i, octets(i));
+void ShowOctets(OctetBoxes& boxes, const Octets& octets) {
+  for (int i = 0; i < kOctets; ++i) boxes.Show(i, octets(i));
 }
 
 template <class Octets>
-void WriteOctets(const OctetBoxes& boxes, Octets& octets, int count) {
-  for (int i = 0; i < count; ++i) octets(i, boxes.Octet(i));
+void WriteOctets(const OctetBoxes& boxes, Octets& octets) {
+  for (int i = 0; i < kOctets; ++i) octets(i, boxes.Octet(i));
+}
+
+template <class Control>
+void SetAllEnabled(ControlArray<Control>& controls, bool enabled) {
+  for (Control& control : controls) control.SetEnabled(enabled);
 }
 
 }  // namespace
@@ -91,9 +98,9 @@ AlarmNotificationPage::AlarmNotificationPage(Editor& editor, const AlarmFace& fa
 
 std::array<AlarmNotificationPage::AddressBox, AlarmNotificationPage::kAddresses>
 AlarmNotificationPage::Addresses() {
-  return {{{lbUser1Addr, txtUser1Addr, lbUser1Warning},
-           {lbUser2Addr, txtUser2Addr, lbUser2Warning},
-           {lbLocalEmail, txtLocalEmail, lbLocalWarning}}};
+  return {{{lbUser1Addr, txtUser1Addr, lbUser1Warning, face_.user1_kept},
+           {lbUser2Addr, txtUser2Addr, lbUser2Warning, face_.user2_kept},
+           {lbLocalEmail, txtLocalEmail, lbLocalWarning, face_.local_address}}};
 }
 
 Layout AlarmNotificationPage::Contents() { return Row(EmailContents(), TcpContents(), Stretch()); }
@@ -123,9 +130,11 @@ void AlarmNotificationPage::CaptionControls() {
     chkboxNotify(k).SetCaption(event);
     chkboxTCPNotify(k).SetCaption(event);
   }
-  auto intervals = NumberTexts(1, kLongestInterval);
-  intervals.insert(intervals.begin(), Text(81));
-  cbTCPInterval.SetItems(std::move(intervals));
+  if (face_.tcp_notification) {
+    auto intervals = NumberTexts(1, kLongestInterval);
+    intervals.insert(intervals.begin(), Text(81));
+    cbTCPInterval.SetItems(std::move(intervals));
+  }
   chkboxNotify.SetSpokenNames(Frame12.Caption());
   chkboxTCPNotify.SetSpokenNames(Frame14.Caption());
   txSMTPServer.SetSpokenNames(Frame16.Caption());
@@ -140,38 +149,35 @@ void AlarmNotificationPage::Fill() {
   FillTcp();
 }
 
+/// What the device has no block for is shown, and cannot be changed: it would not be kept.
 void AlarmNotificationPage::FillEmail() {
   const clsEmailNotify& notify = Record().AlmEmailNotify;
   TickEvents(chkboxNotify, notify.EmailNotify(0));
-  txtLocalEmail.SetEnabled(face_.local_address);
   int address = 0;
   for (const AddressBox& it : Addresses()) {
     it.box.SetShownLength(kAddressWidth);
     it.warning.SetKeepsPlace(true);
-    if (address == EditableAddresses()) break;
+    it.box.SetEnabled(it.kept);
     DeviceText& text = addresses_.emplace_back(it.box, Ctx().platform);
-    text.Show(notify.EmailString(address));
+    if (address < 2 || it.kept) text.Show(notify.EmailString(address));
     text.on_change = [this, address] { WarnOfAddress(address); };
     ++address;
   }
-  ShowOctets(smtp_server_, notify.SMTPServer, kOctets);
+  ShowOctets(smtp_server_, notify.SMTPServer);
+  SetAllEnabled(txSMTPServer, face_.hosts_kept);
   smtp_port_.Show(notify.SMTPPort());
 }
 
 void AlarmNotificationPage::FillTcp() {
-  if (!face_.tcp_notification) {
-    // These models do not report over TCP: nothing that somebody sets here would be kept.
-    for (auto* const boxes : {&txTCPHost, &txTCPBkHost}) {
-      for (TextBox& box : *boxes) box.SetEnabled(false);
-    }
-    for (CheckBox& box : chkboxTCPNotify) box.SetEnabled(false);
-    txtTCPPort.SetEnabled(false);
-    cbTCPInterval.SetEnabled(false);
-    return;
-  }
   const clsEmailNotify& notify = Record().AlmEmailNotify;
-  ShowOctets(tcp_host_, notify.TCPHost, kOctets);
-  ShowOctets(tcp_backup_host_, notify.TCPBkUpHost, kOctets);
+  ShowOctets(tcp_host_, notify.TCPHost);
+  ShowOctets(tcp_backup_host_, notify.TCPBkUpHost);
+  SetAllEnabled(txTCPHost, face_.tcp_notification && face_.hosts_kept);
+  SetAllEnabled(txTCPBkHost, face_.tcp_notification && face_.hosts_kept);
+  SetAllEnabled(chkboxTCPNotify, face_.tcp_notification);
+  txtTCPPort.SetEnabled(face_.tcp_notification);
+  cbTCPInterval.SetEnabled(face_.tcp_notification);
+  if (!face_.tcp_notification) return;
   tcp_port_.Show(notify.TCPPort());
   TickEvents(chkboxTCPNotify, notify.TCPNotify(0));
   cbTCPInterval.Select(notify.TCPInterval());
@@ -198,18 +204,16 @@ void AlarmNotificationPage::WriteEmail() {
   notify.EmailNotify(0, TickedEvents(chkboxNotify, notify.EmailNotify(0)));
   WriteAddress(0);
   WriteAddress(1);
-  WriteOctets(smtp_server_, notify.SMTPServer, kOctets);
+  WriteOctets(smtp_server_, notify.SMTPServer);
   notify.SMTPPort(smtp_port_.Number());
-  if (face_.local_address) WriteAddress(2);
+  WriteAddress(2);
 }
 
 void AlarmNotificationPage::WriteTcp() {
   clsEmailNotify& notify = Record().AlmEmailNotify;
   notify.TCPNotify(0, TickedEvents(chkboxTCPNotify, notify.TCPNotify(0)));
-  for (int i = 0; i < kOctets; ++i) {
-    notify.TCPHost(i, tcp_host_.Octet(i));
-    notify.TCPBkUpHost(i, tcp_backup_host_.Octet(i));
-  }
+  WriteOctets(tcp_host_, notify.TCPHost);
+  WriteOctets(tcp_backup_host_, notify.TCPBkUpHost);
   notify.TCPInterval(static_cast<Byte>(Chosen(cbTCPInterval, notify.TCPInterval())));
   notify.TCPPort(tcp_port_.Number());
 }

@@ -21,16 +21,15 @@ class AlarmNotificationPage : public EditorPage {
 
  private:
   static constexpr int kEvents = 7;
-  static constexpr int kOctets = 4;
   static constexpr int kAddresses = 3;
   /// The controls of one e-mail address.
   struct AddressBox {
     Label& label;
     TextBox& box;
     Label& warning;  ///< says what of the typed address would not be kept
+    bool kept;       ///< the device has blocks for it
   };
   [[nodiscard]] std::array<AddressBox, kAddresses> Addresses();
-  [[nodiscard]] int EditableAddresses() const { return face_.local_address ? 3 : 2; }
 
   [[nodiscard]] Layout EmailContents();
   [[nodiscard]] Layout TcpContents();

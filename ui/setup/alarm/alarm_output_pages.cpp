@@ -7,7 +7,6 @@ namespace quorvel {
 
 namespace {
 constexpr int kColumn = 1;
-constexpr int kFirstModelWithoutExternalOutputs = 4;
 constexpr int kLastExternalAction = 7;
 }  // namespace
 
@@ -35,7 +34,6 @@ void ExternalAlarmPage::Fill() {
 }
 
 void ExternalAlarmPage::Write() {
-  if (Id().ModelCode >= kFirstModelWithoutExternalOutputs || Id().LiteRecordModel) return;
   for (int i = 0; i < Id().MaxCam; ++i) {
     const int item = editing_.ItemAt(i + 1, kColumn);
     Record().AlarmInfo(i)->ExtAlmAction(

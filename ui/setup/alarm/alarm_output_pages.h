@@ -11,7 +11,6 @@ class ExternalAlarmPage : public EditorPage {
   ExternalAlarmPage(Editor& editor);
   [[nodiscard]] Layout Contents();
   void Fill();
-  /// Writes on models that keep these outputs.
   void Write();
   void GoToStart();
 

@@ -17,10 +17,7 @@ AlarmRecorderPage::AlarmRecorderPage(Editor& editor)
       lbTime(editor, "lbTime", Text(57)),
       frmArchAL(editor, "frmArchAL", Text(66)),
       lbArchAL(editor, "lbArchAL", Text(102) + " 2"),
-      optArchAL(editor, "optArchAL", 2) {
-  frmPreAlDur.SetVisible(!Id().IsMultiplexer());
-  frmArchAL.SetVisible(!Id().IsMultiplexer());
-}
+      optArchAL(editor, "optArchAL", 2) {}
 
 Layout AlarmRecorderPage::Contents() {
   return Row(Framed(frmPreAlDur, Row(lstPreAlDur, Column(lbTime, Stretch()))),

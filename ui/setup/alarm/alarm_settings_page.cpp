@@ -64,11 +64,11 @@ AlarmSettingsPage::AlarmSettingsPage(Editor& editor, const AlarmFace& face)
 
 std::array<AlarmSettingsPage::BuzzerGroup, AlarmSettingsPage::kBuzzers>
 AlarmSettingsPage::Buzzers() {
-  return {{{Label13, Frame8, opt_GlBuz, true},
-           {Label14, Frame9, opt_LiveAlBuz, face_.event_buzzers},
-           {Label15, Frame10, opt_VLossBuz, face_.event_buzzers},
-           {Label16, Frame11, opt_PlayBuz, face_.event_buzzers},
-           {lbDskBuz, frameDskBuz, opt_DiskBuz, face_.disk_buzzer}}};
+  return {{{0, Label13, Frame8, opt_GlBuz, true},
+           {1, Label14, Frame9, opt_LiveAlBuz, face_.event_buzzers},
+           {2, Label15, Frame10, opt_VLossBuz, face_.event_buzzers},
+           {3, Label16, Frame11, opt_PlayBuz, face_.event_buzzers},
+           {4, lbDskBuz, frameDskBuz, opt_DiskBuz, face_.disk_buzzer}}};
 }
 
 Layout AlarmSettingsPage::Contents() {
@@ -153,8 +153,9 @@ void AlarmSettingsPage::Fill() {
   opt_AlFullScr.Select(record.FullscrAlm() ? 1 : 0);
   opt_Rl1Conf.Select(record.Relay1Conf() ? 1 : 0);
   opt_Rl2Conf.Select(record.Relay2Conf() ? 1 : 0);
-  int number = 0;
-  for (const BuzzerGroup& it : Buzzers()) it.options.Select(record.Buzzer(number++) == 1 ? 1 : 0);
+  for (const BuzzerGroup& it : Buzzers()) {
+    it.options.Select(record.Buzzer(it.number) == 1 ? 1 : 0);
+  }
 }
 
 void AlarmSettingsPage::ShowTimeOut() {
@@ -181,11 +182,9 @@ void AlarmSettingsPage::WriteGroups() {
     record.Relay1Conf(opt_Rl1Conf(1).Selected());
     record.Relay2Conf(opt_Rl2Conf(1).Selected());
   }
-  int number = 0;
   for (const BuzzerGroup& it : Buzzers()) {
-    const int buzzer = number++;
-    if (face_.fixed_settings && buzzer != kGlobalBuzzer) continue;
-    if (it.shown && face_.buzzers) record.Buzzer(buzzer, it.options(1).Selected() ? 1 : 0);
+    if (face_.fixed_settings && it.number != kGlobalBuzzer) continue;
+    if (it.shown && face_.buzzers) record.Buzzer(it.number, it.options(1).Selected() ? 1 : 0);
   }
 }
 

@@ -20,6 +20,7 @@ class AlarmSettingsPage : public EditorPage {
   static constexpr int kBuzzers = 5;
   /// One buzzer's controls.
   struct BuzzerGroup {
+    int number;
     Label& label;
     Frame& frame;
     ControlArray<OptionButton>& options;

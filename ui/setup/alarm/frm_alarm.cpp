@@ -24,7 +24,7 @@ frm_Alarm::frm_Alarm(Context& context)
 
 void frm_Alarm::ArrangePages() {
   const std::string settings = Text(92);
-  const bool numbered = face_.numbered_settings;
+  const bool numbered = face_.recorder_page;
   SetLayout(Column(
       Tabs(SSTab1, Page{Text(60), input_page_.Contents()},
            Page{Text(59), action_page_.Contents(), face_.action_page},
