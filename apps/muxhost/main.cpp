@@ -1,6 +1,9 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <fstream>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "apps/muxhost/script_runner.h"
 #include "core/block_map.h"
@@ -8,6 +11,7 @@
 #ifdef MUXHOST_WITH_QT
 #include <cstdlib>
 
+#include "apps/muxhost/gallery.h"
 #include "apps/muxhost/run_window.h"
 #endif
 
@@ -38,16 +42,60 @@ bool HasDisplay() {
   return false;
 }
 
-int OpenWindow(int argc, char** argv) {
-  if (HasDisplay()) return quorvel::muxhost::RunWindow(argc, argv);
+int OnDisplay(int (*run)(int, char**), int argc, char** argv) {
+  if (HasDisplay()) return run(argc, argv);
   std::cerr << "muxhost: no display to open a window on; run a script with --script FILE\n";
   return kNoWindow;
 }
+
+/// What a build with a window offers besides.
+class WindowOptions {
+ public:
+  WindowOptions(CLI::App& app, CLI::Option* not_with) {
+    CLI::Option* const widgets =
+        app.add_flag("--widgets", widgets_, "Show every kind of control in every state")
+            ->excludes(not_with);
+    gallery_ =
+        app.add_option("--gallery", folder_,
+                       "Draw every window into pictures in FOLDER, without a screen, and exit")
+            ->type_name("FOLDER")
+            ->excludes(not_with)
+            ->excludes(widgets);
+    std::vector<std::string> names;
+    for (const auto& look : quorvel::muxhost::Looks()) names.push_back(look.name);
+    app.add_option("--looks", looks_, "What the pictures look like")
+        ->delimiter(',')
+        ->check(CLI::IsMember(names))
+        ->needs(gallery_)
+        ->capture_default_str();
+  }
+
+  int Run(int argc, char** argv) const {
+    using namespace quorvel::muxhost;
+    if (widgets_) return OnDisplay(RunWidgetPage, argc, argv);
+    if (gallery_->count() == 0) return OnDisplay(RunWindow, argc, argv);
+    for (const Look& look : Looks()) {
+      const bool wanted = std::find(looks_.begin(), looks_.end(), look.name) != looks_.end();
+      if (wanted) DrawGallery(argc, argv, folder_, look);
+    }
+    return 0;
+  }
+
+ private:
+  bool widgets_ = false;
+  CLI::Option* gallery_ = nullptr;
+  std::string folder_;
+  std::vector<std::string> looks_{"light"};
+};
 #else
-int OpenWindow(int /*argc*/, char** /*argv*/) {
-  std::cerr << "muxhost: built without a window; run a script with --script FILE\n";
-  return kNoWindow;
-}
+class WindowOptions {
+ public:
+  WindowOptions(CLI::App& /*app*/, CLI::Option* /*not_with*/) {}
+  int Run(int /*argc*/, char** /*argv*/) const {
+    std::cerr << "muxhost: built without a window; run a script with --script FILE\n";
+    return kNoWindow;
+  }
+};
 #endif
 
 }  // namespace
@@ -64,6 +112,7 @@ int main(int argc, char** argv) {
   bool block_map = false;
   app.add_flag("--block-map", block_map, "Print which block holds which setting, and exit")
       ->excludes(script_option);
+  const WindowOptions window(app, script_option);
   CLI11_PARSE(app, argc, argv);
 
   try {
@@ -71,7 +120,7 @@ int main(int argc, char** argv) {
       std::cout << quorvel::BlockMapMarkdown();
       return 0;
     }
-    return script_option->count() > 0 ? RunScript(script, echo) : OpenWindow(argc, argv);
+    return script_option->count() > 0 ? RunScript(script, echo) : window.Run(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "muxhost: " << error.what() << '\n';
     return kFailed;

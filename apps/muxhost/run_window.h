@@ -2,8 +2,13 @@
 
 namespace quorvel::muxhost {
 
-/// Opens the main window over a HostSession and runs until it is closed; returns the exit status.
-/// Defined beside MainWindow, in builds with a window only.
+// Defined beside MainWindow, in builds with a window only. Each makes the application and runs it
+// until its window is closed; returns the exit status.
+
+/// Opens the main window over a HostSession.
 int RunWindow(int argc, char** argv);
+
+/// Opens a window with every kind of control in every state.
+int RunWidgetPage(int argc, char** argv);
 
 }  // namespace quorvel::muxhost

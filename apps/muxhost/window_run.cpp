@@ -3,6 +3,7 @@
 
 #include "apps/muxhost/main_window.h"
 #include "apps/muxhost/run_window.h"
+#include "apps/muxhost/widget_page.h"
 
 namespace quorvel::muxhost {
 
@@ -22,6 +23,15 @@ int RunWindow(int argc, char** argv) {
   });
   MainWindow window(platform, session);
   window.show();
+  return QApplication::exec();
+}
+
+int RunWidgetPage(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  QtPlatform platform;
+  const auto page = std::make_shared<WidgetPage>(platform);
+  page->on_closed = [] { QApplication::quit(); };
+  page->Show();
   return QApplication::exec();
 }
 

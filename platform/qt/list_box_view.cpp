@@ -28,7 +28,7 @@ void ChoiceList::FitItems(int rows) {
   measured_ = false;
   updateGeometry();
   // Space below the last item would look like something that is missing.
-  const int most = std::max({model()->rowCount(), rows, kLeastRows});
+  const int most = rows > 0 ? rows : std::max(model()->rowCount(), kLeastRows);
   setMaximumHeight(RowHeight() * most + 2 * frameWidth());
 }
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorvel::muxhost {
+
+/// How the pictures of a gallery look.
+struct Look {
+  std::string name;
+  bool dark = false;
+  int percent = 100;        ///< of the usual size
+  bool long_texts = false;  ///< texts half again as long as the English ones
+};
+
+/// The looks there are, the usual one first.
+[[nodiscard]] const std::vector<Look>& Looks();
+
+/// Draws the host's windows, the component's and every kind of control, without a screen, into
+/// FOLDER/LOOK/DEVICE/WINDOW.png, and prints the name of each picture. Throws std::runtime_error
+/// when a window does not come or a picture cannot be written.
+void DrawGallery(int argc, char** argv, const std::string& folder, const Look& look);
+
+}  // namespace quorvel::muxhost

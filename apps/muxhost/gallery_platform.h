@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "quorvel/qt_platform.h"
+#include "quorvel/widgets.h"
+
+namespace quorvel::muxhost {
+
+/// The platform of somebody who is shown around: what comes on screen is remembered.
+class TourPlatform : public QtPlatform {
+ public:
+  /// The menu that was popped up last; whoever takes it waits for the next.
+  std::shared_ptr<PopupMenu> menu;
+  /// Called from the loop of the next modal dialog.
+  std::function<void(Dialog&)> at_modal;
+  /// The dialog on screen whose window this is, or none.
+  [[nodiscard]] Dialog* DialogIn(const QWidget& window) const;
+
+  void Show(Dialog& dialog) override;
+  void ShowModal(Dialog& dialog) override;
+  void Hide(Dialog& dialog) noexcept override;
+  void PopUp(std::shared_ptr<PopupMenu> popped_up, int x, int y) override;
+
+ private:
+  std::vector<Dialog*> dialogs_;
+};
+
+}  // namespace quorvel::muxhost
