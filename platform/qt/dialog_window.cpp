@@ -124,7 +124,9 @@ bool DialogWindow::event(QEvent* event) {
   const bool done = QDialog::event(event);
   if (event->type() == QEvent::LayoutRequest && isVisible()) Fit();
   // Sizes come from the font in many places.
-  if (event->type() == QEvent::ApplicationFontChange) Refresh(Aspect::kContent);
+  if (event->type() == QEvent::ApplicationFontChange && HandOverTyped()) {
+    Refresh(Aspect::kContent);
+  }
   return done;
 }
 
@@ -139,15 +141,21 @@ void DialogWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(!isVisible());
 }
 
+/// A box that is taken as a whole is left, as it is when a button is clicked. False when what was
+/// typed has made the window go.
+bool DialogWindow::HandOverTyped() {
+  const VerbsUnderWay::Scope scope(verbs_);
+  const QPointer<QWidget> focus = focusWidget();
+  if (focus == nullptr) return dialog_ != nullptr;
+  focus->clearFocus();
+  if (dialog_ == nullptr) return false;
+  if (focus != nullptr) focus->setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
 void DialogWindow::PressKeyButton(Button* button) {
   const VerbsUnderWay::Scope scope(verbs_);
-  // A box that is taken as a whole is left, as it is when a button is clicked.
-  if (QWidget* const focus = focusWidget();
-      focus != nullptr && button == dialog_->DefaultButton()) {
-    focus->clearFocus();
-    if (dialog_ == nullptr) return;  // what was typed made the window go
-    focus->setFocus(Qt::OtherFocusReason);
-  }
+  if (button == dialog_->DefaultButton() && !HandOverTyped()) return;
   button->Click();
 }
 

@@ -48,6 +48,7 @@ class DialogWindow : public QDialog, public WidgetView {
   [[nodiscard]] QSize LargestSize() const;
   /// Gives the focus to the first control that takes a person's input.
   void FocusInput();
+  [[nodiscard]] bool HandOverTyped();
   void PressKeyButton(Button* button);
 
   Dialog* dialog_;

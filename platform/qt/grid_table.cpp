@@ -108,6 +108,7 @@ void GridTable::mousePressEvent(QMouseEvent* event) {
 }
 
 void GridTable::mouseMoveEvent(QMouseEvent* event) {
+  if ((event->buttons() & Qt::LeftButton) == 0) return GiveUpRange();  // it was let go elsewhere
   if (dragging_ && row_ > 0) ExtendTo(RowUnder(static_cast<int>(event->position().y())));
 }
 
@@ -140,8 +141,11 @@ bool GridTable::Move(const QKeyEvent& event, int& row, int& column) const {
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy)) return on_copy();
-  if (event->matches(QKeySequence::Paste)) return on_paste();
+  const bool copies = event->matches(QKeySequence::Copy);
+  if (copies || event->matches(QKeySequence::Paste)) {
+    if (extending_) EndSelection();  // of the range that is drawn
+    return copies ? on_copy() : on_paste();
+  }
   const bool extend = (event->modifiers() & Qt::ShiftModifier) != 0 && row_ > 0;
   int row = extend ? row_sel_ : row_;
   int column = column_;
@@ -168,7 +172,13 @@ void GridTable::keyReleaseEvent(QKeyEvent* event) {
 
 void GridTable::focusOutEvent(QFocusEvent* event) {
   QTableView::focusOutEvent(event);
-  if (std::exchange(extending_, false)) on_cancel();
+  GiveUpRange();
+}
+
+void GridTable::GiveUpRange() {
+  const bool drawn = extending_ || dragging_;
+  extending_ = dragging_ = false;
+  if (drawn) on_cancel();
 }
 
 void GridTable::resizeEvent(QResizeEvent* event) {

@@ -56,6 +56,8 @@ class GridTable : public FocusShown<QTableView> {
   void ExtendTo(int row);
   void DrawSelection();
   void EndSelection();
+  /// Ends a range that is drawn and was not told to the model, as if it had not been begun.
+  void GiveUpRange();
   /// Width that a column needs for its header and its texts.
   [[nodiscard]] int NeededWidth(int column) const;
 
