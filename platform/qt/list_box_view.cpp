@@ -109,6 +109,11 @@ void ChoiceList::mouseReleaseEvent(QMouseEvent* event) {
   if (SelectedRow() >= 0) on_choose(SelectedRow());
 }
 
+void ChoiceList::focusOutEvent(QFocusEvent* event) {
+  FocusShown::focusOutEvent(event);
+  if (std::exchange(pressed_, false)) on_cancel();
+}
+
 void ChoiceList::keyPressEvent(QKeyEvent* event) {
   const int before = SelectedRow();
   const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
@@ -124,6 +129,7 @@ void ChoiceList::keyPressEvent(QKeyEvent* event) {
 ListBoxView::ListBoxView(VerbsUnderWay& verbs, ListBox& model, QWidget& parent)
     : ViewOf(verbs, model, new ChoiceList(parent)), texts_(new ChoiceTexts(model, *GetBody())) {
   GetBody()->setModel(texts_);
+  GetBody()->on_cancel = [this] { Refresh(Aspect::kSelection); };
   GetBody()->on_choose = [this](int item) { Act([item](ListBox& list) { list.Choose(item); }); };
   DrawAll();
 }

@@ -16,6 +16,8 @@ class ChoiceList : public FocusShown<QListView> {
  public:
   explicit ChoiceList(QWidget& parent);
   std::function<void(int)> on_choose;
+  /// The pointer was pressed on an item, and is let go elsewhere: nothing was chosen.
+  std::function<void()> on_cancel;
 
   /// Space for the items, all of their width and up to a limit of their number, or for a number of
   /// lines. It only grows, and once on screen not in height, so that nothing jumps about when
@@ -32,6 +34,7 @@ class ChoiceList : public FocusShown<QListView> {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
