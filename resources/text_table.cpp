@@ -348,6 +348,7 @@ constexpr std::string_view kAddedTexts[] = {
     /* 1001 */ "More than 48 characters before or after \"@\": it will be cut",
     /* 1002 */ "Nothing was pasted: a value is not a choice of its column",
     /* 1003 */ "Nothing was pasted: it does not fit into the table here",
+    /* 1004 */ "Local email address:",
 };
 // clang-format on
 

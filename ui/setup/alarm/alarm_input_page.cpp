@@ -22,7 +22,8 @@ AlarmInputPage::AlarmInputPage(Editor& editor)
 }
 
 Layout AlarmInputPage::Contents() {
-  return Row(MSFG_AlInput, Column(Labelled(Label1, lst_AlInput), Labelled(Label2, lst_AlEnable)));
+  return Row(MSFG_AlInput,
+             Column(Labelled(Label1, lst_AlInput), Labelled(Label2, lst_AlEnable), Stretch()));
 }
 
 void AlarmInputPage::Fill() {

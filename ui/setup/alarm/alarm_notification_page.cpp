@@ -76,7 +76,7 @@ AlarmNotificationPage::AlarmNotificationPage(Editor& editor, const AlarmFace& fa
       lbUser2Addr(editor, "lbUser2Addr", Text(112)),
       txtUser2Addr(editor, "txtUser2Addr"),
       lbUser2Warning(editor, "lbUser2Warning"),
-      lbLocalEmail(editor, "lbLocalEmail", "Local email address:"),
+      lbLocalEmail(editor, "lbLocalEmail", Text(kTextLocalEmail)),
       txtLocalEmail(editor, "txtLocalEmail"),
       lbLocalWarning(editor, "lbLocalWarning"),
       Frame14(editor, "Frame14", Text(107)),

@@ -28,7 +28,7 @@ VideoLossPage::VideoLossPage(Editor& editor, const AlarmFace& face)
 
 Layout VideoLossPage::Contents() {
   return Row(MSFG_VidLoss, Column(Labelled(Label8, lst_AlRelay1), Labelled(Label9, lst_AlRelay2),
-                                  Labelled(Label10, lst_AlBuz)));
+                                  Labelled(Label10, lst_AlBuz), Stretch()));
 }
 
 void VideoLossPage::Fill() {
