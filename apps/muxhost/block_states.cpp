@@ -10,12 +10,10 @@ namespace {
 
 /// What came of a block that was handed over; nothing is known of one whose array was refused.
 std::optional<BlockState> StateOfSent(const Exchange& exchange, Byte block) {
+  if (exchange.ended && exchange.unanswered == block) return BlockState::kFailed;
   if (!exchange.read_back) return BlockState::kSent;
   const auto& differ = exchange.read_back->differ;
-  if (exchange.unanswered == block ||
-      std::find(differ.begin(), differ.end(), block) != differ.end()) {
-    return BlockState::kFailed;
-  }
+  if (std::find(differ.begin(), differ.end(), block) != differ.end()) return BlockState::kFailed;
   if (exchange.array_bytes > 0 && !exchange.array_taken) return std::nullopt;
   return BlockState::kVerified;
 }

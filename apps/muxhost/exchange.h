@@ -32,6 +32,7 @@ struct Exchange {
   /// What the control handed over to be written: the last bytes for each block, and the macro data.
   std::map<Byte, std::vector<Byte>> sent_blocks;
   std::vector<Byte> sent_macros;
+  bool ended = false;                 ///< a send has returned: nothing is acknowledged any more
   std::optional<ReadBack> read_back;  ///< after an upload in which something was handed over
 
   /// Notes a packet that ends a send. A second one shows that the first was block 255, all zero.

@@ -21,8 +21,13 @@ struct Device {
   const char* name;
   TourDevice device;
 };
-const Device kDevices[] = {
-    {"multiplexer", {.model = 0}}, {"triplex", {.model = 6}}, {"triplex-lite", {8, 9}}};
+const Device kDevices[] = {{"multiplexer", {.model = 0}},
+                           {"multiplexer-basic", {.model = 0, .variant = "A"}},
+                           {"duplex", {.model = 2}},
+                           {"triplex", {.model = 6}},
+                           {"triplex-lite", {8, 9}},
+                           {"triplex-lite-4", {16, 4}},
+                           {"triplex-matrix-presets", {.model = 15, .variant = "0"}}};
 
 /// A small laptop's screen; one of the usual size where everything is drawn larger.
 QByteArray ScreenFor(const Look& look) {
@@ -53,6 +58,7 @@ QPalette DarkPalette() {
   palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
   palette.setColor(QPalette::HighlightedText, Qt::black);
   palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 80, 80));
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(190, 190, 190));
   palette.setColor(QPalette::Link, QColor(42, 130, 218));
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                           QPalette::BrightText, QPalette::ToolTipText}) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -69,6 +70,9 @@ void Tour::Choose(const QString& item, Qt::MatchFlags match) {
 void Tour::Connect(const TourDevice& device) {
   Choose(QString("%1  ").arg(device.model), Qt::MatchStartsWith);
   Choose(QString::number(device.cameras), Qt::MatchExactly);
+  auto* const variant = window_.findChild<QLineEdit*>("variant");
+  if (variant == nullptr) throw std::runtime_error("no box for the variant");
+  variant->setText(device.variant);
   for (QPushButton* const button : window_.findChildren<QPushButton*>()) {
     if (button->text() == "Connect") button->click();
   }

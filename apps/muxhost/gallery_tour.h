@@ -16,6 +16,7 @@ namespace quorvel::muxhost {
 struct TourDevice {
   int model = 0;
   int cameras = 16;
+  const char* variant = "";  ///< one character, or nothing: as from the factory
 };
 
 /// Connects a device, goes through every window that there is for it, and takes pictures.

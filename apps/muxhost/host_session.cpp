@@ -96,6 +96,7 @@ void HostSession::Upload() {
   BeginExchange();
   const auto exchange = exchange_;
   control_->Custom(kSend, 0, 0);
+  exchange->ended = true;
   ReadBackWritten(exchange);
 }
 

@@ -1,6 +1,5 @@
 #include "apps/muxhost/main_window.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -17,12 +16,6 @@
 
 namespace quorvel::muxhost {
 
-namespace {
-
-constexpr int kPatience = SilenceWatch::kUsualPatience;
-
-}  // namespace
-
 MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
     : platform_(platform),
       session_(session),
@@ -35,7 +28,10 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
       blocks_(new BlockMapBox(session)),
       log_(new EventLog),
       identity_(new QLabel),
-      silence_([this](const std::string& sentence) { log_->Add(sentence); }),
+      silence_([this](const std::string& sentence) {
+        log_->Add(sentence);
+        awaits_answer_ = false;
+      }),
       uploader_({platform, session, *this, *backups_, *log_, silence_}) {
   constexpr int kWatchInterval = 150;
   setWindowTitle("muxhost");
@@ -153,6 +149,7 @@ void MainWindow::Connect() {
   try {
     SimulatedDevice device(picker_->Setup());
     silence_.End();
+    awaits_answer_ = false;
     surface_->Detach();
     delete surface_;
     surface_ = nullptr;
@@ -168,6 +165,8 @@ void MainWindow::Connect() {
 }
 
 void MainWindow::Do(Command command) {
+  // What the command before waited for is not waited for any more.
+  silence_.End();
   switch (command) {
     case Command::kDownload: return Download();
     case Command::kMenu: return session_.OpenMenu();
@@ -192,17 +191,35 @@ void MainWindow::Run(void (HostSession::*command)()) {
   ShowState();
 }
 
+void MainWindow::RunUntilAnswered(void (HostSession::*command)()) {
+  Run(command);
+  awaits_answer_ = true;
+  ShowState();
+}
+
+void MainWindow::NoticeAnswer() {
+  if (!awaits_answer_) return;
+  if (!session_.LastExchange().arrived && session_.LinkIsOn()) return;
+  awaits_answer_ = false;
+  silence_.End();
+}
+
+int MainWindow::Patience() const {
+  const auto& fault = session_.PendingFault();
+  const int later = fault && fault->kind == FaultKind::kLate ? fault->delay_ms : 0;
+  return SilenceWatch::kUsualPatience + session_.Settings().latency_ms + later;
+}
+
 void MainWindow::Download() {
   if (!MayLoseChanges("Downloading")) return;
   loaded_ = false;
   const bool with_dialog = session_.Settings().comm_id == 0;
   silence_.Begin(
-      kPatience + session_.Settings().latency_ms,
-      [this] { return !session_.LastExchange().arrived; },
+      Patience(), [this] { return !session_.LastExchange().arrived; },
       with_dialog ? "the device has not answered: close the dialog to break it off"
                   : "the device has not answered");
+  if (!with_dialog) return RunUntilAnswered(&HostSession::Download);
   Run(&HostSession::Download);
-  if (!with_dialog) return;  // its answer is still to come
   silence_.End();
   if (!session_.LastExchange().arrived) {
     log_->Add("the download has not come to its end: the control keeps what it had");
@@ -210,15 +227,12 @@ void MainWindow::Download() {
 }
 
 void MainWindow::BuildDefaults() {
-  constexpr int kReplies = 2;
   if (!MayLoseChanges("Taking the factory defaults")) return;
-  const auto& fault = session_.PendingFault();
-  const int later = fault && fault->kind == FaultKind::kLate ? fault->delay_ms : 0;
+  // They are there when the message that says so is closed.
   silence_.Begin(
-      kPatience + session_.Settings().latency_ms + later,
-      [this] { return session_.LastExchange().blocks_read < kReplies; },
+      Patience(), [this] { return !session_.LastExchange().arrived && !IsLocked(); },
       "the device has not answered: there are no factory defaults");
-  Run(&HostSession::BuildDefaults);
+  RunUntilAnswered(&HostSession::BuildDefaults);
 }
 
 void MainWindow::EditZones(int cameras) {
@@ -246,35 +260,35 @@ Situation MainWindow::PresentSituation() const {
            .loaded = loaded_,
            .modified = !session_.Control().ModifiedBlocks().empty(),
            .others_open = OthersAreOpen(this),
-           .locked = IsLocked()},
+           .locked = IsLocked(),
+           .waiting = awaits_answer_},
           states.Unwritten().size(),
           states.In(BlockState::kFailed).size(),
-          states.In(BlockState::kVerified).size()};
+          states.In(BlockState::kVerified).size(),
+          blocks_->OnlyMacrosAreLeft()};
 }
 
 void MainWindow::ShowState() {
   loaded_ = loaded_ || session_.LastExchange().arrived;
+  NoticeAnswer();
   blocks_->Update(transfer_runs_, OthersAreOpen(this));
   Situation situation = PresentSituation();
   const NextStep step = NextStepIn(situation);
   situation.commands.next = step.press;
   commands_->Show(situation.commands);
   hint_->setText(step.hint);
-  const bool free = !situation.commands.others_open;
-  picker_->AllowConnect(free, CommandBox::Busy(situation.commands.locked));
-  options_->AllowExchange(free, CommandBox::Busy(situation.commands.locked));
+  const QString busy = CommandBox::Busy(situation.commands);
+  picker_->AllowConnect(busy.isEmpty(), busy);
+  options_->AllowExchange(busy.isEmpty(), busy);
   link_->ShowPending(session_.PendingFault());
   identity_->setText(Describe(session_.Device(), platform_));
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
+  // A button that has the focus, the default one too, takes its key itself.
   const QWidget* const focus = focusWidget();
-  const bool plain = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  const bool elsewhere = qobject_cast<const QLineEdit*>(focus) != nullptr ||
-                         qobject_cast<const QAbstractSpinBox*>(focus) != nullptr ||
-                         qobject_cast<const QComboBox*>(focus) != nullptr ||
-                         qobject_cast<const QAbstractButton*>(focus) != nullptr;
-  if (!plain || elsewhere) return QMainWindow::keyPressEvent(event);
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter || (focus != nullptr && focus != this)) return QMainWindow::keyPressEvent(event);
   commands_->PressDefault();
 }
 

@@ -22,8 +22,10 @@
 
 namespace quorvel::muxhost {
 
-/// The host's window: the device, the control, its commands, and what crosses the link. Closed in
-/// the middle of a transfer it ends the transfer.
+/// The host's window: the device, the control, its commands, and what crosses the link. While the
+/// dialog of a transfer is open a person cannot close the window: the window system does not
+/// deliver it. Closed then by other means, such as the end of the desktop's session, it ends the
+/// transfer.
 class MainWindow : public QMainWindow {
  public:
   /// Both must outlive the window.
@@ -35,7 +37,7 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  /// Return presses the default button, unless something in the window has a use of its own for it.
+  /// Return presses the default button where nothing in the window has the focus.
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -48,6 +50,13 @@ class MainWindow : public QMainWindow {
   void Do(Command command);
   /// Gives the session a command, which may run a loop of its own.
   void Run(void (HostSession::*command)());
+  /// The same for one whose answer may come after it has returned. Until it is there nothing can be
+  /// edited, as the answer would replace it.
+  void RunUntilAnswered(void (HostSession::*command)());
+  /// Ends that when the answer has come, or none will.
+  void NoticeAnswer();
+  /// What an answer may take.
+  [[nodiscard]] int Patience() const;
   void Download();
   void BuildDefaults();
   void EditZones(int cameras);
@@ -79,6 +88,7 @@ class MainWindow : public QMainWindow {
   int zones_wanted_ = 0;        ///< cameras
   bool loaded_ = false;         ///< the control holds a configuration
   bool transfer_runs_ = false;  ///< a command that exchanges data with the device
+  bool awaits_answer_ = false;  ///< of a command that has returned
   bool closing_ = false;        ///< the user is being asked whether to
 };
 

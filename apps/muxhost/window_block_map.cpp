@@ -65,7 +65,7 @@ QSize BlockGrid::Cells(int columns, int rows) const {
           cell.height() * rows + borders};
 }
 
-QSize BlockGrid::sizeHint() const { return Cells(16, 13); }
+QSize BlockGrid::sizeHint() const { return Cells(16, 15); }
 QSize BlockGrid::minimumSizeHint() const { return Cells(5, 4); }
 
 bool BlockGrid::viewportEvent(QEvent* event) {
@@ -100,15 +100,12 @@ BlockMapBox::BlockMapBox(HostSession& session, QWidget* parent)
     if (!grid_->hasFocus() && !grid_->underMouse()) grid_->scrollTo(cell);
   });
   contents_->setReadOnly(true);
-  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  fixed.setPointSizeF(font().pointSizeF());
-  contents_->setFont(fixed);
   contents_->setAccessibleName("What the block holds");
   contents_->setTabChangesFocus(true);
-  contents_->setMinimumHeight(3 * fontMetrics().lineSpacing());
   auto* const row = new QHBoxLayout(this);
   row->addWidget(grid_, 1);
   row->addLayout(MakeLegend());
+  Measure();
   (new QVBoxLayout(contents_box_))->addWidget(contents_);
   Update(false, false);
   grid_->setCurrentIndex(model_->index(0));
@@ -120,18 +117,38 @@ QLayout* BlockMapBox::MakeLegend() {
     QLabel* const count = counts_.at(static_cast<std::size_t>(i)) = new QLabel;
     legend->addWidget(new Swatch(static_cast<BlockState>(i)), i, 0);
     legend->addWidget(count, i, 1);
-    // Counts that grow move nothing.
-    count->setMinimumWidth(count->fontMetrics().horizontalAdvance("untouched: 255 "));
   }
   legend->setRowStretch(kBlockStates, 1);
   return legend;
+}
+
+void BlockMapBox::Measure() {
+  QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  if (font().pointSizeF() > 0) {
+    fixed.setPointSizeF(font().pointSizeF());
+  } else {
+    fixed.setPixelSize(font().pixelSize());
+  }
+  contents_->setFont(fixed);
+  contents_->setMinimumHeight(3 * fontMetrics().lineSpacing());
+  // Counts that grow move nothing.
+  const int width = fontMetrics().horizontalAdvance("untouched: 255 ");
+  for (QLabel* const count : counts_) count->setMinimumWidth(width);
+}
+
+void BlockMapBox::changeEvent(QEvent* event) {
+  QGroupBox::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Measure();
 }
 
 bool BlockMapBox::MayHaveChanges(bool editor_is_open) {
   const auto device = session_.Device().Bytes();
   auto image = session_.Control().Image();
   auto listed = session_.Control().ModifiedBlocks();
-  if (image != image_) contents_are_old_ = true;
+  if (image != image_) {
+    contents_are_old_ = true;
+    bare_ = FindBareBlocks(image, session_.Device().IsCombined());
+  }
   // What an editor did last is there when it has closed.
   const bool may = std::exchange(editor_was_open_, editor_is_open) || editor_is_open ||
                    image != image_ || listed != listed_ ||
@@ -168,13 +185,22 @@ void BlockMapBox::TakeChanges() {
   const MainMenuCtrl& control = session_.Control();
   auto differences =
       control.DifferencesFrom(session_.Device().Bytes()).value_or(std::vector<SettingDifference>());
-  std::set<Byte> blocks;
+  std::set<Byte> blocks = bare_.Differing(image_, device_);
   for (const SettingDifference& difference : differences) {
     blocks.insert(difference.blocks.begin(), difference.blocks.end());
   }
   states_.SetChanges(listed_, std::move(blocks));
   if (differences != differences_) contents_are_old_ = true;
   differences_ = std::move(differences);
+}
+
+bool BlockMapBox::OnlyMacrosAreLeft() const {
+  std::vector<Byte> left = states_.Unwritten();
+  const std::vector<Byte> failed = states_.In(BlockState::kFailed);
+  left.insert(left.end(), failed.begin(), failed.end());
+  return !left.empty() && std::all_of(left.begin(), left.end(), [this](Byte block) {
+    return bare_.with_macros.contains(block);
+  });
 }
 
 void BlockMapBox::Look(int block) {

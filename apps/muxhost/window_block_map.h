@@ -7,6 +7,7 @@
 #include <array>
 #include <functional>
 
+#include "apps/muxhost/bare_blocks.h"
 #include "apps/muxhost/block_states.h"
 #include "apps/muxhost/host_session.h"
 #include "apps/muxhost/window_block_model.h"
@@ -47,11 +48,18 @@ class BlockMapBox : public QGroupBox {
   /// when the list of modified blocks, the image or the device has changed.
   void Update(bool transfer_runs, bool editor_is_open);
   [[nodiscard]] const BlockStates& States() const { return states_; }
+  /// What is changed or has failed goes to the device only together with the macros.
+  [[nodiscard]] bool OnlyMacrosAreLeft() const;
   /// What the block under the pointer, or the chosen one, holds: to be placed beside the map.
   [[nodiscard]] QWidget* ContentsBox() { return contents_box_; }
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   [[nodiscard]] QLayout* MakeLegend();
+  /// Takes over what comes from the font's size.
+  void Measure();
   [[nodiscard]] bool MayHaveChanges(bool editor_is_open);
   void TakeChanges();
   void Look(int block);
@@ -69,6 +77,7 @@ class BlockMapBox : public QGroupBox {
   std::vector<Byte> image_;
   std::vector<Byte> device_;
   std::vector<Byte> listed_;
+  BareBlocks bare_;  ///< of the image
   bool editor_was_open_ = true;
   int looked_at_ = 1;
   bool contents_are_old_ = true;

@@ -34,7 +34,10 @@ constexpr CommandButton kButtons[] = {
 };
 
 QString WhyNot(const CommandButton& about, const CommandBox::State& state) {
-  if (about.needs_screen ? state.others_open : state.locked) return CommandBox::Busy(state.locked);
+  if (about.needs_screen || state.locked || state.waiting) {
+    const QString busy = CommandBox::Busy(state);
+    if (!busy.isEmpty()) return busy;
+  }
   if (about.needs_link && !state.link_on) return "The link to the device is off";
   if (about.needs_data && !state.loaded) return "Download the device's configuration first";
   return {};
@@ -71,9 +74,10 @@ CommandBox::CommandBox(QWidget* parent)
   setTabOrder(with_macros_, ButtonOf(Command::kSave));
 }
 
-QString CommandBox::Busy(bool locked) {
-  return locked ? "Finish the transfer or the question that is open first"
-                : "Close the other windows first";
+QString CommandBox::Busy(const State& state) {
+  if (state.locked) return "Finish the transfer or the question that is open first";
+  if (state.waiting) return "Waiting for the device";
+  return state.others_open ? "Close the other windows first" : "";
 }
 
 void CommandBox::Show(const State& state) {

@@ -32,6 +32,7 @@ class CommandBox : public QGroupBox {
     bool modified = false;          ///< the control lists modified blocks
     bool others_open = false;       ///< an editor, the menu or another window is on screen
     bool locked = false;            ///< a window is on screen that locks all others
+    bool waiting = false;           ///< an answer is to come that replaces the data
     std::optional<Command> next{};  ///< the sensible next step: the default button
   };
 
@@ -50,8 +51,8 @@ class CommandBox : public QGroupBox {
   void PressDefault();
   /// Gives the default button the focus.
   void FocusDefault();
-  /// Why a command that takes the whole screen cannot be given now.
-  [[nodiscard]] static QString Busy(bool locked);
+  /// Why a command that takes the whole screen cannot be given now; empty when it can.
+  [[nodiscard]] static QString Busy(const State& state);
 
  private:
   static constexpr std::size_t kCommands = 8;

@@ -4,7 +4,8 @@ class QWidget;
 
 namespace quorvel::muxhost {
 
-/// True while an editor, or the menu, is on screen beside the window.
+/// True while an editor, or the menu, is on screen beside the window. The lists of the window's own
+/// boxes do not count.
 [[nodiscard]] bool OthersAreOpen(const QWidget* window);
 
 /// True while a window is on screen that locks all others.

@@ -43,6 +43,7 @@ DevicePicker::DevicePicker(const Platform& platform, QWidget* parent)
   blocks_->setRange(0, kMostBlocks);
   blocks_->setSpecialValueText("as usual for the model");
   variant_->setValidator(new QRegularExpressionValidator(QRegularExpression("[!-~]?"), variant_));
+  variant_->setObjectName("variant");
   variant_->setPlaceholderText("as from the factory");
   name_->setMaxLength(kNameLength);
   name_->setPlaceholderText("as from the factory");

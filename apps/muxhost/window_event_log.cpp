@@ -1,5 +1,6 @@
 #include "apps/muxhost/window_event_log.h"
 
+#include <QScrollBar>
 #include <QTime>
 
 #include "apps/muxhost/window_words.h"
@@ -8,7 +9,8 @@ namespace quorvel::muxhost {
 
 namespace {
 
-constexpr int kMostLines = 2000;
+// Each new line has all of them laid out again.
+constexpr int kMostLines = 300;
 
 }  // namespace
 
@@ -18,6 +20,12 @@ EventLog::EventLog(QWidget* parent) : QListWidget(parent) {
   setWordWrap(true);
   setResizeMode(Adjust);
   setTextElideMode(Qt::ElideNone);
+  QScrollBar* const bar = verticalScrollBar();
+  QObject::connect(bar, &QScrollBar::valueChanged, this,
+                   [this, bar](int value) { at_end_ = value == bar->maximum(); });
+  QObject::connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+    if (at_end_) bar->setValue(bar->maximum());
+  });
 }
 
 void EventLog::Add(const std::string& entry) {
@@ -38,7 +46,6 @@ void EventLog::Add(const std::string& entry) {
 void EventLog::AddLine(const QString& text) {
   if (count() == kMostLines) delete takeItem(0);
   addItem(text);
-  scrollToBottom();
 }
 
 }  // namespace quorvel::muxhost

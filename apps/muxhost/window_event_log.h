@@ -7,6 +7,7 @@
 namespace quorvel::muxhost {
 
 /// What crossed between control and host, in plain words. A run of block numbers takes one line.
+/// The newest line is in sight, unless somebody has scrolled up from it.
 class EventLog : public QListWidget {
  public:
   explicit EventLog(QWidget* parent = nullptr);
@@ -20,6 +21,7 @@ class EventLog : public QListWidget {
   int run_first_ = 0;
   int run_last_ = 0;
   QString run_time_;
+  bool at_end_ = true;  ///< the newest line is in sight
 };
 
 }  // namespace quorvel::muxhost

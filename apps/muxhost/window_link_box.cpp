@@ -48,6 +48,9 @@ QWidget* LinkBox::MakePanel() {
   delay_->setRange(0, kLongestDelay);
   delay_->setValue(Fault::kUsualDelay);
   delay_->setSuffix(" ms");
+  arm_->setToolTip(
+      "The fault strikes once, in the first transfer that gets as far. The backup before an upload"
+      " is one: switch it off to have the upload struck.");
   auto* const panel = new QFrame;
   panel->setFrameStyle(QFrame::StyledPanel);
   auto* const column = new QVBoxLayout(panel);

@@ -9,8 +9,9 @@ QString Blocks(std::size_t count) {
 }
 
 NextStep StepToWrite(const Situation& situation) {
-  const bool listed = situation.commands.modified;
-  const QString how = QString(" Next: %1.").arg(listed ? "Upload modified" : "Upload all");
+  const bool listed = situation.commands.modified && !situation.only_macros;
+  const QString all = situation.only_macros ? "Upload all, with macros" : "Upload all";
+  const QString how = QString(" Next: %1.").arg(listed ? "Upload modified" : all);
   const QString what = situation.failed > 0
                            ? Blocks(situation.failed) + " failed."
                            : Blocks(situation.unwritten) + " modified and not in the device yet.";
@@ -22,6 +23,7 @@ NextStep StepToWrite(const Situation& situation) {
 NextStep NextStepIn(const Situation& situation) {
   const CommandBox::State& state = situation.commands;
   if (state.locked) return {"Finish the transfer or the question that is open.", {}};
+  if (state.waiting) return {"Waiting for the device.", {}};
   if (state.others_open) {
     return {"Next: change what you like; OK takes it over, and the map shows its blocks.", {}};
   }

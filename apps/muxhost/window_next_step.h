@@ -13,6 +13,7 @@ struct Situation {
   std::size_t unwritten = 0;  ///< blocks with changes that the device has not got
   std::size_t failed = 0;
   std::size_t verified = 0;
+  bool only_macros = false;  ///< unwritten and failed are blocks that come with the macros alone
 };
 
 /// What is sensible next.

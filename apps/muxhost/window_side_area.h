@@ -1,12 +1,15 @@
 #pragma once
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 
 namespace quorvel::muxhost {
 
-/// As wide as what it holds. On a low screen it scrolls, for which it keeps space free.
+/// As wide as what it holds. On a low screen it scrolls, for which it keeps space free. The wheel
+/// turns a box in it only when that has the focus: what is scrolled must not change on the way.
 class SideArea : public QScrollArea {
  public:
   explicit SideArea(QWidget* side) {
@@ -16,6 +19,14 @@ class SideArea : public QScrollArea {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setWidget(side);
+    for (QWidget* const box : side->findChildren<QWidget*>()) {
+      if (qobject_cast<QComboBox*>(box) == nullptr &&
+          qobject_cast<QAbstractSpinBox*>(box) == nullptr) {
+        continue;
+      }
+      box->setFocusPolicy(Qt::StrongFocus);
+      box->installEventFilter(this);
+    }
   }
   [[nodiscard]] QSize sizeHint() const override {
     const int bar = verticalScrollBar()->sizeHint().width();
@@ -27,6 +38,14 @@ class SideArea : public QScrollArea {
     const bool done = QScrollArea::event(event);
     if (event->type() == QEvent::LayoutRequest) updateGeometry();
     return done;
+  }
+  bool eventFilter(QObject* object, QEvent* event) override {
+    const auto* const box = qobject_cast<const QWidget*>(object);
+    if (event->type() != QEvent::Wheel || box == nullptr || box->hasFocus()) {
+      return QScrollArea::eventFilter(object, event);
+    }
+    event->ignore();
+    return true;
   }
 };
 

@@ -59,6 +59,11 @@ bool Uploader::WantsToSendAgain() {
   if (trouble.isEmpty() || !at_.window.isVisible()) return false;
   QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Close,
                   &at_.window);
+  if (!at_.session.LinkIsOn()) {
+    box.setInformativeText("The link to the device is off. Switch it on, then upload again.");
+    box.exec();
+    return false;
+  }
   box.setInformativeText("Send again?");
   const auto* const again = box.addButton("Send again", QMessageBox::AcceptRole);
   box.exec();

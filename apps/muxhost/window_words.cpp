@@ -150,6 +150,9 @@ QString WhatWentWrong(const Exchange& upload) {
   if (upload.array_bytes > 0 && !upload.array_taken) {
     sentences << "The device has not taken the combined array.";
   }
+  if (upload.ended && !upload.end_written && upload.unanswered) {
+    sentences << QString("The device has not acknowledged block %1.").arg(*upload.unanswered);
+  }
   if (upload.read_back && !upload.read_back->differ.empty()) {
     const auto& differ = upload.read_back->differ;
     sentences << "The device does not hold " + InWords("block", differ) + " as sent.";

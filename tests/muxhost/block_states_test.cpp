@@ -48,8 +48,13 @@ TEST(BlockStates, FollowAnUploadAndWhatIsEditedAfterIt) {
   // The packet with block 5 was never acknowledged.
   upload = Sent({4, 5});
   upload.unanswered = 5;
-  upload.read_back = ReadBack{2, false, {}, false};
   states.SetChanges(listed, {});
+  states.Follow(upload);
+  EXPECT_EQ(shown(), "unvesese");
+  upload.ended = true;
+  states.Follow(upload);
+  EXPECT_EQ(shown(), "unvesefa") << "also where nothing could be read back";
+  upload.read_back = ReadBack{2, false, {}, false};
   states.Follow(upload);
   EXPECT_EQ(shown(), "unvevefa");
 

@@ -70,24 +70,56 @@ TEST_F(MuxhostBlocks, BlockAtWhichASendBreaksOffHasFailed) {
   Download();
   ChangeZones();
   ASSERT_TRUE(QTest::qWaitFor([this] { return Cell(86) == "Block 86, changed"; }));
-  // A packet that is never acknowledged; the dialog is closed.
-  session_.SetFault(Fault{.kind = FaultKind::kSilent, .at = 1});
-  const WhenShown start([] { return Press("START"); });
-  const WhenShown close([this] {
-    return session_.LastExchange().unanswered && QApplication::activeModalWidget()->close();
-  });
-  Click("Upload modified");
-  EXPECT_EQ(Cell(85), "Block 85, failed");
-  EXPECT_NE(Events().find("not come to its end: block 85 was not acknowledged.\n"),
-            std::string::npos);
-  EXPECT_EQ(Cell(86), "Block 86, changed");
-  EXPECT_EQ(Hint(), "1 block failed. Next: Upload modified.");
+  for (const bool link_stays : {true, false}) {
+    // A packet that is never acknowledged; the dialog is closed.
+    session_.SetFault(Fault{.kind = FaultKind::kSilent, .at = 1});
+    const WhenShown start([] { return Press("START"); });
+    const WhenShown close([&] {
+      if (!session_.LastExchange().unanswered) return false;
+      if (!link_stays) session_.SwitchLink(false);
+      return QApplication::activeModalWidget()->close();
+    });
+    QString told;
+    const WhenShown question([&told] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box != nullptr) told = box->text();
+      return box != nullptr && Press("Close");
+    });
+    Click("Upload modified");
+    EXPECT_EQ(told, "The device has not acknowledged block 85.");
+    EXPECT_EQ(Cell(85), "Block 85, failed");
+    EXPECT_NE(Events().find("not come to its end: block 85 was not acknowledged.\n"),
+              std::string::npos);
+    EXPECT_EQ(Cell(86), "Block 86, changed");
+    const QString next = link_stays ? "1 block failed. Next: Upload modified."
+                                    : "Next: switch the link on (Host, at the left).";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Hint() == next; })) << Hint().toStdString();
+  }
+}
+
+TEST_F(MuxhostBlocks, MacroBlocksOfAFileGoToTheDeviceWithTheMacros) {
+  Download();
+  auto image = session_.Control().Image();
+  image.at(149 * 16) ^= 1;
+  QFile file(backups_.filePath("other.bin"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(reinterpret_cast<const char*>(image.data()), static_cast<qsizetype>(image.size()));
+  file.close();
+  {
+    const WhenShown name([&] { return Name(file.fileName()); });
+    const WhenShown finish([] { return Press("OK"); });
+    Click("Restore file");
+  }
+  EXPECT_EQ(Cell(150), "Block 150, changed");
+  EXPECT_EQ(Hint(), "1 block modified and not in the device yet. Next: Upload all, with macros.");
 }
 
 TEST_F(MuxhostBlocks, CellTellsWhatItsBlockHoldsByPointerAndByKey) {
   Download();
-  ChangeZones();
   map_.setFocus();
+  QTest::keyClick(&map_, Qt::Key_Return);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "the default button is not pressed";
+  ChangeZones();
   QTest::keyClick(&map_, Qt::Key_Home);
   QTest::keyClick(&map_, Qt::Key_Right);
   const std::string second =
@@ -129,17 +161,6 @@ TEST_F(MuxhostBlocks, WithoutABackupTheUploadAsksFirst) {
   const WhenShown question([&] { return answer("Upload without backup"); });
   SendModified();
   EXPECT_TRUE(session_.LastExchange().read_back->AsSent());
-}
-
-TEST_F(MuxhostBlocks, LinkThatIsOffDisablesWhatNeedsIt) {
-  Download();
-  Find<QCheckBox>(&window_, "Link to the device is on")->click();
-  for (const char* const text : {"Download", "Upload all", "Defaults"}) {
-    EXPECT_FALSE(Button(text).isEnabled()) << text;
-    EXPECT_EQ(Button(text).toolTip(), "The link to the device is off") << text;
-  }
-  EXPECT_TRUE(Button("Menu").isEnabled());
-  EXPECT_TRUE(Hint().startsWith("Next: switch the link on"));
 }
 
 }  // namespace

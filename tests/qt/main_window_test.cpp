@@ -1,9 +1,11 @@
 #include "apps/muxhost/main_window.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include "apps/muxhost/window_event_log.h"
 #include "tests/qt/muxhost_on_screen.h"
@@ -236,6 +238,42 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
   }
   EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
   EXPECT_EQ(Enabled(), "CDoMZUaSRDe");
+}
+
+TEST_F(MuxhostWindow, NothingCanBeEditedUntilTheAnswerIsThere) {
+  Download();
+  session_.Configure({.comm_id = 1, .latency_ms = 100});
+  Click("Download");
+  EXPECT_EQ(Enabled(), "");
+  auto* const link = Find<QCheckBox>(&window_, "Link to the device is on");
+  link->click();
+  EXPECT_EQ(Enabled(), "CMZSR");
+  EXPECT_EQ(Button("Download").toolTip(), "The link to the device is off");
+  link->click();
+  const WhenShown told([] { return Press("OK"); });
+  Click("Defaults");
+  EXPECT_EQ(Enabled(), "");
+  EXPECT_EQ(window_.findChild<QLabel*>("Hint")->text(), "Waiting for the device.");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return session_.LastExchange().arrived; }));
+  EXPECT_EQ(Enabled(), "CDoMZUaSRDe");
+}
+
+TEST_F(MuxhostWindow, BoxesKeepTheirListsAndPassTheWheelOn) {
+  auto* const box = window_.findChildren<QComboBox*>().at(3);
+  ASSERT_EQ(box->itemText(1), "Image in one call");
+  box->showPopup();
+  QTest::qWait(300);
+  EXPECT_TRUE(box->view()->isVisible());
+  box->hidePopup();
+  for (const bool focus : {false, true}) {
+    if (focus) box->setFocus();
+    if (focus) window_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return box->hasFocus() == focus; }));
+    QWheelEvent turn(QPointF(5, 5), box->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box, &turn);
+    EXPECT_EQ(box->currentIndex(), focus ? 1 : 0);
+  }
 }
 
 TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
