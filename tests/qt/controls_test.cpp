@@ -1,9 +1,3 @@
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QListView>
-#include <QPushButton>
-#include <QRadioButton>
-
 #include "tests/qt/on_screen.h"
 
 namespace quorvel {
@@ -11,47 +5,44 @@ namespace {
 
 class QtControls : public OnScreen {
  protected:
-  QtControls() { Show(); }
-
-  static void ClickItem(QListView& list, int item) {
-    const QRect place = list.visualRect(list.model()->index(item, 0));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place.center());
+  QtControls() {
+    constexpr int kItems = 101;
+    std::vector<std::string> items;
+    for (int i = 0; i < kItems; ++i) items.push_back(std::to_string(i));
+    dialog_->list.SetItems(items);
+    Show();
   }
 };
 
 TEST_F(QtControls, TypingReachesTheModelUpToItsLimit) {
-  auto& edit = Body<QLineEdit>("m_Title(0)");
-  edit.setCursorPosition(5);
-  QTest::keyClicks(&edit, " one two three");
-  EXPECT_EQ(dialog_->m_Title(0).Text(), "Lobby one tw");
+  auto& edit = Body<QLineEdit>("text");
+  QTest::keyClicks(&edit, "Lobby one two three");
+  EXPECT_EQ(dialog_->text.Text(), "Lobby one tw");
   edit.setCursorPosition(2);
   QTest::keyClicks(&edit, "X");
-  EXPECT_EQ(dialog_->m_Title(0).Text(), "Lobby one tw");
-  EXPECT_TRUE(dialog_->m_Title(0).Edited());
+  EXPECT_EQ(dialog_->text.Text(), "Lobby one tw");
+  EXPECT_TRUE(dialog_->text.Edited());
 }
 
 TEST_F(QtControls, TextThatTheProgramSetIsShownAndNotWrittenBack) {
-  TextBox& box = dialog_->m_Title(0);
-  auto& edit = Body<QLineEdit>("m_Title(0)");
-  const std::string texts[] = {"Longer than twelve characters", std::string("A\0B", 3),
-                               "Stra\xC3\x9F"
-                               "e",
-                               ""};
-  for (const std::string& text : texts) {
+  TextBox& box = dialog_->text;
+  auto& edit = Body<QLineEdit>("text");
+  for (const std::string& text :
+       {std::string("Longer than twelve characters"), std::string("Stra\xC3\x9F"), std::string(),
+        std::string("A\0B", 3)}) {
     box.SetText(text);
     EXPECT_EQ(edit.text().toStdString(), text);
     EXPECT_EQ(box.Text(), text);
     EXPECT_FALSE(box.Edited());
   }
-  EXPECT_EQ(dialog_->TakeNotes(), Notes{});
-  box.SetText(std::string("A\0B", 3));
+  EXPECT_EQ(TakeNotes(), "");
   QTest::keyClick(&edit, Qt::Key_End);
   QTest::keyClicks(&edit, "C");
   EXPECT_EQ(box.Text(), std::string("A\0BC", 4));
 }
 
 TEST_F(QtControls, RewrittenTextKeepsTheCursorWhereTheTypistIs) {
-  TextBox& box = dialog_->m_Title(0);
+  TextBox& box = dialog_->text;
   box.on_change = [&box] {
     std::string digits;
     for (const char c : box.Text()) {
@@ -60,7 +51,7 @@ TEST_F(QtControls, RewrittenTextKeepsTheCursorWhereTheTypistIs) {
     box.RewriteText(digits);
   };
   box.SetText("1234");
-  auto& edit = Body<QLineEdit>("m_Title(0)");
+  auto& edit = Body<QLineEdit>("text");
   edit.setCursorPosition(2);
   QTest::keyClicks(&edit, "9x8");
   EXPECT_EQ(box.Text(), "129834");
@@ -70,76 +61,43 @@ TEST_F(QtControls, RewrittenTextKeepsTheCursorWhereTheTypistIs) {
   EXPECT_EQ(edit.cursorPosition(), 3);
 }
 
-TEST_F(QtControls, ListTellsEachPickOnce) {
-  dialog_->pages.SetCurrent(1);
-  Settle();
-  auto& list = Body<QListView>("lst_Action");
-  ClickItem(list, 2);
-  ClickItem(list, 2);
-  QTest::keyClick(&list, Qt::Key_Down);
-  QTest::mousePress(list.viewport(), Qt::LeftButton, {},
-                    list.visualRect(list.model()->index(1, 0)).center());
-  QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, QPoint(5, list.height() + 50));
-  EXPECT_EQ(dialog_->TakeNotes(), (Notes{"choose 2", "choose 2", "choose 3", "choose 1"}));
-}
-
-TEST_F(QtControls, ListWithoutACurrentItemStaysSoUntilAPick) {
-  dialog_->pages.SetCurrent(1);
-  Settle();
-  auto& list = Body<QListView>("lst_Action");
+TEST_F(QtControls, ListHasNoCurrentItemUntilAPickAndTellsEachOnce) {
+  auto& list = Body<QListView>("list");
   list.setFocus(Qt::TabFocusReason);
-  EXPECT_TRUE(!list.selectionModel()->hasSelection());
+  EXPECT_FALSE(list.selectionModel()->hasSelection());
   EXPECT_EQ(dialog_->list.Current(), ListBox::kNone);
   QTest::keyClick(&list, Qt::Key_Down);
-  EXPECT_EQ(dialog_->TakeNotes(), Notes{"choose 0"});
+  ClickCell(list, 2);
+  ClickCell(list, 2);
+  QTest::keyClick(&list, Qt::Key_Down);
+  QTest::mousePress(list.viewport(), Qt::LeftButton, {}, CellPlace(list, 1, 0));
+  QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, QPoint(5, list.height() + 50));
+  EXPECT_EQ(TakeNotes(),
+            "list 0 \"0\" of 101; list 2 \"2\" of 101; list 2 \"2\" of 101; "
+            "list 3 \"3\" of 101; list 1 \"1\" of 101; ");
   dialog_->list.Select(500);
-  EXPECT_TRUE(!list.selectionModel()->hasSelection());
+  EXPECT_FALSE(list.selectionModel()->hasSelection());
 }
 
-TEST_F(QtControls, GroupsOfOptionsInOneFrameStayApart) {
-  struct TwoGroups : Dialog {
-    explicit TwoGroups(Platform& platform) : Dialog(platform, "frm_TwoGroups") {
-      SetLayout(Column(first, second));
-    }
-    ControlArray<OptionButton> first{*this, "opt_First", 2};
-    ControlArray<OptionButton> second{*this, "opt_Second", 2};
-  };
-  const auto groups = std::make_shared<TwoGroups>(platform_);
-  groups->first(1).Select();
-  groups->Show();
-  const auto options = platform_.WindowOf(*groups)->findChildren<QRadioButton*>();
-  QTest::mouseClick(options.at(2), Qt::LeftButton, {}, QPoint(8, options.at(2)->height() / 2));
-  EXPECT_TRUE(groups->second(0).Selected());
-  EXPECT_TRUE(options.at(1)->isChecked());
-  EXPECT_TRUE(options.at(2)->isChecked());
-}
-
-TEST_F(QtControls, LongListScrollsToWhatTheProgramSelects) {
+TEST_F(QtControls, LongListScrollsToWhatTheProgramSelectsAndShowsWholeRowsAndTheFocus) {
+  dialog_->tabs.SetCurrent(1);
   dialog_->list.Select(77);
-  dialog_->pages.SetCurrent(1);
+  dialog_->tabs.SetCurrent(0);
   Settle();
-  auto& list = Body<QListView>("lst_Action");
-  EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.model()->index(77, 0))));
+  auto& list = Body<QListView>("list");
+  const auto place = [&list](int row) { return list.visualRect(list.model()->index(row, 0)); };
+  const int height = place(77).height();
+  EXPECT_TRUE(list.viewport()->rect().contains(place(77)));
   EXPECT_LT(list.height(), 500);
-  EXPECT_LT(list.width(), 320);
-  dialog_->list.SetItems({"one", "two"});
-  EXPECT_EQ(list.model()->rowCount(), 2);
-  EXPECT_TRUE(!list.selectionModel()->hasSelection());
-}
-
-TEST_F(QtControls, ListShowsWholeRowsAndWhetherItHasTheFocus) {
-  dialog_->pages.SetCurrent(1);
-  Settle();
-  auto& list = Body<QListView>("lst_Action");
-  EXPECT_EQ(list.viewport()->height() % list.visualRect(list.model()->index(0, 0)).height(), 0);
+  EXPECT_EQ(list.viewport()->height() % height, 0);
   dialog_->list.Select(50);
-  const QRect place = list.visualRect(list.model()->index(50, 0));
-  EXPECT_NEAR(place.center().y(), list.viewport()->height() / 2, place.height());
+  EXPECT_NEAR(place(50).center().y(), list.viewport()->height() / 2, height);
 
   const auto colour = [&] {
-    return list.viewport()->grab().toImage().pixelColor(place.right() - 2, place.center().y());
+    const QPoint beside_the_text(place(50).right() - 2, place(50).center().y());
+    return list.viewport()->grab().toImage().pixelColor(beside_the_text);
   };
-  auto& button = Body<QPushButton>("Cancel");
+  auto& button = Body("cancel");
   button.setFocus();
   const QColor without = colour();
   QTest::keyClick(&button, Qt::Key_Up);
@@ -148,28 +106,36 @@ TEST_F(QtControls, ListShowsWholeRowsAndWhetherItHasTheFocus) {
   EXPECT_NE(colour(), without);
 }
 
-TEST_F(QtControls, TextBoxIsCalledLikeTheLabelBeforeIt) {
-  dialog_->SetLayout(Row(dialog_->lbl_Title, dialog_->m_Title(2), dialog_->chk_Buzzer));
-  EXPECT_EQ(Body<QLineEdit>("R&D <b>title</b>").objectName(), "m_Title(2)");
-  dialog_->m_Title(2).SetEnabled(false);
-  EXPECT_FALSE(Body<QLineEdit>("R&D <b>title</b>").isEnabled());
-}
+struct TwoFrames : Dialog {
+  explicit TwoFrames(Platform& platform) : Dialog(platform, "frm_TwoFrames") {
+    SetLayout(Row(Framed(left, Lines(text)), Framed(right, Lines(first, second))));
+    first(1).Select();
+  }
+  Frame left{*this, "left", "Titles"};
+  ControlArray<TextBox> text{*this, "text", 4};
+  Frame right{*this, "right"};
+  ControlArray<OptionButton> first{*this, "first", 2};
+  ControlArray<OptionButton> second{*this, "second", 2};
+};
+using QtTwoFrames = OnScreenOf<TwoFrames>;
 
-TEST_F(QtControls, LinesOfFramesSideBySideMeetAndHiddenControlsTakeNoSpace) {
-  const auto top = [](const QWidget& body) { return body.mapToGlobal(QPoint()).y(); };
-  auto& timed = Body<QRadioButton>("Timed");
-  EXPECT_EQ(top(Body<QLineEdit>("m_Title(1)")), top(timed));
-  const int before = top(timed);
-  dialog_->opt_Latch(0).SetVisible(false);
+TEST_F(QtTwoFrames, GroupsOfOptionsStayApartLinesMeetAndHiddenControlsTakeNoSpace) {
+  Show();
+  Click(Body("second(0)"));
+  EXPECT_TRUE(dialog_->second(0).Selected());
+  EXPECT_TRUE(Body<QRadioButton>("first(1)").isChecked());
+  EXPECT_TRUE(Body<QRadioButton>("second(0)").isChecked());
+
+  const auto top = [this](const char* name) { return Body(name).mapToGlobal(QPoint()).y(); };
+  EXPECT_EQ(top("text(1)"), top("first(1)"));
+  const int before = top("first(1)");
+  dialog_->first(0).SetVisible(false);
   Settle();
-  EXPECT_EQ(before - top(timed), timed.height() + 4);
-  EXPECT_FALSE(Body<QRadioButton>("Transparent").isVisible());
-  auto& frame = Body<QGroupBox>("Titles");
-  EXPECT_EQ(frame.height(), frame.sizeHint().height());
-  dialog_->latch.SetEnabled(false);
-  EXPECT_FALSE(timed.isEnabled());
-  QTest::mouseClick(&timed, Qt::LeftButton, {}, QPoint(8, timed.height() / 2));
-  EXPECT_EQ(dialog_->TakeNotes(), Notes{});
+  EXPECT_EQ(before - top("first(1)"), Body("first(1)").height() + 4);
+  EXPECT_EQ(Body("left").height(), Body("left").sizeHint().height());
+  dialog_->right.SetEnabled(false);
+  Click(Body("second(1)"));
+  EXPECT_FALSE(dialog_->second(1).Selected());
 }
 
 }  // namespace

@@ -44,11 +44,12 @@ class EveryKind : public Dialog {
     };
     frame.SetCaption(lengthen("Dwell & switching"));
     label.SetCaption(lengthen("R&D title"));
-    text.SetLabel(label);
     text.SetMaxLength(12);
     check.SetCaption(lengthen("Buzzer & lamp"));
-    option(0).SetCaption(lengthen("Latched"));
-    option(1).SetCaption(lengthen("Transparent"));
+    const auto modes = texts({"Latched", "Transparent", "Timed", "Off"});
+    for (int i = 0; i < option.Count(); ++i) {
+      option(i).SetCaption(modes.at(static_cast<std::size_t>(i)));
+    }
     option(0).Select();
     list.SetItems(texts({"Off", "On", "Record at the alarm rate"}));
     combo.SetItems(texts({"Black & white", "Colour"}));
@@ -79,6 +80,7 @@ class EveryKind : public Dialog {
     SetKeyButtons(&button, &cancel);
     button.on_click = [this] { notes += "button; "; };
     cancel.on_click = [this] { notes += "cancel; "; };
+    on_closed = [this] { notes += "closed; "; };
     check.on_click = Note(check);
     for (OptionButton& it : option) it.on_click = Note(it);
     text.on_change = Note(text);
@@ -88,6 +90,9 @@ class EveryKind : public Dialog {
     time.on_change = Note(time);
     date.on_change = Note(date);
     tabs.on_change = Note(tabs);
+    grid.on_press = [this] {
+      notes += "press " + std::to_string(grid.Row()) + "," + std::to_string(grid.Column()) + "; ";
+    };
     grid.on_release = [this] {
       notes += "grid " + std::to_string(grid.FirstSelected()) + "-" +
                std::to_string(grid.LastSelected()) + "@" + std::to_string(grid.Column()) + "; ";
@@ -99,7 +104,7 @@ class EveryKind : public Dialog {
   Label label{*this, "label"};
   TextBox text{*this, "text"};
   CheckBox check{*this, "check"};
-  ControlArray<OptionButton> option{*this, "option", 2};
+  ControlArray<OptionButton> option{*this, "option", 4};
   ComboBox combo{*this, "combo"};
   Slider slider{*this, "slider"};
   TimePicker time{*this, "time"};

@@ -1,13 +1,11 @@
-#include "tests/qt/every_kind.h"
-
-#include <gtest/gtest.h>
-
 #include <QAccessible>
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <functional>
-#include <memory>
+
+#include "tests/qt/drawn_as_told.h"
+#include "tests/qt/on_screen.h"
 
 namespace quorvel {
 namespace {
@@ -22,68 +20,14 @@ Act Key(int key, Qt::KeyboardModifiers modifiers = {}) {
     if (modifiers == Qt::ShiftModifier) QTest::keyRelease(&body, Qt::Key_Shift);
   };
 }
-void ClickAt(QWidget& body, QPoint place) { QTest::mouseClick(&body, Qt::LeftButton, {}, place); }
-/// A click near the left end, where ticks are.
-void Click(QWidget& body) { ClickAt(body, {8, body.height() / 2}); }
-void ClickCell(QWidget& body, int row, int column) {
-  auto& view = dynamic_cast<QAbstractItemView&>(body);
-  ClickAt(*view.viewport(), view.visualRect(view.model()->index(row, column)).center());
-}
 void ClickTab(QWidget& body, int page) {
   QTabBar& bar = *dynamic_cast<QTabWidget&>(body).tabBar();
   ClickAt(bar, bar.tabRect(page).center());
 }
 
-/// What somebody sees of a control's value and captions.
-std::string Drawn(const QWidget& body) {
-  QStringList parts;
-  if (const auto* view = qobject_cast<const QAbstractItemView*>(&body)) {
-    for (int row = 0; row < view->model()->rowCount(); ++row) {
-      QString line;
-      for (int column = 0; column < view->model()->columnCount(); ++column) {
-        const QModelIndex cell = view->model()->index(row, column);
-        const bool selected = view->selectionModel()->isSelected(cell);
-        line += (selected ? "*" : "") + cell.data().toString() + ",";
-      }
-      parts << line.chopped(1);
-    }
-  } else if (const auto* tabs = qobject_cast<const QTabWidget*>(&body)) {
-    for (int i = 0; i < tabs->count(); ++i) {
-      if (tabs->isTabVisible(i)) parts << (i == tabs->currentIndex() ? "*" : "") + tabs->tabText(i);
-    }
-  } else if (const auto* slider = qobject_cast<const QSlider*>(&body)) {
-    parts << QStringLiteral("%1 of %2..%3")
-                 .arg(slider->value())
-                 .arg(slider->minimum())
-                 .arg(slider->maximum());
-  } else if (const auto* combo = qobject_cast<const QComboBox*>(&body)) {
-    parts << combo->currentText() << QString::number(combo->count());
-  } else if (const auto* box = qobject_cast<const QAbstractSpinBox*>(&body)) {
-    parts << box->findChild<QLineEdit*>()->text();
-  } else if (const auto* frame = qobject_cast<const QGroupBox*>(&body)) {
-    parts << frame->title();
-  } else if (body.objectName() == "status") {
-    for (const QLabel* panel : body.findChildren<QLabel*>()) parts << panel->text();
-  } else {
-    parts << body.property("text").toString();
-    if (body.property("checkable").toBool() && body.property("checked").toBool()) parts << "on";
-  }
-  return parts.join(" | ").toStdString();
-}
-
-class QtEveryKind : public ::testing::Test {
+class QtEveryKind : public OnScreen {
  protected:
-  QtEveryKind() {
-    dialog_->Show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(platform_.WindowOf(*dialog_)));
-  }
-  [[nodiscard]] QWidget& Body(const std::string& name) const {
-    return *platform_.WindowOf(*dialog_)->findChild<QWidget*>(QString::fromStdString(name));
-  }
-  std::string TakeNotes() { return std::exchange(dialog_->notes, {}); }
-
-  QtPlatform platform_;
-  std::shared_ptr<EveryKind> dialog_ = std::make_shared<EveryKind>(platform_);
+  QtEveryKind() { Show(); }
 };
 
 TEST_F(QtEveryKind, MouseAndKeyboardChangeTheModelUnlessItIsDisabled) {
@@ -102,7 +46,7 @@ TEST_F(QtEveryKind, MouseAndKeyboardChangeTheModelUnlessItIsDisabled) {
       {"option(1)", Key(Qt::Key_Up), "option(0) on; "},
       {"option(1)", Key(Qt::Key_Space), "option(1) on; "},
       {"text", Key(Qt::Key_7), "text 7; "},
-      {"list", [](QWidget& it) { ClickCell(it, 1, 0); }, "list 1 \"On\" of 3; "},
+      {"list", [](QWidget& it) { ClickCell(it, 1); }, "list 1 \"On\" of 3; "},
       {"list", Key(Qt::Key_Up), "list 0 \"Off\" of 3; "},
       {"list", Key(Qt::Key_Space), "list 0 \"Off\" of 3; "},
       {"combo", Key(Qt::Key_Down), "combo 0 \"Black & white\" of 2; "},
@@ -131,8 +75,14 @@ TEST_F(QtEveryKind, MouseAndKeyboardChangeTheModelUnlessItIsDisabled) {
        },
        "time 07:45:00 AM; "},
       {"date", Key(Qt::Key_Down), "date 2023-02-28; "},
-      {"grid", [](QWidget& it) { ClickCell(it, 1, 2); }, "grid 2-2@2; "},
-      {"grid", Key(Qt::Key_Left), "grid 2-2@1; "},
+      {"date",
+       [](QWidget& it) {
+         it.findChild<QLineEdit*>()->setCursorPosition(10);
+         Key(Qt::Key_Up)(it);
+       },
+       "date 2023-03-01; "},
+      {"grid", [](QWidget& it) { ClickCell(it, 1, 2); }, "press 2,2; grid 2-2@2; "},
+      {"grid", Key(Qt::Key_Left), "press 2,1; grid 2-2@1; "},
       {"grid", Key(Qt::Key_Down, Qt::ShiftModifier), "grid 2-3@1; "},
       {"tabs", [](QWidget& it) { ClickTab(it, 2); },
        "tabs 0 \"Titles & texts\", 1 \"Spare page\" hidden, *2 \"Last\"; "},
@@ -154,65 +104,62 @@ TEST_F(QtEveryKind, DrawingFollowsTheProgramWhichCallsNoHandler) {
   const struct {
     const char* control;
     void (*say)(EveryKind&);
-    const char* drawn;
+    const char* property = nullptr;
+    const char* drawn = nullptr;
   } cases[] = {
-      {"label", [](EveryKind& it) { it.label.SetCaption("A & B"); }, "A && B"},
-      {"button", [](EveryKind& it) { it.button.SetCaption("A & B"); }, "A && B"},
-      {"frame", [](EveryKind& it) { it.frame.SetCaption("A & B"); }, "A && B"},
-      {"check", [](EveryKind& it) { it.check.SetChecked(true); }, "Buzzer && lamp | on"},
-      {"option(0)", [](EveryKind& it) { it.option.Select(1); }, "Latched"},
-      {"option(1)", [](EveryKind&) {}, "Transparent | on"},
-      {"text", [](EveryKind& it) { it.text.SetText("More than twelve"); }, "More than twelve"},
-      {"list", [](EveryKind& it) { it.list.Select(1); }, "Off | *On | Record at the alarm rate"},
-      {"list",
-       [](EveryKind& it) {
-         it.list.SetItems({"1", "2"});
-       },
-       "1 | 2"},
-      {"combo", [](EveryKind& it) { it.combo.Select(1); }, "Colour | 2"},
-      {"combo", [](EveryKind& it) { it.combo.SetItems({"1"}); }, " | 1"},
-      {"slider", [](EveryKind& it) { it.slider.SetValue(200); }, "20 of 0..20"},
-      {"slider", [](EveryKind& it) { it.slider.SetRange(5, 300); }, "200 of 5..300"},
+      {"label", [](EveryKind& it) { it.label.SetCaption("A & B"); }, "text", "A && B"},
+      {"button", [](EveryKind& it) { it.button.SetCaption("A & B"); }, "text", "A && B"},
+      {"frame", [](EveryKind& it) { it.frame.SetCaption("A & B"); }, "title", "A && B"},
+      {"check", [](EveryKind& it) { it.check.SetChecked(true); }, "text", "Buzzer && lamp"},
+      {"option(1)", [](EveryKind& it) { it.option.Select(1); }, "checked", "true"},
+      {"text", [](EveryKind& it) { it.text.SetText("Over twelve <b>"); }, "text",
+       "Over twelve <b>"},
+      {"list", [](EveryKind& it) { it.list.Select(1); }},
+      {"combo", [](EveryKind& it) { it.combo.Select(1); }, "currentText", "Colour"},
+      {"combo", [](EveryKind& it) { it.combo.SetItems({"1"}); }, "currentText", ""},
+      {"slider", [](EveryKind& it) { it.slider.SetValue(200); }, "value", "20"},
+      {"slider", [](EveryKind& it) { it.slider.SetRange(5, 300); }, "value", "200"},
       {"time",
        [](EveryKind& it) {
          it.time.SetTime({13, 5, 9});
        },
-       "01:05:09 PM"},
+       "text", "01:05:09 PM"},
       {"time",
        [](EveryKind& it) {
          it.time.SetTime({25, 0, 0});
        },
-       ""},
-      {"date",
-       [](EveryKind& it) {
-         it.date.SetDate({1999, 12, 31});
-       },
-       "1999-12-31"},
-      {"date", [](EveryKind& it) { it.date.Clear(); }, ""},
-      {"grid", [](EveryKind& it) { it.grid.SetSize(3, 2); }, ",* | ,"},
-      {"grid", [](EveryKind& it) { it.grid.SetCell(2, it.grid.AddColumns(1), "x"); }, ",*, | ,,x"},
-      {"grid", [](EveryKind& it) { it.grid.SetCurrent(2, 2); }, ",, | ,,*x"},
-      {"tabs", [](EveryKind& it) { it.tabs.SetCurrent(1); },
-       "Titles && texts | *Spare page | Last"},
-      {"tabs", [](EveryKind& it) { it.tabs.SetPageVisible(1, false); }, "*Titles && texts | Last"},
-      {"tabs", [](EveryKind& it) { it.tabs.SetPageCaption(2, "R&D"); }, "*Titles && texts | R&&D"},
+       "text", ""},
+      {"date", [](EveryKind& it) { it.date.Clear(); }, "text", ""},
+      {"grid", [](EveryKind& it) { it.grid.SetSize(1, 2); }},
+      {"grid", [](EveryKind& it) { it.grid.SetSize(65, 2); }},
+      {"grid", [](EveryKind& it) { it.grid.SetCell(2, it.grid.AddColumns(1), "x"); }},
+      {"grid", [](EveryKind& it) { it.grid.SetCurrent(60, 2); }},
+      {"tabs", [](EveryKind& it) { it.tabs.SetCurrent(1); }},
+      {"tabs", [](EveryKind& it) { it.tabs.SetPageVisible(1, false); }},
+      {"tabs", [](EveryKind& it) { it.tabs.SetPageCaption(2, "R&D"); }},
       {"progress", [](EveryKind& it) { it.progress.SetMaximum(225), it.progress.SetValue(112); },
-       "49%"},
-      {"progress", [](EveryKind& it) { it.progress.SetMaximum(0); }, "0%"},
-      {"status", [](EveryKind& it) { it.status.SetPanel(2, "75%"); }, "Receiving block 12 | 75%"},
+       "text", "49%"},
+      {"progress", [](EveryKind& it) { it.progress.SetMaximum(0); }, "text", "0%"},
+      {"status", [](EveryKind& it) { it.status.SetPanel(2, "75%"); }},
   };
   for (const auto& it : cases) {
     Widget& model = *dialog_->FindWidget(it.control);
     it.say(*dialog_);
     QApplication::processEvents();
-    EXPECT_EQ(Drawn(Body(it.control)), it.drawn) << it.control;
+    EXPECT_EQ(DrawnAsTold::FirstDifference(Window(), *dialog_), "");
+    if (it.property != nullptr) {
+      const QString drawn = Body(it.control).property(it.property).toString();
+      EXPECT_EQ(drawn.toStdString(), it.drawn) << it.control;
+    }
     for (const bool on : {false, true}) {
       model.SetVisible(on);
       model.SetEnabled(on);
-      EXPECT_EQ(Body(it.control).isVisible(), on) << it.control;
-      EXPECT_EQ(Body(it.control).isEnabled(), on) << it.control;
+      EXPECT_EQ(DrawnAsTold::FirstDifference(Window(), *dialog_), "");
     }
   }
+  EXPECT_EQ(Body<QTabWidget>("tabs").tabText(2), "R&&D");
+  auto& table = Body<QTableView>("grid");
+  EXPECT_TRUE(table.viewport()->rect().contains(CellPlace(table, 59, 2))) << "scrolled to";
   EXPECT_EQ(TakeNotes(), "");
 }
 
@@ -240,7 +187,7 @@ TEST_F(QtEveryKind, TabKeyGoesInReadingOrderAndKeysOfTheDialogWorkEverywhere) {
 
 TEST_F(QtEveryKind, WheelChangesNothingWithoutTheFocus) {
   dialog_->combo.Select(0);
-  for (QWidget* const body : platform_.WindowOf(*dialog_)->findChildren<QWidget*>()) {
+  for (QWidget* const body : Window().findChildren<QWidget*>()) {
     if (body->inherits("QTabBar")) continue;
     Body("button").setFocus();
     QWheelEvent turn({5, 5}, body->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
@@ -252,7 +199,7 @@ TEST_F(QtEveryKind, WheelChangesNothingWithoutTheFocus) {
 
 TEST_F(QtEveryKind, ManyChangesInOneTurnAreDrawnOnce) {
   Grid& grid = dialog_->grid;
-  auto& table = dynamic_cast<QTableView&>(Body("grid"));
+  auto& table = Body<QTableView>("grid");
   QSignalSpy changes(table.model(), &QAbstractItemModel::dataChanged);
   QSignalSpy resized(table.horizontalHeader(), &QHeaderView::sectionResized);
   grid.SetSize(17, 13);
@@ -262,9 +209,8 @@ TEST_F(QtEveryKind, ManyChangesInOneTurnAreDrawnOnce) {
     }
   }
   EXPECT_EQ(table.model()->index(15, 12).data(), "Camera xxxxxxxxxxxxxxxx") << "never stale";
-  QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                    table.visualRect(table.model()->index(1, 1)).center());
-  EXPECT_EQ(TakeNotes(), "grid 2-2@1; ");
+  ClickCell(table, 1, 1);
+  EXPECT_EQ(TakeNotes(), "press 2,1; grid 2-2@1; ");
   EXPECT_EQ(changes.count(), 0);
   QApplication::processEvents();
   EXPECT_EQ(changes.count(), 1);
@@ -279,9 +225,9 @@ TEST_F(QtEveryKind, ScreenReadersAreToldNamesAndCells) {
     named = named || relation.first->object() == &Body("label");
   }
   EXPECT_TRUE(named);
-  EXPECT_EQ(dynamic_cast<QLabel&>(Body("label")).textFormat(), Qt::PlainText);
+  EXPECT_EQ(Body<QLabel>("label").textFormat(), Qt::PlainText);
   dialog_->list.SetLabel(dialog_->label);
-  EXPECT_EQ(dynamic_cast<QLabel&>(Body("label")).buddy(), &Body("list"));
+  EXPECT_EQ(Body<QLabel>("label").buddy(), &Body("list"));
 
   QAccessibleTableInterface* const table =
       QAccessible::queryAccessibleInterface(&Body("grid"))->tableInterface();
@@ -321,8 +267,7 @@ TEST_F(QtCalendar, DaysArePickedByKeyboardAndMouseAndLeftAloneOtherwise) {
   dialog_->date.SetDate({2024, 13, 1});
   QTest::mouseClick(Body("date").findChild<QToolButton*>(), Qt::LeftButton);
   auto& days = *Popup()->findChild<QTableView*>();
-  QTest::mouseClick(days.viewport(), Qt::LeftButton, {},
-                    days.visualRect(days.currentIndex()).center());
+  ClickAt(*days.viewport(), days.visualRect(days.currentIndex()).center());
   EXPECT_EQ(TakeNotes(), "date " + QDate::currentDate().toString(Qt::ISODate).toStdString() + "; ");
   dialog_->date.SetEnabled(false);
   QTest::mouseClick(Body("date").findChild<QToolButton*>(), Qt::LeftButton);
@@ -331,10 +276,6 @@ TEST_F(QtCalendar, DaysArePickedByKeyboardAndMouseAndLeftAloneOtherwise) {
 }
 
 TEST_F(QtCalendar, DialogMayGoWhileItIsOpen) {
-  const auto settle = [] {
-    QApplication::processEvents();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  };
   for (const int way : {0, 1, 2, 3}) {
     dialog_ = std::make_shared<EveryKind>(platform_);
     dialog_->Show();
@@ -346,7 +287,7 @@ TEST_F(QtCalendar, DialogMayGoWhileItIsOpen) {
       Press(Qt::Key_Return);
     }
     EXPECT_EQ(Popup(), nullptr);
-    settle();
+    Settle();
   }
   // While the calendar's own menu of months is up.
   dialog_ = std::make_shared<EveryKind>(platform_);
@@ -355,7 +296,7 @@ TEST_F(QtCalendar, DialogMayGoWhileItIsOpen) {
   QTest::mouseClick(Popup()->findChild<QToolButton*>("qt_calendar_monthbutton"), Qt::LeftButton);
   ASSERT_TRUE(Popup()->inherits("QMenu"));
   dialog_.reset();
-  settle();
+  Settle();
   EXPECT_EQ(Popup(), nullptr);
 }
 

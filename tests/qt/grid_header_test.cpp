@@ -1,15 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
-#include <QTableView>
-#include <QTest>
 #include <QToolTip>
-#include <memory>
 
-#include "quorvel/qt_platform.h"
-#include "quorvel/widgets.h"
+#include "tests/qt/on_screen.h"
 #include "ui/editing/grid_editing.h"
 
 namespace quorvel {
@@ -44,15 +37,12 @@ class GridDialog : public Dialog {
   GridEditing editing{grid, GridEditing::Release::kSelects};
 };
 
-class QtGridHeader : public ::testing::Test {
+class QtGridHeader : public OnScreenOf<GridDialog> {
  protected:
   QtGridHeader() {
-    dialog_->Show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(platform_.WindowOf(*dialog_)));
-    table_ = platform_.WindowOf(*dialog_)->findChild<QTableView*>("MSFG");
+    Show();
+    table_ = &Body<QTableView>("MSFG");
   }
-  QtPlatform platform_;
-  std::shared_ptr<GridDialog> dialog_ = std::make_shared<GridDialog>(platform_);
   QTableView* table_ = nullptr;
 };
 
@@ -61,8 +51,7 @@ TEST_F(QtGridHeader, TwoRowsAboveTheData) {
   EXPECT_EQ(table_->model()->headerData(0, Qt::Horizontal), "Camera");
   EXPECT_EQ(table_->model()->headerData(2, Qt::Horizontal), "Macro, 2");
   EXPECT_GT(table_->horizontalHeader()->height(), table_->rowHeight(0));
-  QTest::mouseClick(table_->viewport(), Qt::LeftButton, {},
-                    table_->visualRect(table_->model()->index(0, 1)).center());
+  ClickCell(*table_, 0, 1);
   EXPECT_EQ(dialog_->grid.Row(), 2);
   dialog_->list.Choose(1);
   EXPECT_EQ(dialog_->Cells(), "On,Off Off,Off Off,Off Off,Off ");

@@ -29,7 +29,7 @@ class QtMenu : public OnScreen {
     MenuItem item;
     item.name = name;
     item.caption = caption;
-    item.on_choose = [this, name] { chosen_.push_back(name); };
+    item.on_choose = [this, name] { chosen_ += name; };
     return item;
   }
   void PopUp() {
@@ -43,12 +43,12 @@ class QtMenu : public OnScreen {
     return *Up()->findChild<QAction*>(name);
   }
   static void ClickOn(const char* name) {
-    QTest::mouseClick(Up(), Qt::LeftButton, {}, Up()->actionGeometry(&Action(name)).center());
+    ClickAt(*Up(), Up()->actionGeometry(&Action(name)).center());
   }
 
   QWidget host_;
   std::shared_ptr<PopupMenu> menu_;
-  Notes chosen_;
+  std::string chosen_;
 };
 
 TEST_F(QtMenu, ShowsItemsAsTheModelHasThem) {
@@ -68,16 +68,16 @@ TEST_F(QtMenu, ShowsItemsAsTheModelHasThem) {
 TEST_F(QtMenu, AChoiceActsFromTheLoopAndADismissalDoesNot) {
   PopUp();
   ClickOn("mnu_Alarm");
-  EXPECT_EQ(chosen_, Notes{});
+  EXPECT_EQ(chosen_, "");
   EXPECT_EQ(Up(), nullptr);
   Settle();
-  EXPECT_EQ(chosen_, Notes{"mnu_Alarm"});
+  EXPECT_EQ(chosen_, "mnu_Alarm");
   PopUp();
   ClickOn("mnu_Record");
   QTest::keyClick(Up(), Qt::Key_Escape);
   Settle();
   EXPECT_EQ(Up(), nullptr);
-  EXPECT_EQ(chosen_, Notes{"mnu_Alarm"});
+  EXPECT_EQ(chosen_, "mnu_Alarm");
 }
 
 TEST_F(QtMenu, AnItemMayPopTheMenuUpAgain) {
@@ -99,7 +99,7 @@ TEST_F(QtMenu, TakeDownAlsoTakesTheChoiceBack) {
   ClickOn("mnu_Alarm");
   platform_.TakeDown(*menu_);
   Settle();
-  EXPECT_EQ(chosen_, Notes{});
+  EXPECT_EQ(chosen_, "");
   PopUp();
   platform_.TakeDown(*menu_);
   EXPECT_EQ(Up(), nullptr);

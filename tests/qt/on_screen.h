@@ -2,26 +2,39 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QTest>
-#include <QWidget>
 #include <memory>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include "quorvel/qt_platform.h"
-#include "tests/qt/sample_dialog.h"
+#include "tests/qt/every_kind.h"
 
 namespace quorvel {
 
-using Notes = std::vector<std::string>;
+inline void ClickAt(QWidget& body, QPoint place) {
+  QTest::mouseClick(&body, Qt::LeftButton, {}, place);
+}
+/// A click near the left end, where ticks are.
+inline void Click(QWidget& body) { ClickAt(body, {8, body.height() / 2}); }
 
-/// A sample dialog on screen, and the toolkit's widgets in it by what they tell screen readers or
-/// by their names in the code.
-class OnScreen : public testing::Test {
+/// The middle of a cell, counted below the header.
+inline QPoint CellPlace(const QAbstractItemView& view, int row, int column) {
+  return view.visualRect(view.model()->index(row, column)).center();
+}
+inline void ClickCell(QWidget& body, int row, int column = 0) {
+  auto& view = dynamic_cast<QAbstractItemView&>(body);
+  ClickAt(*view.viewport(), CellPlace(view, row, column));
+}
+
+/// A dialog on screen, and the toolkit's widgets in it by their names in the code.
+template <class Kind>
+class OnScreenOf : public testing::Test {
  protected:
-  OnScreen() { Settle(); }
-  ~OnScreen() override {
+  OnScreenOf() { Settle(); }
+  ~OnScreenOf() override {
     dialog_.reset();
     Settle();
   }
@@ -34,22 +47,24 @@ class OnScreen : public testing::Test {
 
   void Show() {
     dialog_->Show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&Window()));
     Settle();
   }
 
   [[nodiscard]] QWidget& Window() const { return *platform_.WindowOf(*dialog_); }
-
-  template <class QtWidget>
-  [[nodiscard]] QtWidget& Body(const char* name) const {
-    const QLatin1String wanted(name);
-    for (QtWidget* const body : Window().findChildren<QtWidget*>()) {
-      if (body->accessibleName() == wanted || body->objectName() == wanted) return *body;
-    }
-    throw std::invalid_argument(name);
+  template <class QtWidget = QWidget>
+  [[nodiscard]] QtWidget& Body(const std::string& name) const {
+    const QWidget& window = Window();
+    return *window.findChild<QtWidget*>(QString::fromStdString(name));
   }
 
+  /// What handlers saw since last asked.
+  std::string TakeNotes() { return std::exchange(dialog_->notes, {}); }
+
   QtPlatform platform_;
-  std::shared_ptr<SampleDialog> dialog_ = std::make_shared<SampleDialog>(platform_);
+  std::shared_ptr<Kind> dialog_ = std::make_shared<Kind>(platform_);
 };
+
+using OnScreen = OnScreenOf<EveryKind>;
 
 }  // namespace quorvel

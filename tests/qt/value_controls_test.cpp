@@ -1,89 +1,23 @@
-#include <gtest/gtest.h>
-
-#include <QAbstractSpinBox>
-#include <QApplication>
-#include <QLineEdit>
-#include <QSlider>
-#include <QTest>
-#include <memory>
-
-#include "quorvel/qt_platform.h"
-#include "quorvel/widgets.h"
+#include "tests/qt/on_screen.h"
 
 namespace quorvel {
 namespace {
 
-class ValueDialog : public Dialog {
- public:
-  explicit ValueDialog(Platform& platform) : Dialog(platform, "frm_Values") {
-    combo.SetItems({"Off", "On", "R&D"});
-    slider.SetRange(0, 20);
-    slider.SetValue(200);
-    time.SetTime({7, 45, 0});
-    port.SetText("1027");
-    port.SetTakenWhenLeft(true);
-    port.SetSelectOnFocus(5);
-    octet.SetText("192");
-    octet.SetSelectOnFocus(TextBox::kWhole, true);
-    list.SetItems({"1", "2", "3"});
-    list.SetRows(9);
-    opt(1).SetEnabled(false);
-    opt(3).SetVisible(false);
-    for (int i = 0; i < 4; ++i) {
-      opt(i).on_click = [this, i] { notes += "option " + std::to_string(i) + "; "; };
-    }
-    SetLayout(Column(opt, combo, slider, time, date, Row(port, octet), Row(list, other), cmd_OK));
-    SetKeyButtons(&cmd_OK, nullptr);
-    combo.on_click = [this] { notes += "choose " + std::to_string(combo.Current()) + "; "; };
-    slider.on_change = [this] { notes += "slide " + std::to_string(slider.Value()) + "; "; };
-    time.on_change = [this] { notes += "time " + time.ValueText() + "; "; };
-    date.on_change = [this] { notes += "date " + date.ValueText() + "; "; };
-    port.on_change = [this] { notes += "port " + port.Text() + "; "; };
-    octet.on_change = [this] {
-      if (octet.Text().size() > 3) octet.RewriteText("255");
-      notes += "octet " + octet.Text() + "; ";
-    };
-    cmd_OK.on_click = [this] { notes += "OK; "; };
-  }
-
-  ControlArray<OptionButton> opt{*this, "opt", 4};
-  ComboBox combo{*this, "cbAct"};
-  Slider slider{*this, "slAct"};
-  TimePicker time{*this, "dtAct"};
-  DatePicker date{*this, "Calendar"};
-  TextBox port{*this, "txtPort"};
-  TextBox octet{*this, "txtOctet"};
-  ListBox list{*this, "lstAct"};
-  ListBox other{*this, "lstOther"};
-  Button cmd_OK{*this, "cmd_OK", "OK"};
-  std::string notes;
-};
-
-class QtValues : public ::testing::Test {
+class QtValues : public OnScreen {
  protected:
-  QtValues() {
-    dialog_->Show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(platform_.WindowOf(*dialog_)));
-  }
-  template <class QtWidget>
-  [[nodiscard]] QtWidget& Body(const char* name) const {
-    return *platform_.WindowOf(*dialog_)->findChild<QtWidget*>(name);
-  }
-  std::string TakeNotes() { return std::exchange(dialog_->notes, {}); }
-
-  QtPlatform platform_;
-  std::shared_ptr<ValueDialog> dialog_ = std::make_shared<ValueDialog>(platform_);
+  QtValues() { Show(); }
 };
 
 TEST_F(QtValues, TimesAreTypedOrSteppedAndTakenWhenTheBoxIsLeft) {
-  auto& box = Body<QAbstractSpinBox>("dtAct");
+  dialog_->time.SetFormat(ClockFormat::kHoursMinutes);
+  auto& box = Body<QAbstractSpinBox>("time");
   auto& line = *box.findChild<QLineEdit*>();
   EXPECT_EQ(line.text(), "07:45");
   box.setFocus();
   line.selectAll();
   QTest::keyClicks(&box, "9:05");
   EXPECT_EQ(TakeNotes(), "");
-  Body<QSlider>("slAct").setFocus();
+  Body("slider").setFocus();
   EXPECT_EQ(TakeNotes(), "time 09:05; ");
   EXPECT_EQ(line.text(), "09:05");
   box.setFocus();
@@ -102,88 +36,89 @@ TEST_F(QtValues, TimesAreTypedOrSteppedAndTakenWhenTheBoxIsLeft) {
   line.selectAll();
   QTest::keyClicks(&box, "10:00");
   QTest::keyClick(&box, Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(TakeNotes(), "time 10:00; OK; ");
-  dialog_->time.SetFormat(ClockFormat::kTwelveHours);
-  dialog_->time.SetTime({13, 5, 9});
-  EXPECT_EQ(line.text(), "01:05:09 PM");
-  dialog_->time.Clear();
-  EXPECT_EQ(line.text(), "");
+  EXPECT_EQ(TakeNotes(), "time 10:00; button; ");
 }
 
-TEST_F(QtValues, DatesKeepToTheCalendar) {
-  auto& box = Body<QAbstractSpinBox>("Calendar");
-  auto& line = *box.findChild<QLineEdit*>();
-  EXPECT_EQ(line.text(), "");
-  dialog_->date.SetDate({2024, 2, 29});
-  box.setFocus();
-  line.setCursorPosition(0);
-  QTest::keyClick(&box, Qt::Key_Up);
-  EXPECT_EQ(TakeNotes(), "date 2025-02-28; ");
-  line.setCursorPosition(10);
-  QTest::keyClick(&box, Qt::Key_Up);
-  EXPECT_EQ(TakeNotes(), "date 2025-03-01; ");
-}
-
-TEST_F(QtValues, BoxesThatSelectOnFocusAndOnesThatAreTakenAsAWhole) {
-  auto& port = Body<QLineEdit>("txtPort");
-  auto& octet = Body<QLineEdit>("txtOctet");
-  port.setFocus(Qt::TabFocusReason);
-  EXPECT_EQ(port.selectedText(), "1027");
-  QTest::keyClicks(&port, "80");
+TEST_F(QtValues, BoxThatSelectsOnFocusAndIsTakenAsAWhole) {
+  TextBox& text = dialog_->text;
+  auto& box = Body<QLineEdit>("text");
+  text.SetText("1027");
+  text.SetTakenWhenLeft(true);
+  text.SetSelectOnFocus(5);
+  Body("slider").setFocus();
+  box.setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(box.selectedText(), "1027");
+  QTest::keyClicks(&box, "80");
   EXPECT_EQ(TakeNotes(), "");
-  QTest::mouseClick(&octet, Qt::LeftButton);
-  EXPECT_EQ(TakeNotes(), "port 80; ");
-  EXPECT_EQ(octet.selectedText(), "192");
-  QTest::keyClicks(&octet, "1234");
-  EXPECT_EQ(TakeNotes(), "octet 1; octet 12; octet 123; octet 255; ");
-  EXPECT_EQ(octet.selectedText(), "255") << "the next key replaces it";
-  octet.deselect();
-  QTest::mouseClick(&octet, Qt::LeftButton);
-  EXPECT_EQ(octet.selectedText(), "255");
-  QTest::mouseClick(&port, Qt::LeftButton);
-  port.deselect();
-  QTest::mouseClick(&port, Qt::LeftButton);
-  EXPECT_EQ(port.selectedText(), "") << "a click where the focus is places the cursor";
-  port.selectAll();
-  QTest::keyClicks(&port, "8080");
-  QTest::keyClick(&port, Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(TakeNotes(), "port 8080; OK; ");
+  Body("slider").setFocus();
+  EXPECT_EQ(TakeNotes(), "text 80; ");
+  Click(box);
+  EXPECT_EQ(box.selectedText(), "80");
+  box.deselect();
+  Click(box);
+  EXPECT_EQ(box.selectedText(), "") << "a click where the focus is places the cursor";
+  box.selectAll();
+  QTest::keyClicks(&box, "8080");
+  QTest::keyClick(&box, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(TakeNotes(), "text 8080; button; ");
+}
+
+TEST_F(QtValues, BoxThatIsSelectedWholeAtEveryClick) {
+  TextBox& text = dialog_->text;
+  auto& box = Body<QLineEdit>("text");
+  text.SetText("192");
+  text.SetSelectOnFocus(TextBox::kWhole, true);
+  text.on_change = [this, &text] {
+    if (text.Text().size() > 3) text.RewriteText("255");
+    dialog_->notes += text.Text() + "; ";
+  };
+  Body("slider").setFocus();
+  Click(box);
+  EXPECT_EQ(box.selectedText(), "192");
+  QTest::keyClicks(&box, "1234");
+  EXPECT_EQ(TakeNotes(), "1; 12; 123; 255; ");
+  EXPECT_EQ(box.selectedText(), "255") << "the next key replaces it";
+  box.deselect();
+  Click(box);
+  EXPECT_EQ(box.selectedText(), "255");
 }
 
 TEST_F(QtValues, ArrowsPickAmongTheOptionsOfAGroupThatCanBePicked) {
-  auto& first = Body<QWidget>("opt(0)");
-  auto& third = Body<QWidget>("opt(2)");
+  dialog_->option(1).SetEnabled(false);
+  dialog_->option(3).SetVisible(false);
+  auto& first = Body("option(0)");
+  auto& third = Body("option(2)");
   first.setFocus();
   QTest::keyClick(&first, Qt::Key_Down);
   EXPECT_TRUE(third.hasFocus());
   QTest::keyClick(&third, Qt::Key_Right);
   EXPECT_TRUE(first.hasFocus());
   QTest::keyClick(&first, Qt::Key_Up);
-  EXPECT_EQ(TakeNotes(), "option 2; option 0; option 2; ");
+  EXPECT_EQ(TakeNotes(), "option(2) on; option(0) on; option(2) on; ");
   QTest::keyClick(&third, Qt::Key_Tab);
-  EXPECT_TRUE(Body<QWidget>("cbAct").hasFocus());
-  QTest::keyClick(&Body<QWidget>("cbAct"), Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(Body("combo").hasFocus());
+  QTest::keyClick(&Body("combo"), Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_TRUE(third.hasFocus()) << "Tab stops at the selected option";
   QTest::keyClick(&third, Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_FALSE(first.hasFocus()) << "and at no other of the group";
+  EXPECT_TRUE(Body("check").hasFocus()) << "and at no other of the group";
 }
 
 TEST_F(QtValues, ListsAreAsTallAsAskedAndLeaveTheirPlaceOnlyIfTheyMay) {
-  auto& list = Body<QWidget>("lstAct");
-  auto& other = Body<QWidget>("lstOther");
-  EXPECT_GT(list.sizeHint().height(), other.sizeHint().height());
-  const auto moves = [&] {
-    QApplication::processEvents();
-    const int before = other.x();
-    dialog_->list.SetVisible(false);
-    QApplication::processEvents();
-    const int after = other.x();
+  dialog_->Close();
+  dialog_->list.SetRows(9);
+  dialog_->SetLayout(Row(dialog_->list, dialog_->button));
+  Show();
+  auto& list = Body<QListView>("list");
+  EXPECT_GE(list.sizeHint().height(), 9 * list.sizeHintForRow(0));
+  for (const bool keeps : {false, true}) {
+    dialog_->list.SetKeepsPlace(keeps);
     dialog_->list.SetVisible(true);
-    return before != after;
-  };
-  EXPECT_TRUE(moves());
-  dialog_->list.SetKeepsPlace(true);
-  EXPECT_FALSE(moves());
+    Settle();
+    const int before = Body("button").x();
+    dialog_->list.SetVisible(false);
+    Settle();
+    EXPECT_EQ(Body("button").x() == before, keeps);
+  }
 }
 
 }  // namespace
