@@ -85,9 +85,9 @@ void frm_CameraSetup::ShowWhatTheModelHas() {
   m_CameraCovert.ShowFirst(id.MaxCam);
   m_CameraColor.ShowFirst(id.MaxCam);
   m_CameraDisable.ShowFirst(id.MaxCam);
-  for (CheckBox& box : m_CameraColor) box.SetEnabled(!id.IsTriplex());
+  m_CameraColor.SetEnabled(!id.IsTriplex());
   for (int i = 2; i < kMonitors; ++i) m_TitleDisplay(i).SetEnabled(id.IsTriplexMatrix());
-  for (OptionButton& option : optPwrDis) option.SetEnabled(!id.LiteRecordModel);
+  optPwrDis.SetEnabled(!id.LiteRecordModel);
 }
 
 void frm_CameraSetup::NameForScreenReaders() {

@@ -33,6 +33,10 @@ class ControlArray {
   void ShowFirst(int count) {
     for (int i = 0; i < Count(); ++i) (*this)(i).SetVisible(i < count);
   }
+  /// Enables or disables all of them.
+  void SetEnabled(bool enabled) {
+    for (Control& control : controls_) control.SetEnabled(enabled);
+  }
   /// Captions the controls in their order.
   void SetCaptions(std::initializer_list<std::string> captions) {
     int i = 0;

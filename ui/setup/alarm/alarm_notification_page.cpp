@@ -53,11 +53,6 @@ void WriteOctets(const OctetBoxes& boxes, Octets& octets) {
   for (int i = 0; i < kOctets; ++i) octets(i, boxes.Octet(i));
 }
 
-template <class Control>
-void SetAllEnabled(ControlArray<Control>& controls, bool enabled) {
-  for (Control& control : controls) control.SetEnabled(enabled);
-}
-
 }  // namespace
 
 AlarmNotificationPage::AlarmNotificationPage(Editor& editor, const AlarmFace& face)
@@ -164,7 +159,7 @@ void AlarmNotificationPage::FillEmail() {
     ++address;
   }
   ShowOctets(smtp_server_, notify.SMTPServer);
-  SetAllEnabled(txSMTPServer, face_.hosts_kept);
+  txSMTPServer.SetEnabled(face_.hosts_kept);
   smtp_port_.Show(notify.SMTPPort());
 }
 
@@ -172,9 +167,9 @@ void AlarmNotificationPage::FillTcp() {
   const clsEmailNotify& notify = Record().AlmEmailNotify;
   ShowOctets(tcp_host_, notify.TCPHost);
   ShowOctets(tcp_backup_host_, notify.TCPBkUpHost);
-  SetAllEnabled(txTCPHost, face_.tcp_notification && face_.hosts_kept);
-  SetAllEnabled(txTCPBkHost, face_.tcp_notification && face_.hosts_kept);
-  SetAllEnabled(chkboxTCPNotify, face_.tcp_notification);
+  txTCPHost.SetEnabled(face_.tcp_notification && face_.hosts_kept);
+  txTCPBkHost.SetEnabled(face_.tcp_notification && face_.hosts_kept);
+  chkboxTCPNotify.SetEnabled(face_.tcp_notification);
   txtTCPPort.SetEnabled(face_.tcp_notification);
   cbTCPInterval.SetEnabled(face_.tcp_notification);
   if (!face_.tcp_notification) return;

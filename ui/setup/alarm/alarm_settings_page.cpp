@@ -16,10 +16,6 @@ constexpr int kGlobalBuzzer = 0;
 constexpr int kArchiveOff = 1;
 constexpr int kArchiveOn = 2;
 
-void SetAllEnabled(ControlArray<OptionButton>& options, bool enabled) {
-  for (OptionButton& option : options) option.SetEnabled(enabled);
-}
-
 }  // namespace
 
 AlarmSettingsPage::AlarmSettingsPage(Editor& editor, const AlarmFace& face)
@@ -119,12 +115,12 @@ void AlarmSettingsPage::ShowWhatTheModelHas() {
   for (const BuzzerGroup& it : Buzzers()) {
     it.label.SetVisible(it.shown);
     it.frame.SetVisible(it.shown);
-    SetAllEnabled(it.options, !face_.fixed_settings);
+    it.options.SetEnabled(!face_.fixed_settings);
   }
-  SetAllEnabled(opt_GlBuz, true);
-  SetAllEnabled(opt_AlFullScr, !face_.fixed_settings);
-  SetAllEnabled(opt_Rl1Conf, !face_.fixed_settings);
-  SetAllEnabled(opt_Rl2Conf, !face_.fixed_settings);
+  opt_GlBuz.SetEnabled(true);
+  opt_AlFullScr.SetEnabled(!face_.fixed_settings);
+  opt_Rl1Conf.SetEnabled(!face_.fixed_settings);
+  opt_Rl2Conf.SetEnabled(!face_.fixed_settings);
   if (face_.full_screen_always) opt_AlFullScr(0).SetEnabled(false);
   for (Widget* const it : std::initializer_list<Widget*>{&Label17, &lstTimeOut, &Label18}) {
     it->SetKeepsPlace(true);  // the page does not jump as the time-out comes and goes
