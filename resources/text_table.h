@@ -9,11 +9,11 @@ inline constexpr int kTextCount = 333;
 /// Texts beyond the table, for what a host's own vocabulary need not know. They are numbered apart,
 /// so that the table can grow.
 inline constexpr int kFirstAddedText = 1000;
-inline constexpr int kTextAddressNotStored = 1000;  ///< an e-mail address that would be dropped
-inline constexpr int kTextAddressCut = 1001;        ///< one that would be cut
-inline constexpr int kTextNotAChoice = 1002;        ///< a paste that a grid has refused
-inline constexpr int kTextDoesNotFit = 1003;        ///< one that is larger than the grid
-inline constexpr int kTextLocalEmail = 1004;        ///< label of the sender's address
+inline constexpr int kTextAddressEmptied = 1000;  ///< an e-mail address that would become empty
+inline constexpr int kTextAddressCut = 1001;      ///< one that would be cut
+inline constexpr int kTextNotAChoice = 1002;      ///< a paste that a grid has refused
+inline constexpr int kTextDoesNotFit = 1003;      ///< one that is larger than the grid
+inline constexpr int kTextLocalEmail = 1004;      ///< label of the sender's address
 
 /// The built-in English text of id 0 to 332 or of an added text, in UTF-8; empty for other ids.
 [[nodiscard]] std::string_view BuiltInText(int id);

@@ -65,7 +65,7 @@ Layout AlarmActionPage::Contents() {
 void AlarmActionPage::BuildColumns() {
   BuildNumberedGrid(MSFG_AlAction, Id().MaxCam,
                     {Text(83), Text(78), Text(99), Text(58) + "1", Text(58) + "2", Text(58) + "3"});
-  if (face_.presets) {
+  if (face_.PresetColumns) {
     for (int i = 1; i <= kDisplays; ++i) {
       AddNamedColumn(MSFG_AlAction, Text(98) + " " + std::to_string(i));
     }
@@ -88,7 +88,7 @@ void AlarmActionPage::FillLists() {
   lstAuxMon.SetItems({"B", "C", "D", "E"});
 
   for (Widget* const it : {static_cast<Widget*>(&lbPreset), static_cast<Widget*>(&cbPreset)}) {
-    it->SetVisible(face_.presets);
+    it->SetVisible(face_.PresetColumns);
   }
   lbAndOr.SetVisible(face_.intrusion_gate);
   lstAndOr.SetVisible(face_.intrusion_gate);
@@ -102,7 +102,7 @@ void AlarmActionPage::Fill() {
   for (int i = 0; i < kDisplays; ++i) editing_.Bind(kFirstCameraColumn + i, cbAlCamera);
   ColumnRules preset_rules;
   preset_rules.takes = [this](int /*row*/) { return face_.presets_kept; };
-  for (int i = 0; face_.presets && i < kDisplays; ++i) {
+  for (int i = 0; face_.PresetColumns && i < kDisplays; ++i) {
     editing_.Bind(kFirstPresetColumn + i, cbPreset, preset_rules);
   }
   cbPreset.SetEnabled(face_.presets_kept);
@@ -123,7 +123,7 @@ void AlarmActionPage::FillAlarm(int row, const AlmAction& action) {
     // A camera that the model lacks keeps its number in sight.
     MSFG_AlAction.SetCell(row, kFirstCameraColumn + i, std::to_string(camera() + 1), camera());
   });
-  if (face_.presets) {
+  if (face_.PresetColumns) {
     ForPresets(action, [&](int i, const auto& preset) {
       editing_.SetItem(row, kFirstPresetColumn + i, preset());
     });
@@ -144,7 +144,7 @@ void AlarmActionPage::WriteAlarm(int row, AlmAction& action) {
   };
   action.Freeze(editing_.ItemAt(row, kFreezeColumn) == 0 ? 0 : 1);
   ForDisplays(action, [&](int i, auto& camera) { write(kFirstCameraColumn + i, camera); });
-  if (face_.presets) {
+  if (face_.PresetColumns) {
     ForPresets(action, [&](int i, auto& preset) { write(kFirstPresetColumn + i, preset); });
   }
   const int relay = editing_.ItemAt(row, RelayColumn);

@@ -32,7 +32,7 @@ AlarmFace AlarmFaceOf(const Identity& id, int firmware, int blocks) {
   face.recorder_page = recorder && !lite;
   face.notification_page = id.IsTriplex() && !id.Model4L && blocks > kMostBlocksWithoutNotification;
 
-  face.presets = id.VariantChar == '0';
+  face.PresetColumns = id.VariantChar == '0';
   face.presets_kept = blocks >= kLastPresetBlock;
   face.intrusion_gate = id.IsTriplex();
   face.aux_monitor = id.IsTriplexMatrix();

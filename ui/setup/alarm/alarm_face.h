@@ -15,8 +15,8 @@ struct AlarmFace {
   bool notification_page;
 
   // Columns of the action page and of the video-loss page.
-  bool presets;
-  bool presets_kept;  ///< the device has blocks for them
+  bool PresetColumns;  ///< the action grid has its four preset columns
+  bool presets_kept;   ///< the device has blocks for them
   bool intrusion_gate;
   bool aux_monitor;
   bool video_loss_buzzer;

@@ -8,7 +8,7 @@ namespace quorvel {
 /// Alarm Input: how each input is wired and whether it is enabled.
 class AlarmInputPage : public EditorPage {
  public:
-  AlarmInputPage(Editor& editor);
+  explicit AlarmInputPage(Editor& editor);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

@@ -185,7 +185,7 @@ void AlarmNotificationPage::WarnOfAddress(int address) {
   const bool lost = !text.empty() && (local.empty() || domain.empty());
   const bool cut = std::max(local.size(), domain.size()) > clsEmailNotify::kLongestHalf;
   std::string warning;
-  if (lost || cut) warning = Text(lost ? kTextAddressNotStored : kTextAddressCut);
+  if (lost || cut) warning = Text(lost ? kTextAddressEmptied : kTextAddressCut);
   Addresses().at(place).warning.SetCaption(std::move(warning));
 }
 

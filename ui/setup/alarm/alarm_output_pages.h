@@ -8,7 +8,7 @@ namespace quorvel {
 /// External Alarm Action: the output that each remote input switches.
 class ExternalAlarmPage : public EditorPage {
  public:
-  ExternalAlarmPage(Editor& editor);
+  explicit ExternalAlarmPage(Editor& editor);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();
@@ -24,7 +24,7 @@ class ExternalAlarmPage : public EditorPage {
 /// Link to a Macro: the macro that each alarm starts.
 class MacroLinkPage : public EditorPage {
  public:
-  MacroLinkPage(Editor& editor);
+  explicit MacroLinkPage(Editor& editor);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

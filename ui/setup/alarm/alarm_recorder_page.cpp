@@ -10,14 +10,17 @@ namespace {
 constexpr int kLongestPreAlarm = 5;  // seconds
 }
 
-AlarmRecorderPage::AlarmRecorderPage(Editor& editor)
+AlarmRecorderPage::AlarmRecorderPage(Editor& editor, const AlarmFace& face)
     : EditorPage(editor),
       frmPreAlDur(editor, "frmPreAlDur", Text(97)),
       lstPreAlDur(editor, "lstPreAlDur"),
       lbTime(editor, "lbTime", Text(57)),
       frmArchAL(editor, "frmArchAL", Text(66)),
       lbArchAL(editor, "lbArchAL", Text(102) + " 2"),
-      optArchAL(editor, "optArchAL", 2) {}
+      optArchAL(editor, "optArchAL", 2) {
+  frmPreAlDur.SetVisible(face.recorder_page);
+  frmArchAL.SetVisible(face.recorder_page);
+}
 
 Layout AlarmRecorderPage::Contents() {
   return Row(Framed(frmPreAlDur, Row(lstPreAlDur, Column(lbTime, Stretch()))),

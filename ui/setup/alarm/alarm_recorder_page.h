@@ -1,13 +1,14 @@
 #pragma once
 
 #include "ui/editing/editor_page.h"
+#include "ui/setup/alarm/alarm_face.h"
 
 namespace quorvel {
 
 /// The second page of other settings, of recorders: pre-alarm duration and archive alarm.
 class AlarmRecorderPage : public EditorPage {
  public:
-  AlarmRecorderPage(Editor& editor);
+  AlarmRecorderPage(Editor& editor, const AlarmFace& face);
   [[nodiscard]] Layout Contents();
   void Fill();
   void Write();

@@ -11,7 +11,7 @@ frm_Alarm::frm_Alarm(Context& context)
       macro_page_(*this),
       video_loss_page_(*this, face_),
       settings_page_(*this, face_),
-      recorder_page_(*this),
+      recorder_page_(*this, face_),
       notification_page_(*this, face_) {
   SetCaption(Text(64));
   SSTab1.SetSpokenName(Caption());
