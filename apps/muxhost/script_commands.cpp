@@ -45,6 +45,7 @@ constexpr Command kCommands[] = {
     {"answer ok|cancel|file FILE|file cancel", 1, 2, commands::AnswerNext},
     {"wait MS", 1, 1, commands::Wait},
     {"show [WINDOW|WINDOW.CONTROL]", 0, 1, commands::Show},
+    {"pages [WINDOW [PAGE...]]", 0, kAny, commands::Pages},
     {"menu-items", 0, 0, commands::MenuItems},
     {"modified", 0, 0, commands::Modified},
     {"settings [PATTERN]", 0, 1, commands::Settings},

@@ -12,27 +12,6 @@ constexpr std::string_view kIndent = "  ";
 
 std::string HexByte(unsigned byte) { return {kDigits[byte / 16U], kDigits[byte % 16U]}; }
 
-const char* KindName(WidgetKind kind) {
-  switch (kind) {
-    case WidgetKind::kLabel: return "label";
-    case WidgetKind::kButton: return "button";
-    case WidgetKind::kCheckBox: return "check box";
-    case WidgetKind::kOptionButton: return "option";
-    case WidgetKind::kTextBox: return "text box";
-    case WidgetKind::kListBox: return "list";
-    case WidgetKind::kComboBox: return "drop-down list";
-    case WidgetKind::kSlider: return "slider";
-    case WidgetKind::kTimePicker: return "time";
-    case WidgetKind::kDatePicker: return "date";
-    case WidgetKind::kGrid: return "grid";
-    case WidgetKind::kTabStrip: return "tabs";
-    case WidgetKind::kFrame: return "frame";
-    case WidgetKind::kProgressBar: return "progress";
-    case WidgetKind::kStatusBar: return "status";
-  }
-  return "control";
-}
-
 /// Hidden is a control's own state; off screen, one that a page or frame around it hides.
 std::string Marks(const Widget& widget) {
   std::string marks;
@@ -69,6 +48,27 @@ void AppendItems(const MenuItem& menu, const std::string& indent, std::string& t
 }
 
 }  // namespace
+
+const char* KindName(WidgetKind kind) {
+  switch (kind) {
+    case WidgetKind::kLabel: return "label";
+    case WidgetKind::kButton: return "button";
+    case WidgetKind::kCheckBox: return "check box";
+    case WidgetKind::kOptionButton: return "option";
+    case WidgetKind::kTextBox: return "text box";
+    case WidgetKind::kListBox: return "list";
+    case WidgetKind::kComboBox: return "drop-down list";
+    case WidgetKind::kSlider: return "slider";
+    case WidgetKind::kTimePicker: return "time";
+    case WidgetKind::kDatePicker: return "date";
+    case WidgetKind::kGrid: return "grid";
+    case WidgetKind::kTabStrip: return "tabs";
+    case WidgetKind::kFrame: return "frame";
+    case WidgetKind::kProgressBar: return "progress";
+    case WidgetKind::kStatusBar: return "status";
+  }
+  return "control";
+}
 
 std::string Quoted(std::string_view text) {
   std::string quoted = "\"";

@@ -1,7 +1,9 @@
 #include <ostream>
+#include <set>
 #include <utility>
 
 #include "apps/muxhost/script_commands.h"
+#include "apps/muxhost/script_pages.h"
 #include "apps/muxhost/script_parser.h"
 #include "apps/muxhost/script_report.h"
 
@@ -33,6 +35,15 @@ void Show(Desk& desk, Words words) {
   }
   if (desk.platform.Windows().empty()) desk.out << "no window is open\n";
   for (const Dialog* dialog : desk.platform.Windows()) desk.out << DescribeDialog(*dialog);
+}
+
+void Pages(Desk& desk, Words words) {
+  const auto& windows = desk.platform.Windows();
+  if (words.size() == 1 && windows.empty()) throw ScriptError("no window is open");
+  const Dialog& dialog = words.size() > 1 ? desk.platform.Window(words[1]) : *windows.back();
+  std::set<int> pages;
+  for (std::size_t i = 2; i < words.size(); ++i) pages.insert(ToNumber("page", words[i], 0, 99));
+  desk.out << DescribePages(dialog, pages);
 }
 
 void MenuItems(Desk& desk, Words /*words*/) {
