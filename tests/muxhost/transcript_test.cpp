@@ -33,7 +33,8 @@ std::string Printed(const std::string& script) {
 /// Scripts as they run: below a line "=== WHAT", each command behind "> " and what it prints. Each
 /// part runs in a host of its own; {dir} is a folder of the test's own, shared by the parts, in
 /// which "! NAME LENGTH AT=VALUE ..." first makes a file of zeros, and "! NAME SOURCE AT=VALUE ..."
-/// one like another. AT is a byte of the file, or BLOCK.BYTE.
+/// one like another. AT is a byte of the file, or BLOCK.BYTE; VALUE is bytes from there on, as
+/// 1,2,255, or a text that starts with no digit.
 class Transcript : public ::testing::TestWithParam<std::string> {
  protected:
   void SetUp() override {
@@ -61,12 +62,22 @@ class Transcript : public ::testing::TestWithParam<std::string> {
       bytes.resize(std::stoul(source));
     }
     for (std::string change; words >> change;) {
-      unsigned block = 1, at = 0, value = 0;
-      if (std::sscanf(change.c_str(), "%u.%u=%u", &block, &at, &value) != 3) {
+      const auto equals = change.find('=');
+      ASSERT_NE(equals, std::string::npos) << line;
+      unsigned block = 1, at = 0;
+      if (std::sscanf(change.c_str(), "%u.%u=", &block, &at) != 2) {
         block = 1;
-        ASSERT_EQ(std::sscanf(change.c_str(), "%u=%u", &at, &value), 2) << line;
+        ASSERT_EQ(std::sscanf(change.c_str(), "%u=", &at), 1) << line;
       }
-      bytes.at(std::size_t{block - 1} * kBlockSize + at) = static_cast<char>(value);
+      at += (block - 1) * kBlockSize;
+      std::istringstream values(change.substr(equals + 1));
+      if (std::isdigit(values.peek()) == 0) {
+        for (const char letter : values.str()) bytes.at(at++) = letter;
+        continue;
+      }
+      for (std::string value; std::getline(values, value, ',');) {
+        bytes.at(at++) = static_cast<char>(std::stoul(value));
+      }
     }
     std::ofstream(fs::path(dir_) / name, std::ios::binary) << bytes;
   }
