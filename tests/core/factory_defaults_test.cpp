@@ -81,6 +81,21 @@ TEST(FactoryDefaults, WriteTheseBytesAndNoOthers) {
   EXPECT_GT(rows, 20);
 }
 
+TEST(FactoryDefaults, FillTheBlocksOfAnAddressToTheirEnd) {
+  BlockImage image = Unwritten(225);
+  BlockImage expected = image;
+  for (int n = 201; n <= 212; ++n) std::ranges::fill(expected.Block(n), Byte{0});
+  for (const char* text :
+       {"201.0 55 73 65 72 31", "207.0 55 73 65 72 32", "204.0 65 78 61 6d 70 6c 65 2e 63 6f 6d",
+        "210.0 65 78 61 6d 70 6c 65 2e 63 6f 6d"}) {
+    Put(expected, text);
+  }
+  AdaptToDevice(image, Device(6, 16, '1'), 0);
+  for (int n = 201; n <= 225; ++n) {
+    EXPECT_TRUE(std::ranges::equal(image.Block(n), expected.Block(n))) << "block " << n;
+  }
+}
+
 TEST(FactoryDefaults, RefuseBeforeAnythingChanges) {
   const struct {
     int code, cameras, blocks;
