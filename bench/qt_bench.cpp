@@ -30,8 +30,7 @@ class LargeWindow : public Dialog {
     for (int i = 0; i < lists.Count(); ++i) {
       std::vector<std::string> items;
       for (int item = 0; item <= 10 * i; ++item) items.push_back(std::to_string(item) + " seconds");
-      lists(i).SetItems(std::move(items));
-      editing.Bind(i + 1, lists(i));
+      editing.Bind(i + 1, lists(i), Choices(std::move(items)));
       layout_detail::Add(rows[i % 2], lists(i));
     }
     for (int column = 1; column < kColumns; ++column) {
@@ -41,7 +40,7 @@ class LargeWindow : public Dialog {
       grid.SetCell(row, 0, "Camera " + std::to_string(row));
       for (int column = 1; column < kColumns; ++column) {
         if (column > lists.Count()) grid.SetCell(row, column, "07:45");
-        if (column <= lists.Count()) editing.SetItem(row, column, 0);
+        if (column <= lists.Count()) editing.SetValue(row, column, 0);
       }
     }
     editing.GoTo(1, 1);
@@ -87,7 +86,7 @@ void RefillInQt(benchmark::State& state) {
     for (ListBox& list : window->lists) list.SetItems({"Off", "On", std::to_string(turn)});
     for (int row = 1; row < window->grid.Rows(); ++row) {
       for (int column = 1; column <= window->lists.Count(); ++column) {
-        window->editing.SetItem(row, column, item);
+        window->editing.SetValue(row, column, item);
       }
     }
     QApplication::processEvents();

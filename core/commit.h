@@ -34,19 +34,21 @@ class CommitFlags {
   std::bitset<kCommitFlagCount> flags_;
 };
 
-/// Raises a flag for the time of one editor's writes; lowers it also when a write throws.
+/// Raises a flag for the time of one editor's writes; puts it back also when a write throws.
 class CommitScope {
  public:
-  CommitScope(CommitFlags& flags, CommitFlag flag) : flags_(flags), flag_(flag) {
+  CommitScope(CommitFlags& flags, CommitFlag flag)
+      : flags_(flags), flag_(flag), before_(flags.Raised(flag)) {
     flags_.Set(flag_, true);
   }
-  ~CommitScope() { flags_.Set(flag_, false); }
+  ~CommitScope() { flags_.Set(flag_, before_); }
   CommitScope(const CommitScope&) = delete;
   CommitScope& operator=(const CommitScope&) = delete;
 
  private:
   CommitFlags& flags_;
   CommitFlag flag_;
+  bool before_;
 };
 
 }  // namespace quorvel

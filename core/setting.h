@@ -175,6 +175,7 @@ class Setting {
 template <SettingName name, class T, std::size_t N, class Rule = Untracked>
 class SettingArray {
  public:
+  using Value = T;
   static constexpr int kSize = static_cast<int>(N);
 
   explicit SettingArray(const SettingOwner& owner) : owner_(this, owner) {}

@@ -4,6 +4,15 @@
 
 namespace quorvel {
 
+/// The texts by name: what code asks the catalogue for. A host's text source knows them by id.
+namespace txt {
+enum Id : int {
+#define QUORVEL_TEXT(id, name, english) name = id,
+#include "resources/text_table.inc"
+#undef QUORVEL_TEXT
+};
+}  // namespace txt
+
 inline constexpr int kTextCount = 333;
 
 /// Texts beyond the table, for what a host's own vocabulary need not know. They are numbered apart,

@@ -23,7 +23,7 @@ void MakeItemsLonger(ChoiceWidget& choice) {
 void MakeCellsLonger(Grid& grid) {
   for (int row = 0; row < grid.Rows(); ++row) {
     for (int column = 0; column < grid.Columns(); ++column) {
-      grid.SetCell(row, column, Longer(grid.Cell(row, column)), grid.Item(row, column));
+      grid.SetCell(row, column, Longer(grid.Cell(row, column)), grid.Value(row, column));
     }
   }
 }

@@ -27,25 +27,25 @@ void GridKinds::FillCameras() {
   MSFG_Camera.SetSize(kCameras + 1, 7);
   SetRow(MSFG_Camera, 0,
          {"Camera", "Action & lamp", "Record rate per second", "Gain", "Start", "Hour", "Minute"});
-  lstAction.SetItems({"NONE", "Beep", "Beep", "R&D <b>lamp</b>"});
-  cboRate.SetItems({"1.5", "3", "6", "12", "25"});
+  Choices actions({"NONE", "Beep", "Beep", "R&D <b>lamp</b>"});
+  actions.Reads(0, "").Reads(4, "not in the list");
   sldGain.SetRange(50, 150);
-  camera_editing_.Bind(kAction, lstAction, EmptyFor(lstAction, 0));
+  camera_editing_.Bind(kAction, lstAction, actions, {.empty = 0});
   const ColumnRules whole_row{.shows = ColumnRules::Reach::kInRow};
-  camera_editing_.Bind(kRate, cboRate, whole_row);
+  camera_editing_.Bind(kRate, cboRate, Choices({"1.5", "3", "6", "12", "25"}), whole_row);
   camera_editing_.Bind(kGain, sldGain, lblGainValue, whole_row);
   camera_editing_.Bind(kStart, dtpStart, whole_row);
   camera_editing_.BindPair(kHour, kMinute, dtpDwell, whole_row);
   for (int row = 1; row <= kCameras; ++row) {
     MSFG_Camera.SetCell(row, 0, std::to_string(row));
-    camera_editing_.SetItem(row, kAction, row % 4);
-    camera_editing_.SetItem(row, kRate, row % 6);    // 5: no such rate
-    camera_editing_.SetItem(row, kGain, 15 * row);   // beyond both ends of the slider
-    camera_editing_.SetItem(row, kStart, 90 * row);  // minutes; the last ones are not of the day
-    camera_editing_.SetItem(row, kHour, 2 * row);
-    camera_editing_.SetItem(row, kMinute, 4 * row);
+    camera_editing_.SetValue(row, kAction, row % 4);
+    camera_editing_.SetValue(row, kRate, row % 6);    // 5: no such rate
+    camera_editing_.SetValue(row, kGain, 15 * row);   // beyond both ends of the slider
+    camera_editing_.SetValue(row, kStart, 90 * row);  // minutes; the last ones are not of the day
+    camera_editing_.SetValue(row, kHour, 2 * row);
+    camera_editing_.SetValue(row, kMinute, 4 * row);
   }
-  MSFG_Camera.SetCell(2, kAction, "not in the list");
+  camera_editing_.SetValue(2, kAction, 4);
   camera_editing_.GoTo(1, kAction);
 }
 
@@ -57,7 +57,6 @@ void GridKinds::FillMacros() {
   for (int row = 2; row < MSFG_Macro.Rows(); ++row) {
     MSFG_Macro.SetCell(row, 0, std::to_string(row - 1));
   }
-  lstMacro.SetItems({"Off", "On", "Pan & tilt"});
   for (int i = 0; i < 5; ++i) AddColumn();
   macro_editing_.GoTo(2, 1);
 }
@@ -68,9 +67,9 @@ void GridKinds::AddColumn() {
   const int column = MSFG_Macro.AddColumns(1);
   MSFG_Macro.SetCell(0, column, column < 4 ? "Macro" : "Macro on alarm");
   MSFG_Macro.SetCell(1, column, std::to_string(column));
-  macro_editing_.Bind(column, lstMacro);
+  macro_editing_.Bind(column, lstMacro, Choices({"Off", "On", "Pan & tilt"}));
   for (int row = 2; row < MSFG_Macro.Rows(); ++row) {
-    macro_editing_.SetItem(row, column, (row + column) % 3);
+    macro_editing_.SetValue(row, column, (row + column) % 3);
   }
 }
 

@@ -131,6 +131,9 @@ class MuxData : public SettingOwner {
   }
   void MRecTimer(int index, const clsRecTimer& element) { Replace(MRecTimer(index), element); }
 
+  /// Lists a block whose settings the record does not track, or not here.
+  void MarkModified(int block) { env().blocks.AddBlk(static_cast<Byte>(block)); }
+
   /// Lowers all commit flags, so that what follows lists nothing.
   void FillData() { env().commit.Clear(); }
 

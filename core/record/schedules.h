@@ -86,6 +86,18 @@ class clsRecTimer : public SettingOwner {
   Setting<"RTmacrolnk", Byte, EntryBlock> RTmacrolnk{*this};
   Setting<"RTstatus", Byte, EntryBlock> RTstatus{*this};
   Setting<"RTvalid", Byte, EntryBlock> RTvalid{*this};
+
+  /// Takes the values of another entry, each as if it had been set: an entry that moves is tracked.
+  void Take(const clsRecTimer& other) {
+    RTdate(other.RTdate());
+    RTstart_hh(other.RTstart_hh());
+    RTstart_mm(other.RTstart_mm());
+    RTstop_hh(other.RTstop_hh());
+    RTstop_mm(other.RTstop_mm());
+    RTmacrolnk(other.RTmacrolnk());
+    RTstatus(other.RTstatus());
+    RTvalid(other.RTvalid());
+  }
 };
 
 }  // namespace quorvel

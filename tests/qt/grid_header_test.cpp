@@ -19,10 +19,9 @@ class GridDialog : public Dialog {
     for (int row = 0; row < 2; ++row) {
       for (int column = 0; column < 3; ++column) grid.SetCell(row, column, texts[row][column]);
     }
-    list.SetItems({"Off", "On"});
-    for (const int column : {1, 2}) editing.Bind(column, list);
+    for (const int column : {1, 2}) editing.Bind(column, list, Choices({"Off", "On"}));
     for (int row = 2; row < 6; ++row) {
-      for (const int column : {1, 2}) editing.SetItem(row, column, 0);
+      for (const int column : {1, 2}) editing.SetValue(row, column, 0);
     }
     SetLayout(Row(grid, list));
   }
@@ -76,7 +75,7 @@ TEST_F(QtGridHeader, TextOverSeveralColumnsSharesTheirWidth) {
 }
 
 TEST_F(QtGridHeader, CopyAndPaste) {
-  dialog_->editing.SetItem(3, 1, 1);
+  dialog_->editing.SetValue(3, 1, 1);
   dialog_->grid.Press(2, 1);
   dialog_->grid.Release(2, 4);
   QTest::keyClick(table_, Qt::Key_C, Qt::ControlModifier);

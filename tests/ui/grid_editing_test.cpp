@@ -16,10 +16,14 @@ class Desk : public Dialog {
   explicit Desk(Platform& platform) : Dialog(platform, "frm_Desk") {
     SetLayout(Row(grid, Column(list, combo, slider, shown, picker)));
     grid.SetSize(5, 8);
-    list.SetItems({"NONE", "Macro 1", "Macro 1", "Macro 3"});
-    combo.SetItems({"----", "----", "5.0 pps"});
     slider.SetRange(0, 5);
   }
+  /// Two lines read the same, and line 2 stands for 99; "NONE" reads as nothing in a cell.
+  static Choices Macros() {
+    Choices macros{{0, "NONE"}, {1, "Macro 1"}, {99, "Macro 1"}, {3, "Macro 3"}};
+    return macros.Reads(0, "").Reads(9, "Macro 9");
+  }
+  static Choices Rates() { return Choices({"----", "----", "5.0 pps"}); }
   std::string TextsOf(int column) const {
     std::string texts;
     for (int row = 1; row < grid.Rows(); ++row) texts += grid.Cell(row, column) + "|";
@@ -48,34 +52,100 @@ class Editing : public ::testing::Test {
 
 TEST_F(Editing, LookingAtCellsChangesNone) {
   GridEditing editing(desk_->grid);
-  editing.Bind(1, desk_->list, EmptyFor(desk_->list, 0));
-  editing.Bind(2, desk_->combo);
+  editing.Bind(1, desk_->list, Desk::Macros(), {.empty = 0});
+  editing.Bind(2, desk_->combo, Desk::Rates());
   editing.Bind(3, desk_->slider, desk_->shown);
   editing.Bind(4, desk_->picker);
   const struct {
     int column;
-    int item;
+    int value;
     const char* text;
-    int kept;
   } cases[] = {
-      {1, 0, "", 0},        {1, 2, "Macro 1", 2}, {1, 3, "Macro 3", 3},   {1, 77, "", -1},
-      {2, 1, "----", 1},    {2, -1, "", -1},      {2, 5, "", -1},         {3, 4, "4", 4},
-      {3, 200, "200", 200}, {3, -1, "", -1},      {4, 465, "07:45", 465}, {4, 1440, "", -1},
+      {1, 0, ""},     {1, 99, "Macro 1"}, {1, 3, "Macro 3"}, {1, 9, "Macro 9"}, {1, 77, ""},
+      {2, 1, "----"}, {2, -1, ""},        {2, 5, ""},        {3, 4, "4"},       {3, 200, "200"},
+      {3, -1, ""},    {4, 465, "07:45"},  {4, 1440, ""},
   };
   for (const auto& it : cases) {
-    SCOPED_TRACE(testing::Message() << it.column << " " << it.item);
+    SCOPED_TRACE(testing::Message() << it.column << " " << it.value);
     desk_->list.Select(1);
-    editing.SetItem(3, it.column, it.item);
+    editing.SetValue(3, it.column, it.value);
     Drag(3, 3, it.column);
     EXPECT_EQ(desk_->grid.Cell(3, it.column), it.text);
-    EXPECT_EQ(desk_->grid.Item(3, it.column), it.item);
-    EXPECT_EQ(editing.ItemAt(3, it.column), it.kept);
+    EXPECT_EQ(editing.ValueAt(3, it.column), it.value);
   }
-  desk_->grid.SetCell(2, 1, "Macro 9");
+  editing.SetValue(2, 1, 9);
   Drag(2, 4, 1);
   EXPECT_EQ(desk_->TextsOf(1), "|Macro 9|||");
-  desk_->grid.SetCell(2, 1, "Macro 1");
-  EXPECT_EQ(editing.ItemAt(2, 1), 1);
+}
+
+TEST_F(Editing, DeleteEmptiesWhatCanBeEmpty) {
+  GridEditing editing(desk_->grid);
+  std::vector<int> written;
+  int chosen = 0;
+  editing.Bind(1, desk_->list, Desk::Macros(),
+               {.takes = [](int row) { return row != 3; },
+                .written = [&](int row) { written.push_back(row); },
+                .chosen = [&] { ++chosen; },
+                .empty = 0});
+  editing.Bind(2, desk_->combo, Desk::Rates());
+  editing.Bind(4, desk_->picker, {.empty = Grid::kNone});
+  const auto fill = [&] {
+    for (int row = 1; row <= 4; ++row) {
+      editing.SetValue(row, 1, 3);
+      editing.SetValue(row, 2, 2);
+      editing.SetValue(row, 4, 60);
+    }
+    Press(2, 1);
+    desk_->grid.Release(2, 4);
+  };
+  fill();
+  written.clear();
+  chosen = 0;
+  EXPECT_EQ(desk_->grid.Empty(), Answer::kDone);
+  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(4), "Macro 3||Macro 3||01:00|01:00|01:00|01:00|");
+  EXPECT_EQ(written, (std::vector<int>{2, 4}));
+  EXPECT_EQ(chosen, 1);
+  EXPECT_EQ(desk_->list.Current(), 0);
+  Press(2, 2);
+  EXPECT_EQ(desk_->grid.Empty(), Answer::kNotAChoice);
+  editing.SetEmpties(GridEditing::Empties::kRows);
+  fill();
+  EXPECT_EQ(desk_->grid.Empty(), Answer::kDone);
+  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(4), "Macro 3||Macro 3||01:00||||");
+  EXPECT_EQ(editing.ValueAt(2, 4), Grid::kNone);
+}
+
+TEST_F(Editing, TwoListsStandAtOneValue) {
+  ListBox other(*desk_, "lstHours");
+  GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
+  editing.BindPair(1, desk_->list, Choices({"001", "009", "017"}), 2, other,
+                   Choices({"003", "024", "048"}));
+  editing.SetValue(1, 1, 2);
+  editing.SetValue(1, 2, 2);
+  Press(1, 2);
+  EXPECT_EQ(desk_->list.CurrentText() + " " + other.CurrentText(), "017 048");
+  other.Choose(1);
+  EXPECT_EQ(desk_->list.CurrentText(), "009");
+  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "009||||024||||");
+  desk_->list.Choose(0);
+  EXPECT_EQ(other.CurrentText(), "003");
+  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "001||||003||||");
+}
+
+TEST_F(Editing, AListMayOfferOtherLinesInEveryRow) {
+  GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
+  Choices all({"0 pps", "1 pps", "4 pps", "20 pps"});
+  editing.Bind(1, desk_->combo, all, {.of_row = [&](int row) {
+                 return row == 1 ? all : Choices{{0, "0 pps"}, {2, "4 pps"}};
+               }});
+  editing.SetValue(2, 1, 3);
+  Press(1, 1);
+  EXPECT_EQ(desk_->combo.Count(), 4);
+  Press(2, 1);
+  EXPECT_EQ(desk_->combo.Count(), 2);
+  EXPECT_EQ(desk_->combo.Current(), ComboBox::kNone);  // the cell's own is not among them
+  desk_->combo.Choose(1);
+  EXPECT_EQ(editing.ValueAt(2, 1), 2);
 }
 
 TEST_F(Editing, TheEndOfASelectionSelectsOrWrites) {
@@ -83,8 +153,8 @@ TEST_F(Editing, TheEndOfASelectionSelectsOrWrites) {
     const bool writes = release == GridEditing::Release::kWrites;
     GridEditing editing(desk_->grid, release);
     desk_->grid.SetSize(5, 8);
-    editing.Bind(1, desk_->list);
-    editing.SetItem(2, 1, 3);
+    editing.Bind(1, desk_->list, Desk::Macros());
+    editing.SetValue(2, 1, 3);
     Drag(2, 3, 1);
     EXPECT_EQ(desk_->TextsOf(1), writes ? "|Macro 3|Macro 3||" : "|Macro 3|||");
     desk_->list.Choose(3);
@@ -96,13 +166,13 @@ TEST_F(Editing, ControlsReachTheirColumnOrTheWholeRow) {
   GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
   std::vector<int> written;
   ColumnRules whole_row{.shows = Reach::kInRow, .writes = Reach::kInRow};
-  editing.Bind(1, desk_->list);
-  editing.Bind(2, desk_->list);
+  editing.Bind(1, desk_->list, Desk::Macros());
+  editing.Bind(2, desk_->list, Desk::Macros());
   editing.Bind(3, desk_->slider, desk_->shown, whole_row);
   whole_row.takes = [](int row) { return row != 2; };
   whole_row.written = [&written](int row) { written.push_back(row); };
-  editing.Bind(4, desk_->combo, whole_row);
-  editing.SetItem(1, 3, 5);
+  editing.Bind(4, desk_->combo, Desk::Rates(), whole_row);
+  editing.SetValue(1, 3, 5);
   Drag(1, 3, 2);
   EXPECT_EQ(desk_->slider.Value(), 5);
   EXPECT_EQ(desk_->shown.Caption(), "5");
@@ -128,10 +198,10 @@ TEST_F(Editing, ControlsReachTheirColumnOrTheWholeRow) {
 
 TEST_F(Editing, OneListServesColumnsOfDifferentItems) {
   GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
-  editing.Bind(1, desk_->combo, {.items = {"Low", "High"}});
-  editing.Bind(2, desk_->combo, {.items = {"5 pps", "10 pps", "20 pps"}});
-  editing.SetItem(1, 2, 2);
-  editing.SetItem(1, 1, 1);
+  editing.Bind(1, desk_->combo, Choices({"Low", "High"}));
+  editing.Bind(2, desk_->combo, Choices({"5 pps", "10 pps", "20 pps"}));
+  editing.SetValue(1, 2, 2);
+  editing.SetValue(1, 1, 1);
   int shown = 0;
   editing.before_show = [this, &shown] { shown = desk_->combo.Count(); };
   Press(1, 1);
@@ -140,7 +210,7 @@ TEST_F(Editing, OneListServesColumnsOfDifferentItems) {
   EXPECT_EQ(shown, 2);
   EXPECT_EQ(desk_->combo.CurrentText(), "20 pps");
   Press(1, 1);
-  EXPECT_EQ(editing.ItemAt(1, 2), 2);
+  EXPECT_EQ(editing.ValueAt(1, 2), 2);
   desk_->combo.Choose(0);
   EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "Low||||20 pps||||");
 }
@@ -148,16 +218,16 @@ TEST_F(Editing, OneListServesColumnsOfDifferentItems) {
 TEST_F(Editing, HoursAndMinutesAreOneTime) {
   GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
   editing.BindPair(2, 3, desk_->picker);
-  desk_->grid.SetCell(1, 2, "07");
-  desk_->grid.SetCell(1, 3, "05");
-  desk_->grid.SetCell(2, 2, "07");
+  editing.SetValue(1, 2, 7);
+  editing.SetValue(1, 3, 5);
+  editing.SetValue(2, 2, 7);
   Press(1, 3);
   EXPECT_EQ(desk_->picker.ValueText(), "07:05");
   Drag(2, 3, 2);
   EXPECT_EQ(desk_->picker.ValueText(), "");
   desk_->picker.Pick({0, 9, 0});
   EXPECT_EQ(desk_->TextsOf(2) + desk_->TextsOf(3), "07|00|00||05|09|09||");
-  EXPECT_EQ(editing.ItemAt(3, 3), 9);
+  EXPECT_EQ(editing.ValueAt(3, 3), 9);
   Press(4, 1);
   desk_->picker.Pick({1, 1, 0});
   EXPECT_EQ(desk_->TextsOf(2), "07|00|00||");
@@ -165,7 +235,7 @@ TEST_F(Editing, HoursAndMinutesAreOneTime) {
 
 TEST_F(Editing, PastesAllOrNothing) {
   GridEditing editing(desk_->grid);
-  editing.Bind(1, desk_->list, EmptyFor(desk_->list, 0));
+  editing.Bind(1, desk_->list, Desk::Macros());
   editing.Bind(2, desk_->slider, desk_->shown, {.takes = [](int row) { return row != 4; }});
   editing.Bind(3, desk_->picker);
   const struct {
@@ -196,16 +266,16 @@ TEST_F(Editing, PastesAllOrNothing) {
     EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2) + desk_->TextsOf(3), it.cells);
   }
   desk_->grid.SetSize(5, 8);
-  editing.SetItem(1, 1, 2);
-  editing.SetItem(2, 2, 4);
+  editing.SetValue(1, 1, 99);
+  editing.SetValue(2, 2, 4);
   Drag(1, 1, 1);
   desk_->grid.SetCurrent(1, 1);
   EXPECT_EQ(desk_->grid.Copied(1, 2), "Macro 1\t");
   EXPECT_EQ(desk_->grid.Paste("Macro 1"), Answer::kDone);
-  EXPECT_EQ(editing.ItemAt(1, 1), 2);  // the text of two items; it was this one
+  EXPECT_EQ(editing.ValueAt(1, 1), 99);  // the text of two lines; it was this one
   EXPECT_EQ(desk_->grid.Paste("Macro 3"), Answer::kDone);
   EXPECT_EQ(desk_->list.Current(), 3);
-  desk_->grid.SetCell(1, 1, "Macro 9");
+  editing.SetValue(1, 1, 9);
   EXPECT_EQ(desk_->grid.Paste("Macro 9"), Answer::kDone);  // as it is, listed or not
 }
 

@@ -176,7 +176,7 @@ TEST_F(Widgets, GridsWithTwoHeaderRows) {
                                                           {1, 5, 1, 1, "Target Size"}}));
   EXPECT_EQ(grid.ColumnName(0), "Camera");
   EXPECT_EQ(grid.ColumnName(5), "Intrusion, Target Size");
-  EXPECT_EQ(grid.Cell(3, 2) + std::to_string(grid.Item(3, 2)) + grid.Cell(3, 5), "YES1");
+  EXPECT_EQ(grid.Cell(3, 2) + std::to_string(grid.Value(3, 2)) + grid.Cell(3, 5), "YES1");
   EXPECT_EQ(grid.Row(), 2);
   EXPECT_EQ(grid.Press(1, 1), Answer::kNoSuchPlace);
   EXPECT_EQ(grid.Press(3, 5), Answer::kDone);

@@ -1,5 +1,6 @@
 #include "ui/editing/cell_control.h"
 
+#include <array>
 #include <utility>
 
 #include "ui/editing/number_texts.h"
@@ -8,40 +9,90 @@ namespace quorvel {
 
 namespace {
 
-class ListCells : public CellControl {
+/// A list with the lines that it offers.
+class List {
  public:
-  ListCells(ChoiceWidget& list, std::vector<std::string> items, CellTextRule text)
-      : list_(list), items_(std::move(items)), text_(std::move(text)) {}
+  List(ChoiceWidget& list, Choices choices) : list_(list), choices_(std::move(choices)) {}
 
-  [[nodiscard]] const Widget& Control() const override { return list_; }
-  [[nodiscard]] bool Has(int /*part*/, int item) const override {
-    return item >= 0 && static_cast<std::size_t>(item) < Items().size();
+  [[nodiscard]] bool Is(const Widget& widget) const { return &list_ == &widget; }
+  [[nodiscard]] const Choices& Lines() const { return choices_; }
+  void Show(int value) { ShowIn(choices_, value); }
+  /// Shows a value among lines of its own, which the list then offers.
+  void ShowIn(const Choices& choices, int value) {
+    std::vector<std::string> texts = choices.Texts();
+    if (list_.Items() != texts) list_.SetItems(std::move(texts));
+    offered_ = &choices == &choices_ ? Choices() : choices;
+    list_.Select(choices.LineOf(value));
   }
-  [[nodiscard]] std::string TextOf(int part, int item) const override {
-    if (!Has(part, item)) return {};
-    return text_ ? text_(item) : Items()[static_cast<std::size_t>(item)];
-  }
-  [[nodiscard]] int ItemOf(int part, const std::string& text) const override {
-    int item = 0;
-    while (Has(part, item) && TextOf(part, item) != text) ++item;
-    return Has(part, item) ? item : kNone;
-  }
-  void Show(const std::vector<int>& items) override {
-    if (list_.Items() != Items()) list_.SetItems(items_);
-    list_.Select(items.front());
-  }
-  [[nodiscard]] int Chosen(int /*part*/) const override {
-    return list_.Items() == Items() ? list_.Current() : kNone;
+  [[nodiscard]] int Chosen() const {
+    const Choices& offered = offered_.Count() == 0 ? choices_ : offered_;
+    // Another column may have given the list its own lines since.
+    return list_.Count() == offered.Count() && list_.Items() == offered.Texts()
+               ? offered.ValueAt(list_.Current())
+               : Choices::kNone;
   }
 
  private:
-  [[nodiscard]] const std::vector<std::string>& Items() const {
-    return items_.empty() ? list_.Items() : items_;
-  }
-
   ChoiceWidget& list_;
-  std::vector<std::string> items_;
-  CellTextRule text_;
+  Choices choices_;
+  Choices offered_;  ///< the lines that were shown last, where they are others
+};
+
+class ListCells : public CellControl {
+ public:
+  ListCells(ChoiceWidget& list, Choices choices, ChoicesOfRow of_row)
+      : list_(list, std::move(choices)), of_row_(std::move(of_row)) {}
+
+  [[nodiscard]] bool Is(const Widget& widget) const override { return list_.Is(widget); }
+  [[nodiscard]] std::string TextOf(int /*part*/, int value) const override {
+    return list_.Lines().TextOf(value);
+  }
+  [[nodiscard]] int ValueOf(int /*part*/, const std::string& text) const override {
+    return list_.Lines().ValueOf(text);
+  }
+  [[nodiscard]] bool Offers(int /*part*/, int value) const override {
+    return list_.Lines().Has(value);
+  }
+  void Show(int row, const std::vector<int>& values) override {
+    if (of_row_) {
+      list_.ShowIn(of_row_(row), values.front());
+    } else {
+      list_.Show(values.front());
+    }
+  }
+  [[nodiscard]] int Chosen(int /*part*/) const override { return list_.Chosen(); }
+
+ private:
+  List list_;
+  ChoicesOfRow of_row_;
+};
+
+/// Two lists that are moved together, so either tells what both stand at.
+class ListPairCells : public CellControl {
+ public:
+  ListPairCells(List one, List other) : lists_{std::move(one), std::move(other)} {}
+
+  [[nodiscard]] bool Is(const Widget& widget) const override {
+    return lists_[0].Is(widget) || lists_[1].Is(widget);
+  }
+  [[nodiscard]] std::string TextOf(int part, int value) const override {
+    return At(part).Lines().TextOf(value);
+  }
+  [[nodiscard]] int ValueOf(int part, const std::string& text) const override {
+    return At(part).Lines().ValueOf(text);
+  }
+  [[nodiscard]] bool Offers(int part, int value) const override {
+    return At(part).Lines().Has(value);
+  }
+  void Show(int /*row*/, const std::vector<int>& values) override {
+    for (List& list : lists_) list.Show(values.front());
+  }
+  [[nodiscard]] int Chosen(int /*part*/) const override { return lists_[0].Chosen(); }
+
+ private:
+  [[nodiscard]] const List& At(int part) const { return lists_.at(static_cast<std::size_t>(part)); }
+
+  std::array<List, 2> lists_;
 };
 
 /// A slider shows something even when the cell has nothing. That is no choice until somebody moves
@@ -50,21 +101,21 @@ class SliderCells : public CellControl {
  public:
   SliderCells(Slider& slider, Label& shown) : slider_(slider), shown_(shown) {}
 
-  [[nodiscard]] const Widget& Control() const override { return slider_; }
-  [[nodiscard]] bool Has(int /*part*/, int item) const override { return item >= 0; }
-  [[nodiscard]] bool Offers(int /*part*/, int item) const override {
-    return item >= slider_.Minimum() && item <= slider_.Maximum();
+  [[nodiscard]] bool Is(const Widget& widget) const override { return &slider_ == &widget; }
+  [[nodiscard]] std::string TextOf(int /*part*/, int value) const override {
+    return value < 0 ? "" : std::to_string(value);
   }
-  [[nodiscard]] std::string TextOf(int part, int item) const override {
-    return Has(part, item) ? std::to_string(item) : "";
+  [[nodiscard]] int ValueOf(int part, const std::string& text) const override {
+    const int value = ReadNumber(text).value_or(kNone);
+    return Offers(part, value) ? value : kNone;
   }
-  [[nodiscard]] int ItemOf(int /*part*/, const std::string& text) const override {
-    return ReadNumber(text).value_or(kNone);
+  [[nodiscard]] bool Offers(int /*part*/, int value) const override {
+    return value >= slider_.Minimum() && value <= slider_.Maximum();
   }
-  void Show(const std::vector<int>& items) override {
-    blank_ = items.front() == kNone;
-    slider_.SetValue(blank_ ? slider_.Minimum() : items.front());
-    shown_.SetCaption(TextOf(0, items.front()));
+  void Show(int /*row*/, const std::vector<int>& values) override {
+    blank_ = values.front() == kNone;
+    slider_.SetValue(blank_ ? slider_.Minimum() : values.front());
+    shown_.SetCaption(TextOf(0, values.front()));
   }
   [[nodiscard]] int Chosen(int /*part*/) const override {
     return blank_ && !slider_.Edited() ? kNone : slider_.Value();
@@ -83,22 +134,24 @@ class TimeCells : public CellControl {
  public:
   explicit TimeCells(TimePicker& picker) : picker_(picker) {}
 
-  [[nodiscard]] const Widget& Control() const override { return picker_; }
-  [[nodiscard]] bool Has(int /*part*/, int item) const override {
-    return item >= 0 && item < kHours * kMinutes;
+  [[nodiscard]] bool Is(const Widget& widget) const override { return &picker_ == &widget; }
+  [[nodiscard]] std::string TextOf(int part, int value) const override {
+    return Offers(part, value)
+               ? TimeText(ClockFormat::kHoursMinutes, {value / kMinutes, value % kMinutes, 0})
+               : "";
   }
-  [[nodiscard]] std::string TextOf(int /*part*/, int item) const override {
-    return TimeText(ClockFormat::kHoursMinutes, {item / kMinutes, item % kMinutes, 0});
-  }
-  [[nodiscard]] int ItemOf(int /*part*/, const std::string& text) const override {
+  [[nodiscard]] int ValueOf(int /*part*/, const std::string& text) const override {
     const auto time = ReadTime(text);
     return time ? time->hour * kMinutes + time->minute : kNone;
   }
-  void Show(const std::vector<int>& items) override {
-    if (items.front() == kNone) {
-      picker_.Clear();
+  [[nodiscard]] bool Offers(int /*part*/, int value) const override {
+    return value >= 0 && value < kHours * kMinutes;
+  }
+  void Show(int /*row*/, const std::vector<int>& values) override {
+    if (Offers(0, values.front())) {
+      picker_.SetTime({values.front() / kMinutes, values.front() % kMinutes, 0});
     } else {
-      picker_.SetTime({items.front() / kMinutes, items.front() % kMinutes, 0});
+      picker_.Clear();
     }
   }
   [[nodiscard]] int Chosen(int /*part*/) const override {
@@ -114,20 +167,20 @@ class HourAndMinuteCells : public CellControl {
  public:
   explicit HourAndMinuteCells(TimePicker& picker) : whole_(picker) {}
 
-  [[nodiscard]] const Widget& Control() const override { return whole_.Control(); }
-  [[nodiscard]] bool Has(int part, int item) const override {
-    return item >= 0 && item < (part == 0 ? kHours : kMinutes);
+  [[nodiscard]] bool Is(const Widget& widget) const override { return whole_.Is(widget); }
+  [[nodiscard]] std::string TextOf(int part, int value) const override {
+    return Offers(part, value) ? NumberText(value, 2) : "";
   }
-  [[nodiscard]] std::string TextOf(int part, int item) const override {
-    return Has(part, item) ? NumberText(item, 2) : "";
+  [[nodiscard]] int ValueOf(int part, const std::string& text) const override {
+    const int value = ReadNumber(text).value_or(kNone);
+    return Offers(part, value) ? value : kNone;
   }
-  [[nodiscard]] int ItemOf(int part, const std::string& text) const override {
-    const int item = ReadNumber(text).value_or(kNone);
-    return Has(part, item) ? item : kNone;
+  [[nodiscard]] bool Offers(int part, int value) const override {
+    return value >= 0 && value < (part == 0 ? kHours : kMinutes);
   }
-  void Show(const std::vector<int>& items) override {
-    const bool blank = items.at(0) == kNone || items.at(1) == kNone;
-    whole_.Show({blank ? kNone : items.at(0) * kMinutes + items.at(1)});
+  void Show(int row, const std::vector<int>& values) override {
+    const bool whole = Offers(0, values.at(0)) && Offers(1, values.at(1));
+    whole_.Show(row, {whole ? values.at(0) * kMinutes + values.at(1) : kNone});
   }
   [[nodiscard]] int Chosen(int part) const override {
     const int minutes = whole_.Chosen(0);
@@ -141,9 +194,15 @@ class HourAndMinuteCells : public CellControl {
 
 }  // namespace
 
-std::unique_ptr<CellControl> MakeCellControl(ChoiceWidget& list, std::vector<std::string> items,
-                                             CellTextRule text) {
-  return std::make_unique<ListCells>(list, std::move(items), std::move(text));
+std::unique_ptr<CellControl> MakeCellControl(ChoiceWidget& list, Choices choices,
+                                             ChoicesOfRow of_row) {
+  return std::make_unique<ListCells>(list, std::move(choices), std::move(of_row));
+}
+
+std::unique_ptr<CellControl> MakeCellControl(ChoiceWidget& one, Choices choices_of_one,
+                                             ChoiceWidget& other, Choices choices_of_other) {
+  return std::make_unique<ListPairCells>(List(one, std::move(choices_of_one)),
+                                         List(other, std::move(choices_of_other)));
 }
 
 std::unique_ptr<CellControl> MakeCellControl(Slider& slider, Label& shown) {

@@ -20,6 +20,10 @@ class DeviceText {
   ~DeviceText() = default;
 
   void Show(std::string_view bytes);
+  /// Shows again what it was filled with.
+  void PutBack() { box_.SetText(shown_); }
+  /// What the box was last filled with, UTF-8.
+  [[nodiscard]] const std::string& Shown() const { return shown_; }
   /// What the box shows, as the device would hold it.
   [[nodiscard]] std::string Bytes() const { return platform_.FromUtf8(box_.Text()); }
   /// The bytes that somebody has typed; nothing when the box reads as it was shown, also after

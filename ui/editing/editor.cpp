@@ -1,48 +1,105 @@
 #include "ui/editing/editor.h"
 
+#include <deque>
+#include <utility>
+
+#include "core/codec.h"
 #include "resources/icon.h"
 #include "resources/text_table.h"
+#include "ui/editing/line_grid.h"
 
 namespace quorvel {
 
 namespace {
-constexpr int kTextDataDoesNotMatch = 267;
-constexpr int kTextErrorMessage = 270;
+
+/// The image as it would be with every block encoded from the record, which stays as it is.
+BlockImage Encoded(const BlockImage& present, RecordEnvironment& env, const MuxData& record) {
+  BlockImage image = present;
+  MuxData copy(env);
+  copy = record;
+  EncodeImage(image, env, copy);
+  return image;
+}
+
+/// A change that no rule of the record has listed is listed here, so that none stays behind: what
+/// is accepted is sent.
+void ListChangedBlocks(const BlockImage& before, const BlockImage& after, clsBlkSave& list) {
+  for (int number = 1; after.Counts(number); ++number) {
+    const auto was = before.Block(number);
+    const auto is = after.Block(number);
+    if (!std::equal(was.begin(), was.end(), is.begin())) list.AddBlk(static_cast<Byte>(number));
+  }
+}
+
 }  // namespace
 
-Editor::Editor(Context& context, std::string name, CommitFlag flag)
+Editor::Editor(Context& context, std::string name, int caption,
+               std::initializer_list<CommitFlag> flags)
     : Dialog(context.platform, std::move(name)),
+      EditorPart(*this),
       context_(context),
-      flag_(flag),
+      flags_(flags),
       generation_(context.ImageGeneration()),
-      id_(context.env.identity) {
-  context_.env.commit.Set(flag_, false);
+      id_(context.env.identity),
+      fields_(context.platform) {
+  for (const CommitFlag flag : flags_) context_.env.commit.Set(flag, false);
   KeepAliveWith(context.life);
   SetIcon(&Icon101());
   context_.texts.CreateCatalogues();
+  SetCaption(Text(caption));
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
 }
 
-void Editor::BindButtons(Button& ok, Button& cancel) {
-  ok.SetCaption(context_.texts.Constants().cnstrOK);
-  cancel.SetCaption(context_.texts.Constants().cnstrCancel);
+void Editor::Open(Button& ok, Button& cancel, TabStrip* tabs) {
+  ok.SetCaption(Words().cnstrOK);
+  cancel.SetCaption(Words().cnstrCancel);
   ok.on_click = [this] { Ok(); };
   cancel.on_click = [this] { Close(); };
   SetKeyButtons(&ok, &cancel);
+  if (BelongsToImage()) fields_.Fill(Record());
+  for (const Handler& handler : after_fill_) handler();
+  GridsToStart();
+  if (tabs == nullptr) return;
+  if (tabs->SpokenName() == tabs->Name()) tabs->SetSpokenName(Caption());
+  tabs->on_change = [this] { GridsToStart(); };
+}
+
+void Editor::GridsToStart() {
+  for (LineGrid* const grid : grids_) grid->GoToStart();
 }
 
 void Editor::Ok() {
   if (!BelongsToImage()) {
-    const Message refusal{Text(kTextDataDoesNotMatch), Text(kTextErrorMessage),
+    const Message refusal{Text(txt::kDataDoesNotMatch), Text(txt::kErrorMessage),
                           Message::Buttons::kOk};
     if (!context_.terminated) context_.platform.Ask(refusal);  // a text source may have ended it
     return;
   }
-  {
-    const CommitScope commit(context_.env.commit, flag_);
-    WriteBack(context_.Record());
-  }
+  if (!MayWrite()) return;
+  Write(Record());
   Close();
+}
+
+/// All or nothing: a failure on the way leaves record and list as they were.
+void Editor::Write(MuxData& record) {
+  RecordEnvironment& env = context_.env;
+  MuxData record_before(env);
+  record_before = record;
+  const clsBlkSave list_before = env.blocks;
+  const BlockImage before = Encoded(context_.BlkImage, env, record);
+  try {
+    {
+      std::deque<CommitScope> raised;
+      for (const CommitFlag flag : flags_) raised.emplace_back(env.commit, flag);
+      fields_.Write(record, env.commit);
+      WriteRest(record);
+    }
+    ListChangedBlocks(before, Encoded(context_.BlkImage, env, record), env.blocks);
+  } catch (...) {
+    record = record_before;
+    env.blocks = list_before;
+    throw;
+  }
 }
 
 }  // namespace quorvel

@@ -1,47 +1,62 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "core/commit.h"
 #include "quorvel/widgets.h"
 #include "ui/context.h"
+#include "ui/editing/editor_part.h"
 
 namespace quorvel {
 
-/// A dialog that edits part of the record. Opening copies values into the controls, which hold the
-/// only working copy; OK writes them back under the editor's commit flag and closes; Cancel, Escape
-/// and the window's close button write nothing. However it closes, on_closed tells the menu.
+/// A dialog that edits part of the record. It describes its controls once: what each shows, and
+/// which setting it is bound to. Opening runs the description to fill them; they hold the only
+/// working copy. OK runs it to write them back under the editor's commit flags, and closes; Cancel,
+/// Escape and the window's close button write nothing. However it closes, on_closed tells the menu.
 ///
 /// An editor that stays open while another image arrives belongs to settings that are gone: its OK
-/// says that the data does not match and writes nothing, and what was typed stays on screen. That
-/// may be while it opens, from inside a text source: so editors ask for all texts before they fill
-/// their controls, and fill them only when BelongsToImage.
-class Editor : public Dialog {
+/// says so and writes nothing, and what was typed stays on screen.
+class Editor : public Dialog, public EditorPart {
  public:
-  Editor(Context& context, std::string name, CommitFlag flag);
+  /// What the editor shows, in the order in which it is written. The reference stays valid as long
+  /// as the editor; a record that was replaced meanwhile is asked for names only.
+  [[nodiscard]] std::vector<ShownSetting> ShownSettings() const {
+    return fields_.Tell(context_.Record());
+  }
+  /// Whether anything differs from when the editor opened.
+  [[nodiscard]] bool Differs() const { return fields_.Differ(); }
 
  protected:
-  /// Makes `ok` and `cancel` the editor's buttons and captions them.
-  void BindButtons(Button& ok, Button& cancel);
-  /// Writes the controls into the record; the commit flag is raised meanwhile.
-  virtual void WriteBack(MuxData& record) = 0;
+  Editor(Context& context, std::string name, int caption, std::initializer_list<CommitFlag> flags);
 
-  [[nodiscard]] Context& Ctx() { return context_; }
-  /// The device that the editor has opened for, which stays the same while a text source of the
-  /// host's, asked for a caption, brings another image.
-  [[nodiscard]] const Identity& Id() const { return id_; }
+  /// Last in the constructor of an editor: makes `ok` and `cancel` its buttons and fills the
+  /// controls. Of the pages of `tabs`, each begins at the first cell of its grids when it comes to
+  /// the front.
+  void Open(Button& ok, Button& cancel, TabStrip* tabs = nullptr);
+  /// What writing does beyond the description; the commit flags are raised.
+  virtual void WriteRest(MuxData& /*record*/) {}
+  /// False refuses OK; the editor has told why.
+  virtual bool MayWrite() { return true; }
+
   /// False once another image has arrived: then nothing may be written any more.
   [[nodiscard]] bool BelongsToImage() const { return generation_ == context_.ImageGeneration(); }
-  [[nodiscard]] std::string Text(int id) const { return context_.GetText(id); }
 
  private:
-  friend class EditorPage;
+  friend class EditorPart;
+  friend class LineGrid;
   void Ok();
+  void Write(MuxData& record);
+  void GridsToStart();
 
   Context& context_;
-  CommitFlag flag_;
+  std::vector<CommitFlag> flags_;
   int generation_;
   Identity id_;
+  Fields fields_;
+  std::vector<LineGrid*> grids_;
+  std::vector<Handler> after_fill_;
 };
 
 }  // namespace quorvel

@@ -1,30 +1,16 @@
 #pragma once
 
-#include <string>
-
 #include "ui/editing/editor.h"
 
 namespace quorvel {
 
-/// A page of an editor that is large enough to be a class of its own: it holds the page's controls,
-/// fills them from the record and writes them back. The editor says when.
-class EditorPage {
- public:
-  EditorPage(const EditorPage&) = delete;
-  EditorPage& operator=(const EditorPage&) = delete;
-
+/// A page of an editor that is large enough to be a class of its own. It declares and binds its
+/// controls in its constructor; the editor fills and writes them with its own, pages in the order
+/// of their construction.
+class EditorPage : public EditorPart {
  protected:
-  explicit EditorPage(Editor& editor) : editor_(editor) {}
+  explicit EditorPage(Editor& editor, bool shown = true) : EditorPart(editor, shown) {}
   ~EditorPage() = default;
-
-  [[nodiscard]] Context& Ctx() { return editor_.Ctx(); }
-  [[nodiscard]] MuxData& Record() { return Ctx().Record(); }
-  [[nodiscard]] const Identity& Id() const { return editor_.Id(); }
-  [[nodiscard]] const GlobalCnst& Words() { return Ctx().texts.Constants(); }
-  [[nodiscard]] std::string Text(int id) const { return editor_.Text(id); }
-
- private:
-  Editor& editor_;
 };
 
 }  // namespace quorvel

@@ -5,14 +5,6 @@
 
 namespace quorvel {
 
-ColumnRules EmptyFor(const ChoiceWidget& list, int item) {
-  ColumnRules rules;
-  rules.text = [&list, item](int it) {
-    return it == item ? std::string() : list.Items().at(static_cast<std::size_t>(it));
-  };
-  return rules;
-}
-
 GridEditing::GridEditing(Grid& grid, Release release) : grid_(grid) {
   grid_.on_press = [this] { ShowCell(); };
   if (release == Release::kWrites) {
@@ -26,6 +18,8 @@ GridEditing::GridEditing(Grid& grid, Release release) : grid_(grid) {
   grid_.on_paste = [this](int row, int column, const std::string& text) {
     Paste(row, column, text);
   };
+  grid_.can_empty = [this] { return CanEmpty(); };
+  grid_.on_empty = [this] { EmptySelectedRows(); };
 }
 
 int GridEditing::Binding::PartOf(int column) const {
@@ -33,33 +27,52 @@ int GridEditing::Binding::PartOf(int column) const {
   return found == columns.end() ? kNoPart : static_cast<int>(found - columns.begin());
 }
 
-Handler GridEditing::Add(std::unique_ptr<CellControl> control, std::vector<int> columns,
-                         ColumnRules rules) {
-  const Widget* const widget = &control->Control();
+std::function<void(const Widget&)> GridEditing::Add(std::unique_ptr<CellControl> control,
+                                                    std::vector<int> columns, ColumnRules rules) {
   bindings_.push_back({std::move(control), std::move(columns), std::move(rules)});
-  return [this, widget] { WriteChoice(*widget); };
+  return [this](const Widget& widget) { WriteChoice(widget); };
 }
 
-void GridEditing::Bind(int column, ChoiceWidget& list, ColumnRules rules) {
-  auto control = MakeCellControl(list, rules.items, rules.text);
-  list.on_click = Add(std::move(control), {column}, std::move(rules));
+void GridEditing::Bind(int column, ChoiceWidget& list, Choices choices, ColumnRules rules) {
+  if (list.Count() == 0) list.SetItems(choices.Texts());
+  ChoicesOfRow of_row = rules.of_row;
+  list.on_click = [&list, write = Add(MakeCellControl(list, std::move(choices), std::move(of_row)),
+                                      {column}, std::move(rules))] { write(list); };
 }
 
 void GridEditing::Bind(int column, Slider& slider, Label& shown, ColumnRules rules) {
   slider.on_change = [&slider, &shown,
                       write = Add(MakeCellControl(slider, shown), {column}, std::move(rules))] {
     shown.SetCaption(std::to_string(slider.Value()));
-    write();
+    write(slider);
   };
 }
 
 void GridEditing::Bind(int column, TimePicker& picker, ColumnRules rules) {
-  picker.on_change = Add(MakeCellControl(picker), {column}, std::move(rules));
+  picker.on_change = [&picker, write = Add(MakeCellControl(picker), {column}, std::move(rules))] {
+    write(picker);
+  };
 }
 
 void GridEditing::BindPair(int hour_column, int minute_column, TimePicker& picker,
                            ColumnRules rules) {
-  picker.on_change = Add(MakeHourAndMinute(picker), {hour_column, minute_column}, std::move(rules));
+  picker.on_change = [&picker, write = Add(MakeHourAndMinute(picker), {hour_column, minute_column},
+                                           std::move(rules))] { write(picker); };
+}
+
+void GridEditing::BindPair(int column, ChoiceWidget& list, Choices choices, int other_column,
+                           ChoiceWidget& other_list, Choices other_choices, ColumnRules rules) {
+  list.SetItems(choices.Texts());
+  other_list.SetItems(other_choices.Texts());
+  const auto write =
+      Add(MakeCellControl(list, std::move(choices), other_list, std::move(other_choices)),
+          {column, other_column}, std::move(rules));
+  const auto move_together = [write](ChoiceWidget& used, ChoiceWidget& follower) {
+    follower.Select(used.Current());
+    write(used);
+  };
+  list.on_click = [=, &list, &other_list] { move_together(list, other_list); };
+  other_list.on_click = [=, &list, &other_list] { move_together(other_list, list); };
 }
 
 const GridEditing::Binding* GridEditing::BindingOf(int column) const {
@@ -69,23 +82,18 @@ const GridEditing::Binding* GridEditing::BindingOf(int column) const {
   return found == bindings_.end() ? nullptr : &*found;
 }
 
-int GridEditing::ItemIn(const Binding& binding, int part, int row) const {
-  const int column = binding.columns.at(static_cast<std::size_t>(part));
-  int item = grid_.Item(row, column);
-  if (item == Grid::kNone) item = binding.control->ItemOf(part, grid_.Cell(row, column));
-  return binding.control->Has(part, item) ? item : ChoiceWidget::kNone;
+bool GridEditing::Offers(int column, int value) const {
+  const Binding* const binding = BindingOf(column);
+  return binding != nullptr && binding->control->Offers(binding->PartOf(column), value);
 }
 
-int GridEditing::ItemAt(int row, int column) const {
+std::string GridEditing::TextOf(int column, int value) const {
   const Binding* const binding = BindingOf(column);
-  if (binding == nullptr) return ChoiceWidget::kNone;
-  return ItemIn(*binding, binding->PartOf(column), row);
+  return binding == nullptr ? "" : binding->control->TextOf(binding->PartOf(column), value);
 }
 
-void GridEditing::SetItem(int row, int column, int item) {
-  const Binding* const binding = BindingOf(column);
-  if (binding == nullptr) return;
-  grid_.SetCell(row, column, binding->control->TextOf(binding->PartOf(column), item), item);
+void GridEditing::SetValue(int row, int column, int value) {
+  if (BindingOf(column) != nullptr) grid_.SetCell(row, column, TextOf(column, value), value);
 }
 
 void GridEditing::GoTo(int row, int column) {
@@ -99,11 +107,9 @@ void GridEditing::ShowCell() {
     const bool shows = binding.rules.shows == ColumnRules::Reach::kInRow ||
                        binding.PartOf(grid_.Column()) != kNoPart;
     if (!shows || grid_.Row() < grid_.HeaderRows()) continue;
-    std::vector<int> items;
-    for (int part = 0; part < binding.Parts(); ++part) {
-      items.push_back(ItemIn(binding, part, grid_.Row()));
-    }
-    binding.control->Show(items);
+    std::vector<int> values;
+    for (const int column : binding.columns) values.push_back(ValueAt(grid_.Row(), column));
+    binding.control->Show(grid_.Row(), values);
   }
   if (after_show) after_show();
 }
@@ -111,7 +117,7 @@ void GridEditing::ShowCell() {
 void GridEditing::WriteChoice(const Widget& control) {
   const int column = grid_.Column();  // where a rule goes meanwhile does not matter
   for (const Binding& binding : bindings_) {
-    if (&binding.control->Control() != &control) continue;
+    if (!binding.control->Is(control)) continue;
     if (binding.rules.writes == ColumnRules::Reach::kInRow || binding.PartOf(column) != kNoPart) {
       WriteSelectedRows(binding);
     }
@@ -119,37 +125,55 @@ void GridEditing::WriteChoice(const Widget& control) {
 }
 
 void GridEditing::WriteSelectedRows(const Binding& binding) {
-  std::vector<int> items;
+  std::vector<int> values;
   for (int part = 0; part < binding.Parts(); ++part) {
-    items.push_back(binding.control->Chosen(part));
+    values.push_back(binding.control->Chosen(part));
   }
-  if (items.front() == ChoiceWidget::kNone) return;
+  if (values.front() != Grid::kNone) PutIntoSelectedRows(binding, values);
+}
+
+void GridEditing::PutIntoSelectedRows(const Binding& binding, const std::vector<int>& values) {
   const int last = grid_.LastSelected();
   for (int row = std::max(grid_.FirstSelected(), grid_.HeaderRows()); row <= last; ++row) {
-    if (binding.rules.takes && !binding.rules.takes(row)) continue;
-    for (int part = 0; part < binding.Parts(); ++part) {
-      const auto place = static_cast<std::size_t>(part);
-      grid_.SetCell(row, binding.columns[place], binding.control->TextOf(part, items[place]),
-                    items[place]);
+    if (!binding.Takes(row)) continue;
+    for (std::size_t part = 0; part < values.size(); ++part) {
+      SetValue(row, binding.columns.at(part), values[part]);
     }
     if (binding.rules.written) binding.rules.written(row);
   }
+  if (binding.rules.chosen) binding.rules.chosen();
 }
 
 bool GridEditing::Takes(int row, int column, const std::string& text) const {
   const Binding* const binding = BindingOf(column);
-  if (binding == nullptr || (binding->rules.takes && !binding->rules.takes(row))) return false;
+  if (binding == nullptr || !binding->Takes(row)) return false;
   if (text == grid_.Cell(row, column)) return true;
-  const int part = binding->PartOf(column);
-  return binding->control->Offers(part, binding->control->ItemOf(part, text));
+  return binding->control->ValueOf(binding->PartOf(column), text) != Grid::kNone;
 }
 
 void GridEditing::Paste(int row, int column, const std::string& text) {
-  if (text == grid_.Cell(row, column)) return;  // its item, one of several of that text, stays
+  if (text == grid_.Cell(row, column)) return;  // its value, one of several of that text, stays
   const Binding& binding = *BindingOf(column);
-  SetItem(row, column, binding.control->ItemOf(binding.PartOf(column), text));
+  SetValue(row, column, binding.control->ValueOf(binding.PartOf(column), text));
   if (binding.rules.written) binding.rules.written(row);
+  if (binding.rules.chosen) binding.rules.chosen();
   if (row == grid_.Row()) ShowCell();
+}
+
+bool GridEditing::CanEmpty() const {
+  const auto can = [](const Binding& it) { return it.rules.empty.has_value(); };
+  if (empties_ == Empties::kRows) return std::any_of(bindings_.begin(), bindings_.end(), can);
+  const Binding* const binding = BindingOf(grid_.Column());
+  return binding != nullptr && can(*binding);
+}
+
+void GridEditing::EmptySelectedRows() {
+  for (const Binding& binding : bindings_) {
+    const bool meant = empties_ == Empties::kRows || binding.PartOf(grid_.Column()) != kNoPart;
+    if (!meant || !binding.rules.empty) continue;
+    PutIntoSelectedRows(binding, std::vector<int>(binding.columns.size(), *binding.rules.empty));
+  }
+  ShowCell();
 }
 
 }  // namespace quorvel

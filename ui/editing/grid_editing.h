@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,34 +18,34 @@ struct ColumnRules {
   Reach shows = Reach::kInColumn;
   /// A choice is written while the column is current, or whatever column is.
   Reach writes = Reach::kInColumn;
-  /// Items that the list gets before it shows a cell of the column; none: it keeps its own.
-  std::vector<std::string> items = {};
-  /// Cell text of an item; by default the item's own text.
-  std::function<std::string(int item)> text = {};
+  /// Lines that the list offers for the cell of a row; none: those of the column.
+  ChoicesOfRow of_row = {};
   /// False for a row that keeps its cell.
   std::function<bool(int row)> takes = {};
   /// Called after the cell of a row was written.
   std::function<void(int row)> written = {};
+  /// Called once after a choice, a paste or Delete has written all rows that take it.
+  Handler chosen = {};
+  /// The value of a cell that is emptied by Delete; none: cells of the column cannot be emptied.
+  std::optional<int> empty = {};
 };
-
-/// Rules of a column that shows one item as nothing: "NONE" as the list says it.
-[[nodiscard]] ColumnRules EmptyFor(const ChoiceWidget& list, int item);
 
 /// Edits a grid through controls beside it, one for each editable column. A press on a cell makes
 /// its control show the cell; what is chosen in the control is written into the selected rows. In
 /// many grids the end of a selection writes, too, what the control shows.
 ///
-/// Cells are items of the control: of a list, places in it; of a slider, values from 0 on; of a
-/// time picker, minutes of the day, or hours and minutes in two columns. A cell remembers its item.
-/// One that was filled with a text only stands for the first item of that text.
-///
-/// A cell that no item stands for leaves the control blank, and a blank control writes nothing:
-/// looking at a value never changes it.
+/// A cell stands for a value of the device: one of a list's lines, a slider's number, minutes of
+/// the day, or hours and minutes in two columns. A value that the control does not offer leaves it
+/// blank, and a blank control writes nothing: looking at a value never changes it.
 class GridEditing {
  public:
   enum class Release {
     kWrites,   ///< the end of a selection writes what the control of the column shows
     kSelects,  ///< it only selects
+  };
+  enum class Empties {
+    kCells,  ///< Delete empties the cells of the current column
+    kRows,   ///< it empties all columns that can be
   };
   explicit GridEditing(Grid& grid, Release release = Release::kWrites);
   GridEditing(const GridEditing&) = delete;
@@ -52,13 +53,17 @@ class GridEditing {
   ~GridEditing() = default;
 
   /// Binds a column to its control. One control may serve several columns.
-  void Bind(int column, ChoiceWidget& list, ColumnRules rules = {});
+  void Bind(int column, ChoiceWidget& list, Choices choices, ColumnRules rules = {});
   /// `shown` repeats the slider's value, and nothing for a cell without one.
   void Bind(int column, Slider& slider, Label& shown, ColumnRules rules = {});
   /// A column of times as "HH:mm".
   void Bind(int column, TimePicker& picker, ColumnRules rules = {});
   /// A column of hours and one of minutes, of two digits each; either is written with the other.
   void BindPair(int hour_column, int minute_column, TimePicker& picker, ColumnRules rules = {});
+  /// Two columns of one value, each with a list of its own; the lists always stand at the same one.
+  void BindPair(int column, ChoiceWidget& list, Choices choices, int other_column,
+                ChoiceWidget& other_list, Choices other_choices, ColumnRules rules = {});
+  void SetEmpties(Empties what) { empties_ = what; }
 
   /// Called after a press, before the controls show the cell; may make another cell current.
   Handler before_show;
@@ -68,11 +73,13 @@ class GridEditing {
   void GoTo(int row, int column);
   /// Makes the controls show the current cell again, after the editor has changed cells.
   void ShowCell();
-  /// Fills a cell of a bound column. One without an item, or with one that the list does not have,
-  /// is empty.
-  void SetItem(int row, int column, int item);
-  /// The item that a cell of a bound column stands for, or ChoiceWidget::kNone.
-  [[nodiscard]] int ItemAt(int row, int column) const;
+  /// Fills a cell of a bound column with a value of the device; kNone makes it empty.
+  void SetValue(int row, int column, int value);
+  /// The value that a cell stands for, or Grid::kNone; and whether a column's control offers one.
+  [[nodiscard]] int ValueAt(int row, int column) const { return grid_.Value(row, column); }
+  [[nodiscard]] bool Offers(int column, int value) const;
+  /// How a value reads in a cell of a bound column.
+  [[nodiscard]] std::string TextOf(int column, int value) const;
 
  private:
   struct Binding {
@@ -82,18 +89,24 @@ class GridEditing {
     /// Which of its columns this is, or kNoPart.
     [[nodiscard]] int PartOf(int column) const;
     [[nodiscard]] int Parts() const { return static_cast<int>(columns.size()); }
+    [[nodiscard]] bool Takes(int row) const { return !rules.takes || rules.takes(row); }
   };
   static constexpr int kNoPart = -1;
-  /// Adds a binding; returns what the control's handler has to call.
-  Handler Add(std::unique_ptr<CellControl> control, std::vector<int> columns, ColumnRules rules);
+  /// Adds a binding; returns what the handler of a control has to call.
+  std::function<void(const Widget&)> Add(std::unique_ptr<CellControl> control,
+                                         std::vector<int> columns, ColumnRules rules);
   [[nodiscard]] const Binding* BindingOf(int column) const;
-  [[nodiscard]] int ItemIn(const Binding& binding, int part, int row) const;
   void WriteChoice(const Widget& control);
   void WriteSelectedRows(const Binding& binding);
+  /// Puts a value for each part into the selected rows that take it.
+  void PutIntoSelectedRows(const Binding& binding, const std::vector<int>& values);
   [[nodiscard]] bool Takes(int row, int column, const std::string& text) const;
   void Paste(int row, int column, const std::string& text);
+  [[nodiscard]] bool CanEmpty() const;
+  void EmptySelectedRows();
 
   Grid& grid_;
+  Empties empties_ = Empties::kCells;
   std::vector<Binding> bindings_;
 };
 

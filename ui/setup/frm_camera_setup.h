@@ -1,10 +1,8 @@
 #pragma once
 
-#include <deque>
-
-#include "ui/editing/device_text.h"
+#include "resources/text_table.h"
 #include "ui/editing/editor.h"
-#include "ui/editing/grid_editing.h"
+#include "ui/editing/line_grid.h"
 
 namespace quorvel {
 
@@ -15,31 +13,24 @@ class frm_CameraSetup : public Editor {
   explicit frm_CameraSetup(Context& context);
 
  private:
-  void WriteBack(MuxData& record) override;
-
-  void ArrangeControls();
+  void BindCameras();
+  void BindDisplaySettings();
+  void Arrange();
   void ShowWhatTheModelHas();
-  void NameForScreenReaders();
-  void BuildGrids();
-  /// These ask for no texts: a text source may bring another image, which is not shown then.
-  void FillCameras();
-  void FillDisplaySettings();
-  void WriteCamera(int c, Cameras& camera);
-  void TabChanged();
 
   static constexpr int kMonitors = 5;
 
   TabStrip SSTab1{*this, "SSTab1"};
 
   // Tab 0, a line for every camera.
-  Frame Frame2{*this, "Frame2"};  ///< titles
+  Frame Frame2{*this, "Frame2", Text(txt::kTitle)};
   ControlArray<Label> lblCam{*this, "lblCam", kMostCameras};
   ControlArray<TextBox> m_CameraTitle{*this, "m_CameraTitle", kMostCameras};
-  Frame Frame3{*this, "Frame3"};  ///< covert
+  Frame Frame3{*this, "Frame3", Text(txt::kCovert)};
   ControlArray<CheckBox> m_CameraCovert{*this, "m_CameraCovert", kMostCameras};
-  Frame Frame4{*this, "Frame4"};  ///< colour
+  Frame Frame4{*this, "Frame4", Text(txt::kColor)};
   ControlArray<CheckBox> m_CameraColor{*this, "m_CameraColor", kMostCameras};
-  Frame Frame1{*this, "Frame1"};  ///< disabled
+  Frame Frame1{*this, "Frame1", Text(txt::kDisableWord)};
   ControlArray<CheckBox> m_CameraDisable{*this, "m_CameraDisable", kMostCameras};
 
   // Tab 1.
@@ -49,23 +40,23 @@ class frm_CameraSetup : public Editor {
   // Tab 2.
   Grid MSFG_TextPos{*this, "MSFG_TextPos"};
   ListBox lstTextpos{*this, "lstTextpos"};
-  Frame Frame6{*this, "Frame6"};  ///< titles display
+  Frame Frame6{*this, "Frame6", Text(txt::kTitlesDisplay)};
   ControlArray<CheckBox> m_TitleDisplay{*this, "m_TitleDisplay", kMonitors};
-  Frame Frame5{*this, "Frame5"};  ///< field or frame
+  Frame Frame5{*this, "Frame5", Text(txt::kFieldOrFrameSetup)};
   ControlArray<OptionButton> optFldFrame{*this, "optFldFrame", 2};
-  Frame Frame7{*this, "Frame7"};  ///< power-up disable
+  Frame Frame7{*this, "Frame7", Text(txt::kPowerUpDisable)};
   ControlArray<OptionButton> optPwrDis{*this, "optPwrDis", 2};
-  Frame frmSVHSMonB{*this, "frmSVHSMonB"};
+  Frame frmSVHSMonB{*this, "frmSVHSMonB", Text(txt::kSvhsOnMonitorB)};
   ControlArray<OptionButton> optMonBSvhs{*this, "optMonBSvhs", 2};
-  Frame frmPubMonitor{*this, "frmPubMonitor"};
+  Frame frmPubMonitor{*this, "frmPubMonitor", Text(txt::kPublicDisplayMonitors)};
   ControlArray<CheckBox> chkPubMon{*this, "chkPubMon", kMonitors};
 
   Button cmd_OK{*this, "cmd_OK"};
   Button cmd_Cancel{*this, "cmd_Cancel"};
 
-  std::deque<DeviceText> titles_;
-  GridEditing gain_editing_{MSFG_SnlGain};
-  GridEditing text_position_editing_{MSFG_TextPos};
+  FieldGroup& cameras_ = Each(Id().MaxCam);
+  LineGrid gains_{*this, MSFG_SnlGain, cameras_, Objects().objstCam};
+  LineGrid text_positions_{*this, MSFG_TextPos, cameras_, Objects().objstCam};
 };
 
 }  // namespace quorvel

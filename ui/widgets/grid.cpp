@@ -89,8 +89,8 @@ void Grid::SetRange(Range range) {
   Redraw(Aspect::kState);
 }
 
-void Grid::SetCell(int row, int column, std::string text, int item) {
-  cells_[Place(row, column)] = {std::move(text), item};
+void Grid::SetCell(int row, int column, std::string text, int value) {
+  cells_[Place(row, column)] = {std::move(text), value};
   Redraw(Aspect::kContent);
 }
 
@@ -118,6 +118,14 @@ Answer Grid::Release(int first, int last) {
   row_sel_ = range_ == Range::kRows ? last : row_;
   Redraw(Aspect::kSelection);
   Raise(on_release);
+  return refusal;
+}
+
+Answer Grid::Empty() {
+  const Answer refusal = Refusal();
+  if (refusal != Answer::kDone) return refusal;
+  if (!can_empty || !can_empty()) return Answer::kNotAChoice;
+  Raise(on_empty);
   return refusal;
 }
 

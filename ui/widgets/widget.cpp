@@ -35,12 +35,25 @@ bool Widget::Showing() const {
 
 const std::string& Widget::SpokenName() const {
   if (!spoken_name_.empty()) return spoken_name_;
-  if (!caption_.empty()) return caption_;
+  return caption_.empty() ? SurroundingCaption() : caption_;
+}
+
+const std::string& Widget::SurroundingCaption() const {
   if (label_ != nullptr && !label_->caption_.empty()) return label_->caption_;
   for (const Widget* around = container_; around != nullptr; around = around->container_) {
     if (around->kind_ == WidgetKind::kFrame && !around->caption_.empty()) return around->caption_;
   }
   return name_;
+}
+
+std::string Widget::PageCaption() const {
+  const Widget* inner = this;
+  while (inner->container_ != nullptr && inner->container_->kind_ != WidgetKind::kTabStrip) {
+    inner = inner->container_;
+  }
+  if (inner->container_ == nullptr) return {};
+  const auto& pages = static_cast<const TabStrip*>(inner->container_)->Pages();
+  return pages.at(static_cast<std::size_t>(inner->page_)).caption;
 }
 
 bool Widget::IsInside(const Widget& container) const {

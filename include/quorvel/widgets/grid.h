@@ -21,7 +21,7 @@ class Grid : public Widget {
     std::string text;
     bool operator==(const HeaderCell&) const = default;
   };
-  /// The item of a cell that has none.
+  /// The value of a cell that stands for none.
   static constexpr int kNone = -1;
 
   Grid(Dialog& dialog, std::string name);
@@ -31,8 +31,8 @@ class Grid : public Widget {
   [[nodiscard]] int HeaderRows() const { return header_rows_; }
   /// Text of a cell; throws std::out_of_range outside the table.
   [[nodiscard]] const std::string& Cell(int row, int column) const { return At(row, column).text; }
-  /// Number of the item that the cell was filled with, 0-based, or kNone: texts need not be unique.
-  [[nodiscard]] int Item(int row, int column) const { return At(row, column).item; }
+  /// The device's value that the cell stands for, or kNone: its text need not tell.
+  [[nodiscard]] int Value(int row, int column) const { return At(row, column).value; }
   /// The current cell, and the other end of the selected range of rows.
   [[nodiscard]] int Row() const { return row_; }
   [[nodiscard]] int Column() const { return column_; }
@@ -64,7 +64,7 @@ class Grid : public Widget {
   void SetLeastWidth(int column, int characters);
   void SetAlign(Align align);
   void SetRange(Range range);
-  void SetCell(int row, int column, std::string text, int item = kNone);
+  void SetCell(int row, int column, std::string text, int value = kNone);
   /// Makes one cell current, without a selection beyond it.
   void SetCurrent(int row, int column);
 
@@ -75,6 +75,13 @@ class Grid : public Widget {
   Answer Release(int first, int last);
   Handler on_press;
   Handler on_release;
+
+  /// Empties the selected rows, as the Delete key does: in the current column, or whole rows of
+  /// what they hold. kNotAChoice where the grid's cells are never empty.
+  Answer Empty();
+  /// Whether the current column can be emptied. Without it no cell can.
+  std::function<bool()> can_empty;
+  Handler on_empty;
 
   /// The selected rows of columns `first` to `last`: a line a row, texts separated by tabs.
   [[nodiscard]] std::string Copied(int first_column, int last_column) const;
@@ -90,7 +97,7 @@ class Grid : public Widget {
  private:
   struct CellValue {
     std::string text;
-    int item = kNone;
+    int value = kNone;
   };
   struct Pasted {
     int row, column;

@@ -86,8 +86,13 @@ class Widget {
   /// What screen readers call the control: the name given to it, else its caption, else that of its
   /// label, else that of the nearest captioned frame around it, else its name in the code.
   [[nodiscard]] const std::string& SpokenName() const;
+  /// The caption of its label, else that of the nearest captioned frame around it, else its name in
+  /// the code: what the control is called apart from its own caption.
+  [[nodiscard]] const std::string& SurroundingCaption() const;
   /// The label that names the control, or none.
   [[nodiscard]] const Widget* NamingLabel() const { return label_; }
+  /// The caption of the page that holds the control; empty outside pages.
+  [[nodiscard]] std::string PageCaption() const;
   /// What a person can change, as one line of text: "" for kinds without a value.
   [[nodiscard]] virtual std::string ValueText() const { return {}; }
 

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "resources/text_table.h"
 #include "ui/editing/editor_page.h"
-#include "ui/editing/grid_editing.h"
-#include "ui/setup/alarm/alarm_face.h"
+#include "ui/editing/line_grid.h"
+#include "ui/setup/alarm/alarm_features.h"
 
 namespace quorvel {
 
@@ -10,39 +11,24 @@ namespace quorvel {
 /// model; those of presets, intrusion and auxiliary monitors are not on all.
 class AlarmActionPage : public EditorPage {
  public:
-  AlarmActionPage(Editor& editor, const AlarmFace& face);
+  AlarmActionPage(Editor& editor, const AlarmFeatures& features);
   [[nodiscard]] Layout Contents();
-  void Fill();
-  void Write();
-  /// Goes to the first cell, as when the page comes to the front.
-  void GoToStart();
 
  private:
-  void BuildColumns();
-  void FillLists();
-  void FillAlarm(int row, const AlmAction& action);
-  void WriteAlarm(int row, AlmAction& action);
-
-  const AlarmFace& face_;
-
-  Grid MSFG_AlAction;
-  Label Label3;  ///< of lst_ALFrz
-  ListBox lst_ALFrz;
-  Label Label4;  ///< of cbAlCamera
-  ComboBox cbAlCamera;
-  Label lbPreset;
-  ComboBox cbPreset;
-  Label Label5;  ///< of lst_AlRelay
-  ListBox lst_AlRelay;
-  Label lbAndOr;
-  ListBox lstAndOr;
-  Label lbAuxMon;
-  ListBox lstAuxMon;
-
-  int RelayColumn = 0;
-  int GateColumn = 0;  ///< where there is one
-  int AuxColumn = 0;   ///< where there is one
-  GridEditing editing_{MSFG_AlAction};
+  Grid MSFG_AlAction{*this, "MSFG_AlAction"};
+  Label Label3{*this, "Label3", Text(txt::kFreeze)};
+  ListBox lst_ALFrz{*this, "lst_ALFrz"};
+  Label Label4{*this, "Label4", Text(txt::kCameras)};
+  ComboBox cbAlCamera{*this, "cbAlCamera"};
+  Label lbPreset{*this, "lbPreset", Text(txt::kPreset)};
+  ComboBox cbPreset{*this, "cbPreset"};
+  Label Label5{*this, "Label5", Text(txt::kRelay)};
+  ListBox lst_AlRelay{*this, "lst_AlRelay"};
+  Label lbAndOr{*this, "lbAndOr", Text(txt::kIntrusionAndOr)};
+  ListBox lstAndOr{*this, "lstAndOr"};
+  Label lbAuxMon{*this, "lbAuxMon", Text(txt::kAuxMonitor)};
+  ListBox lstAuxMon{*this, "lstAuxMon"};
+  LineGrid actions_{*this, MSFG_AlAction, Each(Id().MaxCam), Text(txt::kInput)};
 };
 
 }  // namespace quorvel

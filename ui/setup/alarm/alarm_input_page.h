@@ -1,7 +1,8 @@
 #pragma once
 
+#include "resources/text_table.h"
 #include "ui/editing/editor_page.h"
-#include "ui/editing/grid_editing.h"
+#include "ui/editing/line_grid.h"
 
 namespace quorvel {
 
@@ -10,18 +11,14 @@ class AlarmInputPage : public EditorPage {
  public:
   explicit AlarmInputPage(Editor& editor);
   [[nodiscard]] Layout Contents();
-  void Fill();
-  void Write();
-  /// Goes to the first cell, as when the page comes to the front.
-  void GoToStart();
 
  private:
-  Grid MSFG_AlInput;
-  Label Label1;  ///< of lst_AlInput
-  ListBox lst_AlInput;
-  Label Label2;  ///< of lst_AlEnable
-  ListBox lst_AlEnable;
-  GridEditing editing_{MSFG_AlInput};
+  Grid MSFG_AlInput{*this, "MSFG_AlInput"};
+  Label Label1{*this, "Label1", Text(txt::kInputConfiguration)};
+  ListBox lst_AlInput{*this, "lst_AlInput"};
+  Label Label2{*this, "Label2", Text(txt::kEnableOrDisable)};
+  ListBox lst_AlEnable{*this, "lst_AlEnable"};
+  LineGrid inputs_{*this, MSFG_AlInput, Each(Id().MaxCam), Objects().objstAlarm};
 };
 
 }  // namespace quorvel

@@ -1,85 +1,60 @@
 #pragma once
 
-#include <array>
-#include <deque>
-
-#include "ui/editing/device_text.h"
+#include "resources/text_table.h"
 #include "ui/editing/editor_page.h"
-#include "ui/editing/number_box.h"
 #include "ui/editing/octet_boxes.h"
-#include "ui/setup/alarm/alarm_face.h"
+#include "ui/setup/alarm/alarm_features.h"
 
 namespace quorvel {
 
-/// Notification: which events are reported by e-mail and over TCP, and to whom.
+/// Notification: which events are reported by e-mail and over TCP, and to whom. What the device has
+/// no block for is shown, and cannot be changed: it would not be kept.
 class AlarmNotificationPage : public EditorPage {
  public:
-  AlarmNotificationPage(Editor& editor, const AlarmFace& face);
+  AlarmNotificationPage(Editor& editor, const AlarmFeatures& features);
   [[nodiscard]] Layout Contents();
-  void Fill();
-  void Write();
 
  private:
   static constexpr int kEvents = 7;
-  static constexpr int kAddresses = 3;
-  /// The controls of one e-mail address.
-  struct AddressBox {
-    Label& label;
-    TextBox& box;
-    Label& warning;  ///< says what of the typed address would not be kept
-    bool kept;       ///< the device has blocks for it
-  };
-  [[nodiscard]] std::array<AddressBox, kAddresses> Addresses();
+  static constexpr int kOctets = 4;
 
-  [[nodiscard]] Layout EmailContents();
-  [[nodiscard]] Layout TcpContents();
-  void CaptionControls();
-  void FillEmail();
-  void FillTcp();
-  void WarnOfAddress(int address);
-  void WriteEmail();
-  void WriteTcp();
-  void WriteAddress(int address);
+  void CaptionEvents();
+  void BindEmail();
+  void BindTcp();
+  void BindAddress(FieldGroup& settings, int address, TextBox& box, Label& warning, bool kept);
 
-  const AlarmFace& face_;
+  const AlarmFeatures& features_;
 
-  Frame Frame12;  ///< e-mail
-  Frame Frame13;  ///< events
-  ControlArray<CheckBox> chkboxNotify;
-  Frame Frame16;  ///< mail server
-  ControlArray<TextBox> txSMTPServer;
-  Label lbSMTPPort;
-  TextBox txtSMTPPort;
-  Label lbUser1Addr;
-  TextBox txtUser1Addr;
-  Label lbUser1Warning;
-  Label lbUser2Addr;
-  TextBox txtUser2Addr;
-  Label lbUser2Warning;
-  Label lbLocalEmail;
-  TextBox txtLocalEmail;
-  Label lbLocalWarning;
+  Frame Frame12{*this, "Frame12", Text(txt::kEmail)};
+  Frame Frame13{*this, "Frame13", Text(txt::kNotifyOn)};
+  ControlArray<CheckBox> chkboxNotify{*this, "chkboxNotify", kEvents};
+  Frame Frame16{*this, "Frame16", Text(txt::kSmtpServer)};
+  ControlArray<TextBox> txSMTPServer{*this, "txSMTPServer", kOctets};
+  Label lbSMTPPort{*this, "lbSMTPPort", Text(txt::kSmtpPort) + " (0 - 65535)"};
+  TextBox txtSMTPPort{*this, "txtSMTPPort"};
+  Label lbUser1Addr{*this, "lbUser1Addr", Text(txt::kUser1Address)};
+  TextBox txtUser1Addr{*this, "txtUser1Addr"};
+  Label lbUser1Warning{*this, "lbUser1Warning"};
+  Label lbUser2Addr{*this, "lbUser2Addr", Text(txt::kUser2Address)};
+  TextBox txtUser2Addr{*this, "txtUser2Addr"};
+  Label lbUser2Warning{*this, "lbUser2Warning"};
+  Label lbLocalEmail{*this, "lbLocalEmail", Text(kTextLocalEmail)};
+  TextBox txtLocalEmail{*this, "txtLocalEmail"};
+  Label lbLocalWarning{*this, "lbLocalWarning"};
 
-  Frame Frame14;  ///< TCP
-  Frame Frame15;  ///< events
-  ControlArray<CheckBox> chkboxTCPNotify;
-  Frame Frame17;  ///< primary host
-  ControlArray<TextBox> txTCPHost;
-  Frame Frame18;  ///< backup host
-  ControlArray<TextBox> txTCPBkHost;
-  Label lbTCPPort;
-  TextBox txtTCPPort;
-  Label lbTCPInterval;
-  ComboBox cbTCPInterval;
+  Frame Frame14{*this, "Frame14", Text(txt::kTcpIp)};
+  Frame Frame15{*this, "Frame15", Text(txt::kNotifyOn)};
+  ControlArray<CheckBox> chkboxTCPNotify{*this, "chkboxTCPNotify", kEvents};
+  Frame Frame17{*this, "Frame17", Text(txt::kPrimaryHost)};
+  ControlArray<TextBox> txTCPHost{*this, "txTCPHost", kOctets};
+  Frame Frame18{*this, "Frame18", Text(txt::kBackupHost)};
+  ControlArray<TextBox> txTCPBkHost{*this, "txTCPBkHost", kOctets};
+  Label lbTCPPort{*this, "lbTCPPort", Text(txt::kPortLabel) + " (1027 - 32767)"};
+  TextBox txtTCPPort{*this, "txtTCPPort"};
+  Label lbTCPInterval{*this, "lbTCPInterval", Text(txt::kNotificationInterval)};
+  ComboBox cbTCPInterval{*this, "cbTCPInterval"};
 
-  ControlArray<Label> lbTxdotIP;  ///< the dots of the three network addresses
-
-  OctetBoxes smtp_server_{txSMTPServer};
-  OctetBoxes tcp_host_{txTCPHost};
-  OctetBoxes tcp_backup_host_{txTCPBkHost};
-  PortBox smtp_port_;
-  PortBox tcp_port_;
-  std::deque<DeviceText> addresses_;
+  ControlArray<Label> lbTxdotIP{*this, "lbTxdotIP", 3 * (kOctets - 1)};  ///< of three addresses
 };
 
 }  // namespace quorvel

@@ -1,76 +1,41 @@
 #include "ui/setup/alarm/alarm_output_pages.h"
 
-#include "ui/editing/number_texts.h"
-#include "ui/editing/numbered_grid.h"
-
 namespace quorvel {
 
-namespace {
-constexpr int kColumn = 1;
-constexpr int kLastExternalAction = 7;
-}  // namespace
-
-ExternalAlarmPage::ExternalAlarmPage(Editor& editor)
-    : EditorPage(editor),
-      MSFG_AlExt(editor, "MSFG_AlExt"),
-      Label6(editor, "Label6", Text(93)),
-      lst_AlExternal(editor, "lst_AlExternal") {
-  MSFG_AlExt.SetSpokenName(Text(77));
-  BuildNumberedGrid(MSFG_AlExt, Id().MaxCam, {Text(104), Text(93)});
+ExternalAlarmPage::ExternalAlarmPage(Editor& editor, const AlarmFeatures& features)
+    : EditorPage(editor, features.external_page) {
+  MSFG_AlExt.SetSpokenName(Text(txt::kExternalAlarmAction));
+  Choices outputs = Relays();
+  outputs.Add(Choices({Words().cnstrExt1, Words().cnstrExt2, Words().cnstrExt3, Words().cnstrExt4},
+                      outputs.Count()));
+  inputs_.Column(Label6.Caption(), lst_AlExternal, outputs,
+                 OfAlarm(&Alarms::ExtAlmAction).OtherwiseWritten(7),
+                 {.writes = ColumnRules::Reach::kInRow});
 }
 
-Layout ExternalAlarmPage::Contents() { return Row(MSFG_AlExt, Labelled(Label6, lst_AlExternal)); }
+MacroLinkPage::MacroLinkPage(Editor& editor, const AlarmFeatures& features)
+    : EditorPage(editor, features.macro_page) {
+  MSFG_AlMacro.SetSpokenName(Text(txt::kLinkToAMacro));
+  Choices macros{{0, Words().cnstrNone}};
+  macros.Add(Choices::Numbers(1, Id().MaxCam, 1)).Reads(0, "");
+  alarms_.Column(Label7.Caption(), lst_AlMacro, macros, OfAlarm(&Alarms::MacroLnk), {.empty = 0});
+}
 
-void ExternalAlarmPage::Fill() {
-  const auto& words = Words();
-  lst_AlExternal.SetItems({words.cnstrNone, words.cnstrFirst, words.cnstrSecond, words.cnstrFPlusS,
-                           words.cnstrExt1, words.cnstrExt2, words.cnstrExt3, words.cnstrExt4});
-  ColumnRules rules;
-  rules.writes = ColumnRules::Reach::kInRow;
-  editing_.Bind(kColumn, lst_AlExternal, rules);
-  for (int i = 0; i < Id().MaxCam; ++i) {
-    editing_.SetItem(i + 1, kColumn, Record().AlarmInfo(i)->ExtAlmAction());
+VideoLossPage::VideoLossPage(Editor& editor, const AlarmFeatures& features)
+    : EditorPage(editor, features.video_loss_page) {
+  MSFG_VidLoss.SetSpokenName(Text(txt::kVideolossAction));
+  cameras_.Column(Label8.Caption(), lst_AlRelay1, DisableEnable(), OfAlarm(&Alarms::VlRelay1));
+  cameras_.Column(Label9.Caption(), lst_AlRelay2, DisableEnable(), OfAlarm(&Alarms::VlRelay2));
+  Label10.SetVisible(features.video_loss_buzzer);
+  lst_AlBuz.SetVisible(features.video_loss_buzzer);
+  if (features.video_loss_buzzer) {
+    cameras_.Column(Label10.Caption(), lst_AlBuz, DisableEnable(), OfAlarm(&Alarms::VlBuzzer));
   }
 }
 
-void ExternalAlarmPage::Write() {
-  for (int i = 0; i < Id().MaxCam; ++i) {
-    const int item = editing_.ItemAt(i + 1, kColumn);
-    Record().AlarmInfo(i)->ExtAlmAction(
-        static_cast<Byte>(item == Grid::kNone ? kLastExternalAction : item));
-  }
+Layout VideoLossPage::Contents() {
+  return Row(MSFG_VidLoss, Column(Labelled(Label8, lst_AlRelay1), Labelled(Label9, lst_AlRelay2),
+                                  Labelled(Label10, lst_AlBuz), Stretch()));
 }
-
-void ExternalAlarmPage::GoToStart() { editing_.GoTo(1, kColumn); }
-
-MacroLinkPage::MacroLinkPage(Editor& editor)
-    : EditorPage(editor),
-      MSFG_AlMacro(editor, "MSFG_AlMacro"),
-      Label7(editor, "Label7", Text(88)),
-      lst_AlMacro(editor, "lst_AlMacro") {
-  MSFG_AlMacro.SetSpokenName(Text(86));
-  BuildNumberedGrid(MSFG_AlMacro, Id().MaxCam, {Ctx().texts.Objects().objstAlarm, Text(88)});
-}
-
-Layout MacroLinkPage::Contents() { return Row(MSFG_AlMacro, Labelled(Label7, lst_AlMacro)); }
-
-void MacroLinkPage::Fill() {
-  auto macros = NumberTexts(1, Id().MaxCam);
-  macros.insert(macros.begin(), Words().cnstrNone);
-  lst_AlMacro.SetItems(std::move(macros));
-  editing_.Bind(kColumn, lst_AlMacro, EmptyFor(lst_AlMacro, 0));
-  for (int i = 0; i < Id().MaxCam; ++i) {
-    editing_.SetItem(i + 1, kColumn, Record().AlarmInfo(i)->MacroLnk());
-  }
-}
-
-void MacroLinkPage::Write() {
-  for (int i = 0; i < Id().MaxCam; ++i) {
-    const int macro = editing_.ItemAt(i + 1, kColumn);
-    if (macro != Grid::kNone) Record().AlarmInfo(i)->MacroLnk(static_cast<Byte>(macro));
-  }
-}
-
-void MacroLinkPage::GoToStart() { editing_.GoTo(1, kColumn); }
 
 }  // namespace quorvel

@@ -1,8 +1,5 @@
 #include "ui/setup/alarm/alarm_settings_page.h"
 
-#include "ui/editing/choices.h"
-#include "ui/editing/number_texts.h"
-
 namespace quorvel {
 
 namespace {
@@ -10,66 +7,98 @@ namespace {
 constexpr int kTimedOut = 2;
 constexpr int kLongestTimeOut = 250;  // seconds
 constexpr int kTimeOutLines = 6;
-constexpr int kGlobalBuzzer = 0;
-
-// Places of the archive alarm among the record modes.
-constexpr int kArchiveOff = 1;
-constexpr int kArchiveOn = 2;
+constexpr int kLongestPreAlarm = 5;  // seconds
 
 }  // namespace
 
-AlarmSettingsPage::AlarmSettingsPage(Editor& editor, const AlarmFace& face)
-    : EditorPage(editor),
-      face_(face),
-      Frame1(editor, "Frame1", Text(61)),
-      opt_AlLatch(editor, "opt_AlLatch", 3),
-      Label17(editor, "Label17", Text(63)),
-      lstTimeOut(editor, "lstTimeOut"),
-      Label18(editor, "Label18", Text(57)),
-      Frame2(editor, "Frame2", Text(62)),
-      lbTemp(editor, "lbTemp", Text(102) + " 2"),
-      opt_AlRecMode(editor, "opt_AlRecMode", 3),
-      Frame3(editor, "Frame3", Text(79)),
-      opt_AlFullScr(editor, "opt_AlFullScr", 2),
-      Frame4(editor, "Frame4", Text(103)),
-      Label11(editor, "Label11", Text(102) + " 1 :"),
-      Frame6(editor, "Frame6"),
-      opt_Rl1Conf(editor, "opt_Rl1Conf", 2),
-      Label12(editor, "Label12", Text(102) + " 2 :"),
-      Frame7(editor, "Frame7"),
-      opt_Rl2Conf(editor, "opt_Rl2Conf", 2),
-      Frame5(editor, "Frame5", Text(70)),
-      Label13(editor, "Label13", Text(80)),
-      Frame8(editor, "Frame8"),
-      opt_GlBuz(editor, "opt_GlBuz", 2),
-      Label14(editor, "Label14", Text(87)),
-      Frame9(editor, "Frame9"),
-      opt_LiveAlBuz(editor, "opt_LiveAlBuz", 2),
-      Label15(editor, "Label15", Text(113)),
-      Frame10(editor, "Frame10"),
-      opt_VLossBuz(editor, "opt_VLossBuz", 2),
-      Label16(editor, "Label16", Text(94)),
-      Frame11(editor, "Frame11"),
-      opt_PlayBuz(editor, "opt_PlayBuz", 2),
-      lbDskBuz(editor, "lbDskBuz", Text(330)),
-      frameDskBuz(editor, "frameDskBuz"),
-      opt_DiskBuz(editor, "opt_DiskBuz", 2) {
-  CaptionGroups();
+AlarmSettingsPage::AlarmSettingsPage(Editor& editor, const AlarmFeatures& features)
+    : EditorPage(editor), features_(features) {
+  const auto& words = Words();
+  const bool free = !features_.fixed_settings;
+  FieldGroup& settings = Once();
+  settings.Options(opt_AlFullScr, NoYes(), At(&MuxData::FullscrAlm)).WrittenWhen(free);
+  settings
+      .Options(opt_AlRecMode, {{0, words.cnstrInter}, {1, words.cnstrExcl}, {2, words.cnstrNoChg}},
+               At(&MuxData::AlmRecMode))
+      .When(!features_.archive_in_record_mode)
+      .WrittenWhen(free);
+  settings.Options(opt_Rl1Conf, ClosedOpen(), At(&MuxData::Relay1Conf), Label11.Caption())
+      .WrittenWhen(free);
+  settings.Options(opt_Rl2Conf, ClosedOpen(), At(&MuxData::Relay2Conf), Label12.Caption())
+      .WrittenWhen(free);
+  BindBuzzers(settings);
+  BindLatch(settings);
+  if (features_.archive_in_record_mode) {
+    Frame2.SetCaption(Text(txt::kArchiveAlarm));
+    settings
+        .Options(opt_AlRecMode,
+                 {{Choices::kNoValue, words.cnstrInter},
+                  {0, words.cnstrDisable},
+                  {1, words.cnstrEnable}},
+                 At(&MuxData::DvrArchAlm).Otherwise(1), lbTemp.Caption())
+        .WrittenWhen(features_.record_mode);
+  }
   ShowWhatTheModelHas();
 }
 
-std::array<AlarmSettingsPage::BuzzerGroup, AlarmSettingsPage::kBuzzers>
+void AlarmSettingsPage::BindLatch(FieldGroup& settings) {
+  settings.Options(
+      opt_AlLatch,
+      {{0, Text(txt::kLatched)}, {1, Text(txt::kTransparent)}, {kTimedOut, Text(txt::kTimedOut)}},
+      At(&MuxData::AlarmMode).OtherwiseWritten(kTimedOut));
+  lstTimeOut.SetRows(kTimeOutLines);
+  lstTimeOut.SetLabel(Label17);
+  time_out_ = &settings.List(lstTimeOut, Choices::Numbers(1, kLongestTimeOut, 0),
+                             At(&MuxData::AlarmTimeOut));
+  time_out_->WrittenWhen([this] { return opt_AlLatch(kTimedOut).Selected(); });
+  for (OptionButton& option : opt_AlLatch) option.on_click = [this] { ShowTimeOut(); };
+  AfterFill([this] { ShowTimeOut(); });
+}
+
+std::array<AlarmSettingsPage::BuzzerLine, AlarmSettingsPage::kBuzzers>
 AlarmSettingsPage::Buzzers() {
-  return {{{0, Label13, Frame8, opt_GlBuz, true},
-           {1, Label14, Frame9, opt_LiveAlBuz, face_.event_buzzers},
-           {2, Label15, Frame10, opt_VLossBuz, face_.event_buzzers},
-           {3, Label16, Frame11, opt_PlayBuz, face_.event_buzzers},
-           {4, lbDskBuz, frameDskBuz, opt_DiskBuz, face_.disk_buzzer}}};
+  return {{{Label13, Frame8, opt_GlBuz, true},
+           {Label14, Frame9, opt_LiveAlBuz, features_.event_buzzers},
+           {Label15, Frame10, opt_VLossBuz, features_.event_buzzers},
+           {Label16, Frame11, opt_PlayBuz, features_.event_buzzers},
+           {lbDskBuz, frameDskBuz, opt_DiskBuz, features_.disk_buzzer}}};
+}
+
+void AlarmSettingsPage::BindBuzzers(FieldGroup& settings) {
+  int number = 0;
+  for (const BuzzerLine& it : Buzzers()) {
+    const bool can_be_changed = number == 0 || !features_.fixed_settings;
+    settings
+        .Options(it.options, OffOn(), At(&MuxData::Buzzer, number++).Otherwise(0),
+                 it.label.Caption())
+        .WrittenWhen(can_be_changed && it.shown && features_.buzzers);
+    it.label.SetVisible(it.shown);
+    it.frame.SetVisible(it.shown);
+    it.options.SetEnabled(can_be_changed);
+  }
+}
+
+void AlarmSettingsPage::ShowWhatTheModelHas() {
+  Frame2.SetVisible(features_.record_mode);
+  lbTemp.SetVisible(features_.archive_in_record_mode);
+  opt_AlRecMode(0).SetVisible(!features_.archive_in_record_mode);
+  Frame3.SetVisible(features_.full_screen);
+  Frame4.SetVisible(features_.relays);
+  Label12.SetVisible(features_.second_relay);
+  Frame7.SetVisible(features_.second_relay);
+  Frame5.SetVisible(features_.buzzers);
+  opt_AlFullScr.SetEnabled(!features_.fixed_settings);
+  opt_Rl1Conf.SetEnabled(!features_.fixed_settings);
+  opt_Rl2Conf.SetEnabled(!features_.fixed_settings);
+  if (features_.full_screen_always) opt_AlFullScr(0).SetEnabled(false);
+  for (Widget* const it : std::initializer_list<Widget*>{&Label17, &lstTimeOut, &Label18}) {
+    it->SetKeepsPlace(true);  // the page does not jump as the time-out comes and goes
+  }
 }
 
 Layout AlarmSettingsPage::Contents() {
   Layout buzzers = Column();
-  for (const BuzzerGroup& it : Buzzers()) {
+  for (const BuzzerLine& it : Buzzers()) {
     buzzers.parts.push_back(Row(it.label, Framed(it.frame, Row(it.options))));
   }
   return Row(Column(Framed(Frame1, Row(Column(opt_AlLatch, Stretch()),
@@ -82,115 +111,29 @@ Layout AlarmSettingsPage::Contents() {
              Stretch());
 }
 
-void AlarmSettingsPage::CaptionGroups() {
-  const auto& words = Words();
-  opt_AlLatch.SetCaptions({Text(85), Text(110), Text(108)});
-  opt_AlRecMode.SetCaptions({words.cnstrInter, words.cnstrExcl, words.cnstrNoChg});
-  opt_AlFullScr.SetCaptions({words.cnstrNo, words.cnstrYes});
-  opt_Rl1Conf.SetCaptions({words.cnstrClose, words.cnstrOpen});
-  opt_Rl2Conf.SetCaptions({words.cnstrClose, words.cnstrOpen});
-  opt_Rl1Conf.SetSpokenNames(Label11.Caption());
-  opt_Rl2Conf.SetSpokenNames(Label12.Caption());
-  for (const BuzzerGroup& it : Buzzers()) {
-    it.options.SetCaptions({words.cnstrOFF, words.cnstrON});
-    it.options.SetSpokenNames(it.label.Caption());
-  }
-  if (face_.archive_in_record_mode) {
-    Frame2.SetCaption(Text(66));
-    opt_AlRecMode(kArchiveOff).SetCaption(words.cnstrDisable);
-    opt_AlRecMode(kArchiveOn).SetCaption(words.cnstrEnable);
-    opt_AlRecMode.SetSpokenNames(lbTemp.Caption());
-  }
-}
-
-void AlarmSettingsPage::ShowWhatTheModelHas() {
-  Frame2.SetVisible(face_.record_mode);
-  lbTemp.SetVisible(face_.archive_in_record_mode);
-  opt_AlRecMode(0).SetVisible(!face_.archive_in_record_mode);
-  Frame3.SetVisible(face_.full_screen);
-  Frame4.SetVisible(face_.relays);
-  Label12.SetVisible(face_.second_relay);
-  Frame7.SetVisible(face_.second_relay);
-  Frame5.SetVisible(face_.buzzers);
-  for (const BuzzerGroup& it : Buzzers()) {
-    it.label.SetVisible(it.shown);
-    it.frame.SetVisible(it.shown);
-    it.options.SetEnabled(!face_.fixed_settings);
-  }
-  opt_GlBuz.SetEnabled(true);
-  opt_AlFullScr.SetEnabled(!face_.fixed_settings);
-  opt_Rl1Conf.SetEnabled(!face_.fixed_settings);
-  opt_Rl2Conf.SetEnabled(!face_.fixed_settings);
-  if (face_.full_screen_always) opt_AlFullScr(0).SetEnabled(false);
-  for (Widget* const it : std::initializer_list<Widget*>{&Label17, &lstTimeOut, &Label18}) {
-    it->SetKeepsPlace(true);  // the page does not jump as the time-out comes and goes
-  }
-}
-
-void AlarmSettingsPage::FillRecordMode() {
-  if (face_.archive_in_record_mode) {
-    opt_AlRecMode.Select(Record().DvrArchAlm() != 0 ? kArchiveOn : kArchiveOff);
-  } else {
-    opt_AlRecMode.Select(Record().AlmRecMode());
-  }
-}
-
-void AlarmSettingsPage::Fill() {
-  MuxData& record = Record();
-  FillRecordMode();
-  lstTimeOut.SetRows(kTimeOutLines);
-  lstTimeOut.SetItems(NumberTexts(1, kLongestTimeOut));
-  lstTimeOut.SetLabel(Label17);
-  opt_AlLatch.Select(record.AlarmMode());
-  for (OptionButton& option : opt_AlLatch) option.on_click = [this] { ShowTimeOut(); };
-  ShowTimeOut();
-  // Not an edit: these models do so in any case.
-  if (face_.full_screen_always) record.FullscrAlm(true);
-  opt_AlFullScr.Select(record.FullscrAlm() ? 1 : 0);
-  opt_Rl1Conf.Select(record.Relay1Conf() ? 1 : 0);
-  opt_Rl2Conf.Select(record.Relay2Conf() ? 1 : 0);
-  for (const BuzzerGroup& it : Buzzers()) {
-    it.options.Select(record.Buzzer(it.number) == 1 ? 1 : 0);
-  }
-}
-
 void AlarmSettingsPage::ShowTimeOut() {
   const bool timed = opt_AlLatch(kTimedOut).Selected();
   Label17.SetVisible(timed);
   lstTimeOut.SetVisible(timed);
   Label18.SetVisible(timed);
-  if (timed) lstTimeOut.Select(Record().AlarmTimeOut());
+  if (timed) time_out_->PutBack(0);  // the stored time-out
 }
 
-void AlarmSettingsPage::Write() {
-  WriteGroups();
-  WriteLatch();
-  if (face_.archive_in_record_mode && face_.record_mode) {
-    Record().DvrArchAlm(opt_AlRecMode(kArchiveOff).Selected() ? 0 : 1);
-  }
+AlarmRecorderPage::AlarmRecorderPage(Editor& editor, const AlarmFeatures& features)
+    : EditorPage(editor, features.recorder_page) {
+  frmPreAlDur.SetVisible(Shown());
+  frmArchAL.SetVisible(Shown());
+  FieldGroup& settings = Once();
+  settings.Options(optArchAL, DisableEnable(), At(&MuxData::DvrArchAlm).Otherwise(1),
+                   frmArchAL.Caption());
+  // Without a choice the shortest: a recorder has no other durations.
+  settings.List(lstPreAlDur, Choices::Numbers(1, kLongestPreAlarm, 1),
+                At(&MuxData::PreAlDuration).OtherwiseWritten(1));
 }
 
-void AlarmSettingsPage::WriteGroups() {
-  MuxData& record = Record();
-  if (!face_.fixed_settings) {
-    record.FullscrAlm(opt_AlFullScr(1).Selected());
-    record.AlmRecMode(static_cast<Byte>(Chosen(opt_AlRecMode, record.AlmRecMode())));
-    record.Relay1Conf(opt_Rl1Conf(1).Selected());
-    record.Relay2Conf(opt_Rl2Conf(1).Selected());
-  }
-  for (const BuzzerGroup& it : Buzzers()) {
-    if (face_.fixed_settings && it.number != kGlobalBuzzer) continue;
-    if (it.shown && face_.buzzers) record.Buzzer(it.number, it.options(1).Selected() ? 1 : 0);
-  }
-}
-
-void AlarmSettingsPage::WriteLatch() {
-  MuxData& record = Record();
-  const int mode = Chosen(opt_AlLatch, kTimedOut);
-  record.AlarmMode(static_cast<Byte>(mode));
-  if (mode == kTimedOut) {
-    record.AlarmTimeOut(static_cast<Byte>(Chosen(lstTimeOut, record.AlarmTimeOut())));
-  }
+Layout AlarmRecorderPage::Contents() {
+  return Row(Framed(frmPreAlDur, Row(lstPreAlDur, Column(lbTime, Stretch()))),
+             Framed(frmArchAL, Column(lbArchAL, optArchAL, Stretch())), Stretch());
 }
 
 }  // namespace quorvel

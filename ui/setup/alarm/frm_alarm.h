@@ -2,40 +2,36 @@
 
 #include "ui/editing/editor.h"
 #include "ui/setup/alarm/alarm_action_page.h"
-#include "ui/setup/alarm/alarm_face.h"
+#include "ui/setup/alarm/alarm_features.h"
 #include "ui/setup/alarm/alarm_input_page.h"
 #include "ui/setup/alarm/alarm_notification_page.h"
 #include "ui/setup/alarm/alarm_output_pages.h"
-#include "ui/setup/alarm/alarm_recorder_page.h"
 #include "ui/setup/alarm/alarm_settings_page.h"
-#include "ui/setup/alarm/video_loss_page.h"
 
 namespace quorvel {
 
 /// Alarms: inputs, actions, external outputs, macro links, video loss, settings for all alarms, and
-/// notification. Each page is a class of its own; AlarmFace tells what a model shows of them. A
-/// page that is hidden is neither filled nor written.
+/// notification. Each page is a class of its own; AlarmFeatures tells what a model shows of them.
+/// Pages are written in the order of their declaration.
 class frm_Alarm : public Editor {
  public:
   explicit frm_Alarm(Context& context);
 
  private:
-  void WriteBack(MuxData& record) override;
-  void ArrangePages();
-  void FillPages();
-  void TabChanged();
+  [[nodiscard]] Layout Pages();
 
-  AlarmFace face_;
+  AlarmFeatures features_{
+      AlarmFeaturesOf(Id(), Ctx().DeviceFirmware(), Ctx().BlkImage.BlkCountOrZero())};
 
   TabStrip SSTab1{*this, "SSTab1"};
-  AlarmInputPage input_page_;                ///< tab 0
-  AlarmActionPage action_page_;              ///< tab 1
-  ExternalAlarmPage external_page_;          ///< tab 2
-  MacroLinkPage macro_page_;                 ///< tab 3
-  VideoLossPage video_loss_page_;            ///< tab 4
-  AlarmSettingsPage settings_page_;          ///< tab 5
-  AlarmRecorderPage recorder_page_;          ///< tab 6
-  AlarmNotificationPage notification_page_;  ///< tab 7
+  AlarmInputPage input_page_{*this};
+  AlarmActionPage action_page_{*this, features_};
+  ExternalAlarmPage external_page_{*this, features_};
+  MacroLinkPage macro_page_{*this, features_};
+  VideoLossPage video_loss_page_{*this, features_};
+  AlarmSettingsPage settings_page_{*this, features_};
+  AlarmRecorderPage recorder_page_{*this, features_};
+  AlarmNotificationPage notification_page_{*this, features_};
   Button cmd_OK{*this, "cmd_OK"};
   Button cmd_Cancel{*this, "cmd_Cancel"};
 };

@@ -4,8 +4,8 @@
 
 namespace quorvel {
 
-/// What frm_Alarm shows of a model, all in one place.
-struct AlarmFace {
+/// What of the alarms a model has, and its alarm editor therefore shows, all in one place.
+struct AlarmFeatures {
   // Pages; those of the inputs and of the other settings are on every model.
   bool action_page;
   bool external_page;
@@ -42,6 +42,6 @@ struct AlarmFace {
 };
 
 /// `firmware` is the device's version, 506 for 5.06, and `blocks` the image's own block count.
-[[nodiscard]] AlarmFace AlarmFaceOf(const Identity& id, int firmware, int blocks);
+[[nodiscard]] AlarmFeatures AlarmFeaturesOf(const Identity& id, int firmware, int blocks);
 
 }  // namespace quorvel

@@ -1,0 +1,384 @@
+#include <optional>
+#include <utility>
+
+#include "ui/editing/device_text.h"
+#include "ui/editing/fields.h"
+#include "ui/editing/number_box.h"
+#include "ui/editing/octet_boxes.h"
+
+namespace quorvel {
+
+namespace {
+
+/// Runs `use` for the control of a line: of an array its element, else the control itself.
+template <class Control>
+[[nodiscard]] Control& ControlAt(ControlArray<Control>& controls, int line) {
+  return controls(line);
+}
+template <class Control>
+[[nodiscard]] Control& ControlAt(Control& control, int /*line*/) {
+  return control;
+}
+
+template <class Boxes>
+class CheckField final : public ValueField {
+ public:
+  CheckField(Boxes& boxes, SettingRef setting) : ValueField(std::move(setting)), boxes_(boxes) {}
+
+ protected:
+  void Show(int line, int value) override { ControlAt(boxes_, line).SetChecked(value == 1); }
+  [[nodiscard]] int Present(int line) const override {
+    const bool checked = ControlAt(boxes_, line).Checked();
+    if (checked == (Opened(line) == 1)) return kNone;  // as it was filled
+    return checked ? 1 : 0;
+  }
+  [[nodiscard]] bool Offers(int value) const override { return value == 0 || value == 1; }
+  [[nodiscard]] std::string TextOf(int value) const override { return value == 1 ? "x" : "-"; }
+  [[nodiscard]] const Widget& ControlOf(int line) const override { return ControlAt(boxes_, line); }
+
+ private:
+  Boxes& boxes_;
+};
+
+/// A control that offers lines, each of which stands for a value.
+class ChoiceField : public ValueField {
+ protected:
+  ChoiceField(Choices choices, SettingRef setting)
+      : ValueField(std::move(setting)), choices_(std::move(choices)) {}
+  [[nodiscard]] const Choices& Lines() const { return choices_; }
+  [[nodiscard]] bool Offers(int value) const override { return choices_.Has(value); }
+  [[nodiscard]] std::string TextOf(int value) const override { return choices_.TextOf(value); }
+
+ private:
+  Choices choices_;
+};
+
+class OptionsField final : public ChoiceField {
+ public:
+  OptionsField(ControlArray<OptionButton>& options, Choices choices, SettingRef setting,
+               std::string name)
+      : ChoiceField(std::move(choices), std::move(setting)),
+        options_(options),
+        name_(std::move(name)) {
+    int i = 0;
+    for (std::string& text : Lines().Texts()) options_(i++).SetCaption(std::move(text));
+    if (!name_.empty()) options_.SetSpokenNames(name_);
+  }
+
+ protected:
+  void Show(int /*line*/, int value) override { options_.Select(Lines().LineOf(value)); }
+  [[nodiscard]] int Present(int /*line*/) const override {
+    return Lines().ValueAt(options_.Selected());
+  }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return options_(0); }
+  void TellPlace(int /*line*/, ShownSetting& shown) const override {
+    shown.caption = name_.empty() ? options_(0).SurroundingCaption() : name_;
+  }
+
+ private:
+  ControlArray<OptionButton>& options_;
+  std::string name_;
+};
+
+class ListField final : public ChoiceField {
+ public:
+  ListField(ChoiceWidget& list, Choices choices, SettingRef setting)
+      : ChoiceField(std::move(choices), std::move(setting)), list_(list) {
+    list_.SetItems(Lines().Texts());
+  }
+
+ protected:
+  void Show(int /*line*/, int value) override { list_.Select(Lines().LineOf(value)); }
+  [[nodiscard]] int Present(int /*line*/) const override {
+    return Lines().ValueAt(list_.Current());
+  }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return list_; }
+
+ private:
+  ChoiceWidget& list_;
+};
+
+class SliderField final : public ValueField {
+ public:
+  SliderField(Slider& slider, Label& shown, SettingRef setting)
+      : ValueField(std::move(setting)), slider_(slider), shown_(shown) {
+    slider_.on_change = [this] { shown_.SetCaption(std::to_string(slider_.Value())); };
+  }
+
+ protected:
+  void Show(int /*line*/, int value) override {
+    slider_.SetValue(value);
+    shown_.SetCaption(TextOf(value));
+  }
+  [[nodiscard]] int Present(int /*line*/) const override { return slider_.Value(); }
+  [[nodiscard]] bool Offers(int value) const override {
+    return value >= slider_.Minimum() && value <= slider_.Maximum();
+  }
+  [[nodiscard]] std::string TextOf(int value) const override { return std::to_string(value); }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return slider_; }
+
+ private:
+  Slider& slider_;
+  Label& shown_;
+};
+
+/// Hour, minute and second, or year, month and day, as one number, whatever they hold.
+constexpr int kByteBits = 8;
+constexpr int kByteMask = 0xFF;
+SettingRef ThreeParts(SettingRef high, SettingRef middle, SettingRef low) {
+  return Joined(
+      {std::move(high), std::move(middle), std::move(low)},
+      [](const std::vector<int>& parts) {
+        int value = 0;
+        for (const int part : parts) value = value << kByteBits | (part & kByteMask);
+        return value;
+      },
+      [](int value, std::vector<int>& parts) {
+        parts = {value >> 2 * kByteBits, value >> kByteBits & kByteMask, value & kByteMask};
+      });
+}
+
+class TimeField final : public ValueField {
+ public:
+  TimeField(TimePicker& picker, SettingRef setting)
+      : ValueField(std::move(setting)), picker_(picker) {}
+
+ protected:
+  void Show(int /*line*/, int value) override { picker_.SetTime(TimeOfValue(value)); }
+  [[nodiscard]] int Present(int /*line*/) const override {
+    const auto& time = picker_.Time();
+    if (!time) return kNone;
+    return (time->hour << 2 * kByteBits) | (time->minute << kByteBits) | time->second;
+  }
+  [[nodiscard]] bool Offers(int value) const override { return IsTime(TimeOfValue(value)); }
+  [[nodiscard]] std::string TextOf(int value) const override {
+    return TimeText(picker_.Format(), TimeOfValue(value));
+  }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return picker_; }
+
+ private:
+  static ClockTime TimeOfValue(int value) {
+    return {value >> 2 * kByteBits, value >> kByteBits & kByteMask, value & kByteMask};
+  }
+  TimePicker& picker_;
+};
+
+class DateField final : public ValueField {
+ public:
+  DateField(DatePicker& picker, SettingRef setting)
+      : ValueField(std::move(setting)), picker_(picker) {}
+
+ protected:
+  void Show(int /*line*/, int value) override { picker_.SetDate(DateOfValue(value)); }
+  [[nodiscard]] int Present(int /*line*/) const override {
+    const auto& date = picker_.Date();
+    if (!date) return kNone;
+    return (date->year << 2 * kByteBits) | (date->month << kByteBits) | date->day;
+  }
+  [[nodiscard]] bool Offers(int value) const override { return IsDate(DateOfValue(value)); }
+  [[nodiscard]] std::string TextOf(int value) const override {
+    return DateText(DateOfValue(value));
+  }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return picker_; }
+
+ private:
+  static CalendarDate DateOfValue(int value) {
+    return {value >> 2 * kByteBits, value >> kByteBits & kByteMask, value & kByteMask};
+  }
+  DatePicker& picker_;
+};
+
+class PortField final : public ValueField {
+ public:
+  PortField(TextBox& box, int least, int most, int otherwise, SettingRef setting)
+      : ValueField(std::move(setting)), box_(box), port_(box, least, most, otherwise) {}
+
+ protected:
+  void Show(int /*line*/, int value) override { port_.Show(value); }
+  [[nodiscard]] int Present(int /*line*/) const override { return port_.Number(); }
+  /// What is stored out of range is shown, and stays until somebody types.
+  [[nodiscard]] bool Offers(int /*value*/) const override { return true; }
+  [[nodiscard]] std::string TextOf(int value) const override { return std::to_string(value); }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return box_; }
+
+ private:
+  TextBox& box_;
+  PortBox port_;
+};
+
+class OctetsField final : public Field {
+ public:
+  OctetsField(ControlArray<TextBox>& boxes, SettingRef octets)
+      : boxes_(boxes), octets_(boxes), setting_(std::move(octets)) {}
+  void PutBack(int /*line*/) override {
+    for (int i = 0; i < boxes_.Count(); ++i)
+      octets_.Show(i, opened_.at(static_cast<std::size_t>(i)));
+  }
+
+ protected:
+  void Fill(MuxData& record, int line) override {
+    opened_.clear();
+    for (int i = 0; i < boxes_.Count(); ++i) {
+      opened_.push_back(static_cast<Byte>(setting_.Access().Get(record, i)));
+    }
+    PutBack(line);
+  }
+  void Write(MuxData& record, int /*line*/) override {
+    for (int i = 0; i < boxes_.Count(); ++i) setting_.Access().Set(record, i, octets_.Octet(i));
+  }
+  void Tell(MuxData& record, int /*line*/, ShownSetting& shown) const override {
+    for (int i = 0; i < boxes_.Count(); ++i) {
+      setting_.Access().AddNames(record, i, shown.settings);
+    }
+    shown.control = &boxes_(0);
+    shown.was = Dotted(opened_);
+    shown.is = Dotted(Present());
+  }
+  [[nodiscard]] bool LineDiffers(int /*line*/) const override { return Present() != opened_; }
+
+ private:
+  [[nodiscard]] std::vector<Byte> Present() const {
+    std::vector<Byte> octets;
+    for (int i = 0; i < boxes_.Count(); ++i) octets.push_back(octets_.Octet(i));
+    return octets;
+  }
+  static std::string Dotted(const std::vector<Byte>& octets) {
+    std::string text;
+    for (const Byte octet : octets) text += (text.empty() ? "" : ".") + std::to_string(octet);
+    return text;
+  }
+
+  ControlArray<TextBox>& boxes_;
+  OctetBoxes octets_;
+  SettingRef setting_;
+  std::vector<Byte> opened_;
+};
+
+/// A text as it can be edited: up to its first zero byte, without blanks at its end.
+std::string_view Editable(std::string_view text) {
+  text = text.substr(0, text.find('\0'));
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+template <class Boxes>
+class TextField final : public Field {
+ public:
+  TextField(Boxes& boxes, int lines, TextRef setting, const Platform& platform)
+      : boxes_(boxes), setting_(std::move(setting)) {
+    for (int line = 0; line < lines; ++line) texts_.emplace_back(ControlAt(boxes, line), platform);
+  }
+  void PutBack(int line) override { At(line).PutBack(); }
+
+ protected:
+  void Fill(MuxData& record, int line) override {
+    const std::string text = setting_->Get(record, line);
+    At(line).Show(Editable(text));
+  }
+  void Write(MuxData& record, int line) override {
+    if (auto typed = At(line).Typed()) setting_->Set(record, line, std::move(*typed));
+  }
+  void Tell(MuxData& record, int line, ShownSetting& shown) const override {
+    setting_->AddNames(record, line, shown.settings);
+    shown.control = &ControlAt(boxes_, line);
+    shown.was = At(line).Shown();
+    shown.is = ControlAt(boxes_, line).Text();
+  }
+  [[nodiscard]] bool LineDiffers(int line) const override { return At(line).Typed().has_value(); }
+
+ private:
+  [[nodiscard]] DeviceText& At(int line) { return texts_.at(static_cast<std::size_t>(line)); }
+  [[nodiscard]] const DeviceText& At(int line) const {
+    return texts_.at(static_cast<std::size_t>(line));
+  }
+
+  Boxes& boxes_;
+  TextRef setting_;
+  std::deque<DeviceText> texts_;
+};
+
+class ColumnField final : public ValueField {
+ public:
+  ColumnField(GridEditing& editing, Grid& grid, int column, SettingRef setting)
+      : ValueField(std::move(setting)), editing_(editing), grid_(grid), column_(column) {}
+
+ protected:
+  void Show(int line, int value) override { editing_.SetValue(RowOf(line), column_, value); }
+  [[nodiscard]] int Present(int line) const override {
+    return editing_.ValueAt(RowOf(line), column_);
+  }
+  [[nodiscard]] bool Offers(int value) const override { return editing_.Offers(column_, value); }
+  [[nodiscard]] std::string TextOf(int value) const override {
+    return editing_.TextOf(column_, value);
+  }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return grid_; }
+  void TellPlace(int line, ShownSetting& shown) const override {
+    shown.row = RowOf(line);
+    shown.column = column_;
+    shown.caption = grid_.ColumnName(column_);
+    shown.line = grid_.Cell(shown.row, 0);
+  }
+
+ private:
+  [[nodiscard]] int RowOf(int line) const { return line + grid_.HeaderRows(); }
+
+  GridEditing& editing_;
+  Grid& grid_;
+  int column_;
+};
+
+}  // namespace
+
+Field& FieldGroup::Check(CheckBox& box, SettingRef setting) {
+  return Add(std::make_unique<CheckField<CheckBox>>(box, std::move(setting)));
+}
+
+Field& FieldGroup::Check(ControlArray<CheckBox>& boxes, SettingRef setting) {
+  return Add(std::make_unique<CheckField<ControlArray<CheckBox>>>(boxes, std::move(setting)));
+}
+
+Field& FieldGroup::Options(ControlArray<OptionButton>& options, Choices choices, SettingRef setting,
+                           std::string name) {
+  return Add(std::make_unique<OptionsField>(options, std::move(choices), std::move(setting),
+                                            std::move(name)));
+}
+
+Field& FieldGroup::List(ChoiceWidget& list, Choices choices, SettingRef setting) {
+  return Add(std::make_unique<ListField>(list, std::move(choices), std::move(setting)));
+}
+
+Field& FieldGroup::Slide(Slider& slider, Label& shown, SettingRef setting) {
+  return Add(std::make_unique<SliderField>(slider, shown, std::move(setting)));
+}
+
+Field& FieldGroup::Pick(TimePicker& picker, SettingRef hour, SettingRef minute, SettingRef second) {
+  return Add(std::make_unique<TimeField>(
+      picker, ThreeParts(std::move(hour), std::move(minute), std::move(second))));
+}
+
+Field& FieldGroup::Pick(DatePicker& picker, SettingRef day, SettingRef month, SettingRef year) {
+  return Add(std::make_unique<DateField>(
+      picker, ThreeParts(std::move(year), std::move(month), std::move(day))));
+}
+
+Field& FieldGroup::Port(TextBox& box, int least, int most, int otherwise, SettingRef setting) {
+  return Add(std::make_unique<PortField>(box, least, most, otherwise, std::move(setting)));
+}
+
+Field& FieldGroup::Octets(ControlArray<TextBox>& boxes, SettingRef octets) {
+  return Add(std::make_unique<OctetsField>(boxes, std::move(octets)));
+}
+
+Field& FieldGroup::Text(TextBox& box, TextRef setting) {
+  return Add(std::make_unique<TextField<TextBox>>(box, 1, std::move(setting), platform_));
+}
+
+Field& FieldGroup::Text(ControlArray<TextBox>& boxes, TextRef setting) {
+  return Add(std::make_unique<TextField<ControlArray<TextBox>>>(boxes, lines_, std::move(setting),
+                                                                platform_));
+}
+
+Field& FieldGroup::Column(GridEditing& editing, Grid& grid, int column, SettingRef setting) {
+  return Add(std::make_unique<ColumnField>(editing, grid, column, std::move(setting)));
+}
+
+}  // namespace quorvel

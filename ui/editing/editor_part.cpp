@@ -1,0 +1,21 @@
+#include "ui/editing/editor_part.h"
+
+#include <utility>
+
+#include "ui/editing/editor.h"
+
+namespace quorvel {
+
+EditorPart::operator Dialog&() const { return editor_; }
+
+Context& EditorPart::Ctx() const { return editor_.context_; }
+
+const Identity& EditorPart::Id() const { return editor_.id_; }
+
+FieldGroup& EditorPart::Each(int lines) const { return editor_.fields_.Group(shown_ ? lines : 0); }
+
+void EditorPart::AfterFill(Handler handler) const {
+  editor_.after_fill_.push_back(std::move(handler));
+}
+
+}  // namespace quorvel

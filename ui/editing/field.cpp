@@ -1,0 +1,85 @@
+#include "ui/editing/field.h"
+
+#include <utility>
+
+namespace quorvel {
+
+Field& Field::When(bool exists) {
+  if (!exists) lines_ = 0;
+  return *this;
+}
+
+Field& Field::First(int lines) {
+  lines_ = lines;
+  return *this;
+}
+
+Field& Field::WrittenWhen(bool written) {
+  written_ = written_ && written;
+  return *this;
+}
+
+Field& Field::WrittenWhen(std::function<bool()> written) {
+  written_while_ = std::move(written);
+  return *this;
+}
+
+Field& Field::Lists(std::function<int(int)> block) {
+  block_ = std::move(block);
+  return *this;
+}
+
+void Field::WriteLine(MuxData& record, int line) {
+  if (!Has(line) || !written_ || (written_while_ && !written_while_())) return;
+  Write(record, line);
+  if (block_ && LineDiffers(line)) record.MarkModified(block_(line));
+}
+
+void Field::TellLine(MuxData& record, int line, std::vector<ShownSetting>& told) const {
+  if (!Has(line)) return;
+  ShownSetting shown;
+  Tell(record, line, shown);
+  shown.differs = LineDiffers(line);
+  shown.page = shown.control->PageCaption();
+  if (shown.caption.empty()) shown.caption = shown.control->SpokenName();
+  told.push_back(std::move(shown));
+}
+
+int ValueField::Opened(int line) const {
+  const auto place = static_cast<std::size_t>(line);
+  return place < opened_.size() ? opened_[place] : kNone;
+}
+
+int ValueField::Standing(int line) const {
+  const int present = Present(line);
+  return present == kNone ? Opened(line) : present;
+}
+
+void ValueField::Fill(MuxData& record, int line) {
+  int value = setting_.Access().Get(record, line);
+  if (!Offers(value)) value = setting_.ShownFor(value);
+  const auto place = static_cast<std::size_t>(line);
+  if (opened_.size() <= place) opened_.resize(place + 1, kNone);
+  opened_[place] = value;
+  Show(line, value);
+}
+
+void ValueField::Write(MuxData& record, int line) {
+  int value = Standing(line);
+  if (!Offers(value)) value = setting_.WrittenFor(value);
+  if (value != kNone) setting_.Access().Set(record, line, value);
+}
+
+void ValueField::Tell(MuxData& record, int line, ShownSetting& shown) const {
+  setting_.Access().AddNames(record, line, shown.settings);
+  shown.control = &ControlOf(line);
+  shown.was = TextOf(Opened(line));
+  const int standing = Standing(line);
+  shown.is = TextOf(standing);
+  if (Offers(standing)) shown.value = standing;
+  TellPlace(line, shown);
+}
+
+bool ValueField::LineDiffers(int line) const { return Standing(line) != Opened(line); }
+
+}  // namespace quorvel

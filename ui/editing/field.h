@@ -1,0 +1,114 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/record/mux_data.h"
+#include "quorvel/widgets.h"
+#include "ui/editing/choices.h"
+#include "ui/editing/setting_ref.h"
+
+namespace quorvel {
+
+/// What an editor tells of a setting that it shows.
+struct ShownSetting {
+  std::vector<std::string> settings;  ///< "CamInfo(3).SignalGain"; several behind one control
+  const Widget* control = nullptr;    ///< the grid, for a cell
+  int row = Grid::kNone;              ///< of a cell, counted with the header
+  int column = Grid::kNone;
+  std::string page;     ///< caption of its page; empty in an editor without pages
+  std::string caption;  ///< what the control or the column is called
+  std::string line;     ///< what the cell's row is called
+  std::string was;      ///< as it read when the editor opened
+  std::string is;       ///< as it reads now
+  /// The device's value that the control stands at; nothing for texts, or while it is blank.
+  std::optional<int> value;
+  bool differs = false;  ///< from when the editor opened
+};
+
+/// A control, or a column of a grid, bound to a setting: one description that fills the control and
+/// writes the setting. Lines are 0-based; a control that is no array has one.
+class Field {
+ public:
+  Field() = default;
+  Field(const Field&) = delete;
+  Field& operator=(const Field&) = delete;
+  virtual ~Field() = default;
+
+  /// The model does not have it: it is neither filled nor written nor told. For a field of one
+  /// line; one of several lines can be left out line by line.
+  Field& When(bool exists);
+  /// It has the first `lines` lines only.
+  Field& First(int lines);
+  /// It is shown, and written only where, or while, this holds.
+  Field& WrittenWhen(bool written);
+  Field& WrittenWhen(std::function<bool()> written);
+  /// A change lists this block, of a setting that the record does not track.
+  Field& Lists(std::function<int(int line)> block);
+
+  void FillLine(MuxData& record, int line) {
+    if (Has(line)) Fill(record, line);
+  }
+  void WriteLine(MuxData& record, int line);
+  /// Shows again what it was filled with.
+  virtual void PutBack(int line) = 0;
+  /// Appends what it shows of a line.
+  void TellLine(MuxData& record, int line, std::vector<ShownSetting>& told) const;
+  [[nodiscard]] bool Differs(int line) const { return Has(line) && LineDiffers(line); }
+
+ protected:
+  virtual void Fill(MuxData& record, int line) = 0;
+  virtual void Write(MuxData& record, int line) = 0;
+  /// Names, control, texts and value; the rest is added.
+  virtual void Tell(MuxData& record, int line, ShownSetting& shown) const = 0;
+  [[nodiscard]] virtual bool LineDiffers(int line) const = 0;
+
+ private:
+  [[nodiscard]] bool Has(int line) const { return lines_ == kAll || line < lines_; }
+
+  static constexpr int kAll = -1;
+  int lines_ = kAll;
+  bool written_ = true;
+  std::function<bool()> written_while_;
+  std::function<int(int)> block_;
+};
+
+/// A field whose control stands at a number of the device.
+class ValueField : public Field {
+ public:
+  static constexpr int kNone = Choices::kNone;
+  void PutBack(int line) override { Show(line, Opened(line)); }
+
+ protected:
+  explicit ValueField(SettingRef setting) : setting_(std::move(setting)) {}
+
+  /// Makes the control stand at a value; one that it does not offer leaves it blank, or reads as it
+  /// can.
+  virtual void Show(int line, int value) = 0;
+  /// The value that the control stands at, or kNone while it is blank.
+  [[nodiscard]] virtual int Present(int line) const = 0;
+  [[nodiscard]] virtual bool Offers(int value) const = 0;
+  [[nodiscard]] virtual std::string TextOf(int value) const = 0;
+  [[nodiscard]] virtual const Widget& ControlOf(int line) const = 0;
+  /// Adds what a cell tells of its place.
+  virtual void TellPlace(int /*line*/, ShownSetting& /*shown*/) const {}
+
+  void Fill(MuxData& record, int line) override;
+  void Write(MuxData& record, int line) override;
+  void Tell(MuxData& record, int line, ShownSetting& shown) const override;
+  [[nodiscard]] bool LineDiffers(int line) const override;
+  /// What the control was filled with.
+  [[nodiscard]] int Opened(int line) const;
+
+ private:
+  /// What the control stands at, or what it was filled with while nobody has chosen.
+  [[nodiscard]] int Standing(int line) const;
+
+  SettingRef setting_;
+  std::vector<int> opened_;
+};
+
+}  // namespace quorvel

@@ -1,0 +1,63 @@
+#include "ui/editing/fields.h"
+
+#include <algorithm>
+
+namespace quorvel {
+
+FieldGroup& FieldGroup::AlsoUnder(CommitFlag flag) {
+  flag_ = flag;
+  return *this;
+}
+
+Field& FieldGroup::Add(std::unique_ptr<Field> field) {
+  return *fields_.emplace_back(std::move(field));
+}
+
+void FieldGroup::Fill(MuxData& record) {
+  for (int line = 0; line < lines_; ++line) {
+    for (const auto& field : fields_) field->FillLine(record, line);
+  }
+}
+
+void FieldGroup::Write(MuxData& record, CommitFlags& flags) {
+  std::optional<CommitScope> commit;
+  if (flag_) commit.emplace(flags, *flag_);
+  for (int line = 0; line < lines_; ++line) {
+    for (const auto& field : fields_) field->WriteLine(record, line);
+  }
+}
+
+void FieldGroup::Tell(MuxData& record, std::vector<ShownSetting>& told) const {
+  for (int line = 0; line < lines_; ++line) {
+    for (const auto& field : fields_) field->TellLine(record, line, told);
+  }
+}
+
+bool FieldGroup::Differs() const {
+  for (int line = 0; line < lines_; ++line) {
+    const auto differs = [line](const auto& field) { return field->Differs(line); };
+    if (std::any_of(fields_.begin(), fields_.end(), differs)) return true;
+  }
+  return false;
+}
+
+void Fields::Fill(MuxData& record) {
+  for (FieldGroup& group : groups_) group.Fill(record);
+}
+
+void Fields::Write(MuxData& record, CommitFlags& flags) {
+  for (FieldGroup& group : groups_) group.Write(record, flags);
+}
+
+std::vector<ShownSetting> Fields::Tell(MuxData& record) const {
+  std::vector<ShownSetting> told;
+  for (const FieldGroup& group : groups_) group.Tell(record, told);
+  return told;
+}
+
+bool Fields::Differ() const {
+  return std::any_of(groups_.begin(), groups_.end(),
+                     [](const FieldGroup& group) { return group.Differs(); });
+}
+
+}  // namespace quorvel

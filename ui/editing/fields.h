@@ -1,0 +1,85 @@
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/commit.h"
+#include "quorvel/widgets.h"
+#include "ui/editing/field.h"
+#include "ui/editing/grid_editing.h"
+
+namespace quorvel {
+
+/// Fields that are written line by line: all of the first camera, then all of the second. Within a
+/// line they are written in the order in which they were added, which is the order in which an
+/// installer finds the blocks listed.
+class FieldGroup {
+ public:
+  FieldGroup(Platform& platform, int lines) : platform_(platform), lines_(lines) {}
+  FieldGroup(const FieldGroup&) = delete;
+  FieldGroup& operator=(const FieldGroup&) = delete;
+  ~FieldGroup() = default;
+
+  /// The group is written while this flag is raised besides those of its editor.
+  FieldGroup& AlsoUnder(CommitFlag flag);
+  [[nodiscard]] int Lines() const { return lines_; }
+
+  /// A box that is ticked for 1; element k of an array is line k. Any other value but 0 shows as
+  /// unticked, and stays until the user clicks.
+  Field& Check(CheckBox& box, SettingRef setting);
+  Field& Check(ControlArray<CheckBox>& boxes, SettingRef setting);
+  /// A group of options, one for each line of `choices`, which captions them. A `name` is what
+  /// screen readers say before their captions; without one they know the frame around.
+  Field& Options(ControlArray<OptionButton>& options, Choices choices, SettingRef setting,
+                 std::string name = {});
+  Field& List(ChoiceWidget& list, Choices choices, SettingRef setting);
+  /// `shown` repeats the slider's value.
+  Field& Slide(Slider& slider, Label& shown, SettingRef setting);
+  Field& Pick(TimePicker& picker, SettingRef hour, SettingRef minute, SettingRef second);
+  Field& Pick(DatePicker& picker, SettingRef day, SettingRef month, SettingRef year);
+  /// A number from `least` to `most`; what is typed otherwise becomes `otherwise`.
+  Field& Port(TextBox& box, int least, int most, int otherwise, SettingRef setting);
+  /// The four numbers of a network address; `octets` is the setting of the first, in line 0.
+  Field& Octets(ControlArray<TextBox>& boxes, SettingRef octets);
+  /// A text of the device; element k of an array is line k.
+  Field& Text(TextBox& box, TextRef setting);
+  Field& Text(ControlArray<TextBox>& boxes, TextRef setting);
+  /// A column whose cells GridEditing knows already. Line 0 is the first row of data.
+  Field& Column(GridEditing& editing, Grid& grid, int column, SettingRef setting);
+  /// A field of an editor's own.
+  Field& Add(std::unique_ptr<Field> field);
+
+  void Fill(MuxData& record);
+  void Write(MuxData& record, CommitFlags& flags);
+  void Tell(MuxData& record, std::vector<ShownSetting>& told) const;
+  [[nodiscard]] bool Differs() const;
+
+ private:
+  Platform& platform_;
+  int lines_;
+  std::optional<CommitFlag> flag_;
+  std::vector<std::unique_ptr<Field>> fields_;
+};
+
+/// All fields of an editor, in the order in which they are written.
+class Fields {
+ public:
+  explicit Fields(Platform& platform) : platform_(platform) {}
+
+  /// A new group behind the others.
+  FieldGroup& Group(int lines) { return groups_.emplace_back(platform_, lines); }
+
+  void Fill(MuxData& record);
+  void Write(MuxData& record, CommitFlags& flags);
+  [[nodiscard]] std::vector<ShownSetting> Tell(MuxData& record) const;
+  [[nodiscard]] bool Differ() const;
+
+ private:
+  Platform& platform_;
+  std::deque<FieldGroup> groups_;
+};
+
+}  // namespace quorvel

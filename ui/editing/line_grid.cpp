@@ -1,0 +1,54 @@
+#include "ui/editing/line_grid.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/editing/editor.h"
+#include "ui/widgets/utf8.h"
+
+namespace quorvel {
+
+LineGrid::LineGrid(const EditorPart& part, Grid& grid, FieldGroup& group, const std::string& name,
+                   GridEditing::Release release)
+    : grid_(grid), group_(group), editing_(grid, release) {
+  part.editor_.grids_.push_back(this);
+  const int header_rows = grid_.HeaderRows();
+  grid_.SetSize(header_rows + group.Lines(), 1);
+  for (int row = 0; row < header_rows; ++row) grid_.SetCell(row, 0, name);
+  grid_.SetLeastWidth(0, CountCharacters(name));
+  for (int row = header_rows; row < grid_.Rows(); ++row) {
+    grid_.SetCell(row, 0, std::to_string(row - header_rows + 1));
+  }
+}
+
+int LineGrid::AddColumn(const std::string& header, const std::string& below) {
+  const int column = grid_.AddColumns(1);
+  grid_.SetCell(0, column, header);
+  if (grid_.HeaderRows() > 1) grid_.SetCell(1, column, below.empty() ? header : below);
+  // One name of several columns shares their width.
+  grid_.SetLeastWidth(column, CountCharacters(below.empty() ? header : below));
+  return column;
+}
+
+Field& LineGrid::AddField(int column, SettingRef setting) {
+  return group_.Column(editing_, grid_, column, std::move(setting));
+}
+
+Field& LineGrid::Bind(int column, ChoiceWidget& list, Choices choices, SettingRef setting,
+                      ColumnRules rules) {
+  editing_.Bind(column, list, std::move(choices), std::move(rules));
+  return AddField(column, std::move(setting));
+}
+
+Field& LineGrid::Bind(int column, Slider& slider, Label& shown, SettingRef setting,
+                      ColumnRules rules) {
+  editing_.Bind(column, slider, shown, std::move(rules));
+  return AddField(column, std::move(setting));
+}
+
+Field& LineGrid::Bind(int column, TimePicker& picker, SettingRef setting, ColumnRules rules) {
+  editing_.Bind(column, picker, std::move(rules));
+  return AddField(column, std::move(setting));
+}
+
+}  // namespace quorvel

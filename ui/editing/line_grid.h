@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+
+#include "ui/editing/editor_part.h"
+
+namespace quorvel {
+
+/// A grid of a line for every camera, alarm, timer: numbered from 1, with a column for each
+/// setting, which one description heads, fills, edits and writes. No column is narrower than its
+/// name.
+class LineGrid {
+ public:
+  /// `name` heads the column of the numbers. The columns are fields of `group`, which has a line
+  /// for each of the grid's.
+  LineGrid(const EditorPart& part, Grid& grid, FieldGroup& group, const std::string& name,
+           GridEditing::Release release = GridEditing::Release::kWrites);
+  LineGrid(const LineGrid&) = delete;
+  LineGrid& operator=(const LineGrid&) = delete;
+  ~LineGrid() = default;
+
+  /// Adds a column at the right; returns its number. In a grid with two header rows, `below` is the
+  /// second one's text, or nothing where one name stands for both.
+  int AddColumn(const std::string& header, const std::string& below = {});
+
+  /// Binds a column to the control that edits it and to its setting.
+  Field& Bind(int column, ChoiceWidget& list, Choices choices, SettingRef setting,
+              ColumnRules rules = {});
+  Field& Bind(int column, Slider& slider, Label& shown, SettingRef setting, ColumnRules rules = {});
+  /// Minutes of the day.
+  Field& Bind(int column, TimePicker& picker, SettingRef setting, ColumnRules rules = {});
+  /// Adds a column and binds it.
+  Field& Column(const std::string& header, ChoiceWidget& list, Choices choices, SettingRef setting,
+                ColumnRules rules = {}) {
+    return Bind(AddColumn(header), list, std::move(choices), std::move(setting), std::move(rules));
+  }
+
+  /// Makes the first cell current, as when the page comes to the front.
+  void GoToStart() { editing_.GoTo(grid_.HeaderRows(), 1); }
+  [[nodiscard]] GridEditing& Editing() { return editing_; }
+
+ private:
+  Field& AddField(int column, SettingRef setting);
+
+  Grid& grid_;
+  FieldGroup& group_;
+  GridEditing editing_;
+};
+
+}  // namespace quorvel

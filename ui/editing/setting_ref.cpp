@@ -1,0 +1,126 @@
+#include "ui/editing/setting_ref.h"
+
+#include "core/layout/survey_pass.h"
+
+namespace quorvel {
+
+namespace setting_ref_detail {
+
+std::string NameOf(const SettingOwner& owner, const char* name, int entry) {
+  return layout::FullName(owner, name, entry);
+}
+
+}  // namespace setting_ref_detail
+
+namespace {
+
+constexpr int kHours = 24;
+constexpr int kMinutes = 60;
+constexpr int kByteValues = 256;
+constexpr int kNoTime = 1 << 16;  // from here on: an hour and a minute that no clock shows
+
+class JoinedAccess final : public SettingAccess<int> {
+ public:
+  using Join = std::function<int(const std::vector<int>&)>;
+  using Part = std::function<void(int, std::vector<int>&)>;
+  JoinedAccess(std::vector<SettingRef> settings, Join join, Part part)
+      : settings_(std::move(settings)), join_(std::move(join)), part_(std::move(part)) {}
+
+  [[nodiscard]] int Get(MuxData& record, int line) const override {
+    return join_(Values(record, line));
+  }
+  void Set(MuxData& record, int line, int value) const override {
+    std::vector<int> values = Values(record, line);
+    part_(value, values);
+    for (std::size_t i = 0; i < settings_.size(); ++i) {
+      settings_[i].Access().Set(record, line, values.at(i));
+    }
+  }
+  void AddNames(MuxData& record, int line, std::vector<std::string>& names) const override {
+    for (const SettingRef& setting : settings_) setting.Access().AddNames(record, line, names);
+  }
+
+ private:
+  [[nodiscard]] std::vector<int> Values(MuxData& record, int line) const {
+    std::vector<int> values;
+    for (const SettingRef& setting : settings_) {
+      values.push_back(setting.Access().Get(record, line));
+    }
+    return values;
+  }
+
+  std::vector<SettingRef> settings_;
+  Join join_;
+  Part part_;
+};
+
+class BitsAccess final : public SettingAccess<int> {
+ public:
+  BitsAccess(SettingRef mask, std::vector<int> bits)
+      : mask_(std::move(mask)), bits_(std::move(bits)) {}
+
+  [[nodiscard]] int Get(MuxData& record, int line) const override {
+    return GetBit(Mask(record, line), Bit(line));
+  }
+  void Set(MuxData& record, int line, int value) const override {
+    Byte mask = Mask(record, line);
+    SetBit(mask, Bit(line), value != 0);
+    mask_.Access().Set(record, line, mask);
+  }
+  void AddNames(MuxData& record, int line, std::vector<std::string>& names) const override {
+    mask_.Access().AddNames(record, line, names);
+    for (std::string& name : names) name += " bit " + std::to_string(Bit(line));
+  }
+
+ private:
+  [[nodiscard]] int Bit(int line) const { return bits_.at(static_cast<std::size_t>(line)); }
+  [[nodiscard]] Byte Mask(MuxData& record, int line) const {
+    return static_cast<Byte>(mask_.Access().Get(record, line));
+  }
+
+  SettingRef mask_;
+  std::vector<int> bits_;
+};
+
+}  // namespace
+
+SettingRef SettingRef::Otherwise(int value) const {
+  SettingRef ref = *this;
+  ref.taken_for_ = value;
+  ref.written_ = value;
+  return ref;
+}
+
+SettingRef SettingRef::OtherwiseWritten(int value) const {
+  SettingRef ref = *this;
+  ref.written_ = value;
+  return ref;
+}
+
+SettingRef Joined(std::vector<SettingRef> settings,
+                  std::function<int(const std::vector<int>&)> join,
+                  std::function<void(int, std::vector<int>&)> part) {
+  return SettingRef(
+      std::make_shared<JoinedAccess>(std::move(settings), std::move(join), std::move(part)));
+}
+
+SettingRef TimeOf(SettingRef hour, SettingRef minute) {
+  return Joined(
+      {std::move(hour), std::move(minute)},
+      [](const std::vector<int>& time) {
+        const bool exists = time.at(0) < kHours && time.at(1) < kMinutes;
+        return exists ? time.at(0) * kMinutes + time.at(1)
+                      : kNoTime + time.at(0) * kByteValues + time.at(1);
+      },
+      [](int value, std::vector<int>& time) {
+        const int base = value < kNoTime ? kMinutes : kByteValues;
+        const int number = value < kNoTime ? value : value - kNoTime;
+        time = {number / base, number % base};
+      });
+}
+
+SettingRef BitsOf(SettingRef mask, std::vector<int> bits) {
+  return SettingRef(std::make_shared<BitsAccess>(std::move(mask), std::move(bits)));
+}
+
+}  // namespace quorvel
