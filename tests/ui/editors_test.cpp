@@ -3,31 +3,10 @@
 #include <set>
 
 #include "tests/host/test_host.h"
+#include "tests/ui/editor_items.h"
 
 namespace quorvel {
 namespace {
-
-/// The items of a menu that can be chosen and open an editor, those of its submenus included.
-std::vector<std::string> EditorItems(const MenuItem& menu) {
-  static const std::set<std::string> others = {"mnu_Exit", "mnuActGrid", "mnu_FPanelLock",
-                                               "mnu_Factory"};
-  std::vector<std::string> names;
-  for (const MenuItem& item : menu.children) {
-    if (item.separator || !item.visible || !item.enabled || others.contains(item.name)) continue;
-    if (item.children.empty()) names.push_back(item.name);
-    for (const std::string& name : EditorItems(item)) names.push_back(name);
-  }
-  return names;
-}
-
-/// Opens the editor of an item; a null pointer when nothing opens.
-std::shared_ptr<Dialog> OpenEditor(TestHost& host, const std::string& item) {
-  host.OpenMenu();
-  const auto windows = host.platform.Windows().size();
-  EXPECT_EQ(host.platform.ChooseMenu(item), Answer::kDone);
-  if (host.platform.Windows().size() != windows + 1) return nullptr;
-  return host.platform.Windows().back()->shared_from_this();
-}
 
 /// Of every editor that a model has: a factory image holds what it can show.
 TEST(Editors, OpenAndOkMarksNothingOnAnyModel) {

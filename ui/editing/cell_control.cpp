@@ -14,7 +14,7 @@ class List {
  public:
   List(ChoiceWidget& list, Choices choices) : list_(list), choices_(std::move(choices)) {}
 
-  [[nodiscard]] bool Is(const Widget& widget) const { return &list_ == &widget; }
+  [[nodiscard]] const Widget& Control() const { return list_; }
   [[nodiscard]] const Choices& Lines() const { return choices_; }
   void Show(int value) { ShowIn(choices_, value); }
   /// Shows a value among lines of its own, which the list then offers.
@@ -43,7 +43,7 @@ class ListCells : public CellControl {
   ListCells(ChoiceWidget& list, Choices choices, ChoicesOfRow of_row)
       : list_(list, std::move(choices)), of_row_(std::move(of_row)) {}
 
-  [[nodiscard]] bool Is(const Widget& widget) const override { return list_.Is(widget); }
+  [[nodiscard]] const Widget& Control() const override { return list_.Control(); }
   [[nodiscard]] std::string TextOf(int /*part*/, int value) const override {
     return list_.Lines().TextOf(value);
   }
@@ -72,8 +72,9 @@ class ListPairCells : public CellControl {
  public:
   ListPairCells(List one, List other) : lists_{std::move(one), std::move(other)} {}
 
+  [[nodiscard]] const Widget& Control() const override { return lists_[0].Control(); }
   [[nodiscard]] bool Is(const Widget& widget) const override {
-    return lists_[0].Is(widget) || lists_[1].Is(widget);
+    return &lists_[0].Control() == &widget || &lists_[1].Control() == &widget;
   }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return At(part).Lines().TextOf(value);
@@ -101,7 +102,7 @@ class SliderCells : public CellControl {
  public:
   SliderCells(Slider& slider, Label& shown) : slider_(slider), shown_(shown) {}
 
-  [[nodiscard]] bool Is(const Widget& widget) const override { return &slider_ == &widget; }
+  [[nodiscard]] const Widget& Control() const override { return slider_; }
   [[nodiscard]] std::string TextOf(int /*part*/, int value) const override {
     return value < 0 ? "" : std::to_string(value);
   }
@@ -134,7 +135,7 @@ class TimeCells : public CellControl {
  public:
   explicit TimeCells(TimePicker& picker) : picker_(picker) {}
 
-  [[nodiscard]] bool Is(const Widget& widget) const override { return &picker_ == &widget; }
+  [[nodiscard]] const Widget& Control() const override { return picker_; }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return Offers(part, value)
                ? TimeText(ClockFormat::kHoursMinutes, {value / kMinutes, value % kMinutes, 0})
@@ -167,7 +168,7 @@ class HourAndMinuteCells : public CellControl {
  public:
   explicit HourAndMinuteCells(TimePicker& picker) : whole_(picker) {}
 
-  [[nodiscard]] bool Is(const Widget& widget) const override { return whole_.Is(widget); }
+  [[nodiscard]] const Widget& Control() const override { return whole_.Control(); }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return Offers(part, value) ? NumberText(value, 2) : "";
   }

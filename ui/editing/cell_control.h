@@ -19,8 +19,10 @@ class CellControl {
   CellControl(const CellControl&) = delete;
   CellControl& operator=(const CellControl&) = delete;
 
-  /// Whether the control is `widget`: what a person has just used.
-  [[nodiscard]] virtual bool Is(const Widget& widget) const = 0;
+  /// The control, the first of two.
+  [[nodiscard]] virtual const Widget& Control() const = 0;
+  /// Whether `widget`, which a person has just used, is the control.
+  [[nodiscard]] virtual bool Is(const Widget& widget) const { return &Control() == &widget; }
   /// Cell text of a value; empty for one that reads as nothing.
   [[nodiscard]] virtual std::string TextOf(int part, int value) const = 0;
   /// The first value that a person can choose and whose cell reads so, or kNone.

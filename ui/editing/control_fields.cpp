@@ -312,6 +312,7 @@ class ColumnField final : public ValueField {
   }
   [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return grid_; }
   void TellPlace(int line, ShownSetting& shown) const override {
+    shown.edited_by = editing_.ControlOf(column_);
     shown.row = RowOf(line);
     shown.column = column_;
     shown.caption = grid_.ColumnName(column_);

@@ -16,7 +16,8 @@ namespace quorvel {
 /// What an editor tells of a setting that it shows.
 struct ShownSetting {
   std::vector<std::string> settings;  ///< "CamInfo(3).SignalGain"; several behind one control
-  const Widget* control = nullptr;    ///< the grid, for a cell
+  const Widget* control = nullptr;    ///< the grid, for a cell; the first of an array
+  const Widget* edited_by = nullptr;  ///< the control beside the grid that edits the cell
   int row = Grid::kNone;              ///< of a cell, counted with the header
   int column = Grid::kNone;
   std::string page;     ///< caption of its page; empty in an editor without pages

@@ -87,6 +87,11 @@ bool GridEditing::Offers(int column, int value) const {
   return binding != nullptr && binding->control->Offers(binding->PartOf(column), value);
 }
 
+const Widget* GridEditing::ControlOf(int column) const {
+  const Binding* const binding = BindingOf(column);
+  return binding == nullptr ? nullptr : &binding->control->Control();
+}
+
 std::string GridEditing::TextOf(int column, int value) const {
   const Binding* const binding = BindingOf(column);
   return binding == nullptr ? "" : binding->control->TextOf(binding->PartOf(column), value);

@@ -78,6 +78,8 @@ class GridEditing {
   /// The value that a cell stands for, or Grid::kNone; and whether a column's control offers one.
   [[nodiscard]] int ValueAt(int row, int column) const { return grid_.Value(row, column); }
   [[nodiscard]] bool Offers(int column, int value) const;
+  /// The control that edits a column, the first of two; none for a column that is not bound.
+  [[nodiscard]] const Widget* ControlOf(int column) const;
   /// How a value reads in a cell of a bound column.
   [[nodiscard]] std::string TextOf(int column, int value) const;
 

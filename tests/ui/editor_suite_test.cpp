@@ -1,0 +1,297 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <map>
+#include <random>
+#include <set>
+
+#include "tests/host/test_host.h"
+#include "tests/ui/editor_items.h"
+#include "ui/editing/editor.h"
+
+namespace quorvel {
+namespace {
+
+/// Settings that OK writes anew where the device holds what no control offers: what the device's
+/// own rules of writing say.
+const std::set<std::string> kPutRight = {"AlarmInfo.Enable",
+                                         "AlarmInfo.InputConf",
+                                         "AlarmInfo.ExtAlmAction",
+                                         "AlmActionInfo.Freeze",
+                                         "AlmActionInfo.Relay",
+                                         "AlmActionInfo.GateIntrus",
+                                         "AlarmMode",
+                                         "Buzzer",
+                                         "CamInfo.TextPos",
+                                         "DvrArchAlm",
+                                         "FullScrResolution",
+                                         "AutoDisable",
+                                         "PreAlDuration",
+                                         "PresetMode",
+                                         "PresetPGM",
+                                         "SVHS_MonB",
+                                         "TelAC_DC",
+                                         "TelEnable",
+                                         "Tel_options"};
+
+/// "CamInfo(3).TextPos" without its index.
+std::string WithoutIndex(std::string name) {
+  for (auto open = name.find('('); open != std::string::npos; open = name.find('(')) {
+    name.erase(open, name.find(')') - open + 1);
+  }
+  return name;
+}
+
+/// A device of a model with random settings, on the bench of an installer who tries everything.
+class Bench {
+ public:
+  Bench(Byte cameras, Byte code, Byte variant, unsigned seed) : random_(seed) {
+    constexpr Byte kBlocks = 225;
+    host_.device = BlockImage(std::vector<Byte>(kBlocks * std::size_t{kBlockSize}));
+    for (int number = 1; number <= kBlocks; ++number) {
+      // Small values are often choices, others never.
+      const int limit = Below(3) == 0 ? 256 : 4;
+      for (Byte& byte : host_.device.Block(number)) byte = static_cast<Byte>(Below(limit));
+    }
+    host_.device.Block(1)[kBlockCountByte] = kBlocks;
+    host_.Identify(cameras, code, variant);
+    host_.Download();
+    host_.platform.TakeMessages();
+    host_.OpenMenu();  // on a duplex model the menu locks the keyboard by itself
+    device_ = Values();
+  }
+
+  std::vector<std::string> Items() {
+    host_.OpenMenu();
+    return EditorItems(host_.platform.Menu().Root());
+  }
+  /// Opens an editor, and leaves it open.
+  Editor& Open(const std::string& item) {
+    dialog_ = OpenEditor(host_, item);
+    return dynamic_cast<Editor&>(*dialog_);
+  }
+  void Accept() { EXPECT_EQ(dialog_->DefaultButton()->Click(), Answer::kDone); }
+  int Below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
+
+  /// What the record holds, by name.
+  std::map<std::string, std::string> Values() {
+    std::map<std::string, std::string> values;
+    for (const SettingLine& line : host_.control->Settings("")) values[line.name] = line.value;
+    return values;
+  }
+  /// The settings that are not as in the device, by name without index.
+  std::set<std::string> Changed() {
+    std::set<std::string> names;
+    for (const auto& [name, value] : Values()) {
+      if (device_.at(name) != value) names.insert(WithoutIndex(name));
+    }
+    return names;
+  }
+  /// Every block in which something differs from the device is listed, and no other: but of an
+  /// e-mail address the three blocks of a half together, and, when something was changed before,
+  /// blocks that have been changed back.
+  void ExpectListedWhatChanged(bool changed_before = false) {
+    std::set<int> changed;
+    const auto differences = host_.control->DifferencesFrom(host_.device.Bytes());
+    ASSERT_TRUE(differences);
+    for (const SettingDifference& it : *differences) {
+      if (it.name == "LockKeyBoard") continue;
+      for (const int block : it.blocks) {
+        if (!IsDeviceBlock(block)) changed.insert(block);
+      }
+    }
+    const auto listed = host_.Modified();
+    for (const int block : changed) {
+      EXPECT_TRUE(std::ranges::count(listed, block) == 1) << "not listed: " << block;
+    }
+    for (const int block : listed) {
+      const bool of_address = clsEmailNotify::TextIndex(block).has_value();
+      if (changed_before || of_address) continue;
+      EXPECT_TRUE(changed.contains(block)) << "listed for nothing: " << block;
+    }
+  }
+  [[nodiscard]] TestHost& Host() { return host_; }
+
+ private:
+  TestHost host_;
+  std::mt19937 random_;
+  std::shared_ptr<Dialog> dialog_;
+  std::map<std::string, std::string> device_;
+};
+
+/// Uses a control as a person does, to choose something; false when it is refused.
+bool Use(Bench& bench, Widget& control) {
+  if (auto* const list = dynamic_cast<ChoiceWidget*>(&control)) {
+    return list->Count() > 0 && list->Choose(bench.Below(list->Count())) == Answer::kDone;
+  }
+  if (auto* const box = dynamic_cast<CheckBox*>(&control)) {
+    return (bench.Below(2) == 0 || box->Click() == Answer::kDone) && box->Click() == Answer::kDone;
+  }
+  if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
+    auto& group = *option->GetGroup();
+    return group[static_cast<std::size_t>(bench.Below(static_cast<int>(group.size())))].Click() ==
+           Answer::kDone;
+  }
+  if (auto* const slider = dynamic_cast<Slider*>(&control)) {
+    const int range = slider->Maximum() - slider->Minimum() + 1;
+    return slider->Slide(slider->Minimum() + bench.Below(range)) == Answer::kDone;
+  }
+  if (auto* const picker = dynamic_cast<TimePicker*>(&control)) {
+    return picker->Pick({bench.Below(24), bench.Below(60), bench.Below(60)}) == Answer::kDone;
+  }
+  if (auto* const picker = dynamic_cast<DatePicker*>(&control)) {
+    return picker->Pick({2000 + bench.Below(60), 1 + bench.Below(12), 1 + bench.Below(28)}) ==
+           Answer::kDone;
+  }
+  if (auto* const box = dynamic_cast<TextBox*>(&control)) {
+    const std::string name = "Unit " + std::to_string(bench.Below(1000));
+    const std::string number = std::to_string(bench.Below(70000));
+    return box->Type(box->ShownLength() > 10 ? name : number) == Answer::kDone;
+  }
+  return false;
+}
+
+Widget& Mutable(const Dialog& dialog, const Widget& widget) {
+  return *dialog.FindWidget(widget.Name());
+}
+
+/// Chooses in the control of every setting that is in sight; returns the values that were chosen.
+std::map<std::string, int> ChooseEverywhere(Bench& bench, Editor& editor) {
+  std::vector<std::size_t> used;
+  const auto choose_in_sight = [&] {
+    const auto settings = editor.ShownSettings();
+    for (std::size_t i = 0; i < settings.size(); ++i) {
+      const ShownSetting& shown = settings[i];
+      if (!shown.control->Showing()) continue;
+      if (shown.edited_by != nullptr) {
+        auto& grid = dynamic_cast<Grid&>(Mutable(editor, *shown.control));
+        const std::string was = grid.Cell(shown.row, shown.column);
+        EXPECT_EQ(grid.Press(shown.row, shown.column), Answer::kDone);
+        EXPECT_EQ(grid.Cell(shown.row, shown.column), was) << "looking changes nothing";
+      }
+      const Widget& control = shown.edited_by == nullptr ? *shown.control : *shown.edited_by;
+      if (Use(bench, Mutable(editor, control))) used.push_back(i);
+    }
+  };
+  auto* const tabs = dynamic_cast<TabStrip*>(editor.FindWidget("SSTab1"));
+  if (tabs == nullptr) choose_in_sight();
+  for (int page = 0; tabs != nullptr && page < tabs->Count(); ++page) {
+    if (tabs->Choose(page) == Answer::kDone) choose_in_sight();
+  }
+  std::map<std::string, int> chosen;
+  const auto settings = editor.ShownSettings();
+  for (const std::size_t i : used) {
+    const ShownSetting& now = settings.at(i);
+    if (now.value && now.settings.size() == 1) chosen[now.settings.front()] = *now.value;
+  }
+  return chosen;
+}
+
+/// Whether a setting that reads so holds the value; of a mask, the bit that its name ends with.
+bool Holds(const std::map<std::string, std::string>& values, const std::string& name, int value) {
+  const auto bit = name.find(" bit ");
+  const std::string text = values.at(name.substr(0, bit));
+  if (text == "yes" || text == "no") return (text == "yes") == (value == 1);
+  const int number = std::stoi(text);
+  if (bit != std::string::npos) return (number >> std::stoi(name.substr(bit + 5)) & 1) == value;
+  return number == value + (name == "AlarmTimeOut" ? 1 : 0);  // counts from 1 in words
+}
+
+/// Runs `trial` for devices of every model, all with other cameras, variants and settings.
+/// QUORVEL_SUITE_ROUNDS says how often, for whoever has the time.
+template <class Trial>
+void ForEveryModel(const Trial& trial) {
+  const char* const rounds = std::getenv("QUORVEL_SUITE_ROUNDS");
+  constexpr Byte kCameras[] = {4, 9, 10, 16};
+  constexpr char kVariants[] = {'4', '0', '1', '2', 'A', 'C'};
+  for (unsigned round = 0; round < (rounds == nullptr ? 1U : std::stoul(rounds)); ++round) {
+    for (unsigned code = 0; code <= 20; ++code) {
+      const unsigned seed = round * 21 + code;
+      const Byte cameras = kCameras[(code + round) % 4];
+      const char variant = kVariants[(code + round * 5) % 6];
+      SCOPED_TRACE("model " + std::to_string(code) + " variant " + variant + " cameras " +
+                   std::to_string(cameras) + " seed " + std::to_string(seed));
+      Bench first(cameras, static_cast<Byte>(code), static_cast<Byte>(variant), seed);
+      for (const std::string& item : first.Items()) {
+        SCOPED_TRACE(item);
+        Bench bench(cameras, static_cast<Byte>(code), static_cast<Byte>(variant), seed);
+        trial(bench, item);
+        if (testing::Test::HasFailure()) return;
+      }
+    }
+  }
+}
+
+TEST(EditorSuite, AnUntouchedOkPutsRightWhatTheRulesSayAndNothingElse) {
+  ForEveryModel([](Bench& bench, const std::string& item) {
+    bench.Open(item);
+    bench.Accept();
+    for (const std::string& name : bench.Changed()) EXPECT_TRUE(kPutRight.contains(name)) << name;
+    bench.ExpectListedWhatChanged();
+  });
+}
+
+TEST(EditorSuite, EveryChoiceReachesItsSettingAndIsShownAgain) {
+  ForEveryModel([](Bench& bench, const std::string& item) {
+    Editor& editor = bench.Open(item);
+    const auto chosen = ChooseEverywhere(bench, editor);
+    EXPECT_FALSE(chosen.empty());
+    bench.Accept();
+    const auto values = bench.Values();
+    for (const auto& [name, value] : chosen) {
+      EXPECT_TRUE(Holds(values, name, value))
+          << name << " = " << value << ", not " << values.at(name.substr(0, name.find(" bit ")));
+    }
+    bench.ExpectListedWhatChanged();
+    for (const ShownSetting& shown : bench.Open(item).ShownSettings()) {
+      EXPECT_FALSE(shown.differs) << shown.settings.front();
+      const auto found = chosen.find(shown.settings.front());
+      if (found == chosen.end()) continue;
+      EXPECT_EQ(shown.value, found->second) << found->first;
+    }
+  });
+}
+
+TEST(EditorSuite, CancelAndTheCloseButtonWriteNothing) {
+  ForEveryModel([](Bench& bench, const std::string& item) {
+    for (const bool cancel : {true, false}) {
+      Editor& editor = bench.Open(item);
+      ChooseEverywhere(bench, editor);
+      EXPECT_EQ(cancel ? editor.CancelButton()->Click() : editor.CloseWindow(), Answer::kDone);
+      EXPECT_EQ(bench.Changed(), std::set<std::string>{});
+      EXPECT_EQ(bench.Host().Modified(), std::vector<int>{});
+    }
+  });
+}
+
+/// A user who presses, drags, chooses, types and turns pages as he likes.
+void Wander(Bench& bench, Editor& editor, int steps) {
+  const auto& widgets = editor.Widgets();
+  while (steps-- > 0) {
+    Widget& widget =
+        *widgets[static_cast<std::size_t>(bench.Below(static_cast<int>(widgets.size())))];
+    if (auto* const grid = dynamic_cast<Grid*>(&widget)) {
+      const int row = bench.Below(grid->Rows());
+      grid->Press(row, bench.Below(grid->Columns()));
+      if (bench.Below(2) == 0) grid->Release(row, bench.Below(grid->Rows()));
+      if (bench.Below(8) == 0) grid->Empty();
+    } else if (auto* const tabs = dynamic_cast<TabStrip*>(&widget)) {
+      tabs->Choose(bench.Below(tabs->Count()));
+    } else {
+      Use(bench, widget);
+    }
+  }
+}
+
+TEST(EditorSuite, ARandomUserChangesWhatIsListed) {
+  ForEveryModel([](Bench& bench, const std::string& item) {
+    for (int turn = 0; turn < 3; ++turn) {
+      Wander(bench, bench.Open(item), 60);
+      bench.Accept();
+      bench.ExpectListedWhatChanged(turn > 0);
+    }
+  });
+}
+
+}  // namespace
+}  // namespace quorvel
