@@ -160,7 +160,6 @@ void EncodeClock(FlatRecord& rec, Bytes image) {
   clock[14] = rec.archive_cdw;
   const Bytes servers = Block(image, 217);
   servers[0] = rec.server_change;
-  rec.server_change = 0;
   servers[1] = rec.server_update;
   Copy(rec.server, 4, servers + 2);
   Copy(rec.backup_server, 4, servers + 6);
@@ -204,7 +203,6 @@ void EncodeNotification(FlatRecord& rec, Bytes image) {
   ports[14] = Low(rec.tcp_port);
   const Bytes hosts = Block(image, 213);
   hosts[0] = rec.host_change;
-  rec.host_change = 0;
   Copy(rec.smtp_host, 4, hosts + 1);
   Copy(rec.tcp_host, 4, hosts + 5);
   Copy(rec.tcp_backup_host, 4, hosts + 9);

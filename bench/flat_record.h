@@ -83,7 +83,7 @@ struct FlatRecord {
 /// Repairs compression nibbles in the image, as the decoder does.
 void DecodeFlat(std::uint8_t* image, FlatRecord& rec);
 
-/// Writes all settings into a 225-block image and clears the two change masks.
+/// Writes all settings into a 225-block image.
 void EncodeFlat(FlatRecord& rec, std::uint8_t* image);
 
 }  // namespace quorvel::bench

@@ -78,7 +78,7 @@ void EncodeModifiedBlocks(BlockImage& image, RecordEnvironment& env, MuxData& re
                           const TimeOfDay* pc_time) {
   BlockSet blocks;
   for (Byte i = 0; i < env.blocks.BlkSavIdx(); ++i) blocks.set(env.blocks.BlkNumSav(i));
-  if (blocks[kClockBlock] && pc_time != nullptr) {
+  if (blocks[kClockBlock] && image.Counts(kClockBlock) && pc_time != nullptr) {
     rec.TDInfo.CurrentHour.Load(static_cast<std::int16_t>(pc_time->hour));
     rec.TDInfo.CurrentMin.Load(static_cast<std::int16_t>(pc_time->minute));
     rec.TDInfo.CurrentSec.Load(static_cast<std::int16_t>(pc_time->second));

@@ -21,13 +21,15 @@ void DecodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec);
 
 /// Writes block `number` of the image anew from the record. Bytes that carry no setting keep their
 /// content; blocks that hold no editable setting, or that the image does not hold, stay as they
-/// are. Encoding the change-mask blocks 213 and 217 clears their masks in the record.
+/// are. What tells the device of a change is written as well, and stays in the record until the
+/// device has been told (core/change_marks.h).
 void EncodeBlock(int number, BlockImage& image, RecordEnvironment& env, MuxData& rec);
 
 /// Writes every block that the image holds: for images made from scratch.
 void EncodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec);
 
-/// Encodes every listed block. With `pc_time`, block 61 takes the clock from it.
+/// Encodes every listed block. With `pc_time`, block 61 takes the clock from it, where there is
+/// one.
 void EncodeModifiedBlocks(BlockImage& image, RecordEnvironment& env, MuxData& rec,
                           const TimeOfDay* pc_time = nullptr);
 

@@ -67,7 +67,12 @@ std::span<const Byte> CombinedArray::Bytes() const {
 }
 
 bool CombinedArray::HoldsImage() const {
-  return header_.Agrees() && bytes_.size() >= static_cast<std::size_t>(header_.TotalLength());
+  const auto needed = static_cast<std::size_t>(header_.HdrLen + header_.DataLen);
+  return header_.Agrees() && bytes_.size() >= needed;
+}
+
+bool CombinedArray::HoldsMacros() const {
+  return HoldsImage() && bytes_.size() >= static_cast<std::size_t>(header_.TotalLength());
 }
 
 BlockImage CombinedArray::Image() const {
@@ -100,11 +105,17 @@ void CombinedArray::PutBlock(const BlockImage& image, int number) {
   std::copy(block.begin(), block.end(), data.begin() + static_cast<std::ptrdiff_t>(at));
 }
 
+void CombinedArray::PutByte(int number, std::size_t at, Byte value) {
+  const auto data = Data();
+  const auto place = static_cast<std::size_t>(number - 1) * kBlockSize + at;
+  if (place < data.size()) data[place] = value;
+}
+
 std::vector<Byte> CombinedArray::Outgoing(bool include_data, bool include_macros) const {
   const auto all = Bytes();
   std::vector<Byte> bytes(all.begin(), all.end());
   if (!include_data) PutWord(bytes, kDataLen, 0);
-  if (!include_macros) PutWord(bytes, kMacroLen, 0);
+  if (!include_macros || !HoldsMacros()) PutWord(bytes, kMacroLen, 0);
   return bytes;
 }
 

@@ -48,18 +48,24 @@ class CombinedArray {
   /// Header, block data and macro data as the header counts them, as far as they are here.
   [[nodiscard]] std::span<const Byte> Bytes() const;
 
-  /// True when the fields agree and all bytes that they count are here: only then it has an image.
+  /// True when the fields agree and all block data that they count is here: only then it has an
+  /// image.
   [[nodiscard]] bool HoldsImage() const;
+  /// True when all macro data that is counted is here as well.
+  [[nodiscard]] bool HoldsMacros() const;
   /// The block data; throws ImageError unless HoldsImage.
   [[nodiscard]] BlockImage Image() const;
-  /// True when it is whole and has room for every block of the image.
+  /// True when it has an image, and room for every block of this one.
   [[nodiscard]] bool Carries(const BlockImage& image) const;
 
   /// Copies an image, or one block of it, into the block data, as far as both reach.
   void PutImage(const BlockImage& image);
   void PutBlock(const BlockImage& image, int number);
+  /// Sets byte `at` of block `number` (from 1), if the block data reaches so far.
+  void PutByte(int number, std::size_t at, Byte value);
 
-  /// The bytes to send. What is not included has length 0 in the header; its bytes stay in place.
+  /// The bytes to send. What is not included, and macro data that is not all here, has length 0 in
+  /// the header; its bytes stay in place.
   [[nodiscard]] std::vector<Byte> Outgoing(bool include_data, bool include_macros) const;
 
  private:

@@ -50,7 +50,7 @@ void FixUpForCombinedSend(BlockImage& image, const RecordEnvironment& env, MuxDa
                           bool use_pc_time) {
   const Identity& id = env.identity;
   const int count = image.BlkCountOrZero();
-  Put(image, 61, 15, use_pc_time ? 0 : 1);
+  if (id.IsTriplex()) Put(image, 61, 15, use_pc_time ? Byte{0} : rec.PlayDwell());
   if (count >= 213) Put(image, 213, 0, id.LiteRecordModel ? 1 : 7);
   if (count >= 217) Put(image, 217, 0, 3);
   if (count >= kTurboBlock && id.PlexarProModel) PutTurboRates(image, env, rec);

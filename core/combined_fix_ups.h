@@ -7,10 +7,10 @@ namespace quorvel {
 
 class MuxData;
 
-/// Sets the bytes that a device expects in an image that it takes as a whole: whether the clock in
-/// it is the computer's, how its lists are laid out, and where a rate index means the turbo rate.
-/// Blocks that the image does not hold are passed over. The clock's byte is that of PlayDwell below
-/// model code 6: such a device takes 0 or 1 for it from a send of all blocks.
+/// Sets the bytes that a device expects in an image that it takes as a whole: whether it is to take
+/// the clock (0), because that is the computer's or was edited, how its lists are laid out, and
+/// where a rate index means the turbo rate. Blocks that the image does not hold are passed over.
+/// Below model code 6 the clock's byte is the setting PlayDwell and stays as it is.
 void FixUpForCombinedSend(BlockImage& image, const RecordEnvironment& env, MuxData& rec,
                           bool use_pc_time);
 

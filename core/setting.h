@@ -68,8 +68,14 @@ struct Untracked {
 /// The decoder fills the setting and nobody edits it.
 struct ReadOnly {};
 
+/// A rule whose setting has an upper limit: a larger number is taken as `kMost`.
+template <class Rule>
+concept Limiting = requires {
+  Rule::kMost;
+};
+
 /// For a block that tells the device, in a mask of its own, which of several values changed: lists
-/// the block and marks bit `bit` of the mask. The encoder writes the mask and clears it.
+/// the block and marks bit `bit` of the mask. The encoder writes the mask.
 template <class Mask>
 void RecordInMask(SettingOwner& owner, CommitFlag flag, int block, Mask& mask, int bit) {
   if (!owner.Record(flag, block)) return;
@@ -133,9 +139,10 @@ struct Filler<true> {
 
 /// One setting: `rec.AlarmMode()` reads, `rec.AlarmMode(2)` sets. A set that changes the value
 /// lists what the rule says (a block, while the commit flag of its editor is raised); then the
-/// value is stored.
+/// value is stored. What is special about a setting is its rule's: a class derived from it could
+/// let a setter in that its own was to replace.
 template <SettingName name, class T, class Rule = Untracked, class Unit = NoUnit>
-class Setting {
+class Setting final {
  public:
   using Value = T;
   using UnitType = Unit;
@@ -151,12 +158,13 @@ class Setting {
 
   [[nodiscard]] const T& operator()() const { return value_; }
   void operator()(T value) requires(!std::same_as<Rule, ReadOnly>) {
+    value = Limited(std::move(value));
     if (!(value == value_)) Rule::Changed(owner_.Of(this), 0);
     value_ = std::move(value);
   }
 
   /// Stores without tracking: for the decoder. A text keeps its storage.
-  void Load(T value) { value_ = std::move(value); }
+  void Load(T value) { value_ = Limited(std::move(value)); }
   void Load(std::string_view text) requires std::same_as<T, std::string> { value_.assign(text); }
 
   [[nodiscard]] static const char* Name() { return name.text; }
@@ -165,6 +173,14 @@ class Setting {
   [[nodiscard]] static int EntryIndex() { return kNoEntry; }
 
  private:
+  static T Limited(T value) {
+    if constexpr (Limiting<Rule>) {
+      return std::min(value, T{Rule::kMost});
+    } else {
+      return value;
+    }
+  }
+
   setting_detail::OwnerLink owner_;
   T value_{};
   [[no_unique_address]] setting_detail::Filler<sizeof(T) == 1> filler_;
@@ -173,7 +189,7 @@ class Setting {
 /// `N` settings under one name: `rec.TelEnable(3)` reads, `rec.TelEnable(3, 1)` sets. A bad index
 /// reads as zero and is ignored when set.
 template <SettingName name, class T, std::size_t N, class Rule = Untracked>
-class SettingArray {
+class SettingArray final {
  public:
   using Value = T;
   static constexpr int kSize = static_cast<int>(N);
@@ -188,7 +204,7 @@ class SettingArray {
   bool operator==(const SettingArray& other) const { return values_ == other.values_; }
 
   [[nodiscard]] T operator()(int index) const { return InRange(index) ? At(index) : T{}; }
-  void operator()(int index, T value) {
+  void operator()(int index, T value) requires(!std::same_as<Rule, ReadOnly>) {
     if (!InRange(index)) return;
     if (!(value == At(index))) Rule::Changed(owner_.Of(this), index);
     At(index) = std::move(value);

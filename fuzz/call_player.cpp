@@ -15,11 +15,8 @@ constexpr int kMostSteps = 60;
 /// A packet that has not been acknowledged for so many milliseconds counts as lost.
 constexpr std::int64_t kPatience = 2000;
 
-/// The menu locks the keyboard of some devices without asking the user. A combined send of all
-/// blocks sets the byte that tells whose clock it is, where a multiplexer has its PlayDwell.
-bool ChangesWithoutEdit(std::string_view setting) {
-  return setting == "LockKeyBoard" || setting == "PlayDwell";
-}
+/// The menu locks the keyboard of some devices without asking the user.
+bool ChangesWithoutEdit(std::string_view setting) { return setting == "LockKeyBoard"; }
 
 }  // namespace
 

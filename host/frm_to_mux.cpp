@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "core/change_marks.h"
 #include "resources/icon.h"
 
 namespace quorvel {
@@ -124,6 +125,7 @@ void frm_ToMux::ClearBlocks() {
   StatusBar1.SetPanel(kStatus, delete_text_);
   StatusBar1.SetPanel(kBlock, {});
   context_.env.blocks.BlkSavIdx(0);
+  ClearChangeMarks(context_.BlkImage, context_.ComboArray, context_.env, context_.Record());
   lstBlkSav.SetItems({});
   ChooseAll();
   cmdClearBlk.SetVisible(false);

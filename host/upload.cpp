@@ -1,8 +1,9 @@
 #include "host/upload.h"
 
 #include <algorithm>
-#include <array>
+#include <utility>
 
+#include "core/change_marks.h"
 #include "core/combined_fix_ups.h"
 #include "host/combined_exchange.h"
 #include "host/model_catalogue.h"
@@ -18,7 +19,6 @@ constexpr int kEndedInterval = 500;
 /// that has not been acknowledged for this long is lost.
 constexpr int kPatience = 2000;
 constexpr Byte kEndPacket = 255;
-constexpr std::size_t kPacketSize = 18;
 
 }  // namespace
 
@@ -43,8 +43,8 @@ void Upload::RefuseData() {
 }
 
 Upload::Basis Upload::PresentBasis() const {
-  return {context_.ImageGeneration(), context_.ComboMode,  context_.LoadedFromFile,
-          context_.HostType,          context_.HostCommId, context_.connected};
+  return {context_.ImageGeneration(), context_.ComboMode, context_.HostType, context_.HostCommId,
+          context_.connected};
 }
 
 bool Upload::DataFits() {
@@ -118,8 +118,33 @@ void Upload::StartCombined(const std::shared_ptr<frm_ToMux>& dialog) {
   // into it.
   std::vector<Byte> array =
       context_.ComboArray.Outgoing(context_.IncludeData, context_.IncludeMacros);
+  const auto included = IncludedBlocks(dialog->AllBlocks());
   host_->SendComboBlocks(array);
+  for (const HandedOver& block : included) NoteTaken(block);
   dialog->ShowFinished();
+}
+
+/// The blocks that a combined send brings up to date. There is no acknowledgement: what was sent
+/// counts as taken.
+std::vector<Upload::HandedOver> Upload::IncludedBlocks(bool all) const {
+  if (!context_.IncludeData) return {};
+  const auto plan = all ? PlanAllBlocks(context_.BlkImage, true)
+                        : PlanListedBlocks(context_.env.blocks, context_.BlkImage, true);
+  std::vector<HandedOver> blocks;
+  for (const Byte number : plan) blocks.push_back(HandOver(number));
+  return blocks;
+}
+
+Upload::HandedOver Upload::HandOver(int number) const {
+  HandedOver block{context_.ImageGeneration(), number, {}};
+  std::ranges::copy(context_.BlkImage.Block(number), block.bytes.begin());
+  return block;
+}
+
+void Upload::NoteTaken(const HandedOver& block) {
+  if (context_.terminated || block.generation != context_.ImageGeneration()) return;
+  SettleChangeMark(block.number, block.bytes, context_.BlkImage, context_.ComboArray, context_.env,
+                   context_.Record());
 }
 
 void Upload::PutListedBlocks() {
@@ -157,6 +182,7 @@ void Upload::StopDL() {
 void Upload::TriggerTimer() {
   outstanding_ = false;
   patience_->Stop();
+  if (const auto block = std::exchange(unacknowledged_, std::nullopt)) NoteTaken(*block);
   if (Timer1->Interval() != kEndedInterval) Timer1->Start();
 }
 
@@ -169,10 +195,11 @@ void Upload::Tick() {
     return;
   }
   const Byte number = plan_[next_++];
+  const HandedOver block = HandOver(number);
   std::array<Byte, kPacketSize> packet{number};
-  const auto block = context_.BlkImage.Block(number);
-  std::copy(block.begin(), block.end(), packet.begin() + 1);
+  std::ranges::copy(block.bytes, packet.begin() + 1);
   frmDL->ShowBlock(number, next_ == plan_.size());
+  unacknowledged_ = block;
   SendPacket(packet);
 }
 
@@ -180,10 +207,11 @@ void Upload::SendEndPacket() {
   StopDL();
   frmDL->ShowEnded();
   std::array<Byte, kPacketSize> packet{kEndPacket};
+  unacknowledged_.reset();
   SendPacket(packet);
 }
 
-void Upload::SendPacket(std::span<Byte> packet) {
+void Upload::SendPacket(std::array<Byte, kPacketSize>& packet) {
   outstanding_ = true;
   patience_->Start();
   host_->DownLoadData(packet);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -30,15 +32,23 @@ class Upload {
   void CloseDialog();
 
  private:
+  static constexpr std::size_t kPacketSize = 18;
+
   /// What a send rests on: the image, and what it was compared with when command 11 was given.
   struct Basis {
     int generation;
     bool combined;
-    bool from_file;
     std::int16_t family;
     Byte comm_id;
     ConnectedIdentity connected;
     bool operator==(const Basis&) const = default;
+  };
+
+  /// A block as it was handed to the host, which may still be another image's when it is taken.
+  struct HandedOver {
+    int generation;
+    int number;
+    std::array<Byte, kBlockSize> bytes;
   };
 
   [[nodiscard]] Basis PresentBasis() const;
@@ -50,11 +60,14 @@ class Upload {
   void StopDL();
   void StartCombined(const std::shared_ptr<frm_ToMux>& dialog);
   void PutListedBlocks();
+  [[nodiscard]] std::vector<HandedOver> IncludedBlocks(bool all) const;
+  [[nodiscard]] HandedOver HandOver(int number) const;
+  void NoteTaken(const HandedOver& block);
   [[nodiscard]] bool MacrosFit();
   void StartBlocks(frm_ToMux& dialog);
   void Tick();
   void SendEndPacket();
-  void SendPacket(std::span<Byte> packet);
+  void SendPacket(std::array<Byte, kPacketSize>& packet);
 
   Context& context_;
   HostEvents& host_;
@@ -63,9 +76,10 @@ class Upload {
   std::unique_ptr<Timer> Timer1;
   /// Ends the wait for the acknowledgement of a packet that the user has stopped.
   std::unique_ptr<Timer> patience_;
-  bool outstanding_ = false;  ///< a packet has not been acknowledged
-  bool start_waits_ = false;  ///< START was pressed meanwhile
-  Basis basis_{};             ///< of the dialog
+  bool outstanding_ = false;                  ///< a packet has not been acknowledged
+  std::optional<HandedOver> unacknowledged_;  ///< its block, also when it was given up
+  bool start_waits_ = false;                  ///< START was pressed meanwhile
+  Basis basis_{};                             ///< of the dialog
   std::vector<Byte> plan_;
   std::size_t next_ = 0;  ///< place in the plan; at its end, the end packet follows
 };

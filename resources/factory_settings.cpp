@@ -149,7 +149,7 @@ void SetUpSchedules(MuxData& rec) {
 void SetUpMonitors(MuxData& rec) {
   rec.MultiDwell(5);
   rec.FullDwell(5);
-  rec.PlayDwell(5);
+  rec.PlayDwell(rec.identity().IsTriplex() ? 1 : 5);  // on triplex models: leave the clock alone
   TimeDate& clock = rec.TDInfo;
   for (int monitor = 0; monitor < clock.TDDisplay.kSize; ++monitor) clock.TDDisplay(monitor, 1);
   clock.TimeFormat(true);  // 24 hours

@@ -80,6 +80,8 @@ void Clock(Pass& block, MuxData& rec, const Identity& id) {
   block.Bytes(10, 4, Each(rec.Buzzer));
   if (id.IsTriplex()) {
     block.Byte(14, rec.LumacastCDW);
+    // Not a dwell time here: 0 lets the device take the clock.
+    block.ChangeMask(15, rec.PlayDwell);
     if constexpr (Pass::kReading) rec.PlayDwell.Load(1);
   } else {
     block.Byte(15, rec.PlayDwell);

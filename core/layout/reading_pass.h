@@ -57,7 +57,7 @@ class ReadingPass {
   /// A byte that tells about the device itself: read, never written.
   void Device(int at, std::uint8_t& value, const char* /*name*/) { value = Raw(at); }
 
-  /// A byte that tells the device what changed: written, never read, and cleared once written.
+  /// A byte that tells the device what changed: written, never read.
   template <class Item>
   void ChangeMask(int /*at*/, Item& /*item*/) {}
 

@@ -44,7 +44,6 @@ class WritingPass {
   template <class Item>
   void ChangeMask(int at, Item& item) {
     Put(at, item());
-    item.Load(0);
   }
   void Rebuilt(int at, int length) { std::fill_n(Run(at, length), length, std::uint8_t{0}); }
   template <class Item>

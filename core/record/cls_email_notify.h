@@ -44,7 +44,7 @@ class clsEmailNotify : public SettingOwner {
   [[nodiscard]] static Byte TimeZone() { return 0; }
   static void TimeZone(Byte /*ignored*/) {}
 
-  /// Change mask: bit 0 SMTP server, 1 TCP host, 2 TCP backup host; 0 again once encoded.
+  /// Change mask: bit 0 SMTP server, 1 TCP host, 2 TCP backup host; 0 again once sent.
   Setting<"AlmServerChange", Byte> AlmServerChange{*this};
   SettingArray<"TCPNotify", Byte, 2, In<200, CommitAlarm>> TCPNotify{*this};
   Setting<"TCPPort", std::int32_t, In<200, CommitAlarm>> TCPPort{*this};

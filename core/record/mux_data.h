@@ -58,6 +58,7 @@ class MuxData : public SettingOwner {
   Setting<"DvrArchiveOn", Byte, In<60, CommitArchive>> DvrArchiveOn{*this};
   Setting<"DvrArchiveSet", Byte, In<60, CommitArchive>> DvrArchiveSet{*this};
   Setting<"MuxModelName", std::string, ReadOnly> MuxModelName{*this};
+  /// Below model code 6 a dwell time; from 6 on 0 while the device is to take the clock, else 1.
   Setting<"PlayDwell", Byte, PlayDwellBlock, Seconds> PlayDwell{*this};
   Setting<"TransmitSpiTime", Byte, In<59, CommitTimeDate>> TransmitSpiTime{*this};
   Setting<"FullScrResolution", Byte, In<60, CommitCamera>> FullScrResolution{*this};

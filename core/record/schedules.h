@@ -1,7 +1,5 @@
 #pragma once
 
-#include <algorithm>
-
 #include "core/setting.h"
 
 namespace quorvel {
@@ -36,9 +34,12 @@ class clsSubMacro : public SettingOwner {
   struct EntryBlock {
     static void Changed(SettingOwner& owner, int) { owner.Record(CommitMacro, 69 + owner.Index()); }
   };
+  struct Length : EntryBlock {
+    static constexpr Byte kMost = 10;
+  };
 
  public:
-  static constexpr int kLongest = 10;
+  static constexpr int kLongest = Length::kMost;
 
   clsSubMacro(RecordEnvironment& env, int index) : SettingOwner(env, "SubMacroInfo", index) {}
   clsSubMacro& operator=(const clsSubMacro&) = default;
@@ -50,17 +51,7 @@ class clsSubMacro : public SettingOwner {
   }
 
   SettingArray<"SMacroByte", Byte, kLongest, EntryBlock> SMacroByte{*this};
-
-  /// Bytes in the script: a larger number is taken as 10.
-  class Length : public Setting<"SMacroLen", Byte, EntryBlock> {
-   public:
-    using Base = Setting<"SMacroLen", Byte, EntryBlock>;
-    using Base::Base;
-    using Base::operator();
-    void operator()(Byte length) { Base::operator()(std::min(length, Byte{kLongest})); }
-    void Load(Byte length) { Base::Load(std::min(length, Byte{kLongest})); }
-  };
-  Length SMacroLen{*this};
+  Setting<"SMacroLen", Byte, Length> SMacroLen{*this};  ///< bytes in the script
 };
 
 /// One entry of the recording schedule; two entries a block from 195 on, model code 6 and above.

@@ -11,7 +11,7 @@ class TimeDate : public SettingOwner {
   TimeDate& operator=(const TimeDate&) = default;
   bool operator==(const TimeDate&) const = default;
 
-  /// Change mask: bit 0 primary server, bit 1 backup server; 0 again once block 217 is encoded.
+  /// Change mask: bit 0 primary server, bit 1 backup server; 0 again once sent.
   Setting<"NTPchange", Byte> NTPchange{*this};
   Setting<"NTPUpdate", Byte, In<217, CommitTimeDate>> NTPUpdate{*this};
   template <int bit>

@@ -42,9 +42,12 @@ TEST_F(Codec, ModifiedBlocksOnlyAndTheClockOfThePc) {
   EncodeModifiedBlocks(image_, env_, *rec_);
   EXPECT_EQ(image_.Block(61)[0], 1);
   EncodeModifiedBlocks(image_, env_, *rec_, &now);
-  EXPECT_EQ(Hex(61), "17 3a 39 04 05 06 00 00 00 00 00 00 00 00 00 00");
+  EXPECT_EQ(Hex(61), "17 3a 39 04 05 06 00 00 00 00 00 00 00 00 00 01");
   EXPECT_EQ(rec_->TDInfo.CurrentMin(), 58);
   EXPECT_EQ(env_.blocks.BlkSavIdx(), 2);
+  Make(6, 16, 60);  // there is no block to take the time
+  EncodeModifiedBlocks(image_, env_, *rec_, &now);
+  EXPECT_EQ(rec_->TDInfo.CurrentHour(), 0);
 }
 
 TEST_F(Codec, TitlesArePaddedAndCut) {

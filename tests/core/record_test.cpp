@@ -55,6 +55,9 @@ TEST(Record, CommitFlagsFallWithTheirScopeAndWithFillData) {
   EXPECT_EQ(Listed(env.blocks), (std::vector<int>{}));
 }
 
+static_assert(!std::invocable<decltype(MuxData::MacroEditDL1)&, Byte>, "nobody edits it");
+static_assert(std::invocable<decltype(MuxData::MuxLang)&, Byte>);
+
 TEST(Record, IndicesOutOfRange) {
   RecordEnvironment env;
   env.identity.MaxCam = 8;
@@ -71,7 +74,7 @@ TEST(Record, IndicesOutOfRange) {
   clsSubMacro& script = *record->SubMacroInfo(3);
   script.SetSubMacroIdx(16);
   EXPECT_EQ(script.Index(), 3);
-  script.SMacroLen(12);
+  script.SMacroLen(200);
   EXPECT_EQ(script.SMacroLen(), 10);
   Cameras& camera = *record->CamInfo(0);
   camera.ActGrid(32, 9);

@@ -138,6 +138,8 @@ class TrackingCheck {
     }
     EXPECT_EQ(ChangedByEncoding(), block == 182 ? std::vector<int>{} : std::vector<int>{block});
     item.Load(old);
+    rec_->AlmEmailNotify.AlmServerChange.Load(0);
+    rec_->TDInfo.NTPchange.Load(0);
   }
   /// The blocks that a change in one of them lists: the texts of an address's half go together.
   static std::vector<int> Together(int block) {

@@ -126,7 +126,7 @@ TEST_F(Send, AnotherDeviceIsGivenNoBlock) {
        true},
       {"another family", [](auto& it) { it.Custom(18, 16, 0); }, true},
       {"the defaults", [](auto& it) { it.Custom(16, 0, 0); }, true},
-      {"a file that was not chosen", [](auto& it) { it.Custom(12, 0, 0); }, true},
+      {"a file that was not chosen", [](auto& it) { it.Custom(12, 0, 0); }, false},
       {"another caption", [](auto& it) { it.Custom(18, 0, 1); }, false},
       {"a grid", [](auto& it) { it.UpdateActGrid(std::vector<Byte>(33, 1)); }, false},
   };

@@ -1,0 +1,71 @@
+#include "core/change_marks.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/codec.h"
+
+namespace quorvel {
+
+namespace {
+
+struct ChangeMark {
+  int block;
+  std::size_t at;            ///< the mark's byte
+  std::size_t first, count;  ///< the bytes that it tells about
+  Byte rest;
+  Byte (*read)(const MuxData& rec);
+  void (*store)(MuxData& rec, Byte mark);
+};
+
+constexpr int kClockBlock = 61;
+constexpr std::array kMarks{
+    ChangeMark{kClockBlock, 15, 0, 6, 1, [](const MuxData& rec) { return rec.PlayDwell(); },
+               [](MuxData& rec, Byte mark) { rec.PlayDwell.Load(mark); }},
+    ChangeMark{213, 0, 1, 12, 0,
+               [](const MuxData& rec) { return rec.AlmEmailNotify.AlmServerChange(); },
+               [](MuxData& rec, Byte mark) { rec.AlmEmailNotify.AlmServerChange.Load(mark); }},
+    ChangeMark{217, 0, 2, 8, 0, [](const MuxData& rec) { return rec.TDInfo.NTPchange(); },
+               [](MuxData& rec, Byte mark) { rec.TDInfo.NTPchange.Load(mark); }},
+};
+
+/// Below model code 6 the clock has no mark: its byte is the setting PlayDwell.
+bool Has(const Identity& id, const ChangeMark& mark) {
+  return mark.block != kClockBlock || id.IsTriplex();
+}
+
+void Rest(const ChangeMark& mark, BlockImage& image, CombinedArray& array, MuxData& rec) {
+  mark.store(rec, mark.rest);
+  if (image.Holds(mark.block)) image.Block(mark.block)[mark.at] = mark.rest;
+  array.PutByte(mark.block, mark.at, mark.rest);
+}
+
+/// True when the device knows of what it was sent, and the record holds nothing else.
+bool IsTold(const ChangeMark& mark, std::span<const Byte, kBlockSize> sent, BlockImage image,
+            RecordEnvironment& env, MuxData& rec) {
+  if (mark.read(rec) != mark.rest && sent[mark.at] == mark.rest) return false;
+  if (!image.Counts(mark.block)) return false;
+  EncodeBlock(mark.block, image, env, rec);
+  const auto told = [&mark](std::span<const Byte, kBlockSize> block) {
+    return block.subspan(mark.first, mark.count);
+  };
+  return std::ranges::equal(told(sent), told(image.Block(mark.block)));
+}
+
+}  // namespace
+
+void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockImage& image,
+                      CombinedArray& array, RecordEnvironment& env, MuxData& rec) {
+  const auto mark = std::ranges::find(kMarks, number, &ChangeMark::block);
+  if (mark == kMarks.end() || !Has(env.identity, *mark)) return;
+  if (IsTold(*mark, sent, image, env, rec)) Rest(*mark, image, array, rec);
+}
+
+void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
+                      MuxData& rec) {
+  for (const ChangeMark& mark : kMarks) {
+    if (Has(env.identity, mark) && mark.read(rec) != mark.rest) Rest(mark, image, array, rec);
+  }
+}
+
+}  // namespace quorvel

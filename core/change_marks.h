@@ -1,0 +1,30 @@
+#pragma once
+
+#include <span>
+
+#include "core/block_image.h"
+#include "core/combined_array.h"
+#include "core/record_environment.h"
+
+namespace quorvel {
+
+class MuxData;
+
+/// Blocks 213 and 217, and on triplex models block 61, hold a byte that tells the device what in
+/// them is new: which servers, or that the clock is to be set. The mark is state of the record. An
+/// edit sets it, every encode writes it, and it goes back to rest, which says "nothing", when a
+/// send took the block, when the modified-block list is cleared, and with a new image.
+///
+/// A mark at rest stands at rest in the image and in the combined array, too: the device is not
+/// told twice, whichever of them the next send comes from.
+
+/// A send took block `number` with the 16 bytes of `sent`: its mark goes to rest, unless the record
+/// holds another server or another time by now, of which the device does not know.
+void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockImage& image,
+                      CombinedArray& array, RecordEnvironment& env, MuxData& rec);
+
+/// The list of modified blocks has been cleared: all marks go to rest.
+void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
+                      MuxData& rec);
+
+}  // namespace quorvel

@@ -1,0 +1,237 @@
+#include <gtest/gtest.h>
+
+#include "host/component.h"
+#include "tests/host/test_host.h"
+
+namespace quorvel {
+namespace {
+
+constexpr int kClock = 61;
+constexpr int kServers = 213;
+constexpr int kTimeServers = 217;
+
+/// A control over a device of 225 blocks, whose servers and clock are edited in the record.
+class ChangeMarks : public ::testing::Test, public MainMenuEvents {
+ protected:
+  void SetUp() override { Arrive(6); }
+
+  void Arrive(Byte code) {
+    BlockImage image = LoadDefaultImage(401);
+    image.ResizeBlocks(225);
+    image.Block(1)[15] = 225;
+    WriteIdentityBlock(image, 16, code, "UNIT 1");
+    It().Adopt(std::move(image), ImageSource::kDevice);
+    packets_.clear();
+  }
+  Context& It() { return component_->context; }
+  void EditServer(Byte octet) {
+    const CommitScope commit(It().env.commit, CommitAlarm);
+    It().Record().AlmEmailNotify.SMTPServer(0, octet);
+  }
+  void EditAll() {
+    EditServer(10);
+    const CommitScope commit(It().env.commit, CommitTimeDate);
+    It().Record().TDInfo.NTPBkupServer(3, 9);
+    It().Record().TDInfo.CurrentHour(17);
+    It().Record().PlayDwell(0);
+  }
+  /// The marks of blocks 61, 213 and 217: in the record, and where a send may come from.
+  std::string Marks() {
+    const MuxData& rec = It().Record();
+    const auto text = [](int clock, int servers, int time_servers) {
+      return std::to_string(clock) + " " + std::to_string(servers) + " " +
+             std::to_string(time_servers);
+    };
+    const BlockImage& image = It().BlkImage;
+    std::string marks =
+        text(rec.PlayDwell(), rec.AlmEmailNotify.AlmServerChange(), rec.TDInfo.NTPchange()) +
+        ", image " +
+        text(image.Block(kClock)[15], image.Block(kServers)[0], image.Block(kTimeServers)[0]);
+    const auto array = It().ComboArray.Bytes();
+    return array.empty() ? marks : marks + ", array " + MarksOfArray(array);
+  }
+  static std::string MarksOfArray(std::span<const Byte> array) {
+    const BlockImage image({array.begin() + 13, array.end()});
+    return std::to_string(image.Block(kClock)[15]) + " " +
+           std::to_string(image.Block(kServers)[0]) + " " +
+           std::to_string(image.Block(kTimeServers)[0]);
+  }
+  /// Command 11 with the modified blocks or all; `act` is called whenever nothing is due.
+  void Send(bool all, bool macros, const std::function<bool(Dialog&)>& act) {
+    bool started = false;
+    platform_.at_modal = [&](Dialog& dialog) {
+      if (std::exchange(started, true)) return act(dialog);
+      dialog.Find<OptionButton>(all ? "optBlk(0)" : "optBlk(1)").Click();
+      if (macros) dialog.Find<CheckBox>("chkMacro(0)").Click();
+      return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+    };
+    component_->Custom(11, 0, 0);
+    platform_.at_modal = nullptr;
+  }
+  void Send(bool all = false, bool macros = false) {
+    Send(all, macros, [this](Dialog& dialog) {
+      const bool ends =
+          acknowledge_ ? !dialog.Find<Button>("cmdStop").Visible() : !packets_.empty();
+      return ends && dialog.CloseWindow() == Answer::kDone;
+    });
+  }
+  /// The packet of a block that was sent last, one byte of it.
+  Byte Sent(int block, std::size_t at) { return packets_.at(block).at(at + 1); }
+
+  void DownLoadData(std::span<std::uint8_t> bdata) override {
+    packets_[bdata[0]].assign(bdata.begin(), bdata.end());
+    std::ranges::fill(bdata, Byte{0xEE});  // hosts may
+    if (acknowledge_) component_->TriggerUploadTimer();
+  }
+  void SendComboBlocks(std::span<std::uint8_t> cb_data) override {
+    sent_array_ = MarksOfArray(cb_data);
+    if (fails_) throw std::runtime_error("the link is down");
+  }
+
+  TestPlatform platform_;
+  std::shared_ptr<Component> component_ = Component::Create(platform_, *this);
+  std::map<int, std::vector<Byte>> packets_;
+  std::string sent_array_;
+  bool acknowledge_ = true;
+  bool fails_ = false;
+};
+
+TEST_F(ChangeMarks, AreWrittenUntilAPacketThatCarriedThemIsAcknowledged) {
+  EditAll();
+  EXPECT_EQ(Marks(), "0 1 2, image 1 0 0");
+  platform_.AnswerNextFile("saved.bin");
+  component_->Custom(14, 0, 0);
+  EXPECT_EQ(platform_.files["saved.bin"].at((kServers - 1) * 16), 1);
+  It().HostType = 16;  // the family does not fit
+  component_->Custom(11, 0, 0);
+  EXPECT_EQ(platform_.TakeMessages().size(), 1U);
+  It().HostType = 48;
+  acknowledge_ = false;
+  Send();  // one packet, and the dialog is closed
+  EXPECT_EQ(packets_.size(), 1U);
+  EXPECT_EQ(Sent(kServers, 0), 1);
+  EXPECT_EQ(Marks(), "0 1 2, image 0 1 2");
+  acknowledge_ = true;
+  Send();
+  EXPECT_EQ(Sent(kClock, 15), 0);
+  EXPECT_EQ(Sent(kServers, 0), 1);
+  EXPECT_EQ(Sent(kTimeServers, 0), 2);
+  EXPECT_EQ(Marks(), "1 0 0, image 1 0 0");
+  for (const bool all : {true, false}) {  // the list is as it was
+    Send(all);
+    EXPECT_EQ(Sent(kClock, 15), 1);
+    EXPECT_EQ(Sent(kServers, 0), 0);
+    EXPECT_EQ(Sent(kTimeServers, 0), 0);
+  }
+}
+
+TEST_F(ChangeMarks, FollowWhatHappensBeforeTheAcknowledgement) {
+  const struct {
+    const char* what;
+    std::function<void(Dialog&)> meanwhile;
+    int mark;
+  } cases[] = {
+      {"nothing", [](Dialog&) {}, 0},
+      {"STOP", [](Dialog& dialog) { dialog.Find<Button>("cmdStop").Click(); }, 0},
+      {"CLOSE", [](Dialog& dialog) { dialog.CloseWindow(); }, 0},
+      {"a long wait", [this](Dialog&) { platform_.Advance(5000); }, 0},
+      {"another server", [this](Dialog&) { EditServer(11); }, 1},
+      {"another server and back",
+       [this](Dialog&) {
+         EditServer(11);
+         EditServer(10);
+       },
+       0},
+      {"another image, edited as well",
+       [this](Dialog&) {
+         Arrive(6);
+         EditServer(10);
+       },
+       1},
+      {"the control's end", [this](Dialog&) { component_->Terminate(); }, 1},
+  };
+  for (const auto& it : cases) {
+    SCOPED_TRACE(it.what);
+    component_ = Component::Create(platform_, *this);
+    Arrive(6);
+    EditServer(10);
+    acknowledge_ = false;
+    bool acknowledged = false;
+    Send(false, false, [&](Dialog& dialog) {
+      if (packets_.empty()) return false;
+      if (std::exchange(acknowledged, true)) return dialog.CloseWindow() == Answer::kDone;
+      it.meanwhile(dialog);
+      component_->TriggerUploadTimer();
+      return true;
+    });
+    EXPECT_EQ(It().Record().AlmEmailNotify.AlmServerChange(), it.mark);
+    platform_.TakeMessages();
+  }
+}
+
+TEST_F(ChangeMarks, AreClearedWithTheList) {
+  EditAll();
+  platform_.AnswerNextFile("saved.bin");
+  Send(true, false, [this](Dialog& dialog) {
+    if (dialog.Find<Button>("cmdStop").Visible()) return false;
+    EditServer(11);
+    component_->Custom(14, 0, 0);
+    EXPECT_EQ(Marks(), "1 1 0, image 1 1 0");
+    dialog.Find<Button>("cmdClearBlk").Click();
+    return dialog.CloseWindow() == Answer::kDone;
+  });
+  EXPECT_EQ(Marks(), "1 0 0, image 1 0 0");
+}
+
+/// What the array of a combined exchange carries of the marks, and what is left of them.
+TEST_F(ChangeMarks, AreTakenWithACombinedArray) {
+  const struct {
+    const char* what;
+    bool all, macros, fails;
+    const char* sent;
+    const char* left;
+  } cases[] = {
+      {"all blocks", true, false, false, "0 7 3", "1 0 0, image 1 0 0, array 1 0 0"},
+      {"listed blocks and macros", false, true, false, "0 1 2", "1 0 0, image 1 0 0, array 1 0 0"},
+      {"listed blocks, one by one", false, false, false, "", "1 0 0, image 1 0 0, array 1 0 0"},
+      {"a host that fails", true, false, true, "0 7 3", "0 1 2, image 0 7 3, array 0 7 3"},
+  };
+  It().ComboMode = true;
+  It().combo_sizes = {4, 2, 225, 5, 6};
+  for (const auto& it : cases) {
+    SCOPED_TRACE(it.what);
+    Arrive(6);
+    EditAll();
+    sent_array_.clear();
+    fails_ = it.fails;
+    Send(it.all, it.macros);
+    EXPECT_EQ(sent_array_, it.sent);
+    EXPECT_EQ(Marks(), it.left);
+    platform_.TakeMessages();
+  }
+}
+
+/// Whether the device is to take the clock: byte 15 of block 61 in a send of all blocks. Below code
+/// 6 it is a setting.
+TEST_F(ChangeMarks, TellWhoseClockItIs) {
+  const struct {
+    Byte code;
+    bool pc_time;
+    int dwell;
+    int sent;
+  } cases[] = {{6, false, 1, 1}, {6, false, 0, 0}, {6, true, 1, 0},
+               {5, false, 9, 9}, {5, true, 9, 9},  {0, false, 9, 9}};
+  It().ComboMode = true;
+  for (const auto& it : cases) {
+    Arrive(it.code);
+    It().Record().PlayDwell(static_cast<Byte>(it.dwell));
+    It().env.blocks.AddBlk(kClock);
+    It().UsePcTime = it.pc_time;
+    Send(true);
+    EXPECT_EQ(sent_array_.substr(0, 1), std::to_string(it.sent)) << int{it.code} << it.pc_time;
+    EXPECT_EQ(It().Record().PlayDwell(), it.code < 6 ? it.dwell : 1);
+  }
+}
+
+}  // namespace
+}  // namespace quorvel
