@@ -158,6 +158,7 @@ void EncodeClock(FlatRecord& rec, Bytes image) {
   Bits(rec.telemetry_enable, rec.cameras, clock + 6);
   Copy(rec.buzzer, 4, clock + 10);
   clock[14] = rec.archive_cdw;
+  clock[15] = rec.play_dwell;
   const Bytes servers = Block(image, 217);
   servers[0] = rec.server_change;
   servers[1] = rec.server_update;

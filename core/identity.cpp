@@ -29,7 +29,7 @@ Identity ReadIdentity(const BlockImage& image) {
   const Byte count = image.BlkCount();
   if (count > 0 && !image.Holds(count)) throw ImageError("the image is shorter than its count");
   Identity id;
-  if (count < kIdentityBlock) {
+  if (!image.Holds(kIdentityBlock)) {
     id.MaxCam = kMostCameras;
     return id;
   }

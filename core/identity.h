@@ -32,8 +32,8 @@ struct Identity {
 void SetModelFlags(Identity& id, Byte model_code);
 
 /// The identity that an image states. Throws ImageError when the image is shorter than its own
-/// count says, or names more cameras than a record holds. An image that is complete but ends before
-/// block 185 has no identity: 16 cameras, model code 0, all flags false.
+/// count says, or names more cameras than a record holds. Block 185 is the identity whatever that
+/// count is; an image that ends before it has none: 16 cameras, model code 0, all flags false.
 /// RecorderKind, VariantChar and ArchOption come with their blocks.
 [[nodiscard]] Identity ReadIdentity(const BlockImage& image);
 

@@ -7,6 +7,7 @@
 #include "host/combined_exchange.h"
 #include "host/settings_file.h"
 #include "resources/default_images.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
@@ -27,6 +28,7 @@ constexpr Byte kModelCodeMask = 0x7F;
 int Download::BeginAnew() {
   expecting_ = Expecting::kNothing;
   arriving_.Clear();
+  unusable_.reset();
   progress_ = {};
   const int round = ++round_;
   CloseDialog();  // what it waited for does not come any more
@@ -38,6 +40,9 @@ int Download::BeginAnew() {
 void Download::FetchTexts() {
   block_text_ = context_.GetText(kTextDownloadingBlock);
   finished_text_ = context_.GetText(kTextFinished);
+  not_used_text_ = context_.GetText(kTextArrayNotUsed);
+  macros_missing_text_ = context_.GetText(kTextMacrosMissing);
+  message_title_ = context_.GetText(kTextMessage);
 }
 
 void Download::Receive() {
@@ -49,6 +54,7 @@ void Download::Receive() {
   // opens on what has been reached.
   if (context_.ComboMode) {
     expecting_ = Expecting::kComboArray;
+    awaited_ = 1;
     host_->RequestComboBlocks();
   } else {
     Request(Expecting::kBlock, 1);
@@ -70,9 +76,7 @@ void Download::OpenDialog(int round, bool restored) {
   dialog->StopUL = [this] {
     // No further block is asked for, and what is edited from now on must not be undone by what
     // comes yet.
-    if (expecting_ == Expecting::kBlock || expecting_ == Expecting::kComboArray) {
-      expecting_ = Expecting::kNothing;
-    }
+    if (ExpectsDevice()) expecting_ = Expecting::kNothing;
   };
   dialog->SaveFile = [this] { context_.Guard("SaveReceivedData", [this] { SaveReceivedData(); }); };
   frmUL = dialog;
@@ -100,7 +104,7 @@ void Download::TakeReply(std::span<const Byte> data) {
   }
   if (context_.HostCommId != 0) {
     TakeWholeImage(data);
-  } else if (expecting_ == Expecting::kBlock) {
+  } else if (ExpectsDevice()) {
     TakeBlock(data);
   }
 }
@@ -128,6 +132,12 @@ void Download::TakeBlock(std::span<const Byte> reply) {
   }
 }
 
+/// What the device holds is on its way. How it comes is the host's choice: the reply to a request
+/// of one exchange may be that of another.
+bool Download::ExpectsDevice() const {
+  return expecting_ == Expecting::kBlock || expecting_ == Expecting::kComboArray;
+}
+
 /// A reply that comes late, or twice, must not undo what was edited since. While nothing is edited,
 /// a host may hand over a configuration without having been asked.
 bool Download::MayTakeUnasked() const {
@@ -135,7 +145,7 @@ bool Download::MayTakeUnasked() const {
 }
 
 void Download::TakeWholeImage(std::span<const Byte> data) {
-  if (expecting_ != Expecting::kBlock && !MayTakeUnasked()) return;
+  if (!ExpectsDevice() && !MayTakeUnasked()) return;
   const auto bytes = data.first(data.size() - 1);  // the last byte is not part of it
   BlockImage image({bytes.begin(), bytes.end()});
   if (image.BlkCount() == 0) throw ImageError("an image without blocks");
@@ -146,27 +156,40 @@ void Download::TakeWholeImage(std::span<const Byte> data) {
 
 void Download::TakeComboArray(std::span<const Byte> data) {
   FetchTexts();
-  if (expecting_ != Expecting::kComboArray && !MayTakeUnasked()) return;
+  if (!ExpectsDevice() && !MayTakeUnasked()) return;
   auto array = CombinedArray::Parse(data, context_.ComboArray.Header());
   const std::int32_t length = array.Header().TotalLength();
+  std::string flaw;
   if (array.HoldsImage()) {
+    if (!array.HoldsMacros()) flaw = macros_missing_text_;
     BlockImage image = array.Image();
     if (image.BlkCount() == 0) throw ImageError("an array without blocks");
     Adopt(std::move(image), ImageSource::kDevice, std::move(array));
-    context_.ComboMode = true;
     received_combined_ = true;
-  } else if (!context_.HasImage()) {
-    throw ImageError("the array contradicts itself and there is no image to fall back on");
+  } else {
+    if (!context_.HasImage()) {
+      throw ImageError("the array contradicts itself and there is no image to fall back on");
+    }
+    // The present image stays, and what was edited in it; what came can be saved.
+    flaw = not_used_text_;
+    unusable_.emplace(data.begin(), data.end());
+    expecting_ = Expecting::kNothing;
   }
-  // One that contradicts itself leaves the present image, and what was edited in it.
-  expecting_ = Expecting::kNothing;
+  context_.ComboMode = true;
   FinishReception(length);
+  TellFlaw(flaw);
+}
+
+void Download::TellFlaw(const std::string& flaw) {
+  if (flaw.empty() || context_.terminated) return;
+  context_.platform.Ask({flaw, message_title_, Message::Buttons::kOk});
 }
 
 void Download::Adopt(BlockImage image, ImageSource source, CombinedArray array) {
   context_.Adopt(std::move(image), source, std::move(array));
   expecting_ = Expecting::kNothing;
   received_combined_ = false;
+  unusable_.reset();
 }
 
 /// The dialog says "Finished" only of an image that could be decoded.
@@ -189,8 +212,8 @@ void Download::TellArrival() {
 
 void Download::SaveReceivedData() {
   // What is on screen is what is saved, also when another image arrives meanwhile.
-  const auto received =
-      received_combined_ ? context_.ComboArray.Bytes() : context_.BlkImage.Bytes();
+  auto received = received_combined_ ? context_.ComboArray.Bytes() : context_.BlkImage.Bytes();
+  if (unusable_) received = *unusable_;
   SaveBytes(context_, "*.bin", std::vector<Byte>(received.begin(), received.end()));
 }
 
@@ -202,6 +225,7 @@ void Download::RestoreImageFromFile() {
   FetchTexts();
   if (!bytes || context_.terminated) return;
   SettingsFile file = ReadSettingsFile(context_, *bytes);
+  const bool lacks_macros = file.combined && !file.array.HoldsMacros();
   const std::int32_t length =
       file.combined ? file.array.Header().TotalLength() : static_cast<std::int32_t>(bytes->size());
   Adopt(std::move(file.image), ImageSource::kSettingsFile, std::move(file.array));
@@ -209,6 +233,7 @@ void Download::RestoreImageFromFile() {
   received_combined_ = file.combined;
   const int round = BeginAnew();
   FinishReception(length);
+  if (lacks_macros) TellFlaw(macros_missing_text_);
   OpenDialog(round, true);
 }
 

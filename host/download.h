@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -59,10 +60,12 @@ class Download {
   void TakeProbe(std::span<const Byte> reply);
   void TakeIdentity(std::span<const Byte> reply);
   void LoadDefaultData();
+  [[nodiscard]] bool ExpectsDevice() const;
   [[nodiscard]] bool MayTakeUnasked() const;
   void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});
   void FinishReception(std::int32_t bytes);
   void TellArrival();
+  void TellFlaw(const std::string& flaw);
   void OpenDialog(int round, bool restored);
   void ShowProgress();
   void SaveReceivedData();
@@ -73,11 +76,14 @@ class Download {
   ReceiveProgress progress_;
   std::string block_text_;
   std::string finished_text_;
+  std::string not_used_text_, macros_missing_text_;
+  std::string message_title_;
   Expecting expecting_ = Expecting::kNothing;
-  int awaited_ = 0;                 ///< number of the block that is expected
+  int awaited_ = 0;                 ///< number of the block that is expected, if one comes
   int round_ = 0;                   ///< number of the sequence that is under way
   BlockImage arriving_;             ///< the blocks that have come so far
   bool received_combined_ = false;  ///< the present data came as a combined array
+  std::optional<std::vector<Byte>> unusable_;  ///< what came last, when it contradicts itself
   DefaultsDevice defaults_;
 };
 

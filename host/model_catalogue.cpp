@@ -59,21 +59,28 @@ bool AreVaultlineEditions(std::string_view a, std::string_view b) {
   return (a == kAdvanced && b == kPro) || (a == kPro && b == kAdvanced);
 }
 
-using IdentityBytes = std::array<Byte, kBlockSize>;
+/// What an image is taken for, also one without an identity block.
+struct ImageIdentity {
+  Byte channels = 0;
+  Byte code = 0;
+  std::string name;
+  bool named = false;  ///< it holds a name, which may be empty
+};
 
-/// Block 185, of zeros when the image ends before it.
-IdentityBytes IdentityOf(const BlockImage& image) {
-  IdentityBytes bytes{};
-  if (image.Holds(kIdentityBlock)) std::ranges::copy(image.Block(kIdentityBlock), bytes.begin());
-  return bytes;
+ImageIdentity IdentityOf(const BlockImage& image) {
+  if (image.Size() == 0) return {};
+  const Identity identity = ReadIdentity(image);
+  if (!image.Holds(kIdentityBlock)) return {identity.MaxCam, identity.ModelCode, {}, false};
+  return {identity.MaxCam, identity.ModelCode, NameOf(image.Block(kIdentityBlock).subspan<2>()),
+          true};
 }
 
-bool IdentityFits(const Context& context, const IdentityBytes& identity, const std::string& name) {
+bool IdentityFits(const Context& context, const ImageIdentity& image) {
   const ConnectedIdentity& connected = context.connected;
-  if (identity[0] != connected.ConnChannels) return false;
-  const Byte code = identity[1] & kModelCodeMask;
-  if (code != connected.ConnModelCode && !IsVideoTwin(context, code)) return false;
-  return name == connected.ConnModelName || AreVaultlineEditions(name, connected.ConnModelName);
+  if (image.channels != connected.ConnChannels) return false;
+  if (image.code != connected.ConnModelCode && !IsVideoTwin(context, image.code)) return false;
+  return !image.named || image.name == connected.ConnModelName ||
+         AreVaultlineEditions(image.name, connected.ConnModelName);
 }
 
 }  // namespace
@@ -99,9 +106,9 @@ std::string ModelDescription(const Context& context, int which) {
     channels = context.connected.ConnChannels;
     code = context.connected.ConnModelCode;
   } else if (which == kOfImage) {
-    const IdentityBytes identity = IdentityOf(context.BlkImage);
-    channels = identity[0];
-    code = identity[1] & kModelCodeMask;
+    const ImageIdentity identity = IdentityOf(context.BlkImage);
+    channels = identity.channels;
+    code = identity.code;
   }
   return " (" + std::to_string(channels) + " ch, " + std::string(ModelText(code)) + ")";
 }
@@ -114,16 +121,15 @@ bool IsVideoTwin(const Context& context, Byte code) {
 
 bool CheckLoadedIdentity(Context& context) {
   if (!context.LoadedFromFile) return true;
-  const IdentityBytes identity = IdentityOf(context.BlkImage);
-  const std::string name = NameOf(std::span(identity).subspan<2>());
-  if (IdentityFits(context, identity, name)) return true;
+  const ImageIdentity identity = IdentityOf(context.BlkImage);
+  if (IdentityFits(context, identity)) return true;
   const auto shown = [&context](const std::string& bytes) {
     return context.platform.ToUtf8(bytes);
   };
   context.platform.Ask({context.GetText(267) + "\r" + context.GetText(320) + "  " +
                             shown(context.connected.ConnModelName) +
                             ModelDescription(context, kOfConnected) + "\r" + context.GetText(321) +
-                            "  " + shown(name) + ModelDescription(context, kOfImage),
+                            "  " + shown(identity.name) + ModelDescription(context, kOfImage),
                         context.GetText(270), Message::Buttons::kOk});
   return false;
 }

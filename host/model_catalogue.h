@@ -15,15 +15,16 @@ namespace quorvel {
 /// fewer than 4 bytes is not an identity and changes nothing.
 void SaveConnectedIdentity(Context& context, std::span<const Byte> data);
 
-/// " (16 ch, Triplex NTSC)": which = 0 of the connected device, 1 of the image, anything else of no
-/// device, or of an image without an identity block (0 channels, code 0).
+/// " (16 ch, Triplex NTSC)": which = 0 of the connected device, 1 of the image as it is decoded,
+/// anything else of no device (0 channels, code 0).
 [[nodiscard]] std::string ModelDescription(const Context& context, int which);
 
 /// True when `code` is the NTSC or PAL twin of the connected model.
 [[nodiscard]] bool IsVideoTwin(const Context& context, Byte code);
 
 /// True when the image may be written to the connected device. An image that was restored from a
-/// file must come from a device of the same model; otherwise a message tells both.
+/// file must come from a device of the same model, and of the same name where it holds one;
+/// otherwise a message tells both.
 [[nodiscard]] bool CheckLoadedIdentity(Context& context);
 
 }  // namespace quorvel

@@ -19,6 +19,9 @@ constexpr std::string_view kAddedTexts[] = {
     /* 1002 */ "Nothing was pasted: a value is not a choice of its column",
     /* 1003 */ "Nothing was pasted: it does not fit into the table here",
     /* 1004 */ "Local email address:",
+    /* 1005 */ "What has arrived contradicts itself and could not be used. The settings are those of before.",
+    /* 1006 */ "What has arrived lacks macro data: the settings are used, the macros cannot be sent.",
+    /* 1007 */ "Other data has arrived since this window was opened. Nothing was changed: close it and open it again.",
 };
 // clang-format on
 

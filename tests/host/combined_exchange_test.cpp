@@ -56,6 +56,9 @@ class Combined : public ::testing::Test {
 };
 
 TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
+  constexpr const char* kNotUsed =
+      "What has arrived contradicts itself and could not be used. The settings are those of "
+      "before.";
   const struct {
     const char* name;
     std::size_t at;
@@ -84,7 +87,13 @@ TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
       EXPECT_EQ(host_.Modified().size(), had_image ? 1U : 0U);
       EXPECT_EQ(host_.OnlyMessage(), had_image ? "" : "Error found in FillComboBlk");
       host_.sync = true;
-      host_.platform.at_modal = nullptr;
+      host_.platform.files.clear();
+      host_.platform.AnswerNextFile("received.bin");
+      bool save = true;
+      host_.platform.at_modal = [&save](Dialog& dialog) {
+        if (std::exchange(save, false)) dialog.Find<Button>("cmdSaveFile").Click();
+        return dialog.CloseWindow() == Answer::kDone;
+      };
       if (it.length == 0) {
         host_.act_in = "RequestComboBlocks";
         host_.act = [this] { host_.control->FillComboBlk({}); };
@@ -92,15 +101,96 @@ TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
       host_.control->Custom(10, 0, 0);
       host_.sync = false;
       EXPECT_EQ(host_.Count("UploadSucceeded"), had_image ? 1 : 0);
-      EXPECT_EQ(host_.OnlyMessage(), had_image ? "" : "Error found in FillComboBlk");
+      EXPECT_EQ(host_.OnlyMessage(), had_image ? kNotUsed : "Error found in FillComboBlk");
+      EXPECT_EQ(host_.platform.files.contains("received.bin"), had_image);
       EXPECT_EQ(host_.control->Image(), before);
       EXPECT_EQ(host_.Modified().size(), had_image ? 1U : 0U);
       if (had_image) {
+        EXPECT_EQ(host_.platform.files["received.bin"], host_.combo);
         EXPECT_EQ(host_.control->Settings("CamInfo(3).title").at(0).value, "\"Typed\"");
       }
       host_.platform.TakeMessages();
     }
     host_.NewControl();
+  }
+}
+
+TEST_F(Combined, AnArrayWithoutAllItsMacrosIsTaken) {
+  constexpr const char* kMacrosMissing =
+      "What has arrived lacks macro data: the settings are used, the macros cannot be sent.";
+  host_.combo.resize(3218);
+  host_.platform.AnswerNextFile("received.bin");
+  bool saved = false;
+  host_.platform.at_modal = [&saved](Dialog& dialog) {
+    const bool save = !std::exchange(saved, dialog.Find<Button>("cmdSaveFile").Enabled());
+    return dialog.Find<Button>(save ? "cmdSaveFile" : "cmdOK").Click() == Answer::kDone;
+  };
+  host_.control->Custom(10, 0, 0);
+  EXPECT_EQ(host_.OnlyMessage(), kMacrosMissing);
+  EXPECT_EQ(host_.control->Image().size(), 3200U);
+  EXPECT_EQ(host_.platform.files["received.bin"], host_.combo);
+  host_.EditTitle(0, "Lobby");
+  Send({.modified = true, .macros = true});
+  EXPECT_EQ(SentByte(1, 0), 'L');
+  EXPECT_EQ(host_.sent_combo[5], 0);  // the length of the macro data
+  EXPECT_EQ(host_.sent_combo.size(), 3218U);
+
+  host_.platform.AnswerNextFile("received.bin");
+  host_.CommandWithOk(12);
+  EXPECT_EQ(host_.OnlyMessage(), kMacrosMissing);
+  EXPECT_EQ(host_.Modified(), std::vector<int>{});
+}
+
+/// Which exchange was asked for does not matter: what comes says what it is.
+TEST_F(Combined, AHostMayMixTheExchanges) {
+  std::vector<Byte> image(host_.device.Bytes().begin(), host_.device.Bytes().end());
+  auto whole = image;
+  whole.push_back(0);
+  const struct {
+    const char* asked;
+    bool combined, interactive;
+    std::function<void()> answer;
+    const char* arrival;
+  } cases[] = {
+      {"RequestComboBlocks", true, false, [&] { host_.control->FillDataBlk(whole); },
+       "ULSucceededWithStr TX16 6 16"},
+      {"RequestBlk 1", false, true, [&] { host_.control->FillComboBlk(host_.combo); },
+       "UploadSucceeded"},
+      {"RequestBlk 1", false, false, [&] { host_.control->FillComboBlk(host_.combo); },
+       "ULSucceededWithStr TX16 6 16"},
+      {"RequestComboBlocks", true, true,
+       [&] {
+         host_.silent_from = 0;
+         host_.Give(1);
+       },
+       "UploadSucceeded"},
+  };
+  const auto combo = host_.combo;
+  for (const auto& it : cases) {
+    SCOPED_TRACE(it.asked);
+    host_.NewControl();
+    host_.combo = combo;
+    host_.Download();
+    host_.EditTitle(0, "Typed");  // so that nothing is taken that was not asked for
+    host_.log.clear();
+    if (it.combined) host_.StateSizes();
+    host_.control->HostCommId(it.interactive ? 0 : 1);
+    host_.silent_from = 1;
+    host_.act_in = it.asked;
+    host_.act = [&] {
+      host_.combo.clear();
+      host_.platform.Post([&] {
+        host_.combo = combo;
+        it.answer();
+      });
+    };
+    host_.Download();
+    host_.platform.RunUntilIdle();
+    EXPECT_EQ(host_.log.at(0), it.asked);
+    EXPECT_EQ(host_.Count(it.arrival), 1);
+    EXPECT_EQ(host_.control->Image(), image);
+    EXPECT_TRUE(host_.Modified().empty());
+    host_.silent_from = 0;
   }
 }
 

@@ -151,11 +151,31 @@ TEST_F(Files, ACombinedFileIsTheArray) {
   EXPECT_TRUE(host_.SendOpens());
 }
 
-TEST_F(Files, DataWithoutAnIdentityFitsNoDevice) {
+TEST_F(Files, DataWithoutAnIdentityIsThatOfAMultiplexer) {
   File() = FileOf(16 * 100, 100);
   Restore();
   EXPECT_FALSE(host_.SendOpens());
-  EXPECT_TRUE(host_.OnlyMessage().ends_with("(0 ch, Mux model)"));
+  EXPECT_TRUE(host_.OnlyMessage().ends_with("from model:   (16 ch, Mux model)"));
+  for (const auto& name : {std::string("UNIT 1"), std::string(1, '\0')}) {
+    StateIdentity(16, 0, name);
+    EXPECT_TRUE(host_.SendOpens());
+  }
+  StateIdentity(4, 0, "UNIT 1");
+  EXPECT_FALSE(host_.SendOpens());
+}
+
+/// Who the device is stands in block 185, whatever the count says.
+TEST_F(Files, ADamagedCountMakesNoOtherDevice) {
+  host_.Identify(4, 9);
+  File() = BytesOf(host_.device);
+  File()[15] = 100;
+  Restore();
+  EXPECT_FALSE(host_.SendOpens());
+  EXPECT_TRUE(host_.OnlyMessage().ends_with("UNIT 1 (4 ch, Triplex PAL, Lite/EZ)"));
+  StateIdentity(4, 9, "UNIT 1");
+  EXPECT_TRUE(host_.SendOpens());
+  host_.OpenMenu();
+  EXPECT_FALSE(host_.platform.Menu().Item("mnu_Sequence").visible);
 }
 
 TEST_F(Files, ARestoreEndsADownload) {
