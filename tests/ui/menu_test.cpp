@@ -44,6 +44,29 @@ TEST(Menu, ShowsWhatTheModelHas) {
   }
 }
 
+TEST(Menu, OfAnImageThatIsGoneChoosesNothing) {
+  TestHost host;
+  host.Identify(16, 16);
+  host.Download();
+  host.OpenMenu();
+  host.platform.ChooseMenu("mnu_LockKB");
+  host.platform.RunUntilIdle();
+  host.Identify(16, 3);
+  host.Download();
+  for (const char* item : {"mnu_UnLock", "mnu_French", "mnu_CSetup", "mnuActGrid", "mnu_Exit"}) {
+    EXPECT_EQ(host.platform.ChooseMenu(item), Answer::kOutdated) << item;
+  }
+  EXPECT_STREQ(Describe(Answer::kOutdated), "belongs to data that has been replaced");
+  EXPECT_TRUE(host.Modified().empty());
+  EXPECT_TRUE(host.platform.Windows().empty());
+  EXPECT_EQ(host.Count("ActGridPop 16"), 0);
+  // The menu of the present image is up next.
+  host.platform.RunUntilIdle();
+  EXPECT_EQ(host.platform.ChooseMenu("mnu_UnLock"), Answer::kDisabled);
+  EXPECT_EQ(host.platform.ChooseMenu("mnu_French"), Answer::kDone);
+  EXPECT_EQ(host.Modified(), std::vector<int>{60});
+}
+
 /// The menu alone, over a context of its own.
 class MenuForm : public ::testing::Test {
  protected:

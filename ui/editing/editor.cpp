@@ -70,7 +70,7 @@ void Editor::GridsToStart() {
 
 void Editor::Ok() {
   if (!BelongsToImage()) {
-    const Message refusal{Text(txt::kDataDoesNotMatch), Text(txt::kErrorMessage),
+    const Message refusal{Text(kTextEditorOutdated), Text(txt::kErrorMessage),
                           Message::Buttons::kOk};
     if (!context_.terminated) context_.platform.Ask(refusal);  // a text source may have ended it
     return;

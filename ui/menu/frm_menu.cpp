@@ -35,6 +35,19 @@ frm_Menu::frm_Menu(Context& context)
 frm_Menu::~frm_Menu() { Unload(); }
 
 void frm_Menu::Load() {
+  Build();
+  if (unloaded_) return;
+
+  tmPopup =
+      context_.platform.NewTimer([this] { context_.Guard("tmPopup", [this] { PopUp(); }); });
+  tmPopup->SetInterval(kPopupDelay);
+  PopUpSoon();
+}
+
+void frm_Menu::Build() {
+  context_.platform.TakeDown(*menu_);
+  menu_ = std::make_shared<PopupMenu>(MainMenuItems());
+  generation_ = context_.ImageGeneration();
   // The menu outlives its form for the moment in which a choice unloads the form.
   menu_->edge = [weak = weak_from_this(), life = context_.life](const std::string& place,
                                                                 const Handler& handler) {
@@ -42,21 +55,29 @@ void frm_Menu::Load() {
     const auto keep = weak.lock();
     if (keep && handler) keep->context_.Guard(place, handler);
   };
+  menu_->admit = [weak = weak_from_this(), life = context_.life] {
+    const auto keep_context = life.lock();
+    const auto keep = weak.lock();
+    return keep ? keep->Admit() : Answer::kOutdated;
+  };
   BuildItems();
   SetUpKeyboardLock();
   SetUpForModel();
   SetUpCaptions();
   SetUpLanguages();
-  if (unloaded_) return;
+}
 
-  tmPopup = context_.platform.NewTimer([this] {
-    context_.Guard("tmPopup", [this] {
-      tmPopup->Stop();
-      context_.platform.PopUp(menu_, kFormWidth / 2, kFormHeight / 2);
-    });
-  });
-  tmPopup->SetInterval(kPopupDelay);
+Answer frm_Menu::Admit() {
+  if (generation_ == context_.ImageGeneration()) return Answer::kDone;
   PopUpSoon();
+  return Answer::kOutdated;
+}
+
+void frm_Menu::PopUp() {
+  const auto keep = shared_from_this();  // a text source may unload it meanwhile
+  tmPopup->Stop();
+  if (generation_ != context_.ImageGeneration()) Build();
+  if (!unloaded_) context_.platform.PopUp(menu_, kFormWidth / 2, kFormHeight / 2);
 }
 
 void frm_Menu::PopUpSoon() {

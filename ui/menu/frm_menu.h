@@ -19,7 +19,8 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   frm_Menu(const frm_Menu&) = delete;
   frm_Menu& operator=(const frm_Menu&) = delete;
 
-  /// Sets the items up for the model and the host, and starts the timer that pops the menu up.
+  /// Sets the items up for the model and the host, and starts the timer that pops the menu up. A menu
+  /// whose image has been replaced chooses nothing; that of the present one pops up next.
   void Load();
   /// Takes menu and editors off the screen; what an open editor holds is discarded as by Cancel.
   void Unload();
@@ -36,6 +37,10 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
     std::shared_ptr<Dialog> dialog;
   };
 
+  /// A menu for the present image, in place of the one before.
+  void Build();
+  [[nodiscard]] Answer Admit();
+  void PopUp();
   void BuildItems();
   void BindItem(std::string_view item, Handler action);
   void PopUpSoon();
@@ -54,6 +59,7 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
 
   Context& context_;
   std::shared_ptr<PopupMenu> menu_;
+  int generation_ = 0;  ///< of the image that the menu is for
   std::unique_ptr<Timer> tmPopup;
   std::vector<EditorReference> editors_;
   EditorReference& message_;  ///< fMsg, which no item of its own opens

@@ -30,6 +30,9 @@ MenuItem& PopupMenu::Item(std::string_view name) {
 Answer PopupMenu::Choose(std::string_view name) {
   std::vector<MenuItem*> path;
   if (!FindPath(root_, name, path)) return Answer::kNoSuchPlace;
+  if (const Answer admission = admit ? admit() : Answer::kDone; admission != Answer::kDone) {
+    return admission;
+  }
   for (const MenuItem* item : path) {
     if (!item->visible) return Answer::kHidden;
     if (!item->enabled) return Answer::kDisabled;

@@ -14,6 +14,7 @@ const char* Describe(Answer answer) {
     case Answer::kDisabled: return "is disabled";
     case Answer::kNoSuchPlace: return "has no such place";
     case Answer::kNotAChoice: return "has no such choice";
+    case Answer::kOutdated: return "belongs to data that has been replaced";
   }
   return "";
 }

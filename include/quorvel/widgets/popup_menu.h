@@ -33,9 +33,14 @@ class PopupMenu {
   /// The item of that name; throws std::invalid_argument when there is none.
   [[nodiscard]] MenuItem& Item(std::string_view name);
 
-  /// What a person does with an item. Refused when the item, or a menu around it, is hidden or
-  /// disabled, and for items that open a submenu. Calls the handler last.
+  /// What a person does with an item. Refused when the owner does not admit it, when the item, or a
+  /// menu around it, is hidden or disabled, and for items that open a submenu. Calls the handler
+  /// last.
   Answer Choose(std::string_view name);
+
+  /// Asked before an item is chosen: anything but kDone refuses the choice. By default all are
+  /// admitted.
+  std::function<Answer()> admit;
 
   /// Runs a handler as an edge of its owner; by default it is called directly.
   std::function<void(const std::string& place, const Handler& handler)> edge;

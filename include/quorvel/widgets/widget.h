@@ -15,6 +15,7 @@ enum class Answer {
   kDisabled,     ///< the control, or its dialog behind a modal one, takes no input
   kNoSuchPlace,  ///< no such row, column, item or page, or one that cannot be picked
   kNotAChoice,   ///< a pasted text or picked value that the control does not offer
+  kOutdated,     ///< a menu's settings are gone: other data has arrived since it was made
 };
 
 /// The answer in words, for scripts and messages.
