@@ -126,14 +126,14 @@ std::map<int, Rows> RowsOf(const std::vector<Place>& places,
   const auto is_written = [&written](const Place& place) {
     return written.count({place.block, place.name}) != 0;
   };
-  std::map<int, std::vector<std::pair<int, Row>>> sorted;  // by block: byte and row
+  std::map<int, std::multimap<int, Row>> sorted;  // by block and byte
   for (auto first = places.begin(); first != places.end();) {
     const auto next = std::find_if(first, places.end(), [&](const Place& place) {
       return place.word != first->word || place.block != first->block ||
              is_written(place) != is_written(*first);
     });
     const Place& last = *(next - 1);
-    sorted[first->block].push_back(
+    sorted[first->block].insert(
         {first->at,
          {Where(*first, last),
           "`" + NameRange(first->name, last.name) + "`" + Remark(*first, is_written(*first))}});
@@ -141,8 +141,6 @@ std::map<int, Rows> RowsOf(const std::vector<Place>& places,
   }
   std::map<int, Rows> rows;
   for (auto& [block, list] : sorted) {
-    std::stable_sort(list.begin(), list.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
     for (auto& [at, row] : list) rows[block].push_back(std::move(row));
   }
   return rows;

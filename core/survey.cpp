@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "core/layout/blocks.h"
 
@@ -185,12 +186,13 @@ std::map<std::string, Holding> HoldingsOf(const Configuration& configuration) {
 std::vector<SettingDifference> CompareConfigurations(const Configuration& one,
                                                      const Configuration& other) {
   auto others = HoldingsOf(other);
-  std::vector<SettingDifference> differences;
-  const auto add = [&differences](const std::string& name, const Holding& mine,
-                                  const Holding& theirs) {
+  std::multimap<Byte, SettingDifference> by_block;
+  const auto add = [&by_block](const std::string& name, const Holding& mine,
+                               const Holding& theirs) {
     std::set<Byte> blocks = mine.blocks;
     blocks.insert(theirs.blocks.begin(), theirs.blocks.end());
-    differences.push_back({name, mine.value, theirs.value, {blocks.begin(), blocks.end()}});
+    by_block.insert(
+        {*blocks.begin(), {name, mine.value, theirs.value, {blocks.begin(), blocks.end()}}});
   };
   for (const auto& [name, mine] : HoldingsOf(one)) {
     const auto theirs = others.extract(name);
@@ -199,9 +201,8 @@ std::vector<SettingDifference> CompareConfigurations(const Configuration& one,
     if (it.value != mine.value) add(name, mine, it);
   }
   for (const auto& [name, theirs] : others) add(name, {}, theirs);
-  std::stable_sort(differences.begin(), differences.end(), [](const auto& a, const auto& b) {
-    return a.blocks.front() < b.blocks.front();
-  });
+  std::vector<SettingDifference> differences;
+  for (auto& [block, difference] : by_block) differences.push_back(std::move(difference));
   return differences;
 }
 

@@ -24,9 +24,10 @@ install_missing() {
     apt-get install -q -y --no-install-recommends "${missing[@]}" >&2
 }
 
-# What building needs; what testing needs on top. The fuzz targets have a compiler of their own: its
-# sanitizers are a package that it only recommends, and llvm names the lines of a failure.
+# What building needs; what testing needs on top, which is done with two compilers. The fuzz targets
+# need the sanitizers of the second, a package that it only recommends, and llvm, which names the
+# lines of a failure.
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
 RUN_PACKAGES=(fonts-dejavu-core)
-TEST_PACKAGES=(libgtest-dev clang-format)
+TEST_PACKAGES=(libgtest-dev clang clang-format)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)

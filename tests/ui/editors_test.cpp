@@ -46,9 +46,10 @@ TEST(Editors, OfAnEarlierImageWriteNothing) {
   host.Identify(4, 6);
   host.Download();
   EXPECT_EQ(editor.Find<Button>("cmd_OK").Click(), Answer::kDone);
-  EXPECT_EQ(host.OnlyMessage(),
-            "Other data has arrived since this window was opened. Nothing was changed: close it and "
-            "open it again.");
+  EXPECT_EQ(
+      host.OnlyMessage(),
+      "Other data has arrived since this window was opened. Nothing was changed: close it and "
+      "open it again.");
   EXPECT_EQ(editor.Find<TextBox>("m_CameraTitle(0)").Text(), "Old device");
   EXPECT_TRUE(host.Modified().empty());
 }

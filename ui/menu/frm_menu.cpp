@@ -38,8 +38,7 @@ void frm_Menu::Load() {
   Build();
   if (unloaded_) return;
 
-  tmPopup =
-      context_.platform.NewTimer([this] { context_.Guard("tmPopup", [this] { PopUp(); }); });
+  tmPopup = context_.platform.NewTimer([this] { context_.Guard("tmPopup", [this] { PopUp(); }); });
   tmPopup->SetInterval(kPopupDelay);
   PopUpSoon();
 }

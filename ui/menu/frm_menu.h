@@ -19,8 +19,8 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   frm_Menu(const frm_Menu&) = delete;
   frm_Menu& operator=(const frm_Menu&) = delete;
 
-  /// Sets the items up for the model and the host, and starts the timer that pops the menu up. A menu
-  /// whose image has been replaced chooses nothing; that of the present one pops up next.
+  /// Sets the items up for the model and the host, and starts the timer that pops the menu up. A
+  /// menu whose image has been replaced chooses nothing; that of the present one pops up next.
   void Load();
   /// Takes menu and editors off the screen; what an open editor holds is discarded as by Cancel.
   void Unload();
