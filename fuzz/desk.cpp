@@ -55,7 +55,7 @@ std::vector<std::uint8_t> Desk::ReadFile(const std::string& path) {
   return found->second;
 }
 
-void Desk::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+void Desk::StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) {
   if (disk_fails) throw PlatformError("cannot write " + path);
   files[path].assign(bytes.begin(), bytes.end());
 }

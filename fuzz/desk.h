@@ -29,7 +29,7 @@ class Desk : public HeadlessPlatform {
   bool Ask(const Message& message) override;
   std::optional<std::string> AskFile(const FileRequest& request) override;
   std::vector<std::uint8_t> ReadFile(const std::string& path) override;
-  void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
+  void StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
 };
 
 /// Clicks a button; true when it took the click.

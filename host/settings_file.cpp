@@ -60,7 +60,7 @@ FileRequest SaveRequest(const std::string& default_name) {
 /// Writes what can be read again.
 void Write(Context& context, const std::string& path, std::span<const Byte> bytes) {
   if (bytes.size() >= kLengthLimit) throw ImageError("too many bytes for a settings file");
-  context.platform.ReplaceFile(path, bytes);
+  context.platform.StoreFile(path, bytes);
 }
 
 FileRequest RestoreRequest() {

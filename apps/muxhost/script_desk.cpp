@@ -22,8 +22,8 @@ std::optional<std::string> DeskPlatform::AskFile(const FileRequest& request) {
   return HeadlessPlatform::AskFile(request);
 }
 
-void DeskPlatform::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
-  HeadlessPlatform::ReplaceFile(path, bytes);
+void DeskPlatform::StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+  HeadlessPlatform::StoreFile(path, bytes);
   written = bytes.size();
 }
 

@@ -38,7 +38,7 @@ class DeskPlatform final : public HeadlessPlatform {
   std::optional<std::size_t> written;
 
   std::optional<std::string> AskFile(const FileRequest& request) override;
-  void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
+  void StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
 };
 
 /// What the commands of a script act on: a host without a screen, and whoever sits before it.

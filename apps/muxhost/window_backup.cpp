@@ -84,7 +84,7 @@ BackupResult BackUpDevice(QtPlatform& platform, HostSession& session, const QStr
   }
   const QString file = NewFileIn(QDir(folder), NameOf(session.Device(), platform));
   try {
-    platform.ReplaceFile(file.toStdString(), *bytes);
+    platform.StoreFile(file.toStdString(), *bytes);
   } catch (const PlatformError& error) {
     return {Outcome::kFailed, QString::fromStdString(error.what())};
   }

@@ -19,7 +19,8 @@ class ControlSurface;
 class Dialog;
 class PopupMenu;
 
-/// The outside world refused: a file cannot be read or written.
+/// The outside world refused: a file cannot be read or written. The text says what failed and why;
+/// the user sees it in the second line of a message.
 class PlatformError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -108,10 +109,12 @@ class Platform {
   [[nodiscard]] virtual std::unique_ptr<Timer> NewTimer(std::function<void()> tick) = 0;
   [[nodiscard]] virtual LocalTime Now() const = 0;
 
+  // Paths are UTF-8.
+
   /// A whole file; throws PlatformError.
   [[nodiscard]] virtual std::vector<std::uint8_t> ReadFile(const std::string& path) = 0;
   /// Replaces a file by these bytes, whole or not at all; throws PlatformError.
-  virtual void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) = 0;
+  virtual void StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) = 0;
 
   [[nodiscard]] virtual Font AmbientFont() const = 0;
   /// Space that a line of text takes.

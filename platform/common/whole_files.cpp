@@ -1,18 +1,15 @@
 #include "platform/common/whole_files.h"
 
-#include <cstdio>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <memory>
 #include <string>
+#include <string_view>
 #include <system_error>
 
+#include "platform/common/sole_file.h"
 #include "quorvel/platform.h"
-
-#if __has_include(<unistd.h>)
-#include <unistd.h>
-#endif
 
 namespace quorvel {
 
@@ -21,6 +18,14 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::uintmax_t kMostBytes = 64 << 20;
+
+/// Paths are UTF-8, whatever the system's own encoding of file names is.
+fs::path PathOf(const std::string& utf8) { return std::u8string(utf8.begin(), utf8.end()); }
+
+[[noreturn]] void Refuse(std::string_view what, const std::string& path,
+                         const std::error_code& why) {
+  throw PlatformError(std::string(what) + ' ' + path + ": " + why.message());
+}
 
 /// A link stays a link, also one to a file that is not there yet.
 fs::path BehindLinks(fs::path path) {
@@ -32,62 +37,63 @@ fs::path BehindLinks(fs::path path) {
   return path;
 }
 
-/// A name in the same folder that no file has.
-fs::path FreeNameBeside(const fs::path& target) {
-  std::error_code error;
-  fs::path beside = target;
-  beside += ".new";
-  for (int n = 1; fs::exists(fs::symlink_status(beside, error)); ++n) {
-    beside = target;
-    beside += ".new" + std::to_string(n);
+/// The file that is to take the target's place: "x.bin.new" beside "x.bin". Only where that name
+/// cannot be had, because another writer is at it, a number follows.
+std::optional<SoleFile> CreateBeside(const fs::path& target, std::error_code& error) {
+  constexpr int kMostTries = 9;
+  for (int n = 0; n < kMostTries; ++n) {
+    fs::path beside = target;
+    beside += n == 0 ? ".new" : ".new" + std::to_string(n);
+    auto file = SoleFile::Create(beside, error);
+    if (file || error == std::errc::no_such_file_or_directory) return file;
   }
-  return beside;
+  return std::nullopt;
 }
 
-/// Not before the bytes are on the disk may they take the place of the old ones.
-bool WriteThrough(const fs::path& path, std::span<const std::uint8_t> bytes) {
-  struct Close {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-  const std::unique_ptr<std::FILE, Close> file(std::fopen(path.c_str(), "wb"));
-  if (file == nullptr) return false;
-  bool good = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-  good = std::fflush(file.get()) == 0 && good;
-#if __has_include(<unistd.h>)
-  good = fsync(fileno(file.get())) == 0 && good;
-#endif
-  return good;
+std::error_code WriteBeside(const fs::path& target, const fs::file_status& present,
+                            std::span<const std::uint8_t> bytes) {
+  std::error_code error;
+  auto file = CreateBeside(target, error);
+  if (!file) return error;
+  error = file->Write(bytes);
+  if (error) return error;
+  if (fs::exists(present)) {
+    std::error_code refused;  // somebody else's file: it is replaced all the same
+    fs::permissions(file->Path(), present.permissions(), refused);
+  }
+  return file->MoveTo(target);
 }
 
 }  // namespace
 
 std::vector<std::uint8_t> ReadWholeFile(const std::string& path) {
+  const fs::path name = PathOf(path);
   std::error_code error;
-  if (!fs::is_regular_file(path, error)) throw PlatformError("cannot read " + path);
-  if (fs::file_size(path, error) > kMostBytes) throw PlatformError("too long to read: " + path);
-  std::ifstream file(path, std::ios::binary);
+  if (fs::exists(name, error) && !fs::is_regular_file(name, error)) {
+    throw PlatformError("cannot read " + path + ": it is not a file");
+  }
+  const auto length = fs::file_size(name, error);
+  if (error) Refuse("cannot read", path, error);
+  if (length > kMostBytes)
+    Refuse("cannot read", path, std::make_error_code(std::errc::file_too_large));
+  errno = 0;
+  std::ifstream file(name, std::ios::binary);
   std::vector<char> bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-  if (!file.is_open() || file.bad()) throw PlatformError("cannot read " + path);
+  if (!file.is_open() || file.bad()) {
+    Refuse("cannot read", path, {errno != 0 ? errno : EIO, std::generic_category()});
+  }
   return {bytes.begin(), bytes.end()};
 }
 
 void ReplaceWholeFile(const std::string& path, std::span<const std::uint8_t> bytes) {
   std::error_code error;
-  const fs::path target = BehindLinks(path);
+  const fs::path target = BehindLinks(PathOf(path));
   const auto present = fs::status(target, error);
   if (fs::exists(present) && !fs::is_regular_file(present)) {
-    throw PlatformError("not a file: " + path);
+    throw PlatformError("cannot write " + path + ": it is not a file");
   }
-  const fs::path beside = FreeNameBeside(target);
-  bool good = WriteThrough(beside, bytes);
-  if (good && fs::exists(present)) {
-    std::error_code refused;  // somebody else's file: it is replaced all the same
-    fs::permissions(beside, present.permissions(), refused);
-  }
-  if (good) fs::rename(beside, target, error);
-  if (good && !error) return;
-  fs::remove(beside, error);
-  throw PlatformError("cannot write " + path);
+  error = WriteBeside(target, present, bytes);
+  if (error) Refuse("cannot write", path, error);
 }
 
 }  // namespace quorvel

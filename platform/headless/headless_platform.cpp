@@ -199,7 +199,7 @@ std::vector<std::uint8_t> HeadlessPlatform::ReadFile(const std::string& path) {
   return ReadWholeFile(path);
 }
 
-void HeadlessPlatform::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+void HeadlessPlatform::StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) {
   ReplaceWholeFile(path, bytes);
 }
 

@@ -70,7 +70,7 @@ std::vector<std::uint8_t> QtPlatform::ReadFile(const std::string& path) {
   return ReadWholeFile(path);
 }
 
-void QtPlatform::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+void QtPlatform::StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) {
   ReplaceWholeFile(path, bytes);
 }
 

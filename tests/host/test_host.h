@@ -25,7 +25,7 @@ class TestPlatform : public HeadlessPlatform {
     if (!files.contains(path)) throw PlatformError("no such file");
     return files[path];
   }
-  void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override {
+  void StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) override {
     if (disk_is_full) throw PlatformError("the disk is full");
     files[path].assign(bytes.begin(), bytes.end());
   }

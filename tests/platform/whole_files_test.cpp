@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "platform/common/sole_file.h"
 #include "quorvel/platform.h"
 
 namespace quorvel {
@@ -32,13 +33,29 @@ class WholeFiles : public ::testing::Test {
 
 TEST_F(WholeFiles, ReplaceWholeAndLeaveNothingElse) {
   std::ofstream(In("a.bin")) << "a longer file that was here before";
-  std::ofstream(In("a.bin.new")) << "somebody's";
+  std::ofstream(In("a.bin.new")) << "what a killed write has left";
   fs::permissions(In("a.bin"), fs::perms::owner_read | fs::perms::owner_write);
   ReplaceWholeFile(In("a.bin"), bytes_);
   EXPECT_EQ(ReadWholeFile(In("a.bin")), bytes_);
-  EXPECT_EQ(ReadWholeFile(In("a.bin.new")).size(), 10U);
-  EXPECT_EQ(FilesInFolder(), 2U);
+  EXPECT_EQ(FilesInFolder(), 1U);
   EXPECT_EQ(fs::status(In("a.bin")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+/// Neither what another writer is at nor what is no file is taken for a left one.
+TEST_F(WholeFiles, NamesThatAreInUseAreLeft) {
+  std::ofstream(In("other")) << "linked";
+  fs::create_symlink("other", In("link.bin.new"));
+  fs::create_directory(In("folder.bin.new"));
+  std::error_code error;
+  const auto busy = SoleFile::Create(In("busy.bin.new"), error);
+  ASSERT_TRUE(busy);
+  const auto files = FilesInFolder();
+  for (const char* const name : {"link.bin", "folder.bin", "busy.bin"}) {
+    ReplaceWholeFile(In(name), bytes_);
+    EXPECT_EQ(ReadWholeFile(In(name)), bytes_);
+  }
+  EXPECT_EQ(FilesInFolder(), files + 3);
+  EXPECT_EQ(ReadWholeFile(In("other")).size(), 6U);
 }
 
 TEST_F(WholeFiles, LinksStayLinks) {
@@ -50,11 +67,24 @@ TEST_F(WholeFiles, LinksStayLinks) {
   }
 }
 
-TEST_F(WholeFiles, WhatIsNoFileIsRefused) {
+TEST_F(WholeFiles, WhatIsRefusedTellsWhy) {
   fs::create_directory(In("folder"));
-  for (const std::string& path : {In("folder"), In("missing/a.bin")}) {
-    EXPECT_THROW(ReplaceWholeFile(path, bytes_), PlatformError) << path;
-    EXPECT_THROW(static_cast<void>(ReadWholeFile(path)), PlatformError) << path;
+  const auto told = [](const auto& act) -> std::string {
+    try {
+      act();
+    } catch (const PlatformError& error) {
+      return error.what();
+    }
+    return {};
+  };
+  struct {
+    std::string path;
+    const char* why;
+  } const cases[] = {{In("folder"), ": it is not a file"},
+                     {In("missing/a.bin"), ": No such file or directory"}};
+  for (const auto& [path, why] : cases) {
+    EXPECT_EQ(told([&] { static_cast<void>(ReadWholeFile(path)); }), "cannot read " + path + why);
+    EXPECT_EQ(told([&] { ReplaceWholeFile(path, bytes_); }), "cannot write " + path + why);
   }
   EXPECT_EQ(FilesInFolder(), 1U);
 }

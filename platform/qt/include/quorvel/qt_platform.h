@@ -35,7 +35,7 @@ class QtPlatform : public Platform {
   std::unique_ptr<Timer> NewTimer(std::function<void()> tick) override;
   [[nodiscard]] LocalTime Now() const override;
   std::vector<std::uint8_t> ReadFile(const std::string& path) override;
-  void ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
+  void StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
   [[nodiscard]] quorvel::Font AmbientFont() const override;
   [[nodiscard]] Size MeasureText(const quorvel::Font& font, std::string_view text) const override;
   [[nodiscard]] std::string ToUtf8(std::string_view bytes) const override;
