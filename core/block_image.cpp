@@ -13,7 +13,7 @@ bool BlockImage::Holds(int n) const {
 }
 
 std::size_t BlockImage::Offset(int n) const {
-  if (!Holds(n)) throw ImageError("the image holds no block " + std::to_string(n));
+  if (!Holds(n)) throw ImageError("the configuration holds no block " + std::to_string(n));
   return static_cast<std::size_t>(n - 1) * kBlockSize;
 }
 

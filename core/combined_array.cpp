@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include "core/byte_order.h"
 
@@ -75,8 +76,28 @@ bool CombinedArray::HoldsMacros() const {
   return HoldsImage() && bytes_.size() >= static_cast<std::size_t>(header_.TotalLength());
 }
 
+void CombinedArray::RequireImage() const {
+  if (HoldsImage()) return;
+  const auto number = [](auto value) { return std::to_string(value); };
+  if (bytes_.size() < ComboHeader::kSize) {
+    throw ImageError("this is no combined array: it has " + number(bytes_.size()) +
+                     " bytes, and its header alone takes 13");
+  }
+  if (header_.HdrLen < ComboHeader::kSize) {
+    throw ImageError("this is no combined array: its header states a length of " +
+                     number(header_.HdrLen) + " bytes");
+  }
+  if (!header_.Agrees()) {
+    throw ImageError("the combined array contradicts itself: it states " +
+                     number(header_.BlockCount) + " blocks, but " + number(header_.DataLen) +
+                     " bytes of block data");
+  }
+  throw ImageError("the combined array is cut short: it has " + number(bytes_.size()) + " of " +
+                   number(header_.TotalLength()) + " bytes");
+}
+
 BlockImage CombinedArray::Image() const {
-  if (!HoldsImage()) throw ImageError("the combined array contradicts itself");
+  RequireImage();
   const auto data = std::span(bytes_).subspan(header_.HdrLen, header_.DataLen);
   return BlockImage({data.begin(), data.end()});
 }

@@ -53,6 +53,8 @@ class CombinedArray {
   [[nodiscard]] bool HoldsImage() const;
   /// True when all macro data that is counted is here as well.
   [[nodiscard]] bool HoldsMacros() const;
+  /// Throws ImageError, which says why, unless HoldsImage.
+  void RequireImage() const;
   /// The block data; throws ImageError unless HoldsImage.
   [[nodiscard]] BlockImage Image() const;
   /// True when it has an image, and room for every block of this one.

@@ -201,12 +201,13 @@ int FactoryImageOf(Byte model_code) { return IsTriplex(model_code) ? 401 : 301; 
 
 void AdaptToDevice(BlockImage& image, const DefaultsDevice& device, int combo_blocks) {
   if (device.DefChannels > kMostCameras) {
-    throw ImageError("the device names more than 16 cameras");
+    throw ImageError("the device names " + std::to_string(device.DefChannels) +
+                     " cameras; 16 are the most");
   }
   const bool triplex = IsTriplex(device.DefModelCode);
   const int needed = triplex ? kTriplexBlocks : kDuplexBlocks;
   if (!image.Counts(needed)) {
-    throw ImageError("the factory image has fewer than " + std::to_string(needed) + " blocks");
+    throw ImageError("the factory settings have fewer than " + std::to_string(needed) + " blocks");
   }
   if (triplex) {
     AdaptTriplex(image, device, combo_blocks);

@@ -1,6 +1,7 @@
 #include "core/identity.h"
 
 #include <algorithm>
+#include <string>
 
 namespace quorvel {
 
@@ -27,14 +28,20 @@ void SetModelFlags(Identity& id, Byte model_code) {
 
 Identity ReadIdentity(const BlockImage& image) {
   const Byte count = image.BlkCount();
-  if (count > 0 && !image.Holds(count)) throw ImageError("the image is shorter than its count");
+  if (count > 0 && !image.Holds(count)) {
+    throw ImageError("the configuration is cut short: it counts " + std::to_string(count) +
+                     " blocks and holds " + std::to_string(image.Size() / kBlockSize));
+  }
   Identity id;
   if (!image.Holds(kIdentityBlock)) {
     id.MaxCam = kMostCameras;
     return id;
   }
   const auto block = image.Block(kIdentityBlock);
-  if (block[0] > kMostCameras) throw ImageError("the image names more than 16 cameras");
+  if (block[0] > kMostCameras) {
+    throw ImageError("the configuration names " + std::to_string(block[0]) +
+                     " cameras; 16 are the most");
+  }
   id.MaxCam = block[0];
   SetModelFlags(id, block[1] & 0x7F);
   id.ExtendedImage = count >= kExtendedImageBlocks;

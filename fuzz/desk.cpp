@@ -22,7 +22,8 @@ constexpr std::array<std::string_view, 5> kTakeImages = {
 void CheckFailureIsExplained(const Message& message) {
   const auto failure = std::current_exception();
   if (failure == nullptr) Fail("a failure is told without one: " + message.text);
-  const std::string_view where = std::string_view(message.text).substr(kFailure.size());
+  std::string_view where = std::string_view(message.text).substr(kFailure.size());
+  where = where.substr(0, where.find('\r'));
   const bool takes_images = std::ranges::find(kTakeImages, where) != kTakeImages.end();
   try {
     std::rethrow_exception(failure);

@@ -96,7 +96,7 @@ void Download::ShowProgress() {
 }
 
 void Download::TakeReply(std::span<const Byte> data) {
-  if (data.empty()) throw ImageError("a reply without a byte");
+  if (data.empty()) throw ImageError("the reply is empty");
   switch (expecting_) {
     case Expecting::kDefaultsProbe: return TakeProbe(data);
     case Expecting::kDefaultsIdentity: return TakeIdentity(data);
@@ -113,7 +113,7 @@ void Download::TakeBlock(std::span<const Byte> reply) {
   const int number = reply[0];
   if (number != awaited_) return;  // late or repeated: it belongs to no request
   // A longer block would push all that follow out of place.
-  if (reply.size() > kReplyLength) throw ImageError("a block of more than 16 bytes");
+  if (reply.size() > kReplyLength) throw ImageError("the block has more than 16 bytes");
   expecting_ = Expecting::kNothing;
   arriving_.Append(reply.subspan(1));
   const int count = arriving_.BlkCount();
@@ -148,7 +148,7 @@ void Download::TakeWholeImage(std::span<const Byte> data) {
   if (!ExpectsDevice() && !MayTakeUnasked()) return;
   const auto bytes = data.first(data.size() - 1);  // the last byte is not part of it
   BlockImage image({bytes.begin(), bytes.end()});
-  if (image.BlkCount() == 0) throw ImageError("an image without blocks");
+  if (image.BlkCount() == 0) throw ImageError("the configuration counts no blocks");
   Adopt(std::move(image), ImageSource::kDevice);
   context_.ImageByteCount = static_cast<std::int32_t>(bytes.size());
   TellArrival();
@@ -163,13 +163,11 @@ void Download::TakeComboArray(std::span<const Byte> data) {
   if (array.HoldsImage()) {
     if (!array.HoldsMacros()) flaw = macros_missing_text_;
     BlockImage image = array.Image();
-    if (image.BlkCount() == 0) throw ImageError("an array without blocks");
+    if (image.BlkCount() == 0) throw ImageError("the configuration counts no blocks");
     Adopt(std::move(image), ImageSource::kDevice, std::move(array));
     received_combined_ = true;
   } else {
-    if (!context_.HasImage()) {
-      throw ImageError("the array contradicts itself and there is no image to fall back on");
-    }
+    if (!context_.HasImage()) array.RequireImage();  // there is none to fall back on
     // The present image stays, and what was edited in it; what came can be saved.
     flaw = not_used_text_;
     unusable_.emplace(data.begin(), data.end());
@@ -245,7 +243,7 @@ void Download::BuildDefaults() {
 
 void Download::TakeProbe(std::span<const Byte> reply) {
   if (reply[0] != awaited_) return;
-  if (reply.size() <= kVariantAt) throw ImageError("a block without a variant character");
+  if (reply.size() <= kVariantAt) throw ImageError("block 183 has come without the variant");
   defaults_.DefProbeByte = reply[kVariantAt];
   Request(Expecting::kDefaultsIdentity, kIdentityBlock);
 }
@@ -253,7 +251,7 @@ void Download::TakeProbe(std::span<const Byte> reply) {
 void Download::TakeIdentity(std::span<const Byte> reply) {
   if (reply[0] != awaited_) return;
   expecting_ = Expecting::kNothing;
-  if (reply.size() < kReplyLength) throw ImageError("a block without an identity");
+  if (reply.size() < kReplyLength) throw ImageError("block 185 has come without the identity");
   defaults_.DefChannels = reply[1];
   defaults_.DefModelCode = reply[2] & kModelCodeMask;
   std::copy_n(reply.begin() + 3, defaults_.DefModelName.size(), defaults_.DefModelName.begin());

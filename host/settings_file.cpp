@@ -1,12 +1,12 @@
 #include "host/settings_file.h"
 
 #include "host/combined_exchange.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
 namespace {
 
-constexpr std::size_t kLengthLimit = 32768;
 constexpr const char* kFileName = "MuxMenuSave.bin";
 constexpr const char* kFilter = "*.bin";
 
@@ -33,7 +33,7 @@ void RefuseMisplaced(std::span<const Byte> bytes) {
   const auto array = CombinedArray::Parse(bytes, {});
   if (array.HoldsImage() && array.Bytes().size() == bytes.size() &&
       array.Header().TotalLength() == static_cast<std::int32_t>(bytes.size())) {
-    throw ImageError("the file holds a combined array of another device");
+    throw ImageError("the file holds the combined array of a device with fewer blocks");
   }
 }
 
@@ -57,10 +57,12 @@ FileRequest SaveRequest(const std::string& default_name) {
   return request;
 }
 
-/// Writes what can be read again.
 void Write(Context& context, const std::string& path, std::span<const Byte> bytes) {
-  if (bytes.size() >= kLengthLimit) throw ImageError("too many bytes for a settings file");
+  constexpr int kTextMessage = 32;
   context.platform.StoreFile(path, bytes);
+  if (bytes.size() < kRestoreLimit) return;
+  const Message message{context.GetText(kTextTooLongToRestore), context.GetText(kTextMessage)};
+  if (!context.terminated) context.platform.Ask(message);
 }
 
 FileRequest RestoreRequest() {
@@ -76,7 +78,10 @@ FileRequest RestoreRequest() {
 }  // namespace
 
 SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> bytes) {
-  if (bytes.size() >= kLengthLimit) throw ImageError("the file is too long for settings");
+  if (bytes.size() >= kRestoreLimit) {
+    throw ImageError("the file has " + std::to_string(bytes.size()) +
+                     " bytes; files of 32768 bytes or more cannot be restored");
+  }
   SettingsFile file;
   file.combined = IsCombinedFile(context, bytes);
   if (file.combined) {
@@ -87,7 +92,9 @@ SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> byte
     file.image = BlockImage({bytes.begin(), bytes.end()});
     if (context.ComboMode) file.array = BuildComboArray(context.combo_sizes, file.image);
   }
-  if (file.image.BlkCount() == 0) throw ImageError("an image without blocks");
+  if (file.image.BlkCountOrZero() == 0) {
+    throw ImageError("this is no configuration: it counts no blocks");
+  }
   LockOldKeyboards(file.image, context.HostCommId);
   return file;
 }

@@ -18,19 +18,23 @@ struct SettingsFile {
   bool combined = false;  ///< it was a combined file
 };
 
-/// What the bytes of a file hold. Throws ImageError for 32768 bytes or more, and for bytes that
+/// A file of so many bytes or more can be saved, but not restored.
+inline constexpr std::size_t kRestoreLimit = 32768;
+
+/// What the bytes of a file hold. Throws ImageError for kRestoreLimit bytes or more, and for bytes that
 /// contradict themselves. Whether the image can be decoded shows when it is.
 [[nodiscard]] SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> bytes);
 
 /// Asks the user for a file to restore and reads it; nothing when the dialog was cancelled.
 [[nodiscard]] std::optional<std::vector<Byte>> AskForSettings(Context& context);
 
-/// Asks the user for a name, proposing `default_name`, and replaces the file by `bytes`. Cancel
-/// ends it.
+/// Asks the user for a name, proposing `default_name`, and replaces the file by `bytes`; tells when
+/// they are too many to be restored. Cancel ends it.
 void SaveBytes(Context& context, const std::string& default_name, std::span<const Byte> bytes);
 
 /// Command 14. Asks for a name, encodes what is listed as modified, and writes the image or the
-/// combined array. Nothing happens before there is an image.
+/// combined array; tells when that is too long to be restored. Nothing happens before there is an
+/// image.
 void SaveImageToFile(Context& context);
 
 }  // namespace quorvel

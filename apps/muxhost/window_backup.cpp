@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "apps/muxhost/window_words.h"
+#include "host/settings_file.h"
 
 namespace quorvel::muxhost {
 
@@ -69,16 +70,10 @@ void BackupDialog::Fail(const QString& why) {
 BackupResult BackUpDevice(QtPlatform& platform, HostSession& session, const QString& folder,
                           QWidget* window) {
   using Outcome = BackupResult::Outcome;
-  constexpr std::size_t kLongestSettingsFile = 32767;
   BackupDialog dialog(session, window);
   const auto bytes = dialog.Read();
   if (dialog.Cancelled()) return {Outcome::kCancelled, "cancelled"};
   if (!bytes) return {Outcome::kFailed, dialog.Failure()};
-  if (bytes->size() > kLongestSettingsFile) {
-    return {Outcome::kFailed, QString("%1 bytes are too many for a settings file, which holds %2")
-                                  .arg(bytes->size())
-                                  .arg(kLongestSettingsFile)};
-  }
   if (!QDir().mkpath(folder)) {
     return {Outcome::kFailed, QString("the folder %1 cannot be made").arg(folder)};
   }
@@ -88,7 +83,9 @@ BackupResult BackUpDevice(QtPlatform& platform, HostSession& session, const QStr
   } catch (const PlatformError& error) {
     return {Outcome::kFailed, QString::fromStdString(error.what())};
   }
-  return {Outcome::kWritten, QString("%1 bytes in %2").arg(bytes->size()).arg(file)};
+  const bool restorable = bytes->size() < kRestoreLimit;
+  return {restorable ? Outcome::kWritten : Outcome::kTooLongToRestore,
+          QString("%1 bytes in %2").arg(bytes->size()).arg(file)};
 }
 
 }  // namespace quorvel::muxhost

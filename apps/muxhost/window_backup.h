@@ -35,13 +35,13 @@ class BackupDialog : public QDialog {
 
 /// What came of a backup.
 struct BackupResult {
-  enum class Outcome { kWritten, kCancelled, kFailed };
+  enum class Outcome { kWritten, kTooLongToRestore, kCancelled, kFailed };
   Outcome outcome = Outcome::kFailed;
   QString told;  ///< the file and its size, or why there is none: for a log
 };
 
 /// Keeps what the device holds in a new file of the folder, which is made when it is not there. The
-/// file has the device's name and the time in its name, and can be restored.
+/// file has the device's name and the time in its name, and can be restored unless it is too long.
 [[nodiscard]] BackupResult BackUpDevice(QtPlatform& platform, HostSession& session,
                                         const QString& folder, QWidget* window);
 

@@ -28,18 +28,28 @@ bool Uploader::BackUp() {
     case BackupResult::Outcome::kWritten:
       at_.log.Add("backup of the device: " + backup.told.toStdString());
       return at_.window.isVisible();
+    case BackupResult::Outcome::kTooLongToRestore:
+      at_.log.Add("backup of the device, too long to be restored: " + backup.told.toStdString());
+      return MayGoOn("The backup of the device is too long to be restored: " + backup.told + ".",
+                     "Files of 32768 bytes or more are kept, but cannot be restored. Upload "
+                     "all the same?",
+                     "Upload");
     case BackupResult::Outcome::kCancelled:
       at_.log.Add("the backup was cancelled: nothing is uploaded");
       return false;
     case BackupResult::Outcome::kFailed: break;
   }
   at_.log.Add("no backup of the device: " + backup.told.toStdString());
+  return MayGoOn("There is no backup of the device: " + backup.told + ".", "Upload without one?",
+                 "Upload without backup");
+}
+
+bool Uploader::MayGoOn(const QString& trouble, const QString& question, const char* go_on) {
   if (!at_.window.isVisible()) return false;
-  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(),
-                  "There is no backup of the device: " + backup.told + ".", QMessageBox::Cancel,
+  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Cancel,
                   &at_.window);
-  box.setInformativeText("Upload without one?");
-  const auto* const on = box.addButton("Upload without backup", QMessageBox::AcceptRole);
+  box.setInformativeText(question);
+  const auto* const on = box.addButton(go_on, QMessageBox::AcceptRole);
   box.setDefaultButton(QMessageBox::Cancel);
   box.exec();
   return box.clickedButton() == on && at_.window.isVisible();

@@ -114,11 +114,14 @@ TEST(Control, MayBeDestroyedInAnyEvent) {
 TEST(Control, AHostThatFailsInAnEventIsToldAndTheSequenceCanBeRepeated) {
   TestHost host;
   host.act_in = "UploadSucceeded";
-  host.act = [] { throw std::runtime_error("host"); };
+  host.act = [] { throw std::runtime_error("the link is down"); };
   host.Download();
-  EXPECT_EQ(host.platform.TakeMessages().at(0).text, "Error found in FillDataBlk");
+  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk\rThe link is down.");
+  host.act = [] { throw 7; };
   host.Download();
-  EXPECT_EQ(host.Count("UploadSucceeded"), 2);
+  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk\rThe cause is not known.");
+  host.Download();
+  EXPECT_EQ(host.Count("UploadSucceeded"), 3);
 }
 
 /// A source of texts that does something each time it is asked.

@@ -16,13 +16,15 @@ TEST(Defaults, OtherRepliesAreNotTaken) {
   host.platform.RunUntilIdle();
   for (const int stray : {1, 185}) host.Give(stray);
   host.Give(183, 8);  // too short for the variant
-  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk");
+  EXPECT_EQ(host.OnlyMessage(),
+            "Error found in FillDataBlk\rBlock 183 has come without the variant.");
   EXPECT_EQ(host.control->Image(), before);
   host.silent_from = 185;
   host.Give(183);  // it is still expected
   EXPECT_EQ(host.log.back(), "RequestBlk 185");
   host.Give(185, 16);
-  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk");
+  EXPECT_EQ(host.OnlyMessage(),
+            "Error found in FillDataBlk\rBlock 185 has come without the identity.");
   host.Give(185);  // the sequence is over
   EXPECT_EQ(host.control->Image(), before);
   EXPECT_EQ(host.Count("UploadSucceeded"), 1);

@@ -14,7 +14,8 @@ TEST(Download, UnusableImagesAreRefusedAndTheOldRecordStays) {
   host.control->Custom(10, 0, 0);
   auto messages = host.platform.TakeMessages();
   ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0].text, "Error found in FillDataBlk");
+  EXPECT_EQ(messages[0].text,
+            "Error found in FillDataBlk\rThe configuration names 17 cameras; 16 are the most.");
   EXPECT_EQ(messages[0].title, "Quorvel");
   EXPECT_EQ(host.Count("UploadSucceeded"), 1);
   auto& editor = host.OpenCameraSetup();
@@ -23,7 +24,7 @@ TEST(Download, UnusableImagesAreRefusedAndTheOldRecordStays) {
   host.control->FillDataBlk({});
   messages = host.platform.TakeMessages();
   ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0].text, "Error found in FillDataBlk");
+  EXPECT_EQ(messages[0].text, "Error found in FillDataBlk\rThe reply is empty.");
 }
 
 TEST(Download, SavesWhatWasReceived) {
@@ -75,7 +76,7 @@ TEST(Download, ALongBlockIsRefusedAndTheRightOneStillTaken) {
     host.control->FillDataBlk(reply);
   };
   host.Download();
-  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk");
+  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk\rThe block has more than 16 bytes.");
   EXPECT_EQ(host.Count("UploadSucceeded"), 1);
   EXPECT_TRUE(std::ranges::equal(host.control->Image(), host.device.Bytes()));
 }

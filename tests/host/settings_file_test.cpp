@@ -115,7 +115,7 @@ TEST_F(Files, WhatCannotBeWrittenOrIsCancelledChangesNothing) {
   EditTitle("Typed");
   host_.platform.disk_is_full = true;
   Save();
-  EXPECT_EQ(host_.OnlyMessage(), "Error found in SaveImageToFile");
+  EXPECT_EQ(host_.OnlyMessage(), "Error found in SaveImageToFile\rThe disk is full.");
   EXPECT_EQ(File(), good);
   host_.control->Custom(12, 0, 0);  // cancelled
   EXPECT_EQ(host_.OnlyMessage(), "");
@@ -149,6 +149,23 @@ TEST_F(Files, ACombinedFileIsTheArray) {
   EXPECT_EQ(Restore(), "Restore Block Data: 3221 Finished");
   EXPECT_EQ(Title(), "\"Lobby\"");
   EXPECT_TRUE(host_.SendOpens());
+}
+
+TEST_F(Files, ALongArrayIsSavedButNotRestored) {
+  host_.StateSizes();
+  host_.combo = {0, 13, 0x0C, 0x80, 0x73, 0x73, 0, 4, 2, 0, 200, 5, 6};
+  host_.combo.insert(host_.combo.end(), host_.device.Bytes().begin(), host_.device.Bytes().end());
+  host_.combo.resize(32768, 7);
+  host_.Download();
+  Save();
+  EXPECT_EQ(host_.OnlyMessage(),
+            "The file is saved. With 32768 bytes or more it cannot be restored.");
+  EXPECT_EQ(File(), host_.combo);
+  EXPECT_EQ(Restore(), "");
+  EXPECT_EQ(
+      host_.OnlyMessage(),
+      "Error found in RestoreImageFromFile\rThe file has 32768 bytes; files of 32768 bytes or "
+      "more cannot be restored.");
 }
 
 TEST_F(Files, DataWithoutAnIdentityIsThatOfAMultiplexer) {

@@ -1,14 +1,42 @@
 #include "ui/widgets/failure.h"
 
+#include <exception>
+#include <new>
 #include <string>
 
 #include "quorvel/platform.h"
 
 namespace quorvel {
 
+namespace {
+
+std::string AsSentence(std::string words) {
+  if (words.empty()) return words;
+  if (words[0] >= 'a' && words[0] <= 'z') words[0] = static_cast<char>(words[0] - 'a' + 'A');
+  if (words.back() != '.') words += '.';
+  return words;
+}
+
+/// What the exception that is being handled says. An image, a file or a host says it in words; what
+/// else there is helps whoever is shown the message.
+std::string Reason() {
+  try {
+    throw;
+  } catch (const std::bad_alloc&) {
+    return "There is not enough memory.";
+  } catch (const std::exception& error) {
+    return AsSentence(error.what());
+  } catch (...) {
+    return "The cause is not known.";
+  }
+}
+
+}  // namespace
+
 void ReportFailure(Platform& platform, std::string_view routine) noexcept {
   try {
-    platform.Ask({"Error found in " + std::string(routine), kComponentName, Message::Buttons::kOk});
+    platform.Ask({"Error found in " + std::string(routine) + '\r' + Reason(), kComponentName,
+                  Message::Buttons::kOk});
   } catch (...) {  // a platform that cannot even show a message leaves nobody to tell
   }
 }
