@@ -112,7 +112,8 @@ TEST_F(Combined, AnArrayThatContradictsItselfLeavesTheImage) {
       host_.control->Custom(10, 0, 0);
       host_.sync = false;
       EXPECT_EQ(host_.Count("UploadSucceeded"), had_image ? 1 : 0);
-      EXPECT_TRUE(IsTold(host_.OnlyMessage(), had_image ? kNotUsed : it.reason));
+      const std::string told = host_.OnlyMessage();
+      EXPECT_TRUE(had_image ? told == kNotUsed : IsTold(told, it.reason)) << told;
       EXPECT_EQ(host_.platform.files.contains("received.bin"), had_image);
       EXPECT_EQ(host_.control->Image(), before);
       EXPECT_EQ(host_.Modified().size(), had_image ? 1U : 0U);
