@@ -25,9 +25,11 @@ constexpr Byte kEndPacket = 255;
 Upload::Upload(Context& context, HostEvents& host) : context_(context), host_(host) {
   Timer1 = context_.platform.NewTimer([this] { context_.Guard("Timer1", [this] { Tick(); }); });
   patience_ = context_.platform.NewTimer([this] {
-    patience_->Stop();
-    outstanding_ = false;
-    if (start_waits_) Timer1->Start();
+    context_.Guard("patience", [this] {
+      patience_->Stop();
+      outstanding_ = false;
+      if (start_waits_) Timer1->Start();
+    });
   });
   patience_->SetInterval(kPatience);
 }

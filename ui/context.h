@@ -37,6 +37,12 @@ struct ComboSizes {
 /// Where an image comes from.
 enum class ImageSource { kDevice, kSettingsFile, kFactory };
 
+/// The record and what is listed of it as modified.
+struct Edits {
+  std::unique_ptr<MuxData> record;
+  clsBlkSave blocks;
+};
+
 /// The shared state of one control. Each control owns one, so two controls in a process edit two
 /// devices. It outlives every dialog and sequence that refers to it.
 struct Context {
@@ -103,6 +109,17 @@ struct Context {
     LoadedFromFile = source == ImageSource::kSettingsFile;
     env.blocks.SetMaxBlk(BlkImage.BlkCount());
     ++generation_;
+  }
+
+  /// A copy of what was edited, and the way back to it.
+  [[nodiscard]] Edits PresentEdits() {
+    Edits edits{std::make_unique<MuxData>(env), env.blocks};
+    *edits.record = Record();
+    return edits;
+  }
+  void PutBack(Edits edits) noexcept {
+    record_ = std::move(edits.record);
+    env.blocks = edits.blocks;
   }
 
   /// The device's firmware version, 506 for 5.06: as the host has stated it, else as the combined

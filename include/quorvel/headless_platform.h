@@ -84,14 +84,21 @@ class HeadlessPlatform : public Platform {
   ClassFactory& Classes() override { return classes_; }
 
  private:
-  /// Runs the first task due at or before `limit`; false when there is none.
+  class VirtualTimer;
+  /// When something is due; what is due at the same time happens in the order of its scheduling.
+  using Turn = std::pair<std::int64_t, std::uint64_t>;
+  [[nodiscard]] Turn NewTurn(int milliseconds);
+  /// Does what is due first, at or before `limit`; false when there is nothing.
   bool RunNext(std::int64_t limit);
   void RunUntil(std::int64_t limit);
 
   std::int64_t now_ = 0;
   LocalTime wall_clock_;
-  /// By due time; tasks of the same time run in the order in which they were posted.
-  std::multimap<std::int64_t, std::function<void()>> tasks_;
+  std::uint64_t turns_ = 0;
+  std::map<Turn, std::function<void()>> tasks_;
+  /// Shared with the timers' owners; starting one needs no memory.
+  struct TimerState;
+  std::vector<std::shared_ptr<TimerState>> timers_;
   std::vector<Dialog*> windows_;
   std::vector<Dialog*> modal_;
   std::shared_ptr<PopupMenu> menu_;

@@ -14,65 +14,74 @@ namespace {
 constexpr int kTooManyTurns = 1'000'000;
 constexpr std::int64_t kEndOfTime = std::numeric_limits<std::int64_t>::max();
 
-class VirtualTimer : public Timer {
+}  // namespace
+
+struct HeadlessPlatform::TimerState {
+  HeadlessPlatform& platform;
+  std::function<void()> tick;
+  int interval = 0;
+  std::optional<Turn> due = {};  ///< nothing while it stands
+
+  void Schedule() {
+    due.reset();
+    if (interval > 0) due = platform.NewTurn(interval);
+  }
+};
+
+class HeadlessPlatform::VirtualTimer : public Timer {
  public:
-  VirtualTimer(HeadlessPlatform& platform, std::function<void()> tick)
-      : state_(std::make_shared<State>(State{platform, std::move(tick)})) {}
+  explicit VirtualTimer(std::shared_ptr<TimerState> state) : state_(std::move(state)) {}
   ~VirtualTimer() override { Stop(); }
   VirtualTimer(const VirtualTimer&) = delete;
   VirtualTimer& operator=(const VirtualTimer&) = delete;
 
   void SetInterval(int milliseconds) override {
     state_->interval = milliseconds;
-    if (state_->running) Start();
+    if (running_) state_->Schedule();
   }
   [[nodiscard]] int Interval() const override { return state_->interval; }
   void Start() override {
-    state_->running = true;
-    Schedule(state_);
+    running_ = true;
+    state_->Schedule();
   }
   void Stop() override {
-    state_->running = false;
-    ++state_->round;
+    running_ = false;
+    state_->due.reset();
   }
 
  private:
-  struct State {
-    HeadlessPlatform& platform;
-    std::function<void()> tick;
-    int interval = 0;
-    bool running = false;
-    int round = 0;  ///< tells a tick that is due from one that a stop or restart has cancelled
-  };
-
-  static void Schedule(const std::shared_ptr<State>& state) {
-    const int round = ++state->round;
-    if (state->interval <= 0) return;
-    state->platform.PostIn(state->interval, [weak = std::weak_ptr<State>(state), round] {
-      const auto live = weak.lock();
-      if (!live || !live->running || live->round != round) return;
-      Schedule(live);
-      live->tick();
-    });
-  }
-
-  std::shared_ptr<State> state_;
+  std::shared_ptr<TimerState> state_;
+  bool running_ = false;
 };
-
-}  // namespace
 
 HeadlessPlatform::HeadlessPlatform() = default;
 HeadlessPlatform::~HeadlessPlatform() = default;
 
+HeadlessPlatform::Turn HeadlessPlatform::NewTurn(int milliseconds) {
+  return {now_ + std::max(milliseconds, 0), ++turns_};
+}
+
 void HeadlessPlatform::PostIn(int milliseconds, std::function<void()> task) {
-  tasks_.emplace(now_ + std::max(milliseconds, 0), std::move(task));
+  tasks_.emplace(NewTurn(milliseconds), std::move(task));
 }
 
 bool HeadlessPlatform::RunNext(std::int64_t limit) {
-  if (tasks_.empty() || tasks_.begin()->first > limit) return false;
-  auto node = tasks_.extract(tasks_.begin());
-  now_ = std::max(now_, node.key());
-  node.mapped()();
+  std::shared_ptr<TimerState> timer;
+  for (const auto& it : timers_) {
+    if (it->due && (timer == nullptr || *it->due < *timer->due)) timer = it;
+  }
+  const bool is_task = !tasks_.empty() && (timer == nullptr || tasks_.begin()->first < *timer->due);
+  if (!is_task && timer == nullptr) return false;
+  const std::int64_t due = is_task ? tasks_.begin()->first.first : timer->due->first;
+  if (due > limit) return false;
+  now_ = std::max(now_, due);
+  if (is_task) {
+    const auto task = tasks_.extract(tasks_.begin());
+    task.mapped()();
+  } else {
+    timer->Schedule();
+    timer->tick();
+  }
   return true;
 }
 
@@ -116,6 +125,7 @@ Answer HeadlessPlatform::ChooseMenu(std::string_view name) {
 }
 
 void HeadlessPlatform::Show(Dialog& dialog) {
+  windows_.reserve(windows_.size() + 1);  // a window that cannot be raised stays where it is
   std::erase(windows_, &dialog);
   windows_.push_back(&dialog);
 }
@@ -171,7 +181,9 @@ std::optional<std::string> HeadlessPlatform::AskFile(const FileRequest& request)
 }
 
 std::unique_ptr<Timer> HeadlessPlatform::NewTimer(std::function<void()> tick) {
-  return std::make_unique<VirtualTimer>(*this, std::move(tick));
+  std::erase_if(timers_, [](const auto& state) { return state.use_count() == 1; });
+  timers_.push_back(std::make_shared<TimerState>(*this, std::move(tick)));
+  return std::make_unique<VirtualTimer>(timers_.back());
 }
 
 LocalTime HeadlessPlatform::Now() const {

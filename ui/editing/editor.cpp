@@ -76,28 +76,25 @@ void Editor::Ok() {
     return;
   }
   if (!MayWrite()) return;
-  Write(Record());
+  Write();
   Close();
 }
 
-/// All or nothing: a failure on the way leaves record and list as they were.
-void Editor::Write(MuxData& record) {
+/// All of it or nothing: a failure half way puts back what was there.
+void Editor::Write() {
   RecordEnvironment& env = context_.env;
-  MuxData record_before(env);
-  record_before = record;
-  const clsBlkSave list_before = env.blocks;
-  const BlockImage before = Encoded(context_.BlkImage, env, record);
+  Edits before = context_.PresentEdits();
+  const BlockImage image_before = Encoded(context_.BlkImage, env, Record());
   try {
     {
       std::deque<CommitScope> raised;
       for (const CommitFlag flag : flags_) raised.emplace_back(env.commit, flag);
-      fields_.Write(record, env.commit);
-      WriteRest(record);
+      fields_.Write(Record(), env.commit);
+      WriteRest(Record());
     }
-    ListChangedBlocks(before, Encoded(context_.BlkImage, env, record), env.blocks);
+    ListChangedBlocks(image_before, Encoded(context_.BlkImage, env, Record()), env.blocks);
   } catch (...) {
-    record = record_before;
-    env.blocks = list_before;
+    context_.PutBack(std::move(before));
     throw;
   }
 }

@@ -47,7 +47,7 @@ class Editor : public Dialog, public EditorPart {
   friend class EditorPart;
   friend class LineGrid;
   void Ok();
-  void Write(MuxData& record);
+  void Write();
   void GridsToStart();
 
   Context& context_;

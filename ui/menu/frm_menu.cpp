@@ -52,7 +52,11 @@ void frm_Menu::Build() {
                                                                 const Handler& handler) {
     const auto keep_context = life.lock();
     const auto keep = weak.lock();
-    if (keep && handler) keep->context_.Guard(place, handler);
+    if (!keep || !handler) return;
+    keep->context_.Guard(place, [&handler] {
+      const Handler copy = handler;
+      copy();
+    });
   };
   menu_->admit = [weak = weak_from_this(), life = context_.life] {
     const auto keep_context = life.lock();

@@ -60,8 +60,14 @@ void Dialog::SetKeyButtons(Button* default_button, Button* cancel_button) {
 }
 
 void Dialog::Show() {
-  shown_ = true;
-  platform_.Show(*this);
+  const bool was_shown = std::exchange(shown_, true);
+  try {
+    platform_.Show(*this);
+  } catch (...) {
+    shown_ = was_shown;
+    if (!shown_) platform_.Hide(*this);
+    throw;
+  }
 }
 
 void Dialog::ShowModal() {
@@ -93,13 +99,13 @@ Answer Dialog::CloseWindow() {
 
 void Dialog::RunHandler(const std::string& place, const Handler& handler) {
   if (!handler) return;
-  const Handler copy = handler;    // the handler may replace or destroy the one that is stored
   const auto life = life_.lock();  // goes last: the dialog refers to it
   const auto keep = weak_from_this().lock();
   try {
+    const Handler copy = handler;  // the handler may replace or destroy the one that is stored
     copy();
   } catch (...) {
-    ReportFailure(platform_, name_ + "." + place);
+    ReportFailure(platform_, name_, place);
   }
 }
 

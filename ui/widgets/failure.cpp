@@ -33,10 +33,12 @@ std::string Reason() {
 
 }  // namespace
 
-void ReportFailure(Platform& platform, std::string_view routine) noexcept {
+void ReportFailure(Platform& platform, std::string_view routine, std::string_view place) noexcept {
   try {
-    platform.Ask({"Error found in " + std::string(routine) + '\r' + Reason(), kComponentName,
-                  Message::Buttons::kOk});
+    std::string text = "Error found in ";
+    text.append(routine);
+    if (!place.empty()) text.append(".").append(place);
+    platform.Ask({text + '\r' + Reason(), kComponentName, Message::Buttons::kOk});
   } catch (...) {  // a platform that cannot even show a message leaves nobody to tell
   }
 }

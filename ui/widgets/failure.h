@@ -9,8 +9,10 @@ class Platform;
 /// The component's name: the title of message boxes that have none of their own.
 inline constexpr const char* kComponentName = "Quorvel";
 
-/// Tells of the failure that is being handled: "Error found in " and the routine's name, and in a
-/// second line the reason as a sentence. Throws nothing.
-void ReportFailure(Platform& platform, std::string_view routine) noexcept;
+/// Tells of the failure that is being handled: "Error found in " and the routine's name, or the
+/// name of a dialog and, behind a dot, the place in it; in a second line the reason as a sentence.
+/// Throws nothing.
+void ReportFailure(Platform& platform, std::string_view routine,
+                   std::string_view place = {}) noexcept;
 
 }  // namespace quorvel

@@ -6,44 +6,42 @@ namespace quorvel {
 
 namespace {
 
-/// The way from the root down to an item: every menu around it, then the item itself.
-bool FindPath(MenuItem& from, std::string_view name, std::vector<MenuItem*>& path) {
+/// An item below another, and what stands in the way of choosing it: the item itself, or a menu
+/// around it, the outermost first.
+struct Found {
+  MenuItem* item = nullptr;
+  Answer answer = Answer::kNoSuchPlace;
+};
+
+Found Find(MenuItem& from, std::string_view name) {
   for (MenuItem& child : from.children) {
-    path.push_back(&child);
-    if (child.name == name || FindPath(child, name, path)) return true;
-    path.pop_back();
+    Found found = child.name == name ? Found{&child, Answer::kDone} : Find(child, name);
+    if (found.item == nullptr) continue;
+    if (!child.enabled) found.answer = Answer::kDisabled;
+    if (!child.visible) found.answer = Answer::kHidden;
+    return found;
   }
-  return false;
+  return {};
 }
 
 }  // namespace
 
 MenuItem& PopupMenu::Item(std::string_view name) {
   if (root_.name == name) return root_;
-  std::vector<MenuItem*> path;
-  if (!FindPath(root_, name, path)) {
-    throw std::invalid_argument("the menu has no item " + std::string(name));
-  }
-  return *path.back();
+  MenuItem* const item = Find(root_, name).item;
+  if (item == nullptr) throw std::invalid_argument("the menu has no item " + std::string(name));
+  return *item;
 }
 
 Answer PopupMenu::Choose(std::string_view name) {
-  std::vector<MenuItem*> path;
-  if (!FindPath(root_, name, path)) return Answer::kNoSuchPlace;
-  if (const Answer admission = admit ? admit() : Answer::kDone; admission != Answer::kDone) {
-    return admission;
-  }
-  for (const MenuItem* item : path) {
-    if (!item->visible) return Answer::kHidden;
-    if (!item->enabled) return Answer::kDisabled;
-  }
-  const MenuItem& item = *path.back();
-  if (item.separator || !item.children.empty()) return Answer::kNoSuchPlace;
-  const Handler handler = item.on_choose;
-  const std::string place = item.name;
+  const auto [item, answer] = Find(root_, name);
+  const Answer admission = admit ? admit() : Answer::kDone;
+  if (item != nullptr && admission != Answer::kDone) return admission;
+  if (answer != Answer::kDone) return answer;
+  if (item->separator || !item->children.empty()) return Answer::kNoSuchPlace;
   if (edge) {
-    edge(place, handler);
-  } else if (handler) {
+    edge(item->name, item->on_choose);
+  } else if (const Handler handler = item->on_choose) {
     handler();
   }
   return Answer::kDone;
