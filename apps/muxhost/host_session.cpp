@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "apps/muxhost/script_report.h"
 #include "quorvel/platform.h"
 
 namespace quorvel::muxhost {
@@ -92,8 +93,22 @@ void HostSession::Download() {
   control_->Custom(kReceive, 0, 0);
 }
 
+std::vector<Byte> HostSession::LackingBlocks() const {
+  const auto image = control_->Image();
+  std::vector<Byte> lacking;
+  if (image.size() <= kBlockCountByte) return lacking;
+  for (int n = image[kBlockCountByte] + 1; n <= Device().BlockCount(); ++n) {
+    lacking.push_back(static_cast<Byte>(n));
+  }
+  return lacking;
+}
+
 void HostSession::Upload() {
   BeginExchange();
+  const auto lacking = LackingBlocks();
+  if (!lacking.empty()) {
+    Log("the configuration has nothing for blocks " + AbbreviateRuns(lacking) + " of the device");
+  }
   const auto exchange = exchange_;
   control_->Custom(kSend, 0, 0);
   exchange->ended = true;

@@ -75,6 +75,9 @@ class HostSession final : public MainMenuEvents {
 
   [[nodiscard]] MainMenuCtrl& Control() { return *control_; }
   [[nodiscard]] const SimulatedDevice& Device() const { return link_.Device(); }
+  /// Blocks of the device that the control's configuration lacks, so that no upload brings anything
+  /// for them: a file, or the factory, may have fewer. None before there is a configuration.
+  [[nodiscard]] std::vector<Byte> LackingBlocks() const;
   [[nodiscard]] const HostSettings& Settings() const { return settings_; }
   [[nodiscard]] const Exchange& LastExchange() const { return *exchange_; }
   /// Events raised and what the host could not do, in plain words, oldest first; since last taken.

@@ -30,7 +30,7 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
       identity_(new QLabel),
       silence_([this](const std::string& sentence) {
         log_->Add(sentence);
-        awaits_answer_ = false;
+        if (std::exchange(awaits_answer_, false)) NoteOutcome();
       }),
       uploader_({platform, session, *this, *backups_, *log_, silence_}) {
   constexpr int kWatchInterval = 150;
@@ -154,6 +154,9 @@ void MainWindow::Connect() {
     delete surface_;
     surface_ = nullptr;
     loaded_ = false;
+    asked_.reset();
+    brought_.reset();
+    missed_.reset();
     blocks_->Forget();
     session_.Connect(std::move(device));
     PlaceSurface();
@@ -167,6 +170,7 @@ void MainWindow::Connect() {
 void MainWindow::Do(Command command) {
   // What the command before waited for is not waited for any more.
   silence_.End();
+  missed_.reset();
   switch (command) {
     case Command::kDownload: return Download();
     case Command::kMenu: return session_.OpenMenu();
@@ -175,8 +179,11 @@ void MainWindow::Do(Command command) {
     case Command::kUploadAll: return uploader_.Upload(true, commands_->WithMacros());
     case Command::kSave: return Run(&HostSession::Save);
     case Command::kRestore:
-      if (MayLoseChanges("Restoring a file")) Run(&HostSession::Restore);
-      return;
+      if (!MayLoseChanges("Restoring a file")) return;
+      asked_ = command;
+      Run(&HostSession::Restore);
+      NoteOutcome();
+      return ShowState();
     case Command::kDefaults: return BuildDefaults();
   }
 }
@@ -202,6 +209,13 @@ void MainWindow::NoticeAnswer() {
   if (!session_.LastExchange().arrived && session_.LinkIsOn()) return;
   awaits_answer_ = false;
   silence_.End();
+  NoteOutcome();
+}
+
+void MainWindow::NoteOutcome() {
+  const auto asked = std::exchange(asked_, std::nullopt);
+  if (!asked) return;
+  (session_.LastExchange().arrived ? brought_ : missed_) = asked;
 }
 
 int MainWindow::Patience() const {
@@ -213,6 +227,7 @@ int MainWindow::Patience() const {
 void MainWindow::Download() {
   if (!MayLoseChanges("Downloading")) return;
   loaded_ = false;
+  asked_ = Command::kDownload;
   const bool with_dialog = session_.Settings().comm_id == 0;
   silence_.Begin(
       Patience(), [this] { return !session_.LastExchange().arrived; },
@@ -224,10 +239,13 @@ void MainWindow::Download() {
   if (!session_.LastExchange().arrived) {
     log_->Add("the download has not come to its end: the control keeps what it had");
   }
+  NoteOutcome();
+  ShowState();
 }
 
 void MainWindow::BuildDefaults() {
   if (!MayLoseChanges("Taking the factory defaults")) return;
+  asked_ = Command::kDefaults;
   // They are there when the message that says so is closed.
   silence_.Begin(
       Patience(), [this] { return !session_.LastExchange().arrived && !IsLocked(); },
@@ -265,7 +283,10 @@ Situation MainWindow::PresentSituation() const {
           states.Unwritten().size(),
           states.In(BlockState::kFailed).size(),
           states.In(BlockState::kVerified).size(),
-          blocks_->OnlyMacrosAreLeft()};
+          blocks_->OnlyMacrosAreLeft(),
+          brought_,
+          missed_,
+          LackingBlocks(session_)};
 }
 
 void MainWindow::ShowState() {

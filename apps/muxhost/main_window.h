@@ -50,6 +50,8 @@ class MainWindow : public QMainWindow {
   void Do(Command command);
   /// Gives the session a command, which may run a loop of its own.
   void Run(void (HostSession::*command)());
+  /// Notes whether the command that was to bring a configuration has.
+  void NoteOutcome();
   /// The same for one whose answer may come after it has returned. Until it is there nothing can be
   /// edited, as the answer would replace it.
   void RunUntilAnswered(void (HostSession::*command)());
@@ -85,11 +87,14 @@ class MainWindow : public QMainWindow {
   QTimer zones_request_;
   SilenceWatch silence_;
   Uploader uploader_;
-  int zones_wanted_ = 0;        ///< cameras
-  bool loaded_ = false;         ///< the control holds a configuration
-  bool transfer_runs_ = false;  ///< a command that exchanges data with the device
-  bool awaits_answer_ = false;  ///< of a command that has returned
-  bool closing_ = false;        ///< the user is being asked whether to
+  int zones_wanted_ = 0;            ///< cameras
+  bool loaded_ = false;             ///< the control holds a configuration
+  std::optional<Command> asked_;    ///< given last, and to bring a configuration
+  std::optional<Command> brought_;  ///< has brought the present configuration
+  std::optional<Command> missed_;   ///< given last, and has brought none
+  bool transfer_runs_ = false;      ///< a command that exchanges data with the device
+  bool awaits_answer_ = false;      ///< of a command that has returned
+  bool closing_ = false;            ///< the user is being asked whether to
 };
 
 }  // namespace quorvel::muxhost

@@ -187,11 +187,23 @@ void BlockMapBox::TakeChanges() {
       control.DifferencesFrom(session_.Device().Bytes()).value_or(std::vector<SettingDifference>());
   std::set<Byte> blocks = bare_.Differing(image_, device_);
   for (const SettingDifference& difference : differences) {
+    if (IsLockOfTheMenu(difference)) continue;
     blocks.insert(difference.blocks.begin(), difference.blocks.end());
   }
   states_.SetChanges(listed_, std::move(blocks));
   if (differences != differences_) contents_are_old_ = true;
   differences_ = std::move(differences);
+}
+
+/// The control locks the keyboards of older devices by itself when its menu opens. That is no
+/// change of the user's, and no reason to upload.
+bool BlockMapBox::IsLockOfTheMenu(const SettingDifference& difference) const {
+  constexpr int kFirstLockableModel = 6;
+  return difference.name == "LockKeyBoard" && session_.Settings().comm_id == 0 &&
+         session_.Device().ModelCode() < kFirstLockableModel &&
+         std::none_of(difference.blocks.begin(), difference.blocks.end(), [this](Byte block) {
+           return std::find(listed_.begin(), listed_.end(), block) != listed_.end();
+         });
 }
 
 bool BlockMapBox::OnlyMacrosAreLeft() const {

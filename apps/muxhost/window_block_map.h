@@ -62,6 +62,7 @@ class BlockMapBox : public QGroupBox {
   void Measure();
   [[nodiscard]] bool MayHaveChanges(bool editor_is_open);
   void TakeChanges();
+  [[nodiscard]] bool IsLockOfTheMenu(const SettingDifference& difference) const;
   void Look(int block);
   void ShowContents();
   void ShowCounts();

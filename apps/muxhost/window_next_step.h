@@ -14,6 +14,11 @@ struct Situation {
   std::size_t failed = 0;
   std::size_t verified = 0;
   bool only_macros = false;  ///< unwritten and failed are blocks that come with the macros alone
+  /// What has brought the configuration: kDownload, kRestore or kDefaults.
+  std::optional<Command> brought = {};
+  /// The same, of a command given last that has brought none.
+  std::optional<Command> missed = {};
+  QString lacking = {};  ///< blocks of the device that the configuration lacks: "blocks 201-225"
 };
 
 /// What is sensible next.

@@ -9,6 +9,7 @@
 namespace quorvel::muxhost {
 
 void Uploader::Upload(bool all, bool macros) {
+  if (all && !MayLeaveOut()) return;
   if (at_.backups.Wanted() && !BackUp()) return;
   do {
     const SendChoice choice(all, macros);
@@ -19,6 +20,16 @@ void Uploader::Upload(bool all, bool macros) {
     run();
     at_.silence.End();
   } while (WantsToSendAgain());
+}
+
+bool Uploader::MayLeaveOut() {
+  const QString lacking = LackingBlocks(at_.session);
+  if (lacking.isEmpty()) return true;
+  // An array may be as long as the device has said, and filled up.
+  const QString fate = at_.session.Device().IsCombined() ? "They get zero bytes, if anything."
+                                                         : "They keep what they hold.";
+  return MayGoOn(QString("The configuration has nothing for %1 of the device.").arg(lacking),
+                 fate + " Upload the rest?", "Upload the rest");
 }
 
 bool Uploader::BackUp() {

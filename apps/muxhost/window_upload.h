@@ -35,6 +35,8 @@ class Uploader {
  private:
   /// Keeps what the device holds; false when there is to be no upload.
   [[nodiscard]] bool BackUp();
+  /// Asks about blocks that an upload of everything brings nothing for.
+  [[nodiscard]] bool MayLeaveOut();
   [[nodiscard]] bool MayGoOn(const QString& trouble, const QString& question, const char* go_on);
   /// Tells what came of an upload; true when it is to be done again.
   [[nodiscard]] bool WantsToSendAgain();

@@ -113,6 +113,11 @@ QString Describe(const SimulatedDevice& device, const Platform& platform) {
       .arg(device.IsCombined() ? "combined array" : "single blocks");
 }
 
+QString LackingBlocks(HostSession& session) {
+  const std::vector<Byte> lacking = session.LackingBlocks();
+  return lacking.empty() ? QString() : InWords("block", lacking);
+}
+
 QString Sentence(const QString& entry) {
   for (const auto& make : {ArrivalSentence, FaultSentence, InterruptionSentence}) {
     QString sentence = make(entry);

@@ -5,6 +5,7 @@
 
 #include "apps/muxhost/block_states.h"
 #include "apps/muxhost/exchange.h"
+#include "apps/muxhost/host_session.h"
 #include "apps/muxhost/link_fault.h"
 #include "quorvel/platform.h"
 
@@ -22,6 +23,10 @@ namespace quorvel::muxhost {
 [[nodiscard]] QString Describe(const SimulatedDevice& device, const Platform& platform);
 /// The device's name as text.
 [[nodiscard]] QString NameOf(const SimulatedDevice& device, const Platform& platform);
+
+/// "blocks 201-225": what the device has and the control's configuration lacks; empty when there is
+/// nothing of the kind.
+[[nodiscard]] QString LackingBlocks(HostSession& session);
 
 /// An entry of the session's log as a sentence.
 [[nodiscard]] QString Sentence(const QString& entry);

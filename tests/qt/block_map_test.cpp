@@ -111,7 +111,10 @@ TEST_F(MuxhostBlocks, MacroBlocksOfAFileGoToTheDeviceWithTheMacros) {
     Click("Restore file");
   }
   EXPECT_EQ(Cell(150), "Block 150, changed");
-  EXPECT_EQ(Hint(), "1 block modified and not in the device yet. Next: Upload all, with macros.");
+  EXPECT_EQ(Hint(),
+            "The control holds a file's configuration: 1 block is not in the device yet. Next: "
+            "Upload all, "
+            "with macros.");
 }
 
 TEST_F(MuxhostBlocks, CellTellsWhatItsBlockHoldsByPointerAndByKey) {

@@ -27,6 +27,7 @@ class MuxhostWindow : public MuxhostOnScreen {
     }
     return letters;
   }
+  [[nodiscard]] QString Hint() { return window_.findChild<QLabel*>("Hint")->text(); }
   void Arm(const char* fault, int at) {
     auto* const heading = window_.findChild<QToolButton*>("LinkHeading");
     if (!heading->isChecked()) heading->click();
@@ -196,6 +197,79 @@ TEST_F(MuxhostWindow, StopIsPressedByTheLink) {
   EXPECT_EQ(session_.LastExchange().blocks_written, (std::vector<Byte>{85}));
   EXPECT_EQ(Enabled(), "CDoMZUmUaSRDe");
   EXPECT_NE(Events().find("The upload has not come to its end.\n"), std::string::npos);
+}
+
+TEST_F(MuxhostWindow, HeadlineTellsWhereTheConfigurationComesFrom) {
+  const auto is_hint = [this](const QString& text) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Hint() == text; })) << Hint().toStdString();
+  };
+  const auto fail_to_download = [this] {
+    Arm("close", 3);
+    Click("Download");
+  };
+  fail_to_download();
+  is_hint(
+      "The download has not come to its end: the control holds no configuration. Next: Download.");
+  Download();
+  is_hint("Next: Menu opens the editors, such as those of the cameras.");
+  fail_to_download();
+  is_hint(
+      "The download has not come to its end: the control keeps the configuration that it had. "
+      "Next: Download.");
+
+  // A file of fewer blocks than the device has.
+  auto image = session_.Control().Image();
+  image.resize(200 * 16);
+  image.at(15) = 200;
+  image.at(0) = 'F';
+  const QString path = backups_.filePath("short.bin");
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(reinterpret_cast<const char*>(image.data()), static_cast<qsizetype>(image.size()));
+  file.close();
+  {
+    const WhenShown cancel([] {
+      auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      return dialog != nullptr && QMetaObject::invokeMethod(dialog, "reject");
+    });
+    Click("Restore file");
+  }
+  is_hint("No file was restored: the control keeps the configuration that it had.");
+  {
+    const WhenShown name([&] { return Name(path); });
+    const WhenShown finish([] { return Press("OK"); });
+    Click("Restore file");
+  }
+  EXPECT_TRUE(Hint().startsWith("The control holds a file's configuration: "))
+      << Hint().toStdString();
+  EXPECT_TRUE(
+      Hint().endsWith(" not in the device yet. It has nothing for blocks 201-225 of the device. "
+                      "Next: Upload all."));
+  QString told;
+  {
+    const WhenShown question([&told] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box != nullptr) told = box->text();
+      return box != nullptr && Press("Cancel");
+    });
+    Click("Upload all");
+  }
+  EXPECT_EQ(told, "The configuration has nothing for blocks 201-225 of the device.");
+  EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
+}
+
+TEST_F(MuxhostWindow, KeyboardLockOfTheMenuIsNotToBeUploaded) {
+  window_.findChildren<QComboBox*>().at(0)->setCurrentIndex(3);
+  Click("Connect");
+  Download();
+  Click("Menu");
+  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+  QApplication::activePopupWidget()->close();
+  EXPECT_EQ(session_.Control().Settings("LockKeyBoard").at(0).value, "1");
+  EXPECT_TRUE(QTest::qWaitFor([this] {
+    return Hint() == "Next: Menu opens the editors, such as those of the cameras.";
+  })) << Hint().toStdString();
+  EXPECT_EQ(Cell(60), "Block 60, untouched");
 }
 
 TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
