@@ -1,8 +1,13 @@
 #include "host/frm_ul_fr_mux.h"
 
 #include "resources/icon.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
+
+namespace {
+constexpr int kPatience = 5000;  // milliseconds without a reply
+}
 
 frm_ULFrMux::frm_ULFrMux(Context& context)
     : Dialog(context.platform, "frm_ULFrMux"), context_(context) {
@@ -11,17 +16,30 @@ frm_ULFrMux::frm_ULFrMux(Context& context)
   SetCaption(context.GetText(268) + context.CaptionSuffix());
   Label1.SetCaption(context.GetText(256));
   Label2.SetCaption(context.GetText(220) + ":");
+  lblSilent.SetCaption(context.GetText(kTextDeviceSilent));
+  lblSilent.SetVisible(false);
+  lblSilent.SetKeepsPlace(true);
   cmdOK.SetCaption(context.texts.Constants().cnstrOK);
+  cmdCancel.SetCaption(context.texts.Constants().cnstrCancel);
   cmdSaveFile.SetCaption(context.GetText(255));
   SetLayout(Column(Row(Label1, Label3, Stretch()), Row(Label2, Label4, Stretch()), prgBar1,
-                   Row(Stretch(), cmdSaveFile, cmdOK)));
+                   lblSilent, Row(Stretch(), cmdSaveFile, cmdOK, cmdCancel)));
   SetKeyButtons(&cmdOK, nullptr);
+  tmSilence = context.platform.NewTimer([this] {
+    RunHandler("tmSilence", [this] {
+      tmSilence->Stop();
+      lblSilent.SetVisible(true);
+    });
+  });
+  tmSilence->SetInterval(kPatience);
 
   cmdOK.on_click = [this] { Close(); };
+  cmdCancel.on_click = [this] { Close(); };
   cmdSaveFile.on_click = [this] {
     if (SaveFile) SaveFile();
   };
   on_closed = [this] {
+    ListenFor(false);
     if (StopUL) StopUL();
   };
 }
@@ -33,11 +51,21 @@ void frm_ULFrMux::ShowProgress(const ReceiveProgress& progress) {
   Label4.SetCaption(progress.status);
   cmdOK.SetEnabled(progress.finished);
   cmdSaveFile.SetEnabled(progress.finished);
+  cmdCancel.SetEnabled(!progress.finished);
+  ListenFor(!progress.finished);
+}
+
+/// Waits anew for a reply, or not any more.
+void frm_ULFrMux::ListenFor(bool more) {
+  lblSilent.SetVisible(false);
+  tmSilence->Stop();
+  if (more) tmSilence->Start();
 }
 
 void frm_ULFrMux::ShowRestored() {
   SetCaption(context_.GetText(272));
   cmdSaveFile.SetVisible(false);
+  cmdCancel.SetVisible(false);
 }
 
 }  // namespace quorvel

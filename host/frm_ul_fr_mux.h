@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "quorvel/widgets.h"
@@ -16,7 +17,8 @@ struct ReceiveProgress {
   bool finished = false;
 };
 
-/// The receive dialog: progress, and at the end OK and "Save File".
+/// The receive dialog: progress, and at the end OK and "Save File". When nothing comes for a while
+/// it says what can be done; a receive that has not come to its end can be cancelled.
 class frm_ULFrMux : public Dialog {
  public:
   explicit frm_ULFrMux(Context& context);
@@ -30,15 +32,20 @@ class frm_ULFrMux : public Dialog {
   Handler SaveFile;
 
  private:
+  void ListenFor(bool more);
+
   Context& context_;
+  std::unique_ptr<Timer> tmSilence;
 
   Label Label1{*this, "Label1"};
   Label Label3{*this, "Label3"};
   Label Label2{*this, "Label2"};
   Label Label4{*this, "Label4"};
   ProgressBar prgBar1{*this, "prgBar1"};
+  Label lblSilent{*this, "lblSilent"};
   Button cmdSaveFile{*this, "cmdSaveFile"};
   Button cmdOK{*this, "cmdOK"};
+  Button cmdCancel{*this, "cmdCancel"};
 };
 
 }  // namespace quorvel
