@@ -40,6 +40,7 @@ void frm_ToMux::ArrangeControls() {
   lstBlkSav.SetVisible(false);
   lstBlkSav.SetKeepsPlace(true);
   cmdStop.SetVisible(false);
+  cmdStop.SetKeepsPlace(true);  // so that a double click on START meets nothing else
   cmdOK.SetCaption(context_.GetText(217));
   cmdStop.SetCaption(context_.GetText(218));
   cmdCancel.SetCaption(context_.GetText(257));
@@ -47,8 +48,8 @@ void frm_ToMux::ArrangeControls() {
   cmdClearBlk.SetVisible(false);
   StatusBar1.SetPanel(kStatus, Caption());
   SetLayout(Column(chkMacro, Row(Column(optBlk, Stretch()), lstBlkSav),
-                   Row(cmdClearBlk, Stretch(), cmdOK, cmdStop, cmdCancel), StatusBar1));
-  SetKeyButtons(&cmdOK, &cmdCancel);
+                   Row(cmdClearBlk, Stretch(), cmdStop, cmdOK, cmdCancel), StatusBar1));
+  Recommend(cmdOK);
 }
 
 void frm_ToMux::BindHandlers() {
@@ -99,6 +100,7 @@ void frm_ToMux::IncludeClicked(bool data) {
 void frm_ToMux::EnableStart() {
   const bool something = chkMacro(kMacros).Checked() || chkMacro(kData).Checked();
   cmdOK.SetEnabled(something && !sending_);  // at most one packet is on its way
+  if (cmdOK.Enabled()) Recommend(cmdOK);
 }
 
 void frm_ToMux::Start() {
@@ -136,8 +138,11 @@ void frm_ToMux::EnableChoice() {
   optBlk(kModified).SetEnabled(true);
 }
 
+void frm_ToMux::Recommend(Button& button) { SetKeyButtons(&button, &cmdCancel); }
+
 void frm_ToMux::ShowSending() {
   sending_ = true;
+  Recommend(cmdOK);
   cmdStop.SetVisible(true);
 }
 
@@ -154,12 +159,14 @@ void frm_ToMux::ShowBlock(int number, bool last) {
 void frm_ToMux::ShowFinished() {
   StatusBar1.SetPanel(kResult, finished_text_);
   EnableChoice();
+  if (!sending_) Recommend(cmdCancel);
 }
 
 void frm_ToMux::ShowEnded() {
   sending_ = false;
   cmdClearBlk.SetVisible(true);
   cmdStop.SetVisible(false);
+  Recommend(cmdCancel);
 }
 
 }  // namespace quorvel

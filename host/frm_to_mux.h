@@ -44,6 +44,8 @@ class frm_ToMux : public Dialog {
   void ClearBlocks();
   void EnableChoice();
   void EnableStart();
+  /// Makes a button the one that Return presses where the focus is on no other.
+  void Recommend(Button& button);
 
   Context& context_;
   // Texts may be the host's, who may do anything while it is asked for one: not during a send.

@@ -51,6 +51,9 @@ void DialogWindow::Build() {
   }
   contents_ = new Contents(*this, dialog_->Contents(), verbs_);
   layout()->addWidget(contents_);
+  for (auto* const button : contents_->findChildren<QPushButton*>()) {
+    button->installEventFilter(this);
+  }
   if (isVisible()) contents_->show();
   if (focus.isEmpty()) return;
   if (auto* const again = contents_->findChild<QWidget*>(focus)) again->setFocus();
@@ -60,6 +63,7 @@ void DialogWindow::Refresh(Aspect what) {
   if (dialog_ == nullptr) return;
   if (what == Aspect::kContent) Build();
   setWindowTitle(Shown(dialog_->Caption()));
+  if (isVisible() && NothingHasFocus()) FocusDefault();
 }
 
 void DialogWindow::LetGo(bool dialog_lives) {
@@ -112,6 +116,33 @@ void DialogWindow::FocusInput() {
     it->setFocus(Qt::OtherFocusReason);
     return;
   }
+  FocusDefault();
+}
+
+void DialogWindow::FocusDefault() {
+  const Button* const button = dialog_ == nullptr ? nullptr : dialog_->DefaultButton();
+  if (button == nullptr) return;
+  auto* const body = contents_->findChild<QPushButton*>(Shown(button->Name()));
+  const bool can_be_pressed = body != nullptr && body->isEnabled() && body->isVisibleTo(this);
+  (can_be_pressed ? static_cast<QWidget*>(body) : this)->setFocus(Qt::OtherFocusReason);
+}
+
+/// The toolkit passes the focus of a button that is disabled or hidden on to the next control,
+/// which nobody has chosen: Return would press it.
+bool DialogWindow::focusNextPrevChild(bool next) {
+  const auto* const button = qobject_cast<QPushButton*>(focusWidget());
+  const bool gone = button != nullptr && (!button->isEnabled() || !button->isVisibleTo(this));
+  if (!gone || dialog_ == nullptr || dialog_->DefaultButton() == nullptr) {
+    return QDialog::focusNextPrevChild(next);
+  }
+  FocusDefault();
+  return true;
+}
+
+/// A default button gets the focus when it can be pressed at last.
+bool DialogWindow::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::EnabledChange && isVisible() && NothingHasFocus()) FocusDefault();
+  return QDialog::eventFilter(object, event);
 }
 
 void DialogWindow::Fit() {

@@ -39,6 +39,8 @@ class DialogWindow : public QDialog, public WidgetView {
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void Build();
@@ -46,8 +48,13 @@ class DialogWindow : public QDialog, public WidgetView {
   /// Enlarges the window by what its contents have grown.
   void Fit();
   [[nodiscard]] QSize LargestSize() const;
-  /// Gives the focus to the first control that takes a person's input.
+  /// Gives the focus to the first control that takes a person's input, else to the default button.
   void FocusInput();
+  /// Gives the focus to the default button where it can be pressed, else to no control.
+  void FocusDefault();
+  [[nodiscard]] bool NothingHasFocus() const {
+    return focusWidget() == nullptr || focusWidget() == this;
+  }
   [[nodiscard]] bool HandOverTyped();
   void PressKeyButton(Button* button);
 

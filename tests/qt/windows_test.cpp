@@ -157,6 +157,28 @@ TEST_F(QtWindows, FocusBeginsAtTheFirstInputAndReturnWithoutItPressesTheDefault)
   EXPECT_EQ(TakeNotes(), "button; ");
 }
 
+TEST_F(QtWindows, FocusGoesToTheDefaultButtonAndToNoneThatNobodyChose) {
+  dialog_->SetLayout(Row(dialog_->cancel, dialog_->button, dialog_->spare));
+  Show();
+  const auto focus = [this] {
+    Settle();
+    return Window().focusWidget()->objectName().toStdString();
+  };
+  EXPECT_EQ(focus(), "button");
+  dialog_->button.SetEnabled(false);
+  EXPECT_EQ(focus(), "frm_EveryKind");
+  QTest::keyClick(&Window(), Qt::Key_Return);
+  EXPECT_EQ(TakeNotes(), "");
+  dialog_->SetKeyButtons(&dialog_->spare, nullptr);
+  EXPECT_EQ(focus(), "spare");
+  dialog_->spare.SetVisible(false);
+  EXPECT_EQ(focus(), "frm_EveryKind");
+  dialog_->SetKeyButtons(&dialog_->button, nullptr);
+  dialog_->cancel.SetEnabled(false);
+  dialog_->button.SetEnabled(true);
+  EXPECT_EQ(focus(), "button");
+}
+
 TEST_F(QtWindows, TimerTicksUntilATickDestroysIt) {
   int ticks = 0;
   std::unique_ptr<Timer> timer;

@@ -57,6 +57,7 @@ void Dialog::Place(const Layout& layout, Widget* container, int page) {
 void Dialog::SetKeyButtons(Button* default_button, Button* cancel_button) {
   default_button_ = default_button;
   cancel_button_ = cancel_button;
+  if (view_ != nullptr) view_->Refresh(Aspect::kState);
 }
 
 void Dialog::Show() {
