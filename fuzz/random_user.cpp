@@ -13,7 +13,8 @@ std::string Text(ByteSource& in) {
 }
 
 Answer UseGrid(Grid& grid, ByteSource& in) {
-  switch (in.Next() % 4) {
+  switch (in.Next() % 5) {
+    case 4: return grid.Mark(Place(grid.Rows(), in));
     case 1: return grid.Release(Place(grid.Rows(), in), Place(grid.Rows(), in));
     case 3: return grid.Paste(Text(in));
     default: return grid.Press(Place(grid.Rows(), in), Place(grid.Columns(), in));

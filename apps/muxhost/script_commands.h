@@ -37,6 +37,7 @@ void Slide(Desk& desk, Words words);
 void Pick(Desk& desk, Words words);
 void Press(Desk& desk, Words words);
 void Release(Desk& desk, Words words);
+void Mark(Desk& desk, Words words);
 void Tab(Desk& desk, Words words);
 void Close(Desk& desk, Words words);
 void AnswerNext(Desk& desk, Words words);

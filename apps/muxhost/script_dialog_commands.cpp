@@ -115,6 +115,11 @@ void Release(Desk& desk, Words words) {
   Require(FindControlOf<Grid>(desk, words[1], "release").Release(first, last), words[1]);
 }
 
+void Mark(Desk& desk, Words words) {
+  const int row = Place("row", words[2]);
+  Require(FindControlOf<Grid>(desk, words[1], "mark").Mark(row), words[1]);
+}
+
 void Tab(Desk& desk, Words words) {
   const int page = Place("page", words[2]);
   Require(FindControlOf<TabStrip>(desk, words[1], "turn over").Choose(page), words[1]);

@@ -85,30 +85,45 @@ QSize GridHeader::sizeHint() const {
   return {length(), std::accumulate(heights_.begin(), heights_.end(), 0)};
 }
 
-QRect GridHeader::PlaceOf(const Grid::HeaderCell& cell) const {
+QRect GridHeader::PlaceOf(const Grid::HeaderCell& cell, int left) const {
   const int first = heights_.empty() ? 0 : heights_.front();
   const int top = cell.row == 0 ? 0 : first;
   // The last row takes what is left.
   const bool down = cell.row + cell.rows == texts_.FirstRow();
-  return {sectionViewportPosition(cell.column), top, WidthUnder(cell),
-          down ? height() - top : first};
+  return {left, top, WidthUnder(cell), down ? height() - top : first};
+}
+
+void GridHeader::KeepFirst(bool keep) {
+  keep_first_ = keep;
+  viewport()->update();
+}
+
+void GridHeader::paintEvent(QPaintEvent* event) {
+  QHeaderView::paintEvent(event);
+  if (!keep_first_ || count() == 0) return;
+  QPainter painter(viewport());
+  PaintCells(painter, {0, 0, sectionSize(0), height()}, 0, 0);
+}
+
+void GridHeader::paintSection(QPainter* painter, const QRect& rect, int column) const {
+  PaintCells(*painter, rect, column, sectionViewportPosition(column));
 }
 
 /// Each column draws its part of the cells that cover it, as if it drew all of them.
-void GridHeader::paintSection(QPainter* painter, const QRect& rect, int column) const {
+void GridHeader::PaintCells(QPainter& painter, const QRect& rect, int column, int left) const {
   for (const Grid::HeaderCell& cell : texts_.Header()) {
     if (!Covers(cell, column)) continue;
     QStyleOptionHeader option;
     initStyleOption(&option);
-    option.rect = PlaceOf(cell);
+    option.rect = PlaceOf(cell, left - sectionPosition(column) + sectionPosition(cell.column));
     option.section = cell.column;
     option.text = Wrapped(cell.text, option.rect.width());
     option.textAlignment = Qt::AlignCenter;
     option.position = QStyleOptionHeader::Middle;
-    painter->save();
-    painter->setClipRect(rect.intersected(option.rect));
-    style()->drawControl(QStyle::CE_Header, &option, painter, this);
-    painter->restore();
+    painter.save();
+    painter.setClipRect(rect.intersected(option.rect));
+    style()->drawControl(QStyle::CE_Header, &option, &painter, this);
+    painter.restore();
   }
 }
 

@@ -19,9 +19,12 @@ class GridHeader : public QHeaderView {
   /// be wider at the moment, the last one where there is space to fill.
   void SetWidths(std::vector<int> widths);
   [[nodiscard]] const std::vector<int>& Widths() const { return widths_; }
+  /// Whether the first column stays in sight while the others are scrolled.
+  void KeepFirst(bool keep);
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void paintSection(QPainter* painter, const QRect& rect, int column) const override;
 
  private:
@@ -30,11 +33,14 @@ class GridHeader : public QHeaderView {
   [[nodiscard]] int TextWidth(const QString& lines) const;
   [[nodiscard]] int WidthUnder(const Grid::HeaderCell& cell) const;
   [[nodiscard]] int GivenWidthUnder(const Grid::HeaderCell& cell) const;
-  [[nodiscard]] QRect PlaceOf(const Grid::HeaderCell& cell) const;
+  /// Where a cell is drawn whose first column begins at `left`.
+  [[nodiscard]] QRect PlaceOf(const Grid::HeaderCell& cell, int left) const;
+  void PaintCells(QPainter& painter, const QRect& rect, int column, int left) const;
 
   const GridTexts& texts_;
   std::vector<int> widths_;
   std::vector<int> heights_;  ///< of the rows
+  bool keep_first_ = false;
 };
 
 }  // namespace quorvel::qt

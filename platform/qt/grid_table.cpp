@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 #include <numeric>
@@ -51,6 +52,78 @@ GridTable::GridTable(QWidget& parent, GridTexts& texts)
   setItemDelegate(new GridDelegate(this));
 }
 
+bool GridTable::KeepsNames() const {
+  return model()->columnCount() > 1 && columnWidth(0) <= viewport()->width() / 2;
+}
+
+int GridTable::NamesWidth() const {
+  return header_->offset() > 0 && KeepsNames() ? columnWidth(0) : 0;
+}
+
+void GridTable::DrawNames() {
+  viewport()->update();
+  header_->KeepFirst(NamesWidth() > 0);
+}
+
+QRect GridTable::visualRect(const QModelIndex& cell) const {
+  QRect place = QTableView::visualRect(cell);
+  if (cell.column() == 0 && NamesWidth() > 0) place.moveLeft(0);
+  return place;
+}
+
+QModelIndex GridTable::indexAt(const QPoint& place) const {
+  const QModelIndex cell = QTableView::indexAt(place);
+  return cell.isValid() && place.x() < NamesWidth() ? cell.siblingAtColumn(0) : cell;
+}
+
+void GridTable::scrollTo(const QModelIndex& cell, ScrollHint hint) {
+  QScrollBar& across = *horizontalScrollBar();
+  const int before = across.value();
+  QTableView::scrollTo(cell, hint);
+  if (cell.column() == 0) {
+    if (KeepsNames()) across.setValue(before);
+  } else if (const int hidden = NamesWidth() - visualRect(cell).left(); hidden > 0) {
+    across.setValue(across.value() - hidden);
+  }
+}
+
+void GridTable::scrollContentsBy(int dx, int dy) {
+  QTableView::scrollContentsBy(dx, dy);
+  if (dx != 0) DrawNames();  // what stays was moved with the rest
+}
+
+void GridTable::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  const int width = NamesWidth();
+  if (width == 0 || !event->rect().intersects({0, 0, width, viewport()->height()})) return;
+  QPainter painter(viewport());
+  const int first = rowAt(event->rect().top());
+  for (int row = first; row >= 0 && row < model()->rowCount(); ++row) {
+    if (rowViewportPosition(row) > event->rect().bottom()) break;
+    PaintName(painter, row);
+  }
+}
+
+void GridTable::PaintName(QPainter& painter, int table_row) const {
+  const QModelIndex cell = model()->index(table_row, 0);
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  option.rect = {0, rowViewportPosition(table_row), columnWidth(0) - 1, rowHeight(table_row) - 1};
+  option.widget = this;
+  option.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(cell));
+  option.state.setFlag(QStyle::State_HasFocus, hasFocus() && cell == currentIndex());
+  itemDelegate()->paint(&painter, option, cell);
+  const auto colour =
+      static_cast<QRgb>(style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this));
+  painter.setPen(QColor::fromRgba(colour));
+  painter.drawLine(option.rect.left(), option.rect.bottom() + 1, option.rect.right() + 1,
+                   option.rect.bottom() + 1);
+  // Where the other columns go under.
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawLine(option.rect.right() + 1, option.rect.top(), option.rect.right() + 1,
+                   option.rect.bottom() + 1);
+}
+
 void GridTable::ShowSelection(int row, int column, int row_sel) {
   row_ = row;
   column_ = column;
@@ -77,10 +150,18 @@ void GridTable::ExtendTo(int row) {
   scrollTo(CellAt(row_sel_, column_));
 }
 
-void GridTable::EndSelection() {
+void GridTable::EndRange() {
   dragging_ = false;
-  extending_ = false;
-  on_release(row_, row_sel_);
+  if (std::exchange(marking_, false)) {
+    on_mark(row_sel_);
+  } else {
+    on_release(row_, row_sel_);
+  }
+}
+
+void GridTable::MarkTo(int row) {
+  ExtendTo(row);
+  on_mark(row_sel_);
 }
 
 int GridTable::RowUnder(int y) const {
@@ -98,9 +179,8 @@ void GridTable::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !cell.isValid()) return;
   const int row = cell.row() + FirstRow();
   dragging_ = true;
-  extending_ = false;
-  const bool extend = (event->modifiers() & Qt::ShiftModifier) != 0;
-  if (extend && row_ > 0 && cell.column() == column_) {
+  marking_ = (event->modifiers() & Qt::ShiftModifier) != 0;
+  if (marking_ && row_ > 0 && cell.column() == column_) {
     ExtendTo(row);
   } else {
     on_press(row, cell.column());
@@ -113,7 +193,7 @@ void GridTable::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void GridTable::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && dragging_) EndSelection();
+  if (event->button() == Qt::LeftButton && dragging_) EndRange();
 }
 
 void GridTable::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
@@ -141,33 +221,31 @@ bool GridTable::Move(const QKeyEvent& event, int& row, int& column) const {
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {
-  const bool copies = event->matches(QKeySequence::Copy);
-  if (copies || event->matches(QKeySequence::Paste)) {
-    if (extending_) EndSelection();  // of the range that is drawn
-    return copies ? on_copy() : on_paste();
-  }
+  if (event->matches(QKeySequence::Copy)) return on_copy();
+  if (event->matches(QKeySequence::Paste)) return on_paste();
+  if (event->matches(QKeySequence::SelectAll)) return MarkColumn();
   const bool extend = (event->modifiers() & Qt::ShiftModifier) != 0 && row_ > 0;
   int row = extend ? row_sel_ : row_;
   int column = column_;
   if (!Move(*event, row, column)) {
     event->ignore();  // letters do not search, and Return belongs to the dialog
   } else if (extend && column == column_) {
-    extending_ = true;
-    ExtendTo(row);
-  } else {
-    extending_ = false;
-    on_press(row, column);
-    // Where the press was refused, or its handler went elsewhere, there is nothing to end.
-    if (row_ == row && column_ == column) EndSelection();
+    MarkTo(row);
+  } else if (PressCell(row, column)) {
+    on_release(row_, row_sel_);
   }
 }
 
-void GridTable::keyReleaseEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Shift && extending_) {
-    EndSelection();
-  } else {
-    event->ignore();
-  }
+/// False where the press was refused, or its handler went elsewhere: there is nothing to go on
+/// with.
+bool GridTable::PressCell(int row, int column) {
+  on_press(row, column);
+  return row_ == row && column_ == column;
+}
+
+void GridTable::MarkColumn() {
+  if (row_ < FirstRow() || !texts_.SelectsRows()) return;
+  if (PressCell(FirstRow(), column_)) MarkTo(LastRow());
 }
 
 void GridTable::focusOutEvent(QFocusEvent* event) {
@@ -176,13 +254,13 @@ void GridTable::focusOutEvent(QFocusEvent* event) {
 }
 
 void GridTable::GiveUpRange() {
-  const bool drawn = extending_ || dragging_;
-  extending_ = dragging_ = false;
-  if (drawn) on_cancel();
+  marking_ = false;
+  if (std::exchange(dragging_, false)) on_cancel();
 }
 
 void GridTable::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
+  DrawNames();
   if (row_ > 0 && row_ == row_sel_) scrollTo(CellAt(row_, column_));
 }
 

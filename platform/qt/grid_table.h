@@ -11,15 +11,18 @@ namespace quorvel::qt {
 
 /// The toolkit's table with a grid's way of selecting: one cell is current, and a range of rows in
 /// its column is selected. Rows are numbered as in the grid, header included. The table reports
-/// what a person does; what is selected afterwards is for its view to tell.
+/// what a person does; what is selected afterwards is for its view to tell. The first column, which
+/// names the rows, stays in sight while the others are scrolled sideways.
 class GridTable : public FocusShown<QTableView> {
  public:
   GridTable(QWidget& parent, GridTexts& texts);
 
   /// Press on a cell.
   std::function<void(int row, int column)> on_press;
-  /// End of a selection that began at row `first` and ended at `last`.
+  /// End of a drag that began at row `first` and ended at `last`.
   std::function<void(int first, int last)> on_release;
+  /// The selection is to reach from the current cell to another row.
+  std::function<void(int row)> on_mark;
   /// A selection was abandoned: the table must be told anew what is selected.
   std::function<void()> on_cancel;
 
@@ -34,14 +37,19 @@ class GridTable : public FocusShown<QTableView> {
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
+  /// Where a cell is, and which is there, with the first column where it stays.
+  [[nodiscard]] QRect visualRect(const QModelIndex& cell) const override;
+  [[nodiscard]] QModelIndex indexAt(const QPoint& place) const override;
+  void scrollTo(const QModelIndex& cell, ScrollHint hint = EnsureVisible) override;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void keyReleaseEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -55,9 +63,22 @@ class GridTable : public FocusShown<QTableView> {
   [[nodiscard]] bool Move(const QKeyEvent& event, int& row, int& column) const;
   void ExtendTo(int row);
   void DrawSelection();
-  void EndSelection();
+  /// Ends a range that is drawn: a drag, or one that Shift began.
+  void EndRange();
+  /// Selects up to a row of the current column, and nothing else.
+  void MarkTo(int row);
+  /// Selects all rows of the current column.
+  void MarkColumn();
+  /// Tells of a press; true when the cell is current afterwards.
+  bool PressCell(int row, int column);
   /// Ends a range that is drawn and was not told to the model, as if it had not been begun.
   void GiveUpRange();
+  /// False where the first column would leave the others no space.
+  [[nodiscard]] bool KeepsNames() const;
+  /// Width of the first column while the others go under it, else 0.
+  [[nodiscard]] int NamesWidth() const;
+  void DrawNames();
+  void PaintName(QPainter& painter, int table_row) const;
   /// Width that a column needs for its header and its texts.
   [[nodiscard]] int NeededWidth(int column) const;
 
@@ -67,7 +88,7 @@ class GridTable : public FocusShown<QTableView> {
   int column_ = 0;
   int row_sel_ = 0;
   bool dragging_ = false;
-  bool extending_ = false;
+  bool marking_ = false;  ///< with Shift: the drag selects and writes nothing
 };
 
 }  // namespace quorvel::qt

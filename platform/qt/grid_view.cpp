@@ -22,6 +22,7 @@ GridView::GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent, GridTexts
   GetBody()->on_release = [this](int first, int last) {
     Act([first, last](Grid& grid) { grid.Release(first, last); });
   };
+  GetBody()->on_mark = [this](int row) { Act([row](Grid& grid) { grid.Mark(row); }); };
   GetBody()->on_copy = [this] { Copy(); };
   GetBody()->on_paste = [this] { Paste(); };
   GetBody()->on_cancel = [this] { Refresh(Aspect::kSelection); };

@@ -1,3 +1,7 @@
+#include <QImage>
+#include <QScrollBar>
+#include <QWheelEvent>
+
 #include "tests/qt/on_screen.h"
 
 namespace quorvel {
@@ -36,7 +40,9 @@ TEST_F(QtGrid, PressDragReleaseSelectsRowsOfOneColumn) {
   EXPECT_EQ(TakeNotes(), "grid 3-7@2; ");
   EXPECT_EQ(Selected(), "3-7@2");
   QTest::mouseClick(viewport, Qt::LeftButton, Qt::ShiftModifier, Place(1, 2));
-  EXPECT_EQ(TakeNotes(), "grid 1-3@2; ");
+  EXPECT_EQ(TakeNotes(), "") << "a range that is only selected writes nothing";
+  EXPECT_EQ(Selected(), "1-3@2");
+  EXPECT_EQ(dialog_->grid.FirstSelected(), 1);
   QTest::mouseDClick(viewport, Qt::LeftButton, {}, Place(5, 1));
   QTest::mouseRelease(viewport, Qt::LeftButton, {}, Place(5, 1));
   EXPECT_EQ(TakeNotes(), "press 5,1; grid 5-5@1; ");
@@ -60,17 +66,50 @@ TEST_F(QtGrid, KeysMoveAndExtend) {
       {Qt::Key_Down, Qt::ShiftModifier, "", "1-3@1"},
       {Qt::Key_Return, {}, "", "1-3@1"},
       {Qt::Key_C, {}, "", "1-3@1"},
+      {Qt::Key_A, Qt::ControlModifier, "press 1,1; ", "1-16@1"},
   };
   for (const auto& it : cases) {
     QTest::keyPress(&Table(), it.key, it.modifiers);
     EXPECT_EQ(TakeNotes(), it.notes) << it.selected;
     EXPECT_EQ(Selected(), it.selected);
+    EXPECT_EQ(dialog_->grid.LastSelected(),
+              Table().selectionModel()->selection().front().bottom() + 1);
   }
-  QTest::keyRelease(&Table(), Qt::Key_Shift);
-  EXPECT_EQ(TakeNotes(), "grid 1-3@1; ");
   dialog_->grid.SetSize(1, 2);
   QTest::keyClick(&Table(), Qt::Key_Down);
   EXPECT_EQ(TakeNotes(), "");
+}
+
+TEST_F(QtGrid, NumbersOfTheRowsStayInSight) {
+  dialog_->grid.SetSize(17, 14);
+  for (int row = 1; row < 17; ++row) dialog_->grid.SetCell(row, 0, std::to_string(row));
+  for (int column = 1; column < 14; ++column) dialog_->grid.SetLeastWidth(column, 16);
+  Settle();
+  const QImage before = Table().grab().toImage();
+  const QRect names(0, 0, Table().columnWidth(0) - 1, before.height() / 2);
+  QTest::keyClick(&Table(), Qt::Key_End);
+  Settle();
+  const int scrolled = Table().horizontalScrollBar()->value();
+  ASSERT_GT(scrolled, 0);
+  EXPECT_EQ(Table().grab().toImage().copy(names), before.copy(names)) << "header and numbers";
+  EXPECT_EQ(Table().indexAt({2, Place(3, 0).y()}), Table().model()->index(2, 0));
+  EXPECT_EQ(Table().indexAt(Place(3, 0)), Table().model()->index(2, 0));
+  EXPECT_EQ(dialog_->grid.Column(), 13);
+
+  // A press there scrolls nothing back, and a column under the numbers is brought out.
+  QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, Place(3, 0));
+  EXPECT_EQ(TakeNotes(), "press 1,13; grid 1-1@13; press 3,0; grid 3-3@0; ");
+  EXPECT_EQ(Table().horizontalScrollBar()->value(), scrolled);
+  for (int column = 12; column > 0; --column) {
+    dialog_->grid.Press(3, column);
+    const int left = Table().visualRect(Table().currentIndex()).left();
+    EXPECT_GE(left, Table().columnWidth(0)) << column;
+  }
+  QWheelEvent turn(QPointF(5, 5), Table().viewport()->mapToGlobal(QPointF(5, 5)), {}, {-1200, 0},
+                   Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(Table().viewport(), &turn);
+  EXPECT_GT(Table().horizontalScrollBar()->value(), 0);
+  EXPECT_EQ(Table().visualRect(Table().model()->index(4, 0)).left(), 0);
 }
 
 TEST_F(QtGrid, HandlersMayRebuildOrCloseUnderThePress) {

@@ -129,4 +129,13 @@ Answer Grid::Empty() {
   return refusal;
 }
 
+Answer Grid::Mark(int row) {
+  const Answer refusal = Refusal();
+  if (refusal != Answer::kDone) return refusal;
+  if (!IsCell(row_, column_) || !IsCell(row, column_)) return Answer::kNoSuchPlace;
+  if (range_ == Range::kRows) row_sel_ = row;
+  Redraw(Aspect::kSelection);
+  return refusal;
+}
+
 }  // namespace quorvel

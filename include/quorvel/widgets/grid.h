@@ -70,9 +70,12 @@ class Grid : public Widget {
 
   /// Press on a cell below the header: it becomes current.
   Answer Press(int row, int column);
-  /// End of a selection over rows `first` to `last`, in either order, in the current column; with
+  /// End of a drag over rows `first` to `last`, in either order, in the current column; with
   /// Range::kOneRow the current row stays the only one.
   Answer Release(int first, int last);
+  /// Selects from the current cell to `row` of its column, as Shift and a click do; nothing is
+  /// written. With Range::kOneRow the current row stays the only one.
+  Answer Mark(int row);
   Handler on_press;
   Handler on_release;
 
