@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QWidget>
 
+#include "platform/qt/cell_mark.h"
 #include "platform/qt/label_buddies.h"
 #include "platform/qt/texts.h"
 #include "platform/qt/verbs_under_way.h"
@@ -44,6 +46,7 @@ class ViewOf : public ControlView {
     if (model_ == nullptr) return;
     if (model_lives) model_->AttachView(nullptr);
     model_ = nullptr;
+    delete mark_;
     body_->setObjectName({});  // it is not found any more while it waits to be deleted
   }
 
@@ -93,7 +96,17 @@ class ViewOf : public ControlView {
     body_->setVisible(model_->Visible());
     body_->setObjectName(Shown(model_->Name()));
     body_->setAccessibleName(Shown(model_->SpokenName()));
+    body_->setAccessibleDescription(Shown(model_->SpokenNote()));
+    MarkCellEditor();
     NameByLabel(*model_, *body_);
+  }
+
+  void MarkCellEditor() {
+    if (!model_->EditsCell()) {
+      delete mark_;
+    } else if (mark_ == nullptr) {
+      mark_ = new CellMark(*body_);
+    }
   }
 
   /// A minimum that the layout has set counts for the toolkit instead of what the widget needs.
@@ -105,6 +118,7 @@ class ViewOf : public ControlView {
   VerbsUnderWay& verbs_;
   Model* model_;
   QtWidget* const body_;
+  QPointer<CellMark> mark_;
   QObject context_;
 };
 

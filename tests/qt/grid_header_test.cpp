@@ -1,5 +1,7 @@
 #include <QClipboard>
+#include <QFocusFrame>
 #include <QHeaderView>
+#include <QListView>
 #include <QToolTip>
 
 #include "tests/qt/on_screen.h"
@@ -62,6 +64,23 @@ TEST_F(QtGridHeader, TwoRowsAboveTheData) {
   dialog_->grid.SetRange(Grid::Range::kOneRow);
   QTest::keyClick(table_, Qt::Key_Up, Qt::ShiftModifier);
   EXPECT_EQ(dialog_->grid.FirstSelected(), 5);
+}
+
+TEST_F(QtGridHeader, ListOfTheCurrentColumnIsMarkedAndThatOfAnotherNotChosen) {
+  QListView& list = Body<QListView>("lst");
+  dialog_->SetEditsCellWords("Edits ");
+  const auto marked = [this] {
+    const auto* const mark = Window().findChild<QFocusFrame*>();
+    return mark == nullptr || !mark->isVisible() ? nullptr : mark->widget();
+  };
+  for (const int column : {0, 2, 0}) {
+    ClickCell(*table_, 0, column);
+    EXPECT_EQ(marked(), column == 0 ? nullptr : &list);
+    EXPECT_EQ(list.accessibleDescription(), column == 0 ? "" : "Edits Macro, 2");
+  }
+  ClickCell(list, 1);
+  EXPECT_EQ(dialog_->Cells(), "Off,Off Off,Off Off,Off Off,Off ");
+  EXPECT_EQ(list.selectionModel()->selectedIndexes(), QModelIndexList{list.model()->index(0, 0)});
 }
 
 TEST_F(QtGridHeader, TextOverSeveralColumnsSharesTheirWidth) {

@@ -159,6 +159,11 @@ TEST_F(Editing, TheEndOfASelectionSelectsOrWrites) {
     EXPECT_EQ(desk_->TextsOf(1), writes ? "|Macro 3|Macro 3||" : "|Macro 3|||");
     desk_->list.Choose(3);
     EXPECT_EQ(desk_->TextsOf(1), "|Macro 3|Macro 3||");
+    Press(2, 1);
+    EXPECT_EQ(desk_->grid.Mark(4), Answer::kDone);
+    EXPECT_EQ(desk_->grid.Copied(1, 1), "Macro 3\nMacro 3\n") << "cells that differ are selected";
+    desk_->list.Choose(0);
+    EXPECT_EQ(desk_->TextsOf(1), "|NONE|NONE|NONE|");
   }
 }
 
@@ -194,6 +199,50 @@ TEST_F(Editing, ControlsReachTheirColumnOrTheWholeRow) {
   Press(4, 0);
   desk_->list.Choose(2);
   EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "||||Macro 1|Macro 1|Macro 1||");
+}
+
+TEST_F(Editing, AControlOfAnotherColumnIsNotMarkedAndChoosesNothing) {
+  GridEditing editing(desk_->grid);
+  desk_->SetEditsCellWords("Edits ");
+  desk_->grid.SetCell(0, 1, "Macro");
+  desk_->grid.SetCell(0, 3, "Sub macro");
+  editing.Bind(1, desk_->list, Desk::Macros());
+  editing.Bind(2, desk_->slider, desk_->shown);
+  editing.Bind(3, desk_->list, Desk::Macros());
+  editing.Bind(4, desk_->picker);
+  editing.Bind(5, desk_->combo, Desk::Rates(), {.writes = Reach::kInRow});
+  for (const int column : {1, 2, 3}) editing.SetValue(1, column, column);
+  const struct {
+    int column;
+    bool list, slider, picker;
+    const char* note;
+  } cases[] = {{1, true, false, false, "Edits Macro"},
+               {2, false, true, false, ""},
+               {3, true, false, false, "Edits Sub macro"},
+               {4, false, false, true, ""},
+               {0, false, false, false, ""}};
+  for (const auto& it : cases) {
+    SCOPED_TRACE(it.column);
+    Press(1, it.column);
+    EXPECT_EQ(desk_->list.EditsCell(), it.list);
+    EXPECT_EQ(desk_->slider.EditsCell(), it.slider);
+    EXPECT_EQ(desk_->picker.EditsCell(), it.picker);
+    EXPECT_TRUE(desk_->combo.EditsCell());
+    EXPECT_EQ(desk_->list.SpokenNote(), it.note);
+  }
+  desk_->list.Choose(0);
+  EXPECT_EQ(desk_->list.Current(), 3);
+  desk_->slider.Slide(0);
+  EXPECT_EQ(desk_->slider.Value(), 2);
+  EXPECT_EQ(desk_->shown.Caption(), "2");
+  desk_->picker.Pick({7, 45, 0});
+  EXPECT_EQ(desk_->picker.ValueText(), "");
+  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(3), "Macro 1||||Macro 3||||");
+  Press(1, 1);
+  desk_->list.Choose(2);
+  Press(1, 2);
+  desk_->list.Choose(0);
+  EXPECT_EQ(desk_->list.Current(), 2) << "what was chosen last in its own column";
 }
 
 TEST_F(Editing, OneListServesColumnsOfDifferentItems) {

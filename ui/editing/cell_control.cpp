@@ -1,5 +1,6 @@
 #include "ui/editing/cell_control.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -14,7 +15,7 @@ class List {
  public:
   List(ChoiceWidget& list, Choices choices) : list_(list), choices_(std::move(choices)) {}
 
-  [[nodiscard]] const Widget& Control() const { return list_; }
+  [[nodiscard]] Widget& Control() const { return list_; }
   [[nodiscard]] const Choices& Lines() const { return choices_; }
   void Show(int value) { ShowIn(choices_, value); }
   /// Shows a value among lines of its own, which the list then offers.
@@ -43,7 +44,7 @@ class ListCells : public CellControl {
   ListCells(ChoiceWidget& list, Choices choices, ChoicesOfRow of_row)
       : list_(list, std::move(choices)), of_row_(std::move(of_row)) {}
 
-  [[nodiscard]] const Widget& Control() const override { return list_.Control(); }
+  [[nodiscard]] Widget& Control() const override { return list_.Control(); }
   [[nodiscard]] std::string TextOf(int /*part*/, int value) const override {
     return list_.Lines().TextOf(value);
   }
@@ -72,9 +73,9 @@ class ListPairCells : public CellControl {
  public:
   ListPairCells(List one, List other) : lists_{std::move(one), std::move(other)} {}
 
-  [[nodiscard]] const Widget& Control() const override { return lists_[0].Control(); }
-  [[nodiscard]] bool Is(const Widget& widget) const override {
-    return &lists_[0].Control() == &widget || &lists_[1].Control() == &widget;
+  [[nodiscard]] Widget& Control() const override { return lists_[0].Control(); }
+  [[nodiscard]] std::vector<Widget*> Controls() const override {
+    return {&lists_[0].Control(), &lists_[1].Control()};
   }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return At(part).Lines().TextOf(value);
@@ -102,7 +103,7 @@ class SliderCells : public CellControl {
  public:
   SliderCells(Slider& slider, Label& shown) : slider_(slider), shown_(shown) {}
 
-  [[nodiscard]] const Widget& Control() const override { return slider_; }
+  [[nodiscard]] Widget& Control() const override { return slider_; }
   [[nodiscard]] std::string TextOf(int /*part*/, int value) const override {
     return value < 0 ? "" : std::to_string(value);
   }
@@ -135,7 +136,7 @@ class TimeCells : public CellControl {
  public:
   explicit TimeCells(TimePicker& picker) : picker_(picker) {}
 
-  [[nodiscard]] const Widget& Control() const override { return picker_; }
+  [[nodiscard]] Widget& Control() const override { return picker_; }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return Offers(part, value)
                ? TimeText(ClockFormat::kHoursMinutes, {value / kMinutes, value % kMinutes, 0})
@@ -168,7 +169,7 @@ class HourAndMinuteCells : public CellControl {
  public:
   explicit HourAndMinuteCells(TimePicker& picker) : whole_(picker) {}
 
-  [[nodiscard]] const Widget& Control() const override { return whole_.Control(); }
+  [[nodiscard]] Widget& Control() const override { return whole_.Control(); }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return Offers(part, value) ? NumberText(value, 2) : "";
   }
@@ -194,6 +195,11 @@ class HourAndMinuteCells : public CellControl {
 };
 
 }  // namespace
+
+bool CellControl::Is(const Widget& widget) const {
+  const auto controls = Controls();
+  return std::find(controls.begin(), controls.end(), &widget) != controls.end();
+}
 
 std::unique_ptr<CellControl> MakeCellControl(ChoiceWidget& list, Choices choices,
                                              ChoicesOfRow of_row) {

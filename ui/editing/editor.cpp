@@ -48,6 +48,7 @@ Editor::Editor(Context& context, std::string name, int caption,
   context_.texts.CreateCatalogues();
   SetCaption(Text(caption));
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
+  SetEditsCellWords(Text(kTextEditsCells));
 }
 
 void Editor::Open(Button& ok, Button& cancel, TabStrip* tabs) {

@@ -106,6 +106,11 @@ void GridEditing::GoTo(int row, int column) {
   ShowCell();
 }
 
+void GridEditing::Show(const Binding& binding, int row, std::vector<int> values) {
+  binding.control->Show(row, values);
+  shown_[&binding.control->Control()] = {&binding, row, std::move(values)};
+}
+
 void GridEditing::ShowCell() {
   if (before_show) before_show();
   for (const Binding& binding : bindings_) {
@@ -114,18 +119,54 @@ void GridEditing::ShowCell() {
     if (!shows || grid_.Row() < grid_.HeaderRows()) continue;
     std::vector<int> values;
     for (const int column : binding.columns) values.push_back(ValueAt(grid_.Row(), column));
-    binding.control->Show(grid_.Row(), values);
+    Show(binding, grid_.Row(), std::move(values));
   }
+  MarkControls();
   if (after_show) after_show();
+}
+
+bool GridEditing::WritesNow(const Binding& binding, int column) {
+  return binding.rules.writes == ColumnRules::Reach::kInRow || binding.PartOf(column) != kNoPart;
+}
+
+/// A control may serve several columns; it is marked while one of them is current.
+void GridEditing::MarkControls() {
+  const int column = grid_.Column();
+  std::map<Widget*, std::string> editing;
+  for (const Binding& binding : bindings_) {
+    if (!WritesNow(binding, column)) continue;
+    const bool on_it = binding.PartOf(column) != kNoPart;
+    const std::string name = grid_.ColumnName(on_it ? column : binding.columns.front());
+    for (Widget* const control : binding.control->Controls()) editing[control] = name;
+  }
+  for (const Binding& binding : bindings_) {
+    for (Widget* const control : binding.control->Controls()) {
+      const auto found = editing.find(control);
+      control->SetEditsCell(found != editing.end(), found == editing.end() ? "" : found->second);
+    }
+  }
 }
 
 void GridEditing::WriteChoice(const Widget& control) {
   const int column = grid_.Column();  // where a rule goes meanwhile does not matter
+  bool writes = false;
+  for (const Binding& binding : bindings_) {
+    if (!binding.control->Is(control) || !WritesNow(binding, column)) continue;
+    writes = true;
+    WriteSelectedRows(binding);
+  }
+  if (!writes) TakeBack(control);
+}
+
+/// Nothing was chosen, so the control shows again what it showed.
+void GridEditing::TakeBack(const Widget& control) {
   for (const Binding& binding : bindings_) {
     if (!binding.control->Is(control)) continue;
-    if (binding.rules.writes == ColumnRules::Reach::kInRow || binding.PartOf(column) != kNoPart) {
-      WriteSelectedRows(binding);
+    const auto shown = shown_.find(&binding.control->Control());
+    if (shown != shown_.end()) {
+      return shown->second.binding->control->Show(shown->second.row, shown->second.values);
     }
+    return binding.control->Show(grid_.Row(), std::vector<int>(binding.columns.size(), Grid::kNone));
   }
 }
 
@@ -134,7 +175,9 @@ void GridEditing::WriteSelectedRows(const Binding& binding) {
   for (int part = 0; part < binding.Parts(); ++part) {
     values.push_back(binding.control->Chosen(part));
   }
-  if (values.front() != Grid::kNone) PutIntoSelectedRows(binding, values);
+  if (values.front() == Grid::kNone) return;
+  shown_[&binding.control->Control()] = {&binding, grid_.Row(), values};
+  PutIntoSelectedRows(binding, values);
 }
 
 void GridEditing::PutIntoSelectedRows(const Binding& binding, const std::vector<int>& values) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -32,15 +34,18 @@ struct ColumnRules {
 
 /// Edits a grid through controls beside it, one for each editable column. A press on a cell makes
 /// its control show the cell; what is chosen in the control is written into the selected rows. In
-/// many grids the end of a selection writes, too, what the control shows.
+/// many grids the end of a drag writes, too, what the control shows.
 ///
 /// A cell stands for a value of the device: one of a list's lines, a slider's number, minutes of
 /// the day, or hours and minutes in two columns. A value that the control does not offer leaves it
 /// blank, and a blank control writes nothing: looking at a value never changes it.
+///
+/// A control is marked while its column is current. What is chosen in one of another column is not
+/// written, and the control shows again what it showed.
 class GridEditing {
  public:
   enum class Release {
-    kWrites,   ///< the end of a selection writes what the control of the column shows
+    kWrites,   ///< the end of a drag writes what the control of the column shows
     kSelects,  ///< it only selects
   };
   enum class Empties {
@@ -98,7 +103,12 @@ class GridEditing {
   std::function<void(const Widget&)> Add(std::unique_ptr<CellControl> control,
                                          std::vector<int> columns, ColumnRules rules);
   [[nodiscard]] const Binding* BindingOf(int column) const;
+  /// True when a choice is written while this column is current.
+  [[nodiscard]] static bool WritesNow(const Binding& binding, int column);
+  void Show(const Binding& binding, int row, std::vector<int> values);
+  void MarkControls();
   void WriteChoice(const Widget& control);
+  void TakeBack(const Widget& control);
   void WriteSelectedRows(const Binding& binding);
   /// Puts a value for each part into the selected rows that take it.
   void PutIntoSelectedRows(const Binding& binding, const std::vector<int>& values);
@@ -107,9 +117,23 @@ class GridEditing {
   [[nodiscard]] bool CanEmpty() const;
   void EmptySelectedRows();
 
+  /// What a control showed last, and for which of its columns.
+  struct Shown {
+    const Binding* binding;
+    std::vector<int> items;
+  };
+
+  /// What a control showed last, and for which of its columns.
+  struct Shown {
+    const Binding* binding;
+    int row;
+    std::vector<int> values;
+  };
+
   Grid& grid_;
   Empties empties_ = Empties::kCells;
-  std::vector<Binding> bindings_;
+  std::deque<Binding> bindings_;  // stay where they are
+  std::map<const Widget*, Shown> shown_;
 };
 
 }  // namespace quorvel

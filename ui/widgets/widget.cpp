@@ -82,6 +82,17 @@ void Widget::SetLabel(const Label& label) {
   Redraw(Aspect::kState);
 }
 
+std::string Widget::SpokenNote() const {
+  return edits_cell_ ? dialog_.EditsCellWords() + edited_column_ : std::string();
+}
+
+void Widget::SetEditsCell(bool edits, std::string column) {
+  if (edits == edits_cell_ && column == edited_column_) return;
+  edits_cell_ = edits;
+  edited_column_ = std::move(column);
+  Redraw(Aspect::kState);
+}
+
 void Widget::SetKeepsPlace(bool keeps) {
   keeps_place_ = keeps;
   Redraw(Aspect::kState);

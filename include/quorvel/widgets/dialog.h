@@ -52,6 +52,10 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     return answer == Answer::kNotAChoice ? not_a_choice_ : does_not_fit_;
   }
 
+  /// What screen readers say of a control that edits the current cell of a grid, before the column.
+  [[nodiscard]] const std::string& EditsCellWords() const { return edits_cell_words_; }
+
+  void SetEditsCellWords(std::string words) { edits_cell_words_ = std::move(words); }
   void SetPasteRefusals(std::string not_a_choice, std::string does_not_fit);
   void SetCaption(std::string caption);
   void SetIcon(const Picture* icon) { icon_ = icon; }
@@ -91,6 +95,7 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
   std::string caption_;
   std::string not_a_choice_;
   std::string does_not_fit_;
+  std::string edits_cell_words_;
   const Picture* icon_ = nullptr;
   Layout layout_;
   std::vector<Widget*> widgets_;

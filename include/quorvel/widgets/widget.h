@@ -23,7 +23,7 @@ enum class Answer {
 
 /// What of a widget changed, so that a view redraws no more than needed.
 enum class Aspect {
-  kState,      ///< caption, spoken name, visible, enabled, limits
+  kState,      ///< caption, spoken name and note, visible, enabled, limits
   kContent,    ///< items, cells, pages
   kSelection,  ///< value, selected item, current cell or page
 };
@@ -94,6 +94,11 @@ class Widget {
   [[nodiscard]] const Widget* NamingLabel() const { return label_; }
   /// The caption of the page that holds the control; empty outside pages.
   [[nodiscard]] std::string PageCaption() const;
+  /// True for a control that edits the current cell of a grid. Views mark it, not by colour alone.
+  [[nodiscard]] bool EditsCell() const { return edits_cell_; }
+  /// What screen readers add to the name: "" or, of a control that edits the current cell, the
+  /// dialog's words for it and the column.
+  [[nodiscard]] std::string SpokenNote() const;
   /// What a person can change, as one line of text: "" for kinds without a value.
   [[nodiscard]] virtual std::string ValueText() const { return {}; }
 
@@ -104,6 +109,8 @@ class Widget {
   void SetSpokenName(std::string name);
   /// The label that names the control.
   void SetLabel(const Label& label);
+  /// Whether the control edits the current cell of a grid, and its column's name.
+  void SetEditsCell(bool edits, std::string column = {});
 
   /// The keyboard focus comes here; `by_click`, somebody clicks where it is already.
   Answer Focus(bool by_click = false);
@@ -138,6 +145,8 @@ class Widget {
   bool visible_ = true;
   bool enabled_ = true;
   bool keeps_place_ = false;
+  bool edits_cell_ = false;
+  std::string edited_column_;
   WidgetView* view_ = nullptr;
   const Widget* label_ = nullptr;
   Widget* container_ = nullptr;
