@@ -114,6 +114,17 @@ void Component::FillComboInfo(std::span<const Byte> data) {
   context.ComboMode = true;
 }
 
+/// On copies: what is sent is made ready when it is sent.
+std::vector<Byte> Component::EditedImage() {
+  BlockImage image = context.BlkImage;
+  RecordEnvironment env = context.env;
+  MuxData record(env);
+  record = context.Record();
+  EncodeModifiedBlocks(image, env, record);
+  const auto bytes = image.Bytes();
+  return {bytes.begin(), bytes.end()};
+}
+
 std::vector<SettingLine> Component::Settings(std::string_view pattern) {
   if (!context.HasImage()) return {};
   return ListSettings(context.Record(), context.env.identity, context.BlkImage.BlkCount(), pattern);

@@ -44,6 +44,7 @@ class Component : public std::enable_shared_from_this<Component> {
   void FillDataBlk(std::span<const Byte> data) { download_.TakeReply(data); }
   void FillComboBlk(std::span<const Byte> data) { download_.TakeComboArray(data); }
   [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern);
+  [[nodiscard]] std::vector<Byte> EditedImage();
   [[nodiscard]] std::optional<std::vector<SettingDifference>> DifferencesFrom(
       std::span<const Byte> image);
   void TriggerUploadTimer() { upload_.TriggerTimer(); }

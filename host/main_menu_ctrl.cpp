@@ -130,6 +130,12 @@ std::vector<std::uint8_t> MainMenuCtrl::Image() const {
   return {bytes.begin(), bytes.end()};
 }
 
+std::vector<std::uint8_t> MainMenuCtrl::EditedImage() const {
+  std::vector<std::uint8_t> image;
+  component_->Call("EditedImage", [&] { image = component_->EditedImage(); });
+  return image;
+}
+
 std::unique_ptr<MainMenuCtrl> CreateControl(std::string_view class_id, Platform& platform,
                                             MainMenuEvents& host) {
   if (class_id != kMainMenuCtrlClassId) return nullptr;

@@ -45,10 +45,10 @@ std::string Line(const char* where, std::span<const Byte> bytes) {
 }  // namespace
 
 BlockContents ContentsOf(const MainMenuCtrl& control, std::span<const Byte> device, int n) {
-  const std::vector<Byte> image = control.Image();
+  const std::vector<Byte> image = control.EditedImage();
   BlockContents contents{BytesOf(image, n), BytesOf(device, n), {}};
   if (contents.in_control.empty()) return contents;
-  // The image does not hold what has been edited and not made ready to be sent; the list does.
+  // A change that is not listed is not in the image; the list of settings has it.
   std::map<std::string, std::string> values;
   for (SettingLine& line : control.Settings()) values[line.name] = std::move(line.value);
   for (Place& place : PlacesIn(image, n)) {

@@ -11,8 +11,7 @@ namespace quorvel::muxhost {
 
 /// What is known of one block.
 struct BlockContents {
-  /// Its 16 bytes in the control, as last received or made ready to be sent or saved; empty when
-  /// the control has no such block.
+  /// Its 16 bytes in the control, as edited; empty when the control has no such block.
   std::vector<Byte> in_control;
   std::vector<Byte> in_device;        ///< the same in the device
   std::vector<SettingLine> settings;  ///< those that live in it, with their values as edited

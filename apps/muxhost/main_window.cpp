@@ -41,9 +41,12 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
   auto* const body = new QWidget;
   body->setLayout(sides);
   setCentralWidget(body);
+  for (QLabel* const label : {hint_, identity_}) label->setTextFormat(Qt::PlainText);
+  identity_->setObjectName("Identity");
   statusBar()->addWidget(identity_);
 
   platform_.SetHostWindow(this);
+  platform_.SetMenuButton(&commands_->MenuButton());
   AttachToSession();
   // Edits raise no event, so the window looks for them.
   QObject::connect(&watch_, &QTimer::timeout, this, [this] { ShowState(); });
@@ -196,6 +199,7 @@ void MainWindow::Run(void (HostSession::*command)()) {
   // Whatever became of it: what the control holds now decides what can be done next.
   loaded_ = !session_.Control().Settings().empty();
   ShowState();
+  commands_->FocusDefault();
 }
 
 void MainWindow::RunUntilAnswered(void (HostSession::*command)()) {

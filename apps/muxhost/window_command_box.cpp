@@ -82,8 +82,9 @@ QString CommandBox::Busy(const State& state) {
 
 void CommandBox::Show(const State& state) {
   // Before the button that has it is disabled, and loses it.
-  const bool had_focus = std::any_of(buttons_.begin(), buttons_.end(),
-                                     [](const QPushButton* button) { return button->hasFocus(); });
+  const bool had_focus =
+      std::any_of(buttons_.begin(), buttons_.end(),
+                  [this](const QPushButton* button) { return button == window()->focusWidget(); });
   for (std::size_t i = 0; i < kCommands; ++i) {
     QString why_not = WhyNot(kButtons[i], state);
     if (why_not.isEmpty() && static_cast<Command>(i) == Command::kUploadModified &&
@@ -108,6 +109,7 @@ void CommandBox::MarkNext(const std::optional<Command>& next, bool had_focus) {
 }
 
 void CommandBox::FocusDefault() {
+  focus_waits_ = !next_;
   if (next_) ButtonOf(*next_)->setFocus();
 }
 

@@ -49,8 +49,10 @@ class CommandBox : public QGroupBox {
   void Show(const State& state);
   /// Presses the default button, if there is one.
   void PressDefault();
-  /// Gives the default button the focus.
+  /// Gives the focus to the default button, or to the next one that there is.
   void FocusDefault();
+  /// The button of the configuration menu.
+  [[nodiscard]] QWidget& MenuButton() const { return *ButtonOf(Command::kMenu); }
   /// Why a command that takes the whole screen cannot be given now; empty when it can.
   [[nodiscard]] static QString Busy(const State& state);
 

@@ -45,6 +45,7 @@ DevicePicker::DevicePicker(const Platform& platform, QWidget* parent)
   variant_->setValidator(new QRegularExpressionValidator(QRegularExpression("[!-~]?"), variant_));
   variant_->setObjectName("variant");
   variant_->setPlaceholderText("as from the factory");
+  name_->setObjectName("name");
   name_->setMaxLength(kNameLength);
   name_->setPlaceholderText("as from the factory");
   exchange_->addItems({"Single blocks", "Combined array"});

@@ -106,11 +106,9 @@ QString NameOf(const SimulatedDevice& device, const Platform& platform) {
 QString Describe(const SimulatedDevice& device, const Platform& platform) {
   const std::string model(ModelText(device.ModelCode()));
   return QString("%1:  %2, %3 cameras, %4 blocks, %5")
-      .arg(NameOf(device, platform))
-      .arg(QString::fromStdString(model))
-      .arg(int{device.IdentityBytes().at(0)})
-      .arg(device.BlockCount())
-      .arg(device.IsCombined() ? "combined array" : "single blocks");
+      .arg(NameOf(device, platform), QString::fromStdString(model),
+           QString::number(device.IdentityBytes().at(0)), QString::number(device.BlockCount()),
+           device.IsCombined() ? "combined array" : "single blocks");
 }
 
 QString LackingBlocks(HostSession& session) {

@@ -102,6 +102,8 @@ class MainMenuCtrl {
       std::span<const std::uint8_t> image) const;
   /// The configuration image as last received and encoded, block 1 first.
   [[nodiscard]] std::vector<std::uint8_t> Image() const;
+  /// The image as it would be sent now: with what was edited in the blocks that are listed.
+  [[nodiscard]] std::vector<std::uint8_t> EditedImage() const;
 
  private:
   std::shared_ptr<Component> component_;

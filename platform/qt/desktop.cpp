@@ -21,6 +21,14 @@ QWidget* QtPlatform::Desktop::Host() const {
   return host != nullptr ? host->window() : QApplication::activeWindow();
 }
 
+std::optional<QPoint> QtPlatform::Desktop::BelowMenuButton() const {
+  if (menu_button == nullptr || !menu_button->isVisible() ||
+      menu_button->visibleRegion().isEmpty()) {
+    return std::nullopt;
+  }
+  return menu_button->mapToGlobal(QPoint(0, menu_button->height()));
+}
+
 qt::DialogWindow& QtPlatform::Desktop::Open(Dialog& dialog) {
   if (qt::DialogWindow* const window = Find(dialog)) return *window;
   auto* const window = new qt::DialogWindow(dialog);

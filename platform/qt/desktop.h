@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include "platform/qt/dialog_window.h"
@@ -29,7 +30,11 @@ class QtPlatform::Desktop {
   /// The window that the host works with at the moment.
   [[nodiscard]] QWidget* Host() const;
 
+  /// The lower left corner of the menu's button on the screen, while it is to be seen.
+  [[nodiscard]] std::optional<QPoint> BelowMenuButton() const;
+
   QPointer<QWidget> host;
+  QPointer<QWidget> menu_button;
   QString folder;  ///< of the file that was named last
   ClassFactory classes;
   qt::PopupOnScreen popup{[this] { return modal_.empty(); }};

@@ -20,6 +20,8 @@ QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::SetHostWindow(QWidget* window) { desktop_->host = window; }
 
+void QtPlatform::SetMenuButton(QWidget* button) { desktop_->menu_button = button; }
+
 QWidget* QtPlatform::WindowOf(const Dialog& dialog) const { return desktop_->Find(dialog); }
 
 void QtPlatform::Show(Dialog& dialog) { desktop_->Open(dialog).Present(desktop_->Host()); }
@@ -43,7 +45,8 @@ bool QtPlatform::TakesInput(const Dialog& dialog) const { return !desktop_->Lock
 void QtPlatform::PopUp(std::shared_ptr<PopupMenu> menu, int x, int y) {
   const QWidget* const host = desktop_->Host();
   const QPoint corner = host != nullptr ? host->mapToGlobal(QPoint()) : QPoint();
-  desktop_->popup.PopUp(std::move(menu), corner + QPoint(x, y), host);
+  desktop_->popup.PopUp(std::move(menu),
+                        desktop_->BelowMenuButton().value_or(corner + QPoint(x, y)), host);
 }
 
 void QtPlatform::TakeDown(const PopupMenu& menu) noexcept { desktop_->popup.TakeDown(menu); }

@@ -45,6 +45,7 @@ TEST_F(MuxhostBlocks, NewcomerDownloadsEditsUploadsAndSeesItVerified) {
   EXPECT_EQ(Hint(), "1 block modified and not in the device yet. Next: Upload modified.");
   map_.setCurrentIndex(map_.model()->index(2, 0));
   EXPECT_NE(Contents().find("CamInfo(2).title = \"Gate"), std::string::npos) << Contents();
+  EXPECT_EQ(Contents().rfind("In the control:\n47 61 74 65 20", 0), 0U) << "the bytes as edited";
 
   const auto before = session_.Device().Bytes();
   const QByteArray old(reinterpret_cast<const char*>(before.data()),

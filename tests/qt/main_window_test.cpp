@@ -121,6 +121,69 @@ TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
   EXPECT_TRUE(Button("Upload all").isDefault()) << "a file's blocks are not listed";
 }
 
+TEST_F(MuxhostWindow, ReturnGoesOnAfterEachTransfer) {
+  window_.findChildren<QComboBox*>().at(2)->setCurrentText("Combined array");
+  Click("Connect");
+  session_.Configure({.sync = true});  // the array is there before the receive dialog
+  const auto press_return = [](const char* name) {
+    return [name] {
+      QWidget* const modal = QApplication::activeModalWidget();
+      if (modal == nullptr || modal->objectName() != "frm_ULFrMux") return false;
+      EXPECT_EQ(modal->focusWidget()->objectName(), name);
+      QTest::keyClick(modal->focusWidget(), Qt::Key_Return);
+      return true;
+    };
+  };
+  {
+    const WhenShown finish(press_return("cmdOK"));
+    Click("Download");
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return window_.focusWidget() == &Button("Menu"); }));
+  ChangeZones();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Button("Upload modified").isDefault(); }));
+  session_.Configure({});
+  const WhenShown send([] { return StartSending("Select modified blocks"); });
+  const WhenShown finish([this] {
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (!session_.LastExchange().end_written || modal == nullptr) return false;
+    EXPECT_EQ(modal->focusWidget()->objectName(), "cmdCancel");
+    QTest::keyClick(modal->focusWidget(), Qt::Key_Return);
+    return true;
+  });
+  Click("Upload modified");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return window_.focusWidget() == &Button("Menu"); }));
+}
+
+TEST_F(MuxhostWindow, ADoubleClickOnStartDoesNotStop) {
+  Download();
+  Arm("silent", 1);
+  const WhenShown start([] {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    QPushButton* const button = dialog == nullptr ? nullptr : Find(dialog, "START");
+    if (button == nullptr) return false;
+    const QPoint place = button->mapTo(dialog, button->rect().center());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_TRUE(Find(dialog, "STOP")->isVisible());
+    EXPECT_EQ(dialog->childAt(place), button);
+    return true;
+  });
+  const WhenShown close([this] { return session_.LastExchange().unanswered && Press("CLOSE"); });
+  const WhenShown question([] {
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr &&
+           Press("Close");
+  });
+  Click("Upload all");
+}
+
+TEST_F(MuxhostWindow, NamesInTheStatusBarAreNoMarkup) {
+  Find<QLineEdit>(&window_, "name")->setText("<b>%2</b>");
+  Click("Connect");
+  auto* const identity = window_.findChild<QLabel*>("Identity");
+  EXPECT_EQ(identity->text().left(10), "<b>%2</b>:");
+  EXPECT_EQ(identity->textFormat(), Qt::PlainText);
+}
+
 TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
   Download();
   ChangeZones();

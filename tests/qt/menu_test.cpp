@@ -1,4 +1,5 @@
 #include <QMenu>
+#include <QPushButton>
 
 #include "tests/qt/on_screen.h"
 
@@ -63,6 +64,17 @@ TEST_F(QtMenu, ShowsItemsAsTheModelHasThem) {
   EXPECT_TRUE(lock->actions().at(0)->isChecked());
   EXPECT_FALSE(lock->actions().at(1)->isChecked());
   EXPECT_TRUE(Up()->actions().at(2)->isSeparator());
+}
+
+TEST_F(QtMenu, PopsUpBelowItsButtonWhileThatIsToBeSeen) {
+  QPushButton button("Menu", &host_);
+  button.setGeometry(200, 100, 80, 25);
+  platform_.SetMenuButton(&button);
+  for (const bool seen : {false, true}) {
+    button.setVisible(seen);
+    PopUp();
+    EXPECT_EQ(Up()->pos(), host_.mapToGlobal(seen ? QPoint(200, 125) : QPoint(30, 20)));
+  }
 }
 
 TEST_F(QtMenu, AChoiceActsFromTheLoopAndADismissalDoesNot) {

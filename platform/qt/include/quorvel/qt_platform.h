@@ -21,6 +21,9 @@ class QtPlatform : public Platform {
   /// The host's window, over which dialogs open, in front of which they stay, and from whose corner
   /// the place of a menu counts. Without one, or when it has been deleted, the active window is it.
   void SetHostWindow(QWidget* window);
+  /// The button that opens the menu: menus pop up below it while it is to be seen. Without one they
+  /// pop up at the place counted from the host's window.
+  void SetMenuButton(QWidget* button);
   /// The window that shows a dialog; a null pointer when the dialog is not on screen.
   [[nodiscard]] QWidget* WindowOf(const Dialog& dialog) const;
 
