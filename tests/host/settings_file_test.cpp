@@ -28,7 +28,7 @@ TEST(SettingsFile, APlainFileGetsAHeader) {
                          .ComboBlockCount = 200,
                          .ComboExtraA = 5,
                          .ComboExtraB = 6};
-  const auto header_of = [&context](const SettingsFile& file) {
+  const auto header_of = [](const SettingsFile& file) {
     const auto bytes = file.array.Bytes();
     EXPECT_EQ(bytes.size(), 13U + file.array.Header().DataLen);
     return std::vector<Byte>(bytes.begin(), bytes.begin() + 13);
