@@ -9,22 +9,31 @@ namespace {
 
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
+/// What a backslash and a character stand for in quotes; nothing where they stand for themselves,
+/// as in the name of a folder.
+std::optional<char> Escaped(std::string_view pair, bool typed) {
+  if (pair.size() < 2 || pair[0] != '\\') return std::nullopt;
+  if (pair[1] == '"' || pair[1] == '\\') return pair[1];
+  if (typed && pair[1] == 'n') return '\n';
+  if (typed && pair[1] == 't') return '\t';
+  return std::nullopt;
+}
+
 /// Appends the quoted part that starts at `at` to `word`; returns the place after its end.
-std::size_t TakeQuoted(std::string_view line, std::size_t at, std::string& word) {
+std::size_t TakeQuoted(std::string_view line, std::size_t at, bool typed, std::string& word) {
   for (++at; at < line.size() && line[at] != '"'; ++at) {
-    const bool escaped =
-        line[at] == '\\' && at + 1 < line.size() && (line[at + 1] == '"' || line[at + 1] == '\\');
+    const auto escaped = Escaped(line.substr(at, 2), typed);
     if (escaped) ++at;
-    word += line[at];
+    word += escaped.value_or(line[at]);
   }
   if (at == line.size()) throw ScriptError("a quote does not end");
   return at + 1;
 }
 
-std::size_t TakeOneWord(std::string_view line, std::size_t at, std::string& word) {
+std::size_t TakeOneWord(std::string_view line, std::size_t at, bool typed, std::string& word) {
   while (at < line.size() && !IsBlank(line[at])) {
     if (line[at] == '"') {
-      at = TakeQuoted(line, at, word);
+      at = TakeQuoted(line, at, typed, word);
     } else {
       word += line[at++];
     }
@@ -55,7 +64,8 @@ std::vector<std::string> SplitWords(std::string_view line) {
   while (true) {
     while (at < line.size() && IsBlank(line[at])) ++at;
     if (at == line.size() || line[at] == '#') return words;
-    at = TakeOneWord(line, at, words.emplace_back());
+    const bool typed = !words.empty() && words.front() == "type";
+    at = TakeOneWord(line, at, typed, words.emplace_back());
   }
 }
 

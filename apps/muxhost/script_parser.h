@@ -16,8 +16,9 @@ class ScriptError : public std::runtime_error {
 };
 
 /// The words of a line: separated by blanks; a part in double quotes keeps its blanks, and in it \"
-/// and \\ stand for a quote and a backslash. A # that starts a word starts a comment. Throws
-/// ScriptError for a quote that does not end.
+/// and \\ stand for a quote and a backslash, after the word type also \n and \t for a line end and
+/// a tab. A # that starts a word starts a comment. Throws ScriptError for a quote that does not
+/// end.
 [[nodiscard]] std::vector<std::string> SplitWords(std::string_view line);
 
 /// A whole decimal number; throws ScriptError that names `what` otherwise.

@@ -44,7 +44,7 @@ struct FileRequest {
   std::string default_extension;  ///< without the dot; empty for none
   bool ask_before_overwriting = false;
   bool must_exist = false;
-  bool read_only_box = false;
+  bool read_only_box = false;  ///< shows a ticked box that says that the file is only read
 };
 
 /// Local date and time. Month and day count from 1.

@@ -12,4 +12,5 @@
 #include "quorvel/widgets/popup_menu.h"
 #include "quorvel/widgets/slider.h"
 #include "quorvel/widgets/text_box.h"
+#include "quorvel/widgets/text_series.h"
 #include "quorvel/widgets/widget.h"

@@ -61,6 +61,7 @@ void DialogWindow::Build() {
 
 void DialogWindow::Refresh(Aspect what) {
   if (dialog_ == nullptr) return;
+  if (what == Aspect::kSelection) return FollowFocus();
   if (what == Aspect::kContent) Build();
   setWindowTitle(Shown(dialog_->Caption()));
   if (isVisible() && NothingHasFocus()) FocusDefault();
@@ -145,9 +146,16 @@ bool DialogWindow::eventFilter(QObject* object, QEvent* event) {
   return QDialog::eventFilter(object, event);
 }
 
+void DialogWindow::FollowFocus() {
+  const Widget* const to = dialog_->FocusSentTo();
+  auto* const body = contents_->findChild<QWidget*>(Shown(to->Name()));
+  if (body != nullptr) body->setFocus(Qt::OtherFocusReason);
+}
+
+/// What comes and goes enlarges the window once.
 void DialogWindow::Fit() {
   const QSize growth = (sizeHint() - hint_).expandedTo({0, 0});
-  hint_ = sizeHint();
+  hint_ = hint_.expandedTo(sizeHint());
   if (!growth.isNull()) resize((size() + growth).boundedTo(LargestSize().expandedTo(size())));
 }
 

@@ -55,6 +55,8 @@ class DialogWindow : public QDialog, public WidgetView {
   [[nodiscard]] bool NothingHasFocus() const {
     return focusWidget() == nullptr || focusWidget() == this;
   }
+  /// Gives it to the control that the model has sent it to.
+  void FollowFocus();
   [[nodiscard]] bool HandOverTyped();
   void PressKeyButton(Button* button);
 

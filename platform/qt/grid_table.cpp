@@ -9,6 +9,7 @@
 #include <numeric>
 #include <utility>
 
+#include "platform/qt/view_space.h"
 #include "platform/qt/widest.h"
 
 namespace quorvel::qt {
@@ -261,6 +262,7 @@ void GridTable::GiveUpRange() {
 void GridTable::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
   DrawNames();
+  EndWithContent();
   if (row_ > 0 && row_ == row_sel_) scrollTo(CellAt(row_, column_));
 }
 
@@ -283,21 +285,30 @@ void GridTable::FitColumns(bool anew) {
   header_->SetWidths(std::move(widths));
   updateGeometries();
   updateGeometry();
+  EndWithContent();
+}
+
+QSize GridTable::SizeOfRows(int rows) const {
+  const int frame = 2 * frameWidth();
+  const auto& widths = header_->Widths();
+  const int bar = verticalScrollBar()->sizeHint().width();
+  return {std::accumulate(widths.begin(), widths.end(), frame + bar),
+          frame + header_->sizeHint().height() + rows * verticalHeader()->defaultSectionSize()};
+}
+
+/// Space beyond the last column and row would look like something that is missing.
+void GridTable::EndWithContent() {
+  const QSize whole = SizeOfRows(model()->rowCount());
+  const int bar = width() < whole.width() ? horizontalScrollBar()->sizeHint().height() : 0;
+  setMaximumSize(whole + QSize(0, bar));
 }
 
 QSize GridTable::sizeHint() const {
   constexpr int kMostCharacters = 140;
-  constexpr int kMostRows = 16;
-  const int frame = 2 * frameWidth();
-  const auto& widths = header_->Widths();
-  const int bar = verticalScrollBar()->sizeHint().width();
-  const int width = std::accumulate(widths.begin(), widths.end(), frame + bar);
   const int most = kMostCharacters * fontMetrics().averageCharWidth();
-  const int rows = std::min(model()->rowCount(), kMostRows);
-  int height = frame + header_->sizeHint().height();
-  height += rows * verticalHeader()->defaultSectionSize();
-  if (width > most) height += horizontalScrollBar()->sizeHint().height();
-  return {std::min(width, most), height};
+  QSize size = SizeOfRows(std::min(model()->rowCount(), kMostGridRows));
+  if (size.width() > most) size.rheight() += horizontalScrollBar()->sizeHint().height();
+  return {std::min(size.width(), most), size.height()};
 }
 
 QSize GridTable::minimumSizeHint() const {

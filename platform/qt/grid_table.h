@@ -79,6 +79,9 @@ class GridTable : public FocusShown<QTableView> {
   [[nodiscard]] int NamesWidth() const;
   void DrawNames();
   void PaintName(QPainter& painter, int table_row) const;
+  /// Space for all columns and so many rows.
+  [[nodiscard]] QSize SizeOfRows(int rows) const;
+  void EndWithContent();
   /// Width that a column needs for its header and its texts.
   [[nodiscard]] int NeededWidth(int column) const;
 

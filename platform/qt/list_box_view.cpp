@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/view_space.h"
 #include "platform/qt/widest.h"
 
 namespace quorvel::qt {
@@ -30,16 +31,16 @@ void ChoiceList::FitItems(int rows) {
   // Space below the last item would look like something that is missing.
   const int most = rows > 0 ? rows : std::max(model()->rowCount(), kLeastRows);
   setMaximumHeight(RowHeight() * most + 2 * frameWidth());
+  ShowBarWhereNeeded();
 }
 
 QSize ChoiceList::SizeOfItems() const {
   constexpr int kLeastCharacters = 10;
-  constexpr int kMostRows = 14;
   const int frame = 2 * frameWidth();
   const int bar = verticalScrollBar()->sizeHint().width();
   const int width =
       std::max(WidestCell(*this, 0) + 4, kLeastCharacters * fontMetrics().averageCharWidth());
-  const int rows = rows_ > 0 ? rows_ : std::clamp(model()->rowCount(), kLeastRows, kMostRows);
+  const int rows = rows_ > 0 ? rows_ : std::clamp(model()->rowCount(), kLeastRows, kMostListRows);
   return {width + bar + frame, RowHeight() * rows + frame};
 }
 
@@ -61,7 +62,14 @@ void ChoiceList::ShowCurrent(int item) {
   if (!in_sight) scrollTo(index, PositionAtCenter);
 }
 
+/// The toolkit keeps a bar that it has needed in a smaller space.
+void ChoiceList::ShowBarWhereNeeded() {
+  const bool whole = RowHeight() * model()->rowCount() <= height() - 2 * frameWidth();
+  setVerticalScrollBarPolicy(whole ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+}
+
 void ChoiceList::resizeEvent(QResizeEvent* event) {
+  ShowBarWhereNeeded();
   QListView::resizeEvent(event);
   const int rest = (viewport()->height() + viewportMargins().bottom()) % RowHeight();
   if (rest != viewportMargins().bottom()) {

@@ -38,6 +38,7 @@ class ChoiceList : public FocusShown<QListView> {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void ShowBarWhereNeeded();
   [[nodiscard]] int SelectedRow() const;
   [[nodiscard]] int RowHeight() const;
   /// True when the whole height of the item is to be seen.

@@ -1,7 +1,9 @@
 #include "platform/qt/questions.h"
 
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
 
 #include "platform/qt/in_front.h"
@@ -15,6 +17,20 @@ namespace {
 QString DescribeFilter(const QString& filter) {
   if (filter == QLatin1String("*.bin")) return QStringLiteral("Settings files (*.bin)");
   return QStringLiteral("Files (%1)").arg(filter);
+}
+
+/// A ticked box that says that the file is only read. While it is ticked, nothing in the folder can
+/// be renamed or deleted from the dialog either. Dialogs of the desktop's own take no such box.
+void AddReadOnlyBox(QFileDialog& dialog) {
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setOption(QFileDialog::ReadOnly);
+  auto* const box = new QCheckBox(QStringLiteral("Open as read-only"), &dialog);
+  box->setObjectName(QStringLiteral("readOnlyBox"));
+  box->setChecked(true);
+  QObject::connect(box, &QCheckBox::toggled, &dialog,
+                   [&dialog](bool on) { dialog.setOption(QFileDialog::ReadOnly, on); });
+  auto* const grid = qobject_cast<QGridLayout*>(dialog.layout());
+  if (grid != nullptr) grid->addWidget(box, grid->rowCount(), 0, 1, -1);
 }
 
 /// A filter in the place of a name would become a file that is called so.
@@ -43,6 +59,7 @@ std::optional<std::string> AskForFile(const FileRequest& request, QString& folde
   if (!request.title.empty()) dialog.setWindowTitle(Shown(request.title));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  if (request.read_only_box) AddReadOnlyBox(dialog);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.ask_before_overwriting);
   if (!request.filter.empty()) dialog.setNameFilter(DescribeFilter(Shown(request.filter)));
   dialog.setDefaultSuffix(Shown(request.default_extension));

@@ -15,16 +15,39 @@ namespace quorvel::qt {
 
 namespace {
 
-class LabelView : public ViewOf<Label, QLabel> {
+/// A label with space for captions that it may come to have.
+class RoomyLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+  void MakeRoomFor(const std::vector<std::string>& captions) {
+    room_ = {};
+    for (const std::string& caption : captions) {
+      room_ = room_.expandedTo(fontMetrics().size(0, Shown(caption)));
+    }
+    updateGeometry();
+  }
+  [[nodiscard]] QSize sizeHint() const override { return QLabel::sizeHint().expandedTo(room_); }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    return QLabel::minimumSizeHint().expandedTo(room_);
+  }
+
+ private:
+  QSize room_;
+};
+
+class LabelView : public ViewOf<Label, RoomyLabel> {
  public:
   LabelView(VerbsUnderWay& verbs, Label& model, QWidget& parent)
-      : ViewOf(verbs, model, new QLabel(&parent)) {
+      : ViewOf(verbs, model, new RoomyLabel(&parent)) {
     GetBody()->setTextFormat(Qt::PlainText);
     DrawAll();
   }
 
  private:
-  void Draw(Aspect) override { ShowCaption(*GetBody(), GetModel()->Caption()); }
+  void Draw(Aspect what) override {
+    ShowCaption(*GetBody(), GetModel()->Caption());
+    if (what == Aspect::kState) GetBody()->MakeRoomFor(GetModel()->RoomFor());
+  }
 };
 
 /// A button whose arrow keys stay with it; in the toolkit they also lead into lists and grids,

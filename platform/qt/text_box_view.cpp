@@ -1,20 +1,28 @@
 #include "platform/qt/text_box_view.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
+#include <string>
 #include <utility>
 
 namespace quorvel::qt {
 
 namespace {
 
-constexpr int kNoLimit = 32767;
+bool Erases(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace;
+}
 
 }  // namespace
 
 TextLine::TextLine(QWidget& parent) : QLineEdit(&parent) {
   setDragEnabled(false);  // dragging text runs a loop in which the window could go
+}
+
+void TextLine::keyPressEvent(QKeyEvent* event) {
+  if (!on_key(*event)) QLineEdit::keyPressEvent(event);
 }
 
 void TextLine::focusInEvent(QFocusEvent* event) {
@@ -36,8 +44,10 @@ void TextLine::mouseReleaseEvent(QMouseEvent* event) {
 TextBoxView::TextBoxView(VerbsUnderWay& verbs, TextBox& model, QWidget& parent)
     : ViewOf(verbs, model, new TextLine(parent)) {
   QObject::connect(GetBody(), &QLineEdit::textEdited, Context(), [this](const QString& text) {
-    if (GetModel() != nullptr && !GetModel()->TakenWhenLeft()) Type(text);
+    const bool at_once = GetModel() != nullptr && !GetModel()->TakenWhenLeft();
+    if (at_once) Type(text, GetBody()->cursorPosition());
   });
+  GetBody()->on_key = [this](const QKeyEvent& event) { return TakesKey(event); };
   QObject::connect(GetBody(), &QLineEdit::editingFinished, Context(), [this] { TakeWhole(); });
   GetBody()->on_focus = [this](bool by_click) {
     Act([by_click](TextBox& box) { box.Focus(by_click); });
@@ -48,12 +58,33 @@ TextBoxView::TextBoxView(VerbsUnderWay& verbs, TextBox& model, QWidget& parent)
 
 void TextBoxView::TakeWhole() {
   const bool waits = GetModel() != nullptr && GetModel()->TakenWhenLeft();
-  if (waits && GetBody()->text() != Shown(GetModel()->Text())) Type(GetBody()->text());
+  const QString typed = GetBody()->text();
+  if (waits && typed != Shown(GetModel()->Text())) Type(typed, typed.size());
 }
 
-void TextBoxView::Type(const QString& text) {
-  Act([&text](TextBox& box) { box.Type(Stored(text)); });
+void TextBoxView::Type(const QString& text, qsizetype cursor) {
+  const std::string before = Stored(text.left(cursor));
+  const std::string after = Stored(text.mid(cursor));
+  Act([&](TextBox& box) { box.Type(before, after); });
   if (GetBody()->hasFocus()) ShowSelection();
+}
+
+/// The key that goes on to the next box erases nothing, whatever is selected. One that erases in an
+/// empty box says that it is to be empty, which the toolkit would not tell.
+bool TextBoxView::TakesKey(const QKeyEvent& event) {
+  if (GetModel() == nullptr) return false;
+  const char mark = GetModel()->GoesOnWith();
+  const QString text = GetBody()->text();
+  if (mark != '\0' && event.text() == QLatin1Char(mark)) {
+    const QString whole = text + QLatin1Char(mark);
+    Type(whole, whole.size());
+    return true;
+  }
+  if (text.isEmpty() && Erases(event)) {
+    Type(text, 0);
+    return true;
+  }
+  return false;
 }
 
 /// Only where the model selects: elsewhere the cursor stays where the typist is.
@@ -65,22 +96,14 @@ void TextBoxView::ShowSelection() {
 void TextBoxView::Draw(Aspect what) {
   QLineEdit& edit = *GetBody();
   const QString text = Shown(GetModel()->Text());
-  // The toolkit would cut a longer text that the program set, so the limit waits until the text
-  // keeps to it. Without the limit, typing in the middle would push the last characters out.
-  const int limit = GetModel()->MaxLength();
-  const int allowed = limit > 0 && text.size() <= limit ? limit : kNoLimit;
-  if (edit.maxLength() != allowed && allowed == kNoLimit) edit.setMaxLength(allowed);
   if (edit.text() != text) {
     // The cursor keeps its place from the end: right for a rewriting that drops what was typed.
+    // The model keeps to the limit: a box that did would lose lines that are pasted.
     const auto from_end = edit.text().size() - edit.cursorPosition();
     edit.setText(text);
     edit.setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - from_end, 0)));
   }
-  if (edit.maxLength() != allowed) {
-    const int cursor = edit.cursorPosition();
-    edit.setMaxLength(allowed);
-    edit.setCursorPosition(cursor);
-  }
+  edit.setAccessibleDescription(Shown(GetModel()->Note()));
   if (what == Aspect::kState) FitWidth();
 }
 

@@ -14,8 +14,11 @@ class TextLine : public QLineEdit {
  public:
   explicit TextLine(QWidget& parent);
   std::function<void(bool by_click)> on_focus;
+  /// Keys that the model takes before the toolkit does; true when it has.
+  std::function<bool(const QKeyEvent& event)> on_key;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
@@ -32,7 +35,9 @@ class TextBoxView : public ViewOf<TextBox, TextLine> {
   void Draw(Aspect what) override;
   /// Hands over what was typed into a box that is taken as a whole.
   void TakeWhole();
-  void Type(const QString& text);
+  /// Hands over the whole text, `cursor` characters of it before the cursor.
+  void Type(const QString& text, qsizetype cursor);
+  [[nodiscard]] bool TakesKey(const QKeyEvent& event);
   void ShowSelection();
   void FitWidth();
 };

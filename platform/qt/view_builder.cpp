@@ -50,12 +50,19 @@ int LineHeight() {
   return std::max(height, QPushButton(QStringLiteral("OK")).sizeHint().height());
 }
 
-/// A list that has no more items than space ends below them; a row would put it in the middle.
-void AddAtTop(QBoxLayout& row, QWidget& list, int share) {
-  auto* const column = new QVBoxLayout;
-  column->addWidget(&list, 1000 * kEmptySpaceShare);
-  column->addStretch(kEmptySpaceShare);
-  row.addLayout(column, share);
+/// A list or grid that has no more items than space ends with them; a box would put it in the
+/// middle of the space.
+void AddAtTopLeft(QBoxLayout& box, QWidget& list, int share) {
+  const bool row = box.direction() == QBoxLayout::LeftToRight;
+  auto* const across = new QBoxLayout(row ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  across->addWidget(&list, 1000 * kEmptySpaceShare);
+  across->addStretch(kEmptySpaceShare);
+  box.addLayout(across, share);
+}
+
+/// True for a frame around nothing that fills space: it ends with its content.
+bool IsFrameOfItsOwnHeight(const Layout& part) {
+  return part.widget->Kind() == WidgetKind::kFrame && !FillsSpaceDown(part);
 }
 
 }  // namespace
@@ -91,10 +98,11 @@ QBoxLayout* ViewBuilder::BuildBox(const Layout& layout, QWidget& container, int 
       if (kind == WidgetKind::kTextBox && row && label != nullptr) part.widget->SetLabel(*label);
       const bool one_line = IsOneLine(part);
       if (one_line && line_height > 0) body.setMinimumHeight(line_height);
-      if (kind == WidgetKind::kListBox && row) {
-        AddAtTop(*box, body, share);
+      const bool at_top = row && ((one_line && tall) || IsFrameOfItsOwnHeight(part));
+      if (kind == WidgetKind::kGrid || (kind == WidgetKind::kListBox && row)) {
+        AddAtTopLeft(*box, body, share);
       } else {
-        box->addWidget(&body, share, one_line && tall ? Qt::AlignTop : Qt::Alignment());
+        box->addWidget(&body, share, at_top ? Qt::AlignTop : Qt::Alignment());
       }
     }
   }

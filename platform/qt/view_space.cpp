@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "quorvel/widgets/choice.h"
+#include "quorvel/widgets/grid.h"
+
 namespace quorvel::qt {
 
 namespace {
@@ -41,13 +44,21 @@ int ShareDown(const Layout& layout) {
   if (layout.kind == Layout::Kind::kStretch) return kLarge;
   if (layout.kind != Layout::Kind::kWidget) return MostOf(layout, &ShareDown);
   switch (layout.widget->Kind()) {
-    case WidgetKind::kGrid:
+    case WidgetKind::kGrid: {
+      const auto& grid = static_cast<const Grid&>(*layout.widget);
+      return grid.Rows() - grid.HeaderRows() > kMostGridRows ? kLarge : 0;
+    }
     case WidgetKind::kTabStrip: return kLarge;
-    case WidgetKind::kListBox: return kLittle;
+    case WidgetKind::kListBox: {
+      const auto& list = static_cast<const ListBox&>(*layout.widget);
+      return list.Rows() == 0 && list.Count() > kMostListRows ? kLittle : 0;
+    }
     case WidgetKind::kFrame: return ShareDown(static_cast<const Frame*>(layout.widget)->Content());
     default: return 0;
   }
 }
+
+bool FillsSpaceDown(const Layout& layout) { return ShareDown(layout) >= kLarge; }
 
 bool IsOneLine(const Layout& layout) {
   if (layout.kind == Layout::Kind::kRow) return std::ranges::all_of(layout.parts, &IsOneLine);

@@ -15,7 +15,8 @@ TEST(ScriptParser, SplitsWords) {
       {"type m_CameraTitle(0) \"Lobby  north\"", {"type", "m_CameraTitle(0)", "Lobby  north"}},
       {"type a \"\" # nothing", {"type", "a", ""}},
       {"device name=\"TX 16\" model=6", {"device", "name=TX 16", "model=6"}},
-      {R"(type a "say \"#1\" \\ \n")", {"type", "a", R"(say "#1" \ \n)"}},
+      {R"(type a "say \"#1\" \\ \n\t")", {"type", "a", "say \"#1\" \\ \n\t"}},
+      {R"(save "c:\new\type")", {"save", R"(c:\new\type)"}},
       {"type a#1 b", {"type", "a#1", "b"}},
   };
   for (const auto& [line, words] : cases) EXPECT_EQ(SplitWords(line), words) << line;

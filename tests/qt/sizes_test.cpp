@@ -78,6 +78,11 @@ class Fits {
     }
     EXPECT_GE(body.height(), metrics.height());
     EXPECT_GE(body.height(), hint.height());
+    const bool ends =
+        model.Kind() == WidgetKind::kFrame && body.findChild<QTableView*>() == nullptr;
+    if (ends) {
+      EXPECT_LE(body.height(), body.sizeHint().height()) << "goes on below its content";
+    }
   }
 
   static void CheckList(const QListView& list) {
@@ -87,6 +92,8 @@ class Fits {
       EXPECT_GE(list.viewport()->width(), metrics.horizontalAdvance(item.data().toString()));
       EXPECT_GE(list.visualRect(item).height(), metrics.height());
     }
+    const int items = list.model()->rowCount() * list.sizeHintForRow(0);
+    EXPECT_EQ(list.verticalScrollBar()->isVisible(), items > list.viewport()->height());
   }
 
   static int TextWidth(const QWidget& body) {
@@ -112,6 +119,8 @@ class Fits {
     constexpr int kMargins = 24;
     const QFontMetrics metrics(table.font());
     const QAbstractItemModel& cells = *table.model();
+    const int rows = cells.rowCount() * table.rowHeight(0);
+    EXPECT_LE(table.viewport()->height(), rows) << "space below the last row";
     if (table.height() >= table.sizeHint().height() && !table.horizontalScrollBar()->isVisible()) {
       EXPECT_GE(table.viewport()->height(), std::min(grid.Rows() - 1, 16) * table.rowHeight(0));
     }
@@ -129,7 +138,11 @@ class Fits {
       EXPECT_GE(width, needed) << column;
       EXPECT_GE(width, two_lines) << name.toStdString();
       EXPECT_GE(table.horizontalHeader()->height(), metrics.height() * (one_line > width ? 2 : 1));
-      const bool last = column + 1 == cells.columnCount();  // it is stretched
+      const bool last = column + 1 == cells.columnCount();  // it has the space of a scroll bar
+      const int bar = table.verticalScrollBar()->sizeHint().width();
+      if (last) {
+        EXPECT_LE(width, std::max(needed, one_line) + kMargins + bar);
+      }
       if (!last && std::max(needed, two_lines) + kMargins < one_line) {
         EXPECT_LT(width, one_line) << "in two lines it is narrower";
       }
@@ -205,6 +218,66 @@ TEST_F(QtSizes, NothingClipsInAnyFontPaletteAndLengthOfTexts) {
         Check(std::make_shared<frm_CameraSetup>(context));
         Check(std::make_shared<frm_Alarm>(context));
         Check(open_already);
+      }
+    }
+  }
+}
+
+TEST_F(QtSizes, AWarningMovesNothing) {
+  Context& context = MakeContext(false);
+  BlockImage image = LoadDefaultImage(401);
+  image.ResizeBlocks(225);  // enough for notification
+  image.Block(1)[15] = 225;
+  context.Adopt(image, ImageSource::kFactory);
+  const auto dialog = std::make_shared<frm_Alarm>(context);
+  dialog->Find<TabStrip>("SSTab1").SetCurrent(7);
+  dialog->Show();
+  QApplication::processEvents();
+  const QWidget& window = *platform_.WindowOf(*dialog);
+  const auto* const frame = window.findChild<QWidget*>("Frame12");
+  const QSize sizes[] = {window.size(), frame->size()};
+  for (const char* const typed : {"no address", "", "a b@site.example", "", "guard"}) {
+    dialog->Find<TextBox>("txtUser1Addr").Type(typed);
+    QApplication::processEvents();
+    EXPECT_EQ(window.size(), sizes[0]) << typed;
+    EXPECT_EQ(frame->size(), sizes[1]) << typed;
+    EXPECT_EQ(window.findChild<QWidget*>("txtUser1Addr")->accessibleDescription().isEmpty(),
+              std::string(typed).empty());
+  }
+}
+
+/// A list beside a grid that is taller, on the page that is not in front when the window opens.
+class ListOfTen : public Dialog {
+ public:
+  explicit ListOfTen(Platform& platform) : Dialog(platform, "frm_ListOfTen") {
+    grid.SetSize(17, 2);
+    list.SetItems({"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"});
+    list.Select(4);
+    SetLayout(Column(Tabs(tabs, Page{"First", Column()}, Page{"Second", Row(grid, list)})));
+  }
+  TabStrip tabs{*this, "tabs"};
+  Grid grid{*this, "grid"};
+  ListBox list{*this, "list"};
+};
+
+TEST_F(QtSizes, AListOfTenIsShownWhole) {
+  const auto dialog = std::make_shared<ListOfTen>(platform_);
+  Check(dialog);
+  const auto& list = *platform_.WindowOf(*dialog)->findChild<QListView*>("list");
+  EXPECT_FALSE(list.verticalScrollBar()->isVisible());
+  EXPECT_GE(list.viewport()->height(), 10 * list.visualRect(list.model()->index(0, 0)).height());
+}
+
+TEST_F(QtSizes, EveryListHasALabel) {
+  Context& context = MakeContext(false);
+  const std::shared_ptr<Dialog> dialogs[] = {std::make_shared<frm_CameraSetup>(context),
+                                             std::make_shared<frm_Alarm>(context)};
+  for (const auto& dialog : dialogs) {
+    for (const Widget* const widget : dialog->Widgets()) {
+      const bool list =
+          widget->Kind() == WidgetKind::kListBox || widget->Kind() == WidgetKind::kComboBox;
+      if (list) {
+        EXPECT_NE(widget->NamingLabel(), nullptr) << widget->Name();
       }
     }
   }

@@ -1,3 +1,4 @@
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
@@ -140,6 +141,27 @@ TEST_F(QtWindows, FileDialogAddsTheExtensionAndTakesNoPatternForAName) {
   EXPECT_EQ(seen.last(), "Save As: MuxMenuSave.bin");
   WhileModal([] { QApplication::activeModalWidget()->close(); });
   EXPECT_EQ(platform_.AskFile(request), std::nullopt);
+}
+
+TEST_F(QtWindows, FileDialogShowsTheReadOnlyBoxWhereItIsAskedFor) {
+  for (const bool asked : {false, true}) {
+    FileRequest request;
+    request.read_only_box = asked;
+    bool shown = false;
+    bool kept_after_untick = true;
+    WhileModal([&] {
+      auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      auto* const box = dialog->findChild<QCheckBox*>("readOnlyBox");
+      shown = box != nullptr && box->isVisible() && box->isChecked() &&
+              dialog->testOption(QFileDialog::ReadOnly);
+      if (box != nullptr) box->click();
+      kept_after_untick = dialog->testOption(QFileDialog::ReadOnly);
+      dialog->close();
+    });
+    EXPECT_EQ(platform_.AskFile(request), std::nullopt);
+    EXPECT_EQ(shown, asked);
+    EXPECT_FALSE(kept_after_untick);
+  }
 }
 
 TEST_F(QtWindows, FocusBeginsAtTheFirstInputAndReturnWithoutItPressesTheDefault) {

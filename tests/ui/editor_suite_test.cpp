@@ -144,7 +144,7 @@ bool Use(Bench& bench, Widget& control) {
            Answer::kDone;
   }
   if (auto* const box = dynamic_cast<TextBox*>(&control)) {
-    const std::string name = "Unit " + std::to_string(bench.Below(1000));
+    const std::string name = "u" + std::to_string(bench.Below(1000)) + "@site.example";
     const std::string number = std::to_string(bench.Below(70000));
     return box->Type(box->ShownLength() > 10 ? name : number) == Answer::kDone;
   }

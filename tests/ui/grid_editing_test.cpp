@@ -163,7 +163,7 @@ TEST_F(Editing, TheEndOfASelectionSelectsOrWrites) {
     EXPECT_EQ(desk_->grid.Mark(4), Answer::kDone);
     EXPECT_EQ(desk_->grid.Copied(1, 1), "Macro 3\nMacro 3\n") << "cells that differ are selected";
     desk_->list.Choose(0);
-    EXPECT_EQ(desk_->TextsOf(1), "|NONE|NONE|NONE|");
+    EXPECT_EQ(desk_->TextsOf(1), "||||");
   }
 }
 

@@ -53,7 +53,7 @@ TEST_F(Widgets, BoxesKeepNumbersThatFit) {
       {dialog_->octets(0), "223", "223"},    {dialog_->octets(0), "224", "223"},
       {dialog_->octets(1), "255", "255"},    {dialog_->octets(1), "1000", "255"},
       {dialog_->octets(1), "", "0"},         {dialog_->octets(1), "-1", "0"},
-      {dialog_->octets(1), " 7", "7"},       {dialog_->octets(1), "1.5", "0"},
+      {dialog_->octets(1), " 7", "7"},       {dialog_->octets(1), "1,5", "0"},
       {dialog_->octets(1), "007", "007"},    {dialog_->port_box, "1026", "1027"},
       {dialog_->port_box, "32768", "32767"}, {dialog_->port_box, "99999999999", "32767"},
       {dialog_->port_box, "abc", "1027"},
@@ -67,6 +67,37 @@ TEST_F(Widgets, BoxesKeepNumbersThatFit) {
   dialog_->port.Show(80);
   EXPECT_EQ(dialog_->address.Octet(0), 255);
   EXPECT_EQ(dialog_->port.Number(), 80);
+}
+
+TEST_F(Widgets, ADotSendsTheFocusToTheNextOctetWithoutErasing) {
+  const struct {
+    int box;
+    const char* typed;
+    const char* after;
+    const char* kept;
+    int focus;
+  } cases[] = {
+      {0, "10.", "", "10.2.3.4", 1},
+      {1, "2.", "0", "1.20.3.4", 2},
+      {1, ".", "", "1.2.3.4", 2},
+      {3, "9.", "", "1.2.3.9", 3},
+      {2, "7.8.9", "", "1.2.7.8", 3},
+      {2, "10.20.30.40", "", "10.20.30.40", 3},
+      {0, "9.8.7.6.\r\n", "", "9.8.7.6", 3},
+  };
+  for (const auto& it : cases) {
+    SCOPED_TRACE(it.typed);
+    for (int i = 0; i < 4; ++i) dialog_->address.Show(i, static_cast<Byte>(i + 1));
+    EXPECT_EQ(dialog_->octets(it.box).Type(it.typed, it.after), Answer::kDone);
+    std::string address;
+    for (TextBox& box : dialog_->octets) address += (address.empty() ? "" : ".") + box.Text();
+    EXPECT_EQ(address, it.kept);
+    EXPECT_EQ(dialog_->FocusSentTo(), &dialog_->octets(it.focus));
+    EXPECT_GT(dialog_->octets(it.focus).SelectedCharacters(), 0);
+  }
+  dialog_->octets(1).SetEnabled(false);
+  EXPECT_EQ(dialog_->octets(1).Type("5.6"), Answer::kDisabled);
+  EXPECT_EQ(dialog_->octets(2).Text(), "7");
 }
 
 TEST_F(Widgets, FocusSelectsWhatTypingReplaces) {

@@ -260,12 +260,17 @@ std::string_view Editable(std::string_view text) {
   return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-template <class Boxes>
-class TextField final : public Field {
+class TextsField final : public Field {
  public:
-  TextField(Boxes& boxes, int lines, TextRef setting, const Platform& platform)
-      : boxes_(boxes), setting_(std::move(setting)) {
-    for (int line = 0; line < lines; ++line) texts_.emplace_back(ControlAt(boxes, line), platform);
+  TextsField(ControlArray<TextBox>& boxes, int lines, Label& notes, TextRef setting,
+             const Context& context)
+      : boxes_(boxes),
+        series_(boxes, TextSeries::Kind::kLines),
+        notes_(context, notes),
+        setting_(std::move(setting)) {
+    for (int line = 0; line < lines; ++line) {
+      texts_.emplace_back(boxes(line), context.platform, notes_);
+    }
   }
   void PutBack(int line) override { At(line).PutBack(); }
 
@@ -279,9 +284,9 @@ class TextField final : public Field {
   }
   void Tell(MuxData& record, int line, ShownSetting& shown) const override {
     setting_->AddNames(record, line, shown.settings);
-    shown.control = &ControlAt(boxes_, line);
+    shown.control = &boxes_(line);
     shown.was = At(line).Shown();
-    shown.is = ControlAt(boxes_, line).Text();
+    shown.is = boxes_(line).Text();
   }
   [[nodiscard]] bool LineDiffers(int line) const override { return At(line).Typed().has_value(); }
 
@@ -291,7 +296,9 @@ class TextField final : public Field {
     return texts_.at(static_cast<std::size_t>(line));
   }
 
-  Boxes& boxes_;
+  ControlArray<TextBox>& boxes_;
+  TextSeries series_;
+  NoteLine notes_;
   TextRef setting_;
   std::deque<DeviceText> texts_;
 };
@@ -369,13 +376,8 @@ Field& FieldGroup::Octets(ControlArray<TextBox>& boxes, SettingRef octets) {
   return Add(std::make_unique<OctetsField>(boxes, std::move(octets)));
 }
 
-Field& FieldGroup::Text(TextBox& box, TextRef setting) {
-  return Add(std::make_unique<TextField<TextBox>>(box, 1, std::move(setting), platform_));
-}
-
-Field& FieldGroup::Text(ControlArray<TextBox>& boxes, TextRef setting) {
-  return Add(std::make_unique<TextField<ControlArray<TextBox>>>(boxes, lines_, std::move(setting),
-                                                                platform_));
+Field& FieldGroup::Texts(ControlArray<TextBox>& boxes, Label& notes, TextRef setting) {
+  return Add(std::make_unique<TextsField>(boxes, lines_, notes, std::move(setting), context_));
 }
 
 Field& FieldGroup::Column(GridEditing& editing, Grid& grid, int column, SettingRef setting) {

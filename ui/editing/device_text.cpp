@@ -1,18 +1,36 @@
 #include "ui/editing/device_text.h"
 
+#include <utility>
+
 namespace quorvel {
 
-DeviceText::DeviceText(TextBox& box, const Platform& platform) : box_(box), platform_(platform) {
-  box_.on_change = [this] {
-    const std::string kept = platform_.ToUtf8(Bytes());
-    if (kept != box_.Text()) box_.RewriteText(kept);
-    if (on_change) on_change();
-  };
+DeviceText::DeviceText(TextBox& box, const Platform& platform, NoteLine& notes)
+    : box_(box), platform_(platform), notes_(notes) {
+  notes_.Serve(box_);
+  box_.on_change = [this] { Changed(); };
 }
 
 void DeviceText::Show(std::string_view bytes) {
   shown_ = platform_.ToUtf8(bytes);
   box_.SetText(shown_);
+  Tell({});
+}
+
+void DeviceText::Changed() {
+  const std::string kept = platform_.ToUtf8(Bytes());
+  const bool replaced = kept != box_.Text();
+  if (replaced) box_.RewriteText(kept);
+  Tell(notes_.LeftOut(box_, replaced));
+}
+
+void DeviceText::Tell(std::string left_out) {
+  if (left_out.empty() && note_) left_out = note_();
+  notes_.Tell(box_, std::move(left_out));
+}
+
+void DeviceText::SetNote(std::function<std::string()> note) {
+  note_ = std::move(note);
+  Tell({});
 }
 
 std::optional<std::string> DeviceText::Typed() const {

@@ -1,20 +1,23 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "quorvel/platform.h"
 #include "quorvel/widgets.h"
+#include "ui/editing/note_line.h"
 
 namespace quorvel {
 
 /// A text box over a byte string of the device. While somebody types it shows at once what the
-/// device's code page can keep. A box that nobody changed says nothing about the bytes, some of
-/// which it may be unable to show. Takes the box's on_change for itself.
+/// device's code page can keep, and the line of notes tells what was left out. A box that nobody
+/// changed says nothing about the bytes, some of which it may be unable to show. Takes the box's
+/// on_change for itself.
 class DeviceText {
  public:
-  DeviceText(TextBox& box, const Platform& platform);
+  DeviceText(TextBox& box, const Platform& platform, NoteLine& notes);
   DeviceText(const DeviceText&) = delete;
   DeviceText& operator=(const DeviceText&) = delete;
   ~DeviceText() = default;
@@ -29,12 +32,17 @@ class DeviceText {
   /// The bytes that somebody has typed; nothing when the box reads as it was shown, also after
   /// something else had been typed meanwhile.
   [[nodiscard]] std::optional<std::string> Typed() const;
-  /// Called after every change by a person.
-  Handler on_change;
+  /// What there is to say of the text itself, where typing has left nothing out.
+  void SetNote(std::function<std::string()> note);
 
  private:
+  void Changed();
+  void Tell(std::string left_out);
+
   TextBox& box_;
   const Platform& platform_;
+  NoteLine& notes_;
+  std::function<std::string()> note_;
   std::string shown_;
 };
 

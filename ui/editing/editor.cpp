@@ -41,7 +41,7 @@ Editor::Editor(Context& context, std::string name, int caption,
       flags_(flags),
       generation_(context.ImageGeneration()),
       id_(context.env.identity),
-      fields_(context.platform) {
+      fields_(context) {
   for (const CommitFlag flag : flags_) context_.env.commit.Set(flag, false);
   KeepAliveWith(context.life);
   SetIcon(&Icon101());
@@ -69,7 +69,31 @@ void Editor::GridsToStart() {
   for (LineGrid* const grid : grids_) grid->GoToStart();
 }
 
+void Editor::AddDoubt(Widget& control, Doubt doubt) {
+  if (store_like_this_.empty()) store_like_this_ = Text(kTextStoreLikeThis);
+  doubts_.push_back({control, std::move(doubt)});
+}
+
+bool Editor::DoubtsAreSettled() {
+  std::string lines;
+  Widget* first = nullptr;
+  for (const DoubtOf& it : doubts_) {
+    const std::string doubt = it.doubt();
+    if (doubt.empty()) continue;
+    lines += it.control.SpokenName() + " " + it.control.ValueText() + '\r' + doubt + '\r';
+    if (first == nullptr) first = &it.control;
+  }
+  if (first == nullptr) return true;
+  const Message question{lines + store_like_this_, context_.texts.Objects().objstWarn,
+                         Message::Buttons::kOkCancel};
+  const bool goes_on = context_.platform.Ask(question);
+  if (!goes_on && Shown()) MoveFocus(*first);
+  return goes_on;
+}
+
 void Editor::Ok() {
+  if (BelongsToImage() && !DoubtsAreSettled()) return;
+  if (!Shown() || context_.terminated) return;  // it was closed, or ended, during the question
   if (!BelongsToImage()) {
     const Message refusal{Text(kTextEditorOutdated), Text(txt::kErrorMessage),
                           Message::Buttons::kOk};

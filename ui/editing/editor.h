@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -28,6 +29,13 @@ class Editor : public Dialog, public EditorPart {
   /// Whether anything differs from when the editor opened.
   [[nodiscard]] bool Differs() const { return fields_.Differ(); }
 
+  /// Tells what is doubtful of what somebody has typed into a control; empty for nothing. It asks
+  /// for no texts.
+  using Doubt = std::function<std::string()>;
+  /// Has OK ask whether to store what is doubtful, whatever page is in front. Who goes back finds
+  /// the first such control in front.
+  void AddDoubt(Widget& control, Doubt doubt);
+
  protected:
   Editor(Context& context, std::string name, int caption, std::initializer_list<CommitFlag> flags);
 
@@ -49,6 +57,8 @@ class Editor : public Dialog, public EditorPart {
   void Ok();
   void Write();
   void GridsToStart();
+  /// Asks about what is doubtful; false when the user goes back to it.
+  [[nodiscard]] bool DoubtsAreSettled();
 
   Context& context_;
   std::vector<CommitFlag> flags_;
@@ -57,6 +67,12 @@ class Editor : public Dialog, public EditorPart {
   Fields fields_;
   std::vector<LineGrid*> grids_;
   std::vector<Handler> after_fill_;
+  struct DoubtOf {
+    Widget& control;
+    Doubt doubt;
+  };
+  std::vector<DoubtOf> doubts_;
+  std::string store_like_this_;
 };
 
 }  // namespace quorvel

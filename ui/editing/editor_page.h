@@ -9,7 +9,7 @@ namespace quorvel {
 /// of their construction.
 class EditorPage : public EditorPart {
  protected:
-  explicit EditorPage(Editor& editor, bool shown = true) : EditorPart(editor, shown) {}
+  explicit EditorPage(Editor& editor, bool exists = true) : EditorPart(editor, exists) {}
   ~EditorPage() = default;
 };
 

@@ -12,7 +12,7 @@ Context& EditorPart::Ctx() const { return editor_.context_; }
 
 const Identity& EditorPart::Id() const { return editor_.id_; }
 
-FieldGroup& EditorPart::Each(int lines) const { return editor_.fields_.Group(shown_ ? lines : 0); }
+FieldGroup& EditorPart::Each(int lines) const { return editor_.fields_.Group(exists_ ? lines : 0); }
 
 void EditorPart::AfterFill(Handler handler) const {
   editor_.after_fill_.push_back(std::move(handler));

@@ -24,10 +24,10 @@ class EditorPart {
   operator Dialog&() const;  // NOLINT: converts by design
 
   /// False for a page that the model does not have: its fields are neither filled nor written.
-  [[nodiscard]] bool Shown() const { return shown_; }
+  [[nodiscard]] bool Exists() const { return exists_; }
 
  protected:
-  explicit EditorPart(Editor& editor, bool shown = true) : editor_(editor), shown_(shown) {}
+  explicit EditorPart(Editor& editor, bool exists = true) : editor_(editor), exists_(exists) {}
   ~EditorPart() = default;
 
   [[nodiscard]] Context& Ctx() const;
@@ -67,7 +67,7 @@ class EditorPart {
  private:
   friend class LineGrid;
   Editor& editor_;
-  bool shown_;
+  bool exists_;
 };
 
 }  // namespace quorvel

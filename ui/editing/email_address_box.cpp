@@ -27,38 +27,51 @@ Halves StoredHalves(const clsEmailNotify& notify, int address) {
 
 }  // namespace
 
-EmailAddressField::EmailAddressField(const Context& context, int address, TextBox& box,
-                                     Label& warning)
+EmailAddressField::EmailAddressField(Editor& editor, const Context& context, int address,
+                                     TextBox& box, Label& warning)
     : address_(address),
       box_(box),
-      warning_(warning),
-      text_(box, context.platform),
+      notes_(context, warning),
+      text_(box, context.platform, notes_),
       would_be_empty_(context.GetText(kTextAddressEmptied)),
-      would_be_cut_(context.GetText(kTextAddressCut)) {
-  warning_.SetKeepsPlace(true);
-  text_.on_change = [this] { Warn(); };
+      would_be_cut_(context.GetText(kTextAddressCut)),
+      doubtful_(context.GetText(kTextAddressDoubtful)),
+      half_address_(context.GetText(kTextHalfAddress)) {
+  notes_.MakeRoomFor({would_be_empty_, would_be_cut_, doubtful_, half_address_});
+  editor.AddDoubt(box, [this] { return text_.Typed() && Doubtful() ? doubtful_ : std::string(); });
 }
 
 void EmailAddressField::Fill(MuxData& record, int /*line*/) {
-  text_.Show(record.AlmEmailNotify.EmailString(address_));
+  const clsEmailNotify& notify = record.AlmEmailNotify;
+  const std::string address = notify.EmailString(address_);
+  half_stored_ = address.empty() && StoredHalves(notify, address_) != Halves{};
+  text_.Show(address);
+  text_.SetNote([this] { return Warning(); });
 }
 
-void EmailAddressField::Warn() {
+bool EmailAddressField::Doubtful() const {
+  const std::string& text = box_.Text();
+  return text.find(' ') != std::string::npos || std::ranges::count(text, '@') > 1;
+}
+
+std::string EmailAddressField::Warning() const {
+  if (!box_.Enabled()) return {};
   const std::string text = text_.Bytes();
+  if (text.empty()) return half_stored_ && !box_.Edited() ? half_address_ : std::string();
   const auto [local, domain] = clsEmailNotify::Split(text);
-  const bool lost = !text.empty() && (local.empty() || domain.empty());
-  const bool cut = std::max(local.size(), domain.size()) > clsEmailNotify::kLongestHalf;
-  warning_.SetCaption(lost ? would_be_empty_ : cut ? would_be_cut_ : "");
+  if (local.empty() || domain.empty()) return would_be_empty_;
+  if (std::max(local.size(), domain.size()) > clsEmailNotify::kLongestHalf) return would_be_cut_;
+  return Doubtful() ? doubtful_ : std::string();
 }
 
 /// A half whose later blocks have become empty is listed here, because the record lists it for the
 /// texts that it still holds only.
 void EmailAddressField::Write(MuxData& record, int /*line*/) {
   const auto typed = text_.Typed();
-  if (!typed) return;
+  if (!typed && !Cleared()) return;
   clsEmailNotify& notify = record.AlmEmailNotify;
   const Halves before = StoredHalves(notify, address_);
-  notify.EmailString(address_, *typed);
+  notify.EmailString(address_, typed.value_or(""));
   const Halves after = StoredHalves(notify, address_);
   for (std::size_t half = 0; half < after.size(); ++half) {
     if (after.at(half) == before.at(half)) continue;

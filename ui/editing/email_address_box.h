@@ -3,30 +3,51 @@
 #include <string>
 
 #include "ui/editing/device_text.h"
-#include "ui/editing/editor_part.h"
+#include "ui/editing/editor.h"
 #include "ui/editing/field.h"
 
 namespace quorvel {
 
+/// A text box for one of the e-mail addresses that the device mails to or from, with a line below
+/// that warns of what would not be kept, and of what is hardly an address. Where OK would store one
+/// of the latter, the editor asks first.
+///
+/// The device holds the parts before and after the "@" apart. A part without the other reads as no
+/// address; the box is empty then, and emptying it once more clears the part. An address that
+/// nobody has typed stays as it is stored: not every pair of parts that a device holds reads as an
+/// address.
 class EmailAddressField : public Field {
  public:
-  EmailAddressField(const Context& context, int address, TextBox& box, Label& warning);
+  /// `address` as in clsEmailNotify::EmailString.
+  EmailAddressField(Editor& editor, const Context& context, int address, TextBox& box,
+                    Label& warning);
   void PutBack(int /*line*/) override { text_.PutBack(); }
 
  protected:
   void Fill(MuxData& record, int line) override;
   void Write(MuxData& record, int line) override;
   void Tell(MuxData& record, int line, ShownSetting& shown) const override;
-  [[nodiscard]] bool LineDiffers(int /*line*/) const override { return text_.Typed().has_value(); }
+  [[nodiscard]] bool LineDiffers(int /*line*/) const override {
+    return text_.Typed().has_value() || Cleared();
+  }
 
  private:
-  void Warn();
+  /// A half that was stored is to be cleared.
+  [[nodiscard]] bool Cleared() const {
+    return half_stored_ && box_.Edited() && box_.Text().empty();
+  }
+  [[nodiscard]] std::string Warning() const;
+  [[nodiscard]] bool Doubtful() const;
+
   int address_;
   TextBox& box_;
-  Label& warning_;
+  NoteLine notes_;
   DeviceText text_;
+  bool half_stored_ = false;
   std::string would_be_empty_;
   std::string would_be_cut_;
+  std::string doubtful_;
+  std::string half_address_;
 };
 
 }  // namespace quorvel

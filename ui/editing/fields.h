@@ -8,6 +8,7 @@
 
 #include "core/commit.h"
 #include "quorvel/widgets.h"
+#include "ui/context.h"
 #include "ui/editing/field.h"
 #include "ui/editing/grid_editing.h"
 
@@ -18,7 +19,7 @@ namespace quorvel {
 /// installer finds the blocks listed.
 class FieldGroup {
  public:
-  FieldGroup(Platform& platform, int lines) : platform_(platform), lines_(lines) {}
+  FieldGroup(const Context& context, int lines) : context_(context), lines_(lines) {}
   FieldGroup(const FieldGroup&) = delete;
   FieldGroup& operator=(const FieldGroup&) = delete;
   ~FieldGroup() = default;
@@ -44,9 +45,9 @@ class FieldGroup {
   Field& Port(TextBox& box, int least, int most, int otherwise, SettingRef setting);
   /// The four numbers of a network address; `octets` is the setting of the first, in line 0.
   Field& Octets(ControlArray<TextBox>& boxes, SettingRef octets);
-  /// A text of the device; element k of an array is line k.
-  Field& Text(TextBox& box, TextRef setting);
-  Field& Text(ControlArray<TextBox>& boxes, TextRef setting);
+  /// Texts of the device, element k of the array in line k. Pasted lines fill the boxes below;
+  /// `notes` tells what of a text the device cannot keep.
+  Field& Texts(ControlArray<TextBox>& boxes, Label& notes, TextRef setting);
   /// A column whose cells GridEditing knows already. Line 0 is the first row of data.
   Field& Column(GridEditing& editing, Grid& grid, int column, SettingRef setting);
   /// A field of an editor's own.
@@ -58,7 +59,7 @@ class FieldGroup {
   [[nodiscard]] bool Differs() const;
 
  private:
-  Platform& platform_;
+  const Context& context_;
   int lines_;
   std::optional<CommitFlag> flag_;
   std::vector<std::unique_ptr<Field>> fields_;
@@ -67,10 +68,10 @@ class FieldGroup {
 /// All fields of an editor, in the order in which they are written.
 class Fields {
  public:
-  explicit Fields(Platform& platform) : platform_(platform) {}
+  explicit Fields(const Context& context) : context_(context) {}
 
   /// A new group behind the others.
-  FieldGroup& Group(int lines) { return groups_.emplace_back(platform_, lines); }
+  FieldGroup& Group(int lines) { return groups_.emplace_back(context_, lines); }
 
   void Fill(MuxData& record);
   void Write(MuxData& record, CommitFlags& flags);
@@ -78,7 +79,7 @@ class Fields {
   [[nodiscard]] bool Differ() const;
 
  private:
-  Platform& platform_;
+  const Context& context_;
   std::deque<FieldGroup> groups_;
 };
 

@@ -120,12 +120,6 @@ class GridEditing {
   /// What a control showed last, and for which of its columns.
   struct Shown {
     const Binding* binding;
-    std::vector<int> items;
-  };
-
-  /// What a control showed last, and for which of its columns.
-  struct Shown {
-    const Binding* binding;
     int row;
     std::vector<int> values;
   };

@@ -2,7 +2,7 @@
 
 namespace quorvel {
 
-OctetBoxes::OctetBoxes(ControlArray<TextBox>& boxes) {
+OctetBoxes::OctetBoxes(ControlArray<TextBox>& boxes) : series_(boxes, TextSeries::Kind::kDotted) {
   constexpr int kMostDigits = 3;
   constexpr int kMostFirst = 223;  // higher ones are no host's address
   constexpr int kMost = 255;

@@ -9,7 +9,8 @@
 namespace quorvel {
 
 /// The four boxes of a dotted address. Typing keeps them numbers that an address can hold: 0 to 223
-/// in the first, 0 to 255 in the others. A box is selected whole by focus and by every click.
+/// in the first, 0 to 255 in the others. A box is selected whole by focus and by every click. "."
+/// goes on to the next box, and a pasted address fills all four.
 class OctetBoxes {
  public:
   explicit OctetBoxes(ControlArray<TextBox>& boxes);
@@ -21,6 +22,7 @@ class OctetBoxes {
  private:
   [[nodiscard]] NumberBox& At(int place) { return boxes_.at(static_cast<std::size_t>(place)); }
 
+  TextSeries series_;
   std::deque<NumberBox> boxes_;
 };
 

@@ -26,21 +26,21 @@ void frm_CameraSetup::BindCameras() {
   cameras_.Check(m_CameraCovert, OfCamera(&Cameras::covert));
   cameras_.Check(m_CameraDisable, OfCamera(&Cameras::disable));
   for (TextBox& box : m_CameraTitle) box.SetMaxLength(kTitleLength);
-  cameras_.Text(m_CameraTitle, OfCamera(&Cameras::title)).Lists([](int c) { return c + 1; });
+  m_CameraTitle.SetSpokenNames(Frame2.Caption());
+  cameras_.Texts(m_CameraTitle, lbTitleNote, OfCamera(&Cameras::title)).Lists([](int c) {
+    return c + 1;
+  });
   cameras_.Check(m_CameraColor, OfCamera(&Cameras::color)).WrittenWhen(!triplex);
-  gains_.Column(Text(txt::kSignalGain), lstSnlGain, gains, OfCamera(&Cameras::SignalGain));
-  text_positions_.Column(Text(txt::kTextPosition), lstTextpos, positions,
+  gains_.Column(lbSnlGain.Caption(), lstSnlGain, gains, OfCamera(&Cameras::SignalGain));
+  text_positions_.Column(lbTextpos.Caption(), lstTextpos, positions,
                          OfCamera(&Cameras::TextPos).OtherwiseWritten(1));
 
   for (int c = 0; c < kMostCameras; ++c) lblCam(c).SetCaption(std::to_string(c + 1));
-  m_CameraTitle.SetSpokenNames(Frame2.Caption());
   m_CameraCovert.SetSpokenNames(Frame3.Caption());
   m_CameraColor.SetSpokenNames(Frame4.Caption());
   m_CameraDisable.SetSpokenNames(Frame1.Caption());
-  MSFG_SnlGain.SetSpokenName(Text(txt::kSignalGain));
-  lstSnlGain.SetSpokenName(Text(txt::kSignalGain));
-  MSFG_TextPos.SetSpokenName(Text(txt::kTextPosition));
-  lstTextpos.SetSpokenName(Text(txt::kTextPosition));
+  MSFG_SnlGain.SetSpokenName(lbSnlGain.Caption());
+  MSFG_TextPos.SetSpokenName(lbTextpos.Caption());
 }
 
 void frm_CameraSetup::BindDisplaySettings() {
@@ -69,21 +69,22 @@ void frm_CameraSetup::BindDisplaySettings() {
 void frm_CameraSetup::Arrange() {
   Layout titles{Layout::Kind::kLines, nullptr, {}};
   for (int c = 0; c < kMostCameras; ++c) titles.parts.push_back(Row(lblCam(c), m_CameraTitle(c)));
-  SetLayout(
-      Column(Tabs(SSTab1,
-                  Page{Text(txt::kCameraSetup),
-                       Row(Framed(Frame2, std::move(titles)), Framed(Frame3, Lines(m_CameraCovert)),
+  SetLayout(Column(
+      Tabs(SSTab1,
+           Page{Text(txt::kCameraSetup),
+                Column(Row(Framed(Frame2, std::move(titles)), Framed(Frame3, Lines(m_CameraCovert)),
                            Framed(Frame4, Lines(m_CameraColor)),
-                           Framed(Frame1, Lines(m_CameraDisable)), Stretch())},
-                  Page{Text(txt::kCameraAgc), Row(MSFG_SnlGain, lstSnlGain)},
-                  Page{Text(txt::kOtherSettings),
-                       Column(Row(MSFG_TextPos, lstTextpos,
-                                  Framed(Frame6, Column(m_TitleDisplay, Stretch()))),
-                              Row(Framed(Frame5, Column(optFldFrame, Stretch())),
-                                  Framed(Frame7, Column(optPwrDis, Stretch())),
-                                  Framed(frmSVHSMonB, Column(optMonBSvhs, Stretch())),
-                                  Framed(frmPubMonitor, Column(chkPubMon)), Stretch()))}),
-             Row(Stretch(), cmd_OK, cmd_Cancel)));
+                           Framed(Frame1, Lines(m_CameraDisable)), Stretch()),
+                       lbTitleNote)},
+           Page{Text(txt::kCameraAgc), Row(MSFG_SnlGain, Labelled(lbSnlGain, lstSnlGain))},
+           Page{Text(txt::kOtherSettings),
+                Column(Row(MSFG_TextPos, Labelled(lbTextpos, lstTextpos),
+                           Framed(Frame6, Column(m_TitleDisplay, Stretch()))),
+                       Row(Framed(Frame5, Column(optFldFrame, Stretch())),
+                           Framed(Frame7, Column(optPwrDis, Stretch())),
+                           Framed(frmSVHSMonB, Column(optMonBSvhs, Stretch())),
+                           Framed(frmPubMonitor, Column(chkPubMon)), Stretch()))}),
+      Row(Stretch(), cmd_OK, cmd_Cancel)));
 }
 
 void frm_CameraSetup::ShowWhatTheModelHas() {

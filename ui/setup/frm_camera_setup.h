@@ -26,6 +26,7 @@ class frm_CameraSetup : public Editor {
   Frame Frame2{*this, "Frame2", Text(txt::kTitle)};
   ControlArray<Label> lblCam{*this, "lblCam", kMostCameras};
   ControlArray<TextBox> m_CameraTitle{*this, "m_CameraTitle", kMostCameras};
+  Label lbTitleNote{*this, "lbTitleNote"};
   Frame Frame3{*this, "Frame3", Text(txt::kCovert)};
   ControlArray<CheckBox> m_CameraCovert{*this, "m_CameraCovert", kMostCameras};
   Frame Frame4{*this, "Frame4", Text(txt::kColor)};
@@ -35,10 +36,12 @@ class frm_CameraSetup : public Editor {
 
   // Tab 1.
   Grid MSFG_SnlGain{*this, "MSFG_SnlGain"};
+  Label lbSnlGain{*this, "lbSnlGain", Text(txt::kSignalGain)};
   ListBox lstSnlGain{*this, "lstSnlGain"};
 
   // Tab 2.
   Grid MSFG_TextPos{*this, "MSFG_TextPos"};
+  Label lbTextpos{*this, "lbTextpos", Text(txt::kTextPosition)};
   ListBox lstTextpos{*this, "lstTextpos"};
   Frame Frame6{*this, "Frame6", Text(txt::kTitlesDisplay)};
   ControlArray<CheckBox> m_TitleDisplay{*this, "m_TitleDisplay", kMonitors};

@@ -9,6 +9,11 @@ Label::Label(Dialog& dialog, std::string name, std::string caption)
   SetCaption(std::move(caption));
 }
 
+void Label::SetRoomFor(std::vector<std::string> captions) {
+  room_for_ = std::move(captions);
+  Redraw(Aspect::kState);
+}
+
 Button::Button(Dialog& dialog, std::string name, std::string caption)
     : Widget(dialog, WidgetKind::kButton, std::move(name)) {
   SetCaption(std::move(caption));

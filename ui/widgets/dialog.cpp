@@ -54,6 +54,13 @@ void Dialog::Place(const Layout& layout, Widget* container, int page) {
   }
 }
 
+void Dialog::MoveFocus(Widget& to) {
+  to.BringToFront();
+  if (to.Focus() != Answer::kDone) return;
+  focus_sent_to_ = &to;
+  if (view_ != nullptr) view_->Refresh(Aspect::kSelection);
+}
+
 void Dialog::SetKeyButtons(Button* default_button, Button* cancel_button) {
   default_button_ = default_button;
   cancel_button_ = cancel_button;

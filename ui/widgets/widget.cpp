@@ -98,6 +98,14 @@ void Widget::SetKeepsPlace(bool keeps) {
   Redraw(Aspect::kState);
 }
 
+void Widget::BringToFront() {
+  if (container_ == nullptr) return;
+  container_->BringToFront();
+  if (container_->kind_ == WidgetKind::kTabStrip) {
+    static_cast<TabStrip*>(container_)->SetCurrent(page_);
+  }
+}
+
 Answer Widget::Focus(bool by_click) {
   const Answer refusal = Refusal();
   if (refusal == Answer::kDone) TakeFocus(by_click);

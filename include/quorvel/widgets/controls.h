@@ -12,6 +12,13 @@ namespace quorvel {
 class Label : public Widget {
  public:
   Label(Dialog& dialog, std::string name, std::string caption = {});
+  /// Captions that the label may come to have: it is as wide as the widest of them from the start,
+  /// so that nothing moves when it changes.
+  [[nodiscard]] const std::vector<std::string>& RoomFor() const { return room_for_; }
+  void SetRoomFor(std::vector<std::string> captions);
+
+ private:
+  std::vector<std::string> room_for_;
 };
 
 /// A push button.

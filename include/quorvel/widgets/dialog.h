@@ -42,6 +42,8 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
     if (control == nullptr) ThrowNoControl(name);
     return *control;
   }
+  /// The control that MoveFocus has sent the keyboard focus to last, or none.
+  [[nodiscard]] const Widget* FocusSentTo() const { return focus_sent_to_; }
   /// The buttons that Ctrl+Enter and Escape press; none by default. Escape closes a dialog without
   /// a cancel button.
   [[nodiscard]] Button* DefaultButton() const { return default_button_; }
@@ -60,6 +62,9 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
   void SetCaption(std::string caption);
   void SetIcon(const Picture* icon) { icon_ = icon; }
   void SetLayout(Layout layout);
+  /// Sends the keyboard focus to a control, on whatever page it is; nothing for one that takes no
+  /// input then.
+  void MoveFocus(Widget& to);
   void SetKeyButtons(Button* default_button, Button* cancel_button);
   /// Shows the dialog modeless, or brings it to the front when it is on screen.
   void Show();
@@ -101,6 +106,7 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
   std::vector<Widget*> widgets_;
   Button* default_button_ = nullptr;
   Button* cancel_button_ = nullptr;
+  const Widget* focus_sent_to_ = nullptr;
   WidgetView* view_ = nullptr;
   std::weak_ptr<const void> life_;
   bool shown_ = false;

@@ -14,7 +14,9 @@ namespace quorvel {
 ///     Column(Tabs(SSTab1, Page("Titles", Row(Framed(Frame2, Lines(m_CameraTitle))))),
 ///            Row(Stretch(), cmd_OK, cmd_Cancel))
 ///
-/// A control array stands for all its elements. Hidden controls take no space.
+/// A control array stands for all its elements. Hidden controls take no space. A grid ends with its
+/// last column and row, a list with its last item, and a frame with its content, unless that is a
+/// grid; space that is left over stays empty, at the right and at the bottom.
 struct Layout {
   enum class Kind {
     kWidget,   ///< one control; a frame or tab strip brings its own contents

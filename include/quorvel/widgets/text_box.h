@@ -8,6 +8,8 @@
 
 namespace quorvel {
 
+class TextSeries;
+
 /// One line of editable text.
 class TextBox : public Widget {
  public:
@@ -28,6 +30,21 @@ class TextBox : public Widget {
   /// Characters from the start of the text that are selected, so that typing replaces them.
   [[nodiscard]] int SelectedCharacters() const { return selected_; }
 
+  /// What of the last typing the box did not take, for whoever tells the user.
+  struct LeftOut {
+    bool controls = false;  ///< control characters, line ends among them
+    bool lines = false;     ///< pasted lines for which the series had no box
+  };
+  [[nodiscard]] const LeftOut& NotTaken() const { return not_taken_; }
+  /// What there is to say of the text, for screen readers beside the box's name; the window shows
+  /// it in a label. Empty for nothing.
+  [[nodiscard]] const std::string& Note() const { return note_; }
+  /// The character that goes on to the next box of the series when it is typed, or 0.
+  [[nodiscard]] char GoesOnWith() const;
+
+  void SetNote(std::string note);
+  /// Makes the box one of a series, which takes what is typed into it from then on.
+  void JoinSeries(TextSeries* series) { series_ = series; }
   void SetMaxLength(int characters);
   /// Width of a box whose maximum length does not say it.
   void SetShownLength(int characters);
@@ -41,16 +58,25 @@ class TextBox : public Widget {
   /// selects on focus selects the new text, so that the next key replaces it.
   void RewriteText(std::string text);
 
-  /// Replaces the whole text, as somebody does who selects it and types. Characters beyond the
-  /// maximum length do not fit and are not taken.
-  Answer Type(std::string_view text);
+  /// Replaces the whole text, as somebody does who selects it and types, or who types elsewhere in
+  /// it: `after` is what stands behind the cursor then. Characters before the cursor that do not
+  /// fit into the maximum length are not taken, and control characters only where the box holds
+  /// them already. In a series the text may be for several boxes.
+  Answer Type(std::string_view text, std::string_view after = {});
   Handler on_change;
 
  private:
+  friend class TextSeries;
   void TakeFocus(bool by_click) override;
+  /// Bytes at the start of a text that the box holds as well: what was typed comes behind them.
+  [[nodiscard]] std::size_t HeldBefore(std::string_view text) const;
+  void Take(std::string_view text, std::string_view after, bool lines_left_over = false);
   void Put(std::string text, int selected);
 
   std::string text_;
+  std::string note_;
+  LeftOut not_taken_;
+  TextSeries* series_ = nullptr;
   int max_length_ = 0;
   int shown_length_ = 0;
   int select_on_focus_ = 0;

@@ -106,6 +106,8 @@ class Widget {
   void SetVisible(bool visible);
   void SetEnabled(bool enabled);
   void SetKeepsPlace(bool keeps);
+  /// Turns the pages that the control is on over.
+  void BringToFront();
   void SetSpokenName(std::string name);
   /// The label that names the control.
   void SetLabel(const Label& label);

@@ -33,7 +33,7 @@ auto Notification(S clsEmailNotify::*setting, int entry = kEntryOfLine) {
 AlarmNotificationPage::AlarmNotificationPage(Editor& editor, const AlarmFeatures& features)
     : EditorPage(editor, features.notification_page), features_(features) {
   CaptionEvents();
-  BindEmail();
+  BindEmail(editor);
   BindTcp();
 }
 
@@ -50,25 +50,24 @@ void AlarmNotificationPage::CaptionEvents() {
   txTCPBkHost.SetSpokenNames(Frame18.Caption());
 }
 
-void AlarmNotificationPage::BindAddress(FieldGroup& settings, int address, TextBox& box,
-                                        Label& warning, bool kept) {
-  box.SetShownLength(kAddressWidth);
-  box.SetEnabled(kept);
-  settings.Add(std::make_unique<EmailAddressField>(Ctx(), address, box, warning)).WrittenWhen(kept);
-}
-
-void AlarmNotificationPage::BindEmail() {
+void AlarmNotificationPage::BindEmail(Editor& editor) {
   txtUser1Addr.SetText(Text(txt::kUser1Example));
   txtUser2Addr.SetText(Text(txt::kUser2Example));
   Each(kEvents).Check(chkboxNotify,
                       BitsOf(Notification(&clsEmailNotify::EmailNotify, 0), kEventBits));
   FieldGroup& settings = Once();
-  BindAddress(settings, 0, txtUser1Addr, lbUser1Warning, features_.user1_kept);
-  BindAddress(settings, 1, txtUser2Addr, lbUser2Warning, features_.user2_kept);
+  const auto address = [&](int number, TextBox& box, Label& warning, bool kept) {
+    box.SetShownLength(kAddressWidth);
+    box.SetEnabled(kept);
+    settings.Add(std::make_unique<EmailAddressField>(editor, Ctx(), number, box, warning))
+        .WrittenWhen(kept);
+  };
+  address(0, txtUser1Addr, lbUser1Warning, features_.user1_kept);
+  address(1, txtUser2Addr, lbUser2Warning, features_.user2_kept);
   txSMTPServer.SetEnabled(features_.hosts_kept);
   settings.Octets(txSMTPServer, Notification(&clsEmailNotify::SMTPServer));
   settings.Port(txtSMTPPort, 0, kMostPort, kUsualSmtpPort, Notification(&clsEmailNotify::SMTPPort));
-  BindAddress(settings, 2, txtLocalEmail, lbLocalWarning, features_.local_address);
+  address(2, txtLocalEmail, lbLocalWarning, features_.local_address);
 }
 
 void AlarmNotificationPage::BindTcp() {

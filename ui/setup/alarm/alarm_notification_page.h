@@ -19,9 +19,8 @@ class AlarmNotificationPage : public EditorPage {
   static constexpr int kOctets = 4;
 
   void CaptionEvents();
-  void BindEmail();
+  void BindEmail(Editor& editor);
   void BindTcp();
-  void BindAddress(FieldGroup& settings, int address, TextBox& box, Label& warning, bool kept);
 
   const AlarmFeatures& features_;
 

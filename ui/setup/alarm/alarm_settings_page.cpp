@@ -121,11 +121,13 @@ void AlarmSettingsPage::ShowTimeOut() {
 
 AlarmRecorderPage::AlarmRecorderPage(Editor& editor, const AlarmFeatures& features)
     : EditorPage(editor, features.recorder_page) {
-  frmPreAlDur.SetVisible(Shown());
-  frmArchAL.SetVisible(Shown());
+  frmPreAlDur.SetVisible(Exists());
+  frmArchAL.SetVisible(Exists());
   FieldGroup& settings = Once();
   settings.Options(optArchAL, DisableEnable(), At(&MuxData::DvrArchAlm).Otherwise(1),
                    frmArchAL.Caption());
+  lstPreAlDur.SetLabel(lbTime);
+  lstPreAlDur.SetSpokenName(frmPreAlDur.Caption());
   // Without a choice the shortest: a recorder has no other durations.
   settings.List(lstPreAlDur, Choices::Numbers(1, kLongestPreAlarm, 1),
                 At(&MuxData::PreAlDuration).OtherwiseWritten(1));

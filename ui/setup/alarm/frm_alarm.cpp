@@ -11,16 +11,16 @@ frm_Alarm::frm_Alarm(Context& context) : Editor(context, "frm_Alarm", txt::kAlar
 
 Layout frm_Alarm::Pages() {
   const std::string settings = Text(txt::kOtherSettings);
-  const bool numbered = recorder_page_.Shown();
+  const bool numbered = recorder_page_.Exists();
   return Tabs(
       SSTab1, Page{Text(txt::kAlarmInput), input_page_.Contents()},
-      Page{Text(txt::kAlarmAction), action_page_.Contents(), action_page_.Shown()},
-      Page{Text(txt::kExternalAlarmAction), external_page_.Contents(), external_page_.Shown()},
-      Page{Text(txt::kLinkToAMacro), macro_page_.Contents(), macro_page_.Shown()},
-      Page{Text(txt::kVideolossAction), video_loss_page_.Contents(), video_loss_page_.Shown()},
+      Page{Text(txt::kAlarmAction), action_page_.Contents(), action_page_.Exists()},
+      Page{Text(txt::kExternalAlarmAction), external_page_.Contents(), external_page_.Exists()},
+      Page{Text(txt::kLinkToAMacro), macro_page_.Contents(), macro_page_.Exists()},
+      Page{Text(txt::kVideolossAction), video_loss_page_.Contents(), video_loss_page_.Exists()},
       Page{settings + (numbered ? " 1" : ""), settings_page_.Contents()},
-      Page{settings + (numbered ? " 2" : ""), recorder_page_.Contents(), recorder_page_.Shown()},
-      Page{Text(txt::kNotification), notification_page_.Contents(), notification_page_.Shown()});
+      Page{settings + (numbered ? " 2" : ""), recorder_page_.Contents(), recorder_page_.Exists()},
+      Page{Text(txt::kNotification), notification_page_.Contents(), notification_page_.Exists()});
 }
 
 }  // namespace quorvel
