@@ -100,6 +100,11 @@ class Desk : public HeadlessPlatform, public MainMenuEvents {
     combined_.insert(combined_.end(), device_.Bytes().begin(), device_.Bytes().end());
     combined_.resize(combined_.size() + 8, 'M');
   }
+  void HaveFewBlocks() {
+    constexpr Byte kFew = 20;
+    device_.ResizeBlocks(kFew);
+    device_.Block(1)[kBlockCountByte] = kFew;
+  }
   void PutDeviceIntoFile() { PutIntoFile(device_.Bytes()); }
   void PutArrayIntoFile() {
     BeCombined();
@@ -244,7 +249,7 @@ bool ZonesAreInArray(const Desk& desk) {
 }
 
 const Operation kOperations[] = {
-    {"DownloadOfBlocks", nullptr, &Desk::Download, NothingIsModified},
+    {"DownloadOfBlocks", &Desk::HaveFewBlocks, &Desk::Download, NothingIsModified},
     {"DownloadOfAnArray", &Desk::BeCombined, &Desk::Download, NothingIsModified},
     {"RestoreOfAnImage", &Desk::PutDeviceIntoFile, &Desk::Restore, NothingIsModified},
     {"RestoreOfAnArray", &Desk::PutArrayIntoFile, &Desk::Restore, NothingIsModified},
