@@ -1,0 +1,289 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "quorvel/headless_platform.h"
+
+namespace quorvel {
+namespace {
+
+class OneOfEach : public Dialog {
+ public:
+  explicit OneOfEach(Platform& platform) : Dialog(platform, "frm_OneOfEach") {
+    tabs.SetPages({Page{"First", Column(frame)}, Page{"Second", {}}});
+    grid.SetSize(4, 3);
+    items.SetItems({"1", "2"});
+    SetLayout(Column(tabs, label, text, button, tick, options, items, drop, slider, time, date,
+                     grid, bar, status));
+    Show();
+  }
+  TabStrip tabs{*this, "tabs"};
+  Frame frame{*this, "frame"};
+  Label label{*this, "label"};
+  TextBox text{*this, "text"};
+  Button button{*this, "button"};
+  CheckBox tick{*this, "tick"};
+  ControlArray<OptionButton> options{*this, "options", 2};
+  ListBox items{*this, "items"};
+  ComboBox drop{*this, "drop"};
+  Slider slider{*this, "slider"};
+  TimePicker time{*this, "time"};
+  DatePicker date{*this, "date"};
+  Grid grid{*this, "grid"};
+  ProgressBar bar{*this, "bar"};
+  StatusBar status{*this, "status", 2};
+};
+
+struct Recorder : WidgetView {
+  void Refresh(Aspect what) override { told.insert(what); }
+  std::set<Aspect> told;
+};
+
+constexpr Aspect kState = Aspect::kState;
+constexpr Aspect kContent = Aspect::kContent;
+constexpr Aspect kSelection = Aspect::kSelection;
+
+TEST(WidgetVerbs, AreToldToTheView) {
+  HeadlessPlatform platform;
+  const auto dialog = std::make_shared<OneOfEach>(platform);
+  OneOfEach& d = *dialog;
+  const struct {
+    Widget& widget;
+    Handler verb;
+    std::set<Aspect> told;
+  } cases[] = {
+      {d.button, [&] { d.button.SetCaption("OK"); }, {kState}},
+      {d.button, [&] { d.button.SetSpokenName("Done"); }, {kState}},
+      {d.button, [&] { d.button.SetKeepsPlace(true); }, {kState}},
+      {d.button, [&] { d.button.SetEnabled(false); }, {kState}},
+      {d.button, [&] { d.button.SetVisible(false); }, {kState}},
+      {d.text, [&] { d.text.SetLabel(d.label); }, {kState}},
+      {d.text, [&] { d.label.SetCaption("Title"); }, {kState}},
+      {d.frame, [&] { d.tabs.SetCaption("Around"); }, {kState}},
+      {d.text, [&] { d.text.SetMaxLength(9); }, {kState}},
+      {d.text, [&] { d.text.SetShownLength(20); }, {kState}},
+      {d.text, [&] { d.text.SetTakenWhenLeft(true); }, {kState}},
+      {d.text, [&] { d.text.SetText("a"); }, {kSelection}},
+      {d.text, [&] { d.text.RewriteText("b"); }, {kSelection}},
+      {d.text, [&] { d.text.Type("c"); }, {kSelection}},
+      {d.text, [&] { d.text.Focus(); }, {kSelection}},
+      {d.tick, [&] { d.tick.SetChecked(true); }, {kSelection}},
+      {d.tick, [&] { d.tick.Click(); }, {kSelection}},
+      {d.options(0), [&] { d.options(0).Select(); }, {kSelection}},
+      {d.options(0), [&] { d.options(1).Click(); }, {kSelection}},
+      {d.options(0), [&] { d.options(1).Deselect(); }, {kSelection}},
+      {d.items, [&] { d.items.Select(0); }, {kSelection}},
+      {d.items, [&] { d.items.Choose(1); }, {kSelection}},
+      {d.items, [&] { d.items.SetRows(3); }, {kState}},
+      {d.drop, [&] { d.drop.SetItems({"a"}); }, {kContent}},
+      {d.slider, [&] { d.slider.SetRange(0, 5); }, {kState}},
+      {d.slider, [&] { d.slider.SetSteps(1, 2); }, {kState}},
+      {d.slider, [&] { d.slider.SetValue(4); }, {kSelection}},
+      {d.slider, [&] { d.slider.Slide(3); }, {kSelection}},
+      {d.time,
+       [&] {
+         d.time.SetTime({1, 2, 3});
+       },
+       {kSelection}},
+      {d.time, [&] { d.time.SetFormat(ClockFormat::kTwelveHours); }, {kState, kSelection}},
+      {d.time,
+       [&] {
+         d.time.Pick({2, 3, 4});
+       },
+       {kSelection}},
+      {d.time, [&] { d.time.Clear(); }, {kSelection}},
+      {d.date,
+       [&] {
+         d.date.SetDate({2024, 1, 2});
+       },
+       {kSelection}},
+      {d.date,
+       [&] {
+         d.date.Pick({2024, 1, 3});
+       },
+       {kSelection}},
+      {d.date, [&] { d.date.Clear(); }, {kSelection}},
+      {d.grid, [&] { d.grid.SetHeaderRows(2); }, {kContent}},
+      {d.grid, [&] { d.grid.SetMergedHeader(true); }, {kContent}},
+      {d.grid, [&] { d.grid.SetSize(6, 2); }, {kContent, kSelection}},
+      {d.grid, [&] { d.grid.AddColumns(1); }, {kContent}},
+      {d.grid, [&] { d.grid.SetLeastWidth(1, 9); }, {kContent}},
+      {d.grid, [&] { d.grid.SetAlign(Grid::Align::kCentre); }, {kContent}},
+      {d.grid, [&] { d.grid.SetCell(3, 1, "x"); }, {kContent}},
+      {d.grid, [&] { d.grid.SetCurrent(4, 1); }, {kSelection}},
+      {d.grid, [&] { d.grid.Press(3, 2); }, {kSelection}},
+      {d.grid, [&] { d.grid.Release(3, 4); }, {kSelection}},
+      {d.grid, [&] { d.grid.SetRange(Grid::Range::kOneRow); }, {kState}},
+      {d.tabs, [&] { d.tabs.SetPageCaption(1, "Third"); }, {kState}},
+      {d.tabs, [&] { d.tabs.Choose(1); }, {kSelection}},
+      {d.tabs, [&] { d.tabs.SetCurrent(0); }, {kSelection}},
+      {d.tabs, [&] { d.tabs.SetPageVisible(0, false); }, {kState, kSelection}},
+      {d.tabs,
+       [&] {
+         d.tabs.SetPages({Page{"Only", {}}});
+       },
+       {kContent}},
+      {d.bar, [&] { d.bar.SetMaximum(9); }, {kState}},
+      {d.bar, [&] { d.bar.SetValue(5); }, {kSelection}},
+      {d.status, [&] { d.status.SetPanel(2, "x"); }, {kSelection}},
+  };
+  Recorder others;  // a caption is told to those that are called by it where it is drawn itself
+  d.label.AttachView(&others);
+  d.tabs.AttachView(&others);
+  int number = 0;
+  for (const auto& it : cases) {
+    Recorder view;
+    it.widget.AttachView(&view);
+    it.verb();
+    it.widget.AttachView(nullptr);
+    EXPECT_EQ(view.told, it.told) << "case " << number << ", " << it.widget.Name();
+    ++number;
+  }
+
+  Recorder window;
+  d.AttachView(&window);
+  d.SetCaption("Window");
+  EXPECT_EQ(window.told, std::set{kState});
+  d.SetLayout(Column(d.button));
+  EXPECT_EQ(window.told, (std::set{kState, kContent}));
+  d.AttachView(nullptr);
+  d.label.AttachView(nullptr);
+}
+
+/// A program verb, which cannot be refused.
+template <class Verb>
+std::function<Answer()> Program(Verb verb) {
+  return [verb] {
+    verb();
+    return Answer::kDone;
+  };
+}
+
+TEST(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
+  HeadlessPlatform platform;
+  const auto dialog = std::make_shared<OneOfEach>(platform);
+  OneOfEach& d = *dialog;
+  d.items.SetItems({"a", "b", "b"});
+  d.text.SetMaxLength(3);
+  d.slider.SetRange(2, 5);
+  constexpr Answer kDone = Answer::kDone, kNoSuchPlace = Answer::kNoSuchPlace;
+  const auto at = [&d](int row, int column) {
+    return std::function<Answer()>([&d, row, column] { return d.grid.Press(row, column); });
+  };
+  const auto release = [&d](int first, int last) {
+    return std::function<Answer()>([&d, first, last] { return d.grid.Release(first, last); });
+  };
+  const struct {
+    Widget& widget;
+    std::function<Answer()> verb;
+    Answer answer;
+    const char* value;  ///< of the grid: its beginning
+  } cases[] = {
+      {d.items, [&] { return d.items.Choose(2); }, kDone, "2 \"b\" of 3"},
+      {d.items, [&] { return d.items.Choose(3); }, kNoSuchPlace, "2 \"b\" of 3"},
+      {d.items, [&] { return d.items.Choose(-1); }, kNoSuchPlace, "2 \"b\" of 3"},
+      {d.items, [&] { return d.items.Choose(0); }, kDone, "0 \"a\" of 3"},
+      {d.items, Program([&] { d.items.Select(d.items.IndexOf("b")); }), kDone, "1 \"b\" of 3"},
+      {d.items, Program([&] { d.items.Select(3); }), kDone, "none of 3"},
+      {d.items, Program([&] { d.items.Select(0); }), kDone, "0 \"a\" of 3"},
+      {d.items, Program([&] { d.items.Select(-1); }), kDone, "none of 3"},
+      {d.items, Program([&] { d.items.Select(d.items.IndexOf("c")); }), kDone, "none of 3"},
+      {d.text, [&] { return d.text.Type("abc"); }, kDone, "abc"},
+      {d.text, [&] { return d.text.Type("äbcd"); }, kDone, "äbc"},
+      {d.text, Program([&] { d.text.SetText("abcd"); }), kDone, "abcd"},
+      {d.tick, [&] { return d.tick.Click(); }, kDone, "on"},
+      {d.tick, [&] { return d.tick.Click(); }, kDone, "off"},
+      {d.slider, [&] { return d.slider.Slide(1); }, kNoSuchPlace, "0 of 2..5"},
+      {d.slider, [&] { return d.slider.Slide(2); }, kDone, "2 of 2..5"},
+      {d.slider, [&] { return d.slider.Slide(5); }, kDone, "5 of 2..5"},
+      {d.slider, [&] { return d.slider.Slide(6); }, kNoSuchPlace, "5 of 2..5"},
+      {d.slider, Program([&] { d.slider.SetRange(7, 6); }), kDone, "5 of 7..7"},
+      {d.bar, Program([&] { d.bar.SetValue(101); }), kDone, "100 of 100"},
+      {d.bar, Program([&] { d.bar.SetMaximum(9); }), kDone, "9 of 9"},
+      {d.bar, Program([&] { d.bar.SetValue(-1); }), kDone, "0 of 9"},
+      {d.bar, Program([&] { d.bar.SetMaximum(-1); }), kDone, "0 of 0"},
+      {d.status, Program([&] { d.status.SetPanel(1, "a"); }), kDone, "\"a\" | \"\""},
+      {d.status, Program([&] { d.status.SetPanel(2, "b"); }), kDone, "\"a\" | \"b\""},
+      {d.tabs, [&] { return d.tabs.Choose(2); }, kNoSuchPlace, "*0 \"First\", 1 \"Second\""},
+      {d.tabs, [&] { return d.tabs.Choose(1); }, kDone, "0 \"First\", *1 \"Second\""},
+      {d.tabs, [&] { return d.tabs.Choose(-1); }, kNoSuchPlace, "0 \"First\", *1 \"Second\""},
+      {d.grid, at(1, 0), kDone, "4 x 3, at 1,0"},
+      {d.grid, at(3, 2), kDone, "4 x 3, at 3,2"},
+      {d.grid, at(0, 1), kNoSuchPlace, "4 x 3, at 3,2"},
+      {d.grid, at(4, 1), kNoSuchPlace, "4 x 3, at 3,2"},
+      {d.grid, at(1, 3), kNoSuchPlace, "4 x 3, at 3,2"},
+      {d.grid, at(1, -1), kNoSuchPlace, "4 x 3, at 3,2"},
+      {d.grid, release(3, 1), kDone, "4 x 3, at 3,2"},
+      {d.grid, release(0, 2), kNoSuchPlace, "4 x 3, at 3,2"},
+      {d.grid, release(2, 4), kNoSuchPlace, "4 x 3, at 3,2"},
+      {d.grid, Program([&] { d.grid.SetCurrent(9, 9); }), kDone, "4 x 3, at 3,2"},
+      {d.grid, Program([&] { d.grid.SetCurrent(-1, -1); }), kDone, "4 x 3, at 0,0"},
+      {d.grid, Program([&] { d.grid.AddColumns(-1); }), kDone, "4 x 3, at 0,0"},
+      {d.grid, Program([&] { d.grid.SetSize(0, 0); }), kDone, "1 x 1, at 0,0"},
+  };
+  int number = 0;
+  for (const auto& it : cases) {
+    SCOPED_TRACE(testing::Message() << "case " << number++ << ", " << it.widget.Name());
+    EXPECT_EQ(it.verb(), it.answer);
+    const std::string value = it.widget.ValueText();
+    EXPECT_EQ(value.substr(0, value.find('\n')), it.value);
+  }
+  EXPECT_THROW(static_cast<void>(d.grid.Cell(1, 0)), std::out_of_range);
+  EXPECT_THROW(static_cast<void>(d.grid.Cell(0, 1)), std::out_of_range);
+  d.items.SetRows(-1);
+  EXPECT_EQ(d.items.Rows(), 0);
+}
+
+TEST(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
+  HeadlessPlatform platform;
+  const auto dialog = std::make_shared<OneOfEach>(platform);
+  OneOfEach& d = *dialog;
+  int calls = 0;
+  const Handler count = [&calls] { ++calls; };
+  d.text.on_change = d.button.on_click = d.tick.on_click = d.options(0).on_click = count;
+  d.items.on_click = d.slider.on_change = d.time.on_change = d.date.on_change = count;
+  d.grid.on_press = d.grid.on_release = d.tabs.on_change = count;
+  d.grid.takes_paste = [](int, int, const std::string&) { return true; };
+  d.grid.on_paste = [&calls](int, int, const std::string&) { ++calls; };
+  const std::function<Answer()> verbs[] = {
+      [&] { return d.text.Type("a"); },       [&] { return d.button.Click(); },
+      [&] { return d.tick.Click(); },         [&] { return d.options(0).Click(); },
+      [&] { return d.items.Choose(1); },      [&] { return d.slider.Slide(3); },
+      [&] { return d.time.Pick({1, 2, 3}); }, [&] { return d.date.Pick({2024, 1, 2}); },
+      [&] { return d.grid.Press(2, 1); },     [&] { return d.grid.Release(1, 2); },
+      [&] { return d.grid.Paste("a"); },      [&] { return d.tabs.Choose(1); },
+      [&] { return d.text.Focus(); }};
+  const auto all_answer = [&](Answer expected) {
+    int number = 0;
+    for (const auto& verb : verbs) EXPECT_EQ(verb(), expected) << "verb " << number++;
+  };
+  const auto set_all = [&d](void (Widget::*set)(bool), bool value) {
+    for (Widget* const widget : d.Widgets()) (widget->*set)(value);
+  };
+  const std::string before = d.items.ValueText() + d.grid.ValueText() + d.tabs.ValueText();
+  set_all(&Widget::SetVisible, false);
+  all_answer(Answer::kHidden);
+  set_all(&Widget::SetVisible, true);
+  set_all(&Widget::SetEnabled, false);
+  all_answer(Answer::kDisabled);
+  set_all(&Widget::SetEnabled, true);
+  d.Close();
+  all_answer(Answer::kHidden);
+  EXPECT_EQ(d.CloseWindow(), Answer::kHidden);
+  d.Show();
+  platform.at_modal = [&](Dialog& modal) {
+    all_answer(Answer::kDisabled);
+    EXPECT_EQ(d.CloseWindow(), Answer::kDisabled);
+    modal.Close();
+    return true;
+  };
+  std::make_shared<OneOfEach>(platform)->ShowModal();
+  EXPECT_EQ(calls, 0);
+  EXPECT_EQ(d.items.ValueText() + d.grid.ValueText() + d.tabs.ValueText(), before);
+  EXPECT_EQ(d.text.Text() + d.slider.ValueText() + d.tick.ValueText(), "0 of 0..100off");
+  all_answer(Answer::kDone);
+  EXPECT_EQ(calls, 13);
+}
+
+}  // namespace
+}  // namespace quorvel
