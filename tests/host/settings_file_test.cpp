@@ -123,6 +123,47 @@ TEST_F(Files, WhatCannotBeWrittenOrIsCancelledChangesNothing) {
   EXPECT_EQ(host_.Modified(), std::vector<int>{1});
 }
 
+TEST_F(Files, ACancelledDialogOrOneThatTheControlDoesNotOutliveDoesNothing) {
+  for (const std::int16_t command : {12, 14}) {
+    SCOPED_TRACE(command);
+    const auto image = host_.control->Image();
+    EditTitle("Typed");
+    host_.control->Custom(command, 0, 0);
+    EXPECT_TRUE(host_.platform.files.empty());
+    EXPECT_EQ(host_.control->Image(), image);  // nothing was encoded either
+    host_.platform.in_file_dialog = [this] { host_.control.reset(); };
+    File() = FileOf(3200, 200);
+    host_.platform.AnswerNextFile("settings.bin");
+    host_.control->Custom(command, 0, 0);
+    EXPECT_EQ(File(), FileOf(3200, 200));
+    EXPECT_TRUE(host_.platform.Windows().empty());
+    EXPECT_EQ(host_.OnlyMessage(), "");
+    host_.platform.in_file_dialog = nullptr;
+    host_.platform.files.clear();
+    host_.NewControl();
+    host_.Download();
+  }
+}
+
+TEST_F(Files, TheReceiveDialogSavesWhatItHasReceived) {
+  host_.StateSizes();
+  host_.combo = {0, 13, 0x0C, 0x80, 0, 0, 0, 4, 0, 0, 200, 5, 6};
+  host_.combo.insert(host_.combo.end(), host_.device.Bytes().begin(), host_.device.Bytes().end());
+  const auto saved = [this] {
+    host_.platform.AnswerNextFile("settings.bin");
+    host_.platform.at_modal = [](Dialog& dialog) {
+      if (dialog.Find<Button>("cmdSaveFile").Click() != Answer::kDone) return false;
+      return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
+    };
+    host_.control->Custom(10, 0, 0);
+    host_.platform.at_modal = nullptr;
+    return File();
+  };
+  EXPECT_EQ(saved(), host_.combo);
+  StateIdentity(16, 6, "UNIT 1");  // back to single blocks
+  EXPECT_EQ(saved(), BytesOf(host_.device));
+}
+
 /// Which fits which is checked with the identities.
 TEST_F(Files, OnlyRestoredDataMustBeOfTheConnectedModel) {
   File() = BytesOf(host_.device);

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,6 +31,12 @@ class TestPlatform : public HeadlessPlatform {
     files[path].assign(bytes.begin(), bytes.end());
   }
 
+  std::optional<std::string> AskFile(const FileRequest& request) override {
+    if (in_file_dialog) in_file_dialog();
+    return HeadlessPlatform::AskFile(request);
+  }
+
+  std::function<void()> in_file_dialog;  ///< called while one is open
   std::map<std::string, std::vector<Byte>> files;
   bool disk_is_full = false;
 };
