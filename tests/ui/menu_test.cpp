@@ -21,6 +21,7 @@ TEST(Menu, ShowsWhatTheModelHas) {
       {1, '4', {"mnuVCR"}},
       {3, 'C', {"mnuVCR", "mnu_Telemetry"}},
       {4, '4', {"mnuVCR", "mnu_VArchive"}},
+      {5, 'A', {"mnuVCR", "mnu_VArchive"}},
       {6, '2', {"mnuVCR"}},
       {9, '4', {"mnu_Sequence", "mnuVCR"}},
       {16, '4', {"mnu_Sequence", "mnu_Macro", "mnuVCR", "mnu_VArchive"}},
@@ -112,6 +113,16 @@ TEST_F(MenuForm, LanguagesByCode) {
   state_firmware(5, 1);
   EXPECT_FALSE(Load().Item("mnu_Polish").visible);
   EXPECT_EQ(Ticked(), "mnu_EngLang");
+}
+
+TEST_F(MenuForm, PopsUpAShortWhileAfterItsFormHasLoadedAndEachAction) {
+  Load();
+  platform_.ChooseMenu("mnu_LockKB");
+  EXPECT_FALSE(platform_.MenuIsUp());
+  platform_.Advance(2);
+  EXPECT_FALSE(platform_.MenuIsUp());
+  platform_.Advance(1);
+  EXPECT_TRUE(platform_.MenuIsUp());
 }
 
 TEST_F(MenuForm, TelemetryOfMultiplexers) {

@@ -45,12 +45,41 @@ TEST(TextCatalogue, ReadyMadeTextsKeepTheirFirstValues) {
   EXPECT_EQ(texts.GetText(41), "X");
   EXPECT_EQ(texts.GetText(271), "Finished");
   EXPECT_EQ(texts.Constants().cnstrOK, "OK");
-  EXPECT_EQ(texts.Constants().cnstr24h, "24 HOUR");
-  EXPECT_EQ(texts.Constants().cnstrFPlusS, "1+2");
-  EXPECT_EQ(texts.Constants().ctDayOfWeek(3), "THU");
-  EXPECT_EQ(texts.Constants().ctDayOfWeek(7), "");
-  EXPECT_EQ(texts.Constants().ctDayWildcard(1), "SAT-SUN");
-  EXPECT_EQ(texts.Objects().objstFWarn, "Please first select DownLoad or Restore");
+}
+
+TEST(TextCatalogue, HoldsTheReadyMadeTexts) {
+  TextCatalogue texts;
+  const GlobalCnst& it = texts.Constants();
+  const ObjStr& objects = texts.Objects();
+  std::string all;
+  for (const std::string* text :
+       {&it.cnstrAND,        &it.cnstrOR,        &it.cnstrEvent,    &it.cnstrTL,
+        &it.cnstrEvTL,       &it.cnstrTop,       &it.cnstrBottom,   &it.cnstr2X,
+        &it.cnstr4X,         &it.cnstrI,         &it.cnstrIntrus,   &it.cnstrActivity,
+        &it.cnstrInAct,      &it.cnstrActive,    &it.cnstrAC,       &it.cnstrDC,
+        &it.cnstr12H,        &it.cnstr24h,       &it.cnstrMM,       &it.cnstrDD,
+        &it.cnstrYY,         &it.cnstrMono,      &it.cnstrColor,    &it.cnstrField,
+        &it.cnstrFrame,      &it.cnstrOK,        &it.cnstrCancel,   &it.cnstrExcl,
+        &it.cnstrInter,      &it.cnstrNoChg,     &it.cnstrON,       &it.cnstrOFF,
+        &it.cnstrSTD,        &it.cnstrLow,       &it.cnstrMed,      &it.cnstrHigh,
+        &it.cnstrClose,      &it.cnstrOpen,      &it.cnstrNo,       &it.cnstrYes,
+        &it.cnstrDisable,    &it.cnstrEnable,    &it.cnstrNone,     &it.cnstrFirst,
+        &it.cnstrSecond,     &it.cnstrFPlusS,    &it.cnstrExt1,     &it.cnstrExt2,
+        &it.cnstrExt3,       &it.cnstrExt4,      &objects.objstMon, &objects.objstInvalidPass,
+        &objects.objstWarn,  &objects.objstExit, &objects.objstCam, &objects.objstAlarm,
+        &objects.objstFWarn, &objects.objstMesg}) {
+    all += *text + "; ";
+  }
+  EXPECT_EQ(all,
+            "AND; OR; Event; TL; Event+TL; Top; Bottom; 2x; 4x; I; INTRUSION; ACTIVITY; INACTIVE; "
+            "ACTIVE; AC; DC; 12 HOUR; 24 HOUR; MM/DD/YY; DD/MM/YY; YY/MM/DD; Mono; Colour; Field; "
+            "Frame; OK; CANCEL; EXCLUSIVE; INTERLEAVED; NO CHANGE; ON; OFF; Standard; Low; Medium; "
+            "High; N/CLOSED; N/OPEN; NO; YES; DISABLE; ENABLE; NONE; 1; 2; 1+2; EXT1; EXT2; EXT3; "
+            "EXT4; Monitor; Incorrect Password!; Warning!; Exit; Camera; Alarm; Please first "
+            "select DownLoad or Restore; Message; ");
+  all.clear();
+  for (int i = -1; i <= 7; ++i) all += it.ctDayOfWeek(i) + "; " + it.ctDayWildcard(i) + "; ";
+  EXPECT_EQ(all, "; ; MON; MON-FRI; TUE; SAT-SUN; WED; MON-SUN; THU; ; FRI; ; SAT; ; SUN; ; ; ; ");
 }
 
 }  // namespace
