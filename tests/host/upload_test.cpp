@@ -107,6 +107,32 @@ TEST_F(Send, StartWaitsWhileASendRunsAndGridsEditedMeanwhileAreSent) {
   EXPECT_EQ(host_.device.Block(86)[15], 0x5A);
 }
 
+TEST_F(Send, APacketEvery50MillisecondsAndALostOneIsGivenUpAfterTwoSeconds) {
+  std::int64_t first = 0;
+  std::int64_t second = 0;
+  host_.act_in = "DownLoadData 1";
+  host_.act = [&] {
+    first = host_.platform.Elapsed();
+    host_.act_in = "DownLoadData 2";
+    host_.act = [&] {
+      second = host_.platform.Elapsed();
+      host_.acknowledge = false;
+    };
+  };
+  Command11([&](Dialog& dialog, int call) {
+    if (call == 0) return Click(dialog, "cmdOK") == Answer::kDone;
+    if (host_.sent.size() < 2) return false;
+    EXPECT_EQ(second - first, 50);
+    Click(dialog, "cmdStop");
+    Click(dialog, "cmdOK");
+    host_.platform.Advance(2049);  // the next one follows 50 ms later
+    EXPECT_EQ(host_.sent.size(), 2U);
+    host_.platform.Advance(1);
+    EXPECT_EQ(host_.sent.size(), 3U);
+    return dialog.CloseWindow() == Answer::kDone;
+  });
+}
+
 /// What command 11 has compared must still hold at START and at every packet.
 TEST_F(Send, AnotherDeviceIsGivenNoBlock) {
   const struct {
