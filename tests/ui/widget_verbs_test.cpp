@@ -234,6 +234,38 @@ TEST(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
   EXPECT_EQ(d.items.Rows(), 0);
 }
 
+TEST(WidgetVerbs, OfAPersonAreEditsAndThoseOfTheProgramAreNot) {
+  HeadlessPlatform platform;
+  const auto dialog = std::make_shared<OneOfEach>(platform);
+  OneOfEach& d = *dialog;
+  const auto edited = [&d] {
+    std::string names;
+    if (d.text.Edited()) names += "text ";
+    if (d.slider.Edited()) names += "slider ";
+    if (d.time.Edited()) names += "time ";
+    if (d.date.Edited()) names += "date ";
+    return names;
+  };
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(edited(), "");
+    d.text.Type("a");
+    d.slider.Slide(3);
+    d.time.Pick({1, 2, 3});
+    d.date.Pick({2024, 1, 2});
+    d.text.RewriteText("b");
+    EXPECT_EQ(edited(), "text slider time date ");
+    d.text.SetText("c");
+    d.slider.SetValue(4);
+    d.time.SetTime({4, 5, 6});
+    d.date.SetDate({2024, 1, 3});
+    EXPECT_EQ(edited(), "");
+    d.time.Pick({1, 2, 3});
+    d.date.Pick({2024, 1, 2});
+    d.time.Clear();
+    d.date.Clear();
+  }
+}
+
 TEST(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
   HeadlessPlatform platform;
   const auto dialog = std::make_shared<OneOfEach>(platform);
