@@ -50,6 +50,18 @@ class Editing : public ::testing::Test {
   std::shared_ptr<Desk> desk_ = std::make_shared<Desk>(platform_);
 };
 
+TEST_F(Editing, ASelectionBeforeAnyPressWritesNothing) {
+  GridEditing editing(desk_->grid);
+  editing.Bind(1, desk_->list, Desk::Macros());
+  editing.Bind(2, desk_->slider, desk_->shown);
+  editing.Bind(3, desk_->picker);
+  for (const int column : {1, 2, 3}) {
+    desk_->grid.SetCurrent(1, column);
+    EXPECT_EQ(desk_->grid.Release(1, 4), Answer::kDone);
+    EXPECT_EQ(desk_->TextsOf(column), "||||");
+  }
+}
+
 TEST_F(Editing, LookingAtCellsChangesNone) {
   GridEditing editing(desk_->grid);
   editing.Bind(1, desk_->list, Desk::Macros(), {.empty = 0});
@@ -277,6 +289,10 @@ TEST_F(Editing, HoursAndMinutesAreOneTime) {
   desk_->picker.Pick({0, 9, 0});
   EXPECT_EQ(desk_->TextsOf(2) + desk_->TextsOf(3), "07|00|00||05|09|09||");
   EXPECT_EQ(editing.ValueAt(3, 3), 9);
+  for (const auto& [column, value] : std::vector<std::pair<int, int>>{{2, 24}, {3, 60}}) {
+    editing.SetValue(4, column, value);
+    EXPECT_EQ(desk_->grid.Cell(4, column), "") << "no clock shows it";
+  }
   Press(4, 1);
   desk_->picker.Pick({1, 1, 0});
   EXPECT_EQ(desk_->TextsOf(2), "07|00|00||");
