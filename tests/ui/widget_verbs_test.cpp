@@ -244,6 +244,11 @@ TEST(WidgetVerbs, GridHeadersAreMergedWhereAskedForAndRangesAreCopied) {
     }
   };
   using Header = std::vector<Grid::HeaderCell>;
+  grid.SetLeastWidth(1, 9);
+  grid.AddColumns(1);
+  EXPECT_EQ(grid.LeastWidth(0) * 100 + grid.LeastWidth(1) * 10 + grid.LeastWidth(3), 90);
+  grid.SetSize(4, 3);
+  EXPECT_EQ(grid.LeastWidth(1), 0);
   fill({"a", "a", "b", "a", "c", "b", "1", "2", "3", "4", "5", "6"});
   EXPECT_EQ(grid.Header(), (Header{{0, 0, 1, 1, "a"}, {0, 1, 1, 1, "a"}, {0, 2, 1, 1, "b"}}));
   grid.SetMergedHeader(true);
