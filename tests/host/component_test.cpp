@@ -55,6 +55,46 @@ TEST(Control, PropertiesAndSurface) {
   EXPECT_EQ(CreateControl("Quorvel.Other", host.platform, host), nullptr);
 }
 
+TEST(Control, EachPropertyMarksTheChangeAndEachVerbDrawsTheSurface) {
+  struct View : WidgetView {
+    void Refresh(Aspect /*what*/) override { ++drawn; }
+    int drawn = 0;
+  } view;
+  TestHost host;
+  MainMenuCtrl& control = *host.control;
+  control.Surface().AttachView(&view);
+  MemoryPropertyBag bag;
+  const struct {
+    std::function<void()> verb;
+    bool changes;
+    bool draws;
+  } cases[] = {{[&] { control.Enabled(true); }, true, true},
+               {[&] {
+                  control.Font({"Mono", 24.0, false, false});
+                },
+                true, true},
+               {[&] { control.HostCommId(0); }, true, false},
+               {[&] { control.InitProperties(); }, true, true},
+               {[&] { control.Refresh(); }, false, true},
+               {[&] { control.WriteProperties(bag); }, false, false},
+               {[&] { control.ReadProperties(bag); }, false, true}};
+  int number = 0;
+  for (const auto& it : cases) {
+    SCOPED_TRACE(number++);
+    control.WriteProperties(bag);
+    view.drawn = 0;
+    it.verb();
+    EXPECT_EQ(control.PropertiesChanged(), it.changes);
+    EXPECT_EQ(view.drawn > 0, it.draws);
+  }
+  bag.Write("Font", Font{"Sans", 18.0, false, false});
+  control.ReadProperties(bag);
+  EXPECT_EQ(control.Surface().Extent(),
+            host.platform.MeasureText({"Sans", 18.0, false, false}, "Quorvel"));
+  EXPECT_FALSE(control.PropertiesChanged());
+  control.Surface().AttachView(nullptr);
+}
+
 TEST(Control, GridsOfNoCameraAreNeitherGivenNorTaken) {
   TestHost host;
   host.Download();
