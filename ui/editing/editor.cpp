@@ -59,14 +59,14 @@ void Editor::Open(Button& ok, Button& cancel, TabStrip* tabs) {
   SetKeyButtons(&ok, &cancel);
   if (BelongsToImage()) fields_.Fill(Record());
   for (const Handler& handler : after_fill_) handler();
-  GridsToStart();
+  for (LineGrid* const grid : grids_) grid->GoToStart();
   if (tabs == nullptr) return;
   if (tabs->SpokenName() == tabs->Name()) tabs->SetSpokenName(Caption());
-  tabs->on_change = [this] { GridsToStart(); };
-}
-
-void Editor::GridsToStart() {
-  for (LineGrid* const grid : grids_) grid->GoToStart();
+  tabs->on_change = [this] {
+    for (LineGrid* const grid : grids_) {
+      if (grid->Showing()) grid->GoToStart();
+    }
+  };
 }
 
 void Editor::AddDoubt(Widget& control, Doubt doubt) {

@@ -56,7 +56,6 @@ class Editor : public Dialog, public EditorPart {
   friend class LineGrid;
   void Ok();
   void Write();
-  void GridsToStart();
   /// Asks about what is doubtful; false when the user goes back to it.
   [[nodiscard]] bool DoubtsAreSettled();
 

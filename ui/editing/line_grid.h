@@ -37,6 +37,7 @@ class LineGrid {
 
   /// Makes the first cell current, as when the page comes to the front.
   void GoToStart() { editing_.GoTo(grid_.HeaderRows(), 1); }
+  [[nodiscard]] bool Showing() const { return grid_.Showing(); }
   [[nodiscard]] GridEditing& Editing() { return editing_; }
 
  private:
