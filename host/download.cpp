@@ -13,11 +13,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr int kTextDownloadingBlock = 269;
-constexpr int kTextFinished = 271;
-constexpr int kTextDefaultsLoaded = 273;
-constexpr int kTextMessage = 32;
-
 constexpr int kVariantBlock = 183;
 constexpr std::size_t kVariantAt = 8;  // in a reply, behind the block number
 constexpr std::size_t kReplyLength = 1 + kBlockSize;
@@ -38,11 +33,11 @@ int Download::BeginAnew() {
 /// Texts may be the host's, who may do anything while it is asked for one: not between a look at
 /// the state and what follows from it.
 void Download::FetchTexts() {
-  block_text_ = context_.GetText(kTextDownloadingBlock);
-  finished_text_ = context_.GetText(kTextFinished);
+  block_text_ = context_.GetText(txt::kDownloadingBlock);
+  finished_text_ = context_.GetText(txt::kFinished);
   not_used_text_ = context_.GetText(kTextArrayNotUsed);
   macros_missing_text_ = context_.GetText(kTextMacrosMissing);
-  message_title_ = context_.GetText(kTextMessage);
+  message_title_ = context_.GetText(txt::kMessage);
 }
 
 void Download::Receive() {
@@ -260,8 +255,8 @@ void Download::TakeIdentity(std::span<const Byte> reply) {
 
 void Download::LoadDefaultData() {
   const int round = round_;
-  const std::string loaded = context_.GetText(kTextDefaultsLoaded);
-  const std::string title = context_.GetText(kTextMessage);
+  const std::string loaded = context_.GetText(txt::kDefaultsLoadedForModel);
+  const std::string title = context_.GetText(txt::kMessage);
   if (!GoesOn(round)) return;
   const ComboSizes& sizes = context_.combo_sizes;
   BlockImage image = LoadDefaultImage(FactoryImageOf(defaults_.DefModelCode));

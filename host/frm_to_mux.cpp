@@ -5,6 +5,7 @@
 
 #include "core/change_marks.h"
 #include "resources/icon.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
@@ -20,31 +21,31 @@ std::string ThreeDigits(int number) {
 
 frm_ToMux::frm_ToMux(Context& context) : Dialog(context.platform, "frm_ToMux"), context_(context) {
   KeepAliveWith(context.life);
-  upload_block_text_ = context.GetText(265);
-  abort_text_ = context.GetText(260);
-  delete_text_ = context.GetText(259);
-  finished_text_ = context.GetText(271);
+  upload_block_text_ = context.GetText(txt::kUploadBlockNumber);
+  abort_text_ = context.GetText(txt::kAbort);
+  delete_text_ = context.GetText(txt::kDeleteBlocksBeingSaved);
+  finished_text_ = context.GetText(txt::kFinished);
   SetIcon(&Icon101());
   ArrangeControls();
   BindHandlers();
 }
 
 void frm_ToMux::ArrangeControls() {
-  SetCaption(context_.GetText(266) + context_.CaptionSuffix());
-  chkMacro(kMacros).SetCaption(context_.GetText(264));
-  chkMacro(kData).SetCaption(context_.GetText(261));
+  SetCaption(context_.GetText(txt::kUploadingDataTo) + context_.CaptionSuffix());
+  chkMacro(kMacros).SetCaption(context_.GetText(txt::kUploadMacroSettings));
+  chkMacro(kData).SetCaption(context_.GetText(txt::kUploadBlockData));
   chkMacro(kData).SetChecked(true);
-  optBlk(kAll).SetCaption(context_.GetText(262));
-  optBlk(kModified).SetCaption(context_.GetText(263));
+  optBlk(kAll).SetCaption(context_.GetText(txt::kAllDataBlocks));
+  optBlk(kModified).SetCaption(context_.GetText(txt::kModifiedBlocks));
   optBlk(kAll).Select();
   lstBlkSav.SetVisible(false);
   lstBlkSav.SetKeepsPlace(true);
   cmdStop.SetVisible(false);
   cmdStop.SetKeepsPlace(true);  // so that a double click on START meets nothing else
-  cmdOK.SetCaption(context_.GetText(217));
-  cmdStop.SetCaption(context_.GetText(218));
-  cmdCancel.SetCaption(context_.GetText(257));
-  cmdClearBlk.SetCaption(context_.GetText(258));
+  cmdOK.SetCaption(context_.GetText(txt::kStart));
+  cmdStop.SetCaption(context_.GetText(txt::kStop));
+  cmdCancel.SetCaption(context_.GetText(txt::kClose));
+  cmdClearBlk.SetCaption(context_.GetText(txt::kClearBlocks));
   cmdClearBlk.SetVisible(false);
   StatusBar1.SetPanel(kStatus, Caption());
   SetLayout(Column(chkMacro, Row(Column(optBlk, Stretch()), lstBlkSav),

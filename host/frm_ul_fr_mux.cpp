@@ -13,15 +13,15 @@ frm_ULFrMux::frm_ULFrMux(Context& context)
     : Dialog(context.platform, "frm_ULFrMux"), context_(context) {
   KeepAliveWith(context.life);
   SetIcon(&Icon101());
-  SetCaption(context.GetText(268) + context.CaptionSuffix());
-  Label1.SetCaption(context.GetText(256));
-  Label2.SetCaption(context.GetText(220) + ":");
+  SetCaption(context.GetText(txt::kDownloadingDataFrom) + context.CaptionSuffix());
+  Label1.SetCaption(context.GetText(txt::kByteCount));
+  Label2.SetCaption(context.GetText(txt::kStatus) + ":");
   lblSilent.SetCaption(context.GetText(kTextDeviceSilent));
   lblSilent.SetVisible(false);
   lblSilent.SetKeepsPlace(true);
   cmdOK.SetCaption(context.texts.Constants().cnstrOK);
   cmdCancel.SetCaption(context.texts.Constants().cnstrCancel);
-  cmdSaveFile.SetCaption(context.GetText(255));
+  cmdSaveFile.SetCaption(context.GetText(txt::kSaveFile));
   SetLayout(Column(Row(Label1, Label3, Stretch()), Row(Label2, Label4, Stretch()), prgBar1,
                    lblSilent, Row(Stretch(), cmdSaveFile, cmdOK, cmdCancel)));
   SetKeyButtons(&cmdOK, nullptr);
@@ -63,7 +63,7 @@ void frm_ULFrMux::ListenFor(bool more) {
 }
 
 void frm_ULFrMux::ShowRestored() {
-  SetCaption(context_.GetText(272));
+  SetCaption(context_.GetText(txt::kRestoreBlockData));
   cmdSaveFile.SetVisible(false);
   cmdCancel.SetVisible(false);
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "resources/text_table.h"
+
 namespace quorvel {
 
 namespace {
@@ -126,11 +128,12 @@ bool CheckLoadedIdentity(Context& context) {
   const auto shown = [&context](const std::string& bytes) {
     return context.platform.ToUtf8(bytes);
   };
-  context.platform.Ask({context.GetText(267) + "\r" + context.GetText(320) + "  " +
-                            shown(context.connected.ConnModelName) +
-                            ModelDescription(context, kOfConnected) + "\r" + context.GetText(321) +
-                            "  " + shown(identity.name) + ModelDescription(context, kOfImage),
-                        context.GetText(270), Message::Buttons::kOk});
+  context.platform.Ask(
+      {context.GetText(txt::kDataDoesNotMatch) + "\r" + context.GetText(txt::kConnectedToModel) +
+           "  " + shown(context.connected.ConnModelName) + ModelDescription(context, kOfConnected) +
+           "\r" + context.GetText(txt::kLoadingFromModel) + "  " + shown(identity.name) +
+           ModelDescription(context, kOfImage),
+       context.GetText(txt::kErrorMessage), Message::Buttons::kOk});
   return false;
 }
 

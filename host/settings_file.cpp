@@ -58,10 +58,9 @@ FileRequest SaveRequest(const std::string& default_name) {
 }
 
 void Write(Context& context, const std::string& path, std::span<const Byte> bytes) {
-  constexpr int kTextMessage = 32;
   context.platform.StoreFile(path, bytes);
   if (bytes.size() < kRestoreLimit) return;
-  const Message message{context.GetText(kTextTooLongToRestore), context.GetText(kTextMessage)};
+  const Message message{context.GetText(kTextTooLongToRestore), context.GetText(txt::kMessage)};
   if (!context.terminated) context.platform.Ask(message);
 }
 

@@ -21,8 +21,8 @@ struct SettingsFile {
 /// A file of so many bytes or more can be saved, but not restored.
 inline constexpr std::size_t kRestoreLimit = 32768;
 
-/// What the bytes of a file hold. Throws ImageError for kRestoreLimit bytes or more, and for bytes that
-/// contradict themselves. Whether the image can be decoded shows when it is.
+/// What the bytes of a file hold. Throws ImageError for kRestoreLimit bytes or more, and for bytes
+/// that contradict themselves. Whether the image can be decoded shows when it is.
 [[nodiscard]] SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> bytes);
 
 /// Asks the user for a file to restore and reads it; nothing when the dialog was cancelled.

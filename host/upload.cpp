@@ -8,6 +8,7 @@
 #include "host/combined_exchange.h"
 #include "host/model_catalogue.h"
 #include "host/send_plan.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
@@ -41,7 +42,8 @@ bool Upload::FamilyFits() const {
 }
 
 void Upload::RefuseData() {
-  context_.platform.Ask({context_.GetText(267), context_.GetText(270), Message::Buttons::kOk});
+  context_.platform.Ask({context_.GetText(txt::kDataDoesNotMatch),
+                         context_.GetText(txt::kErrorMessage), Message::Buttons::kOk});
 }
 
 Upload::Basis Upload::PresentBasis() const {
@@ -159,8 +161,9 @@ void Upload::PutListedBlocks() {
 /// Macro data of another record size is sent only when the user agrees.
 bool Upload::MacrosFit() {
   if (context_.combo_sizes.ComboMacroSize == context_.ComboArray.Header().MacroRecSize) return true;
-  return context_.platform.Ask({context_.GetText(301) + "\r" + context_.GetText(306),
-                                context_.GetText(32), Message::Buttons::kOkCancel});
+  return context_.platform.Ask({context_.GetText(txt::kMacroSizeDifference) + "\r" +
+                                    context_.GetText(txt::kSomeVariablesNotUpdated),
+                                context_.GetText(txt::kMessage), Message::Buttons::kOkCancel});
 }
 
 void Upload::StartBlocks(frm_ToMux& dialog) {

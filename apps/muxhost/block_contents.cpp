@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include "apps/muxhost/script_report.h"
+#include "apps/muxhost/script/report.h"
 #include "core/codec.h"
 #include "core/survey.h"
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "apps/muxhost/combined_parts.h"
+#include "apps/muxhost/device/combined_parts.h"
 #include "core/codec.h"
 
 namespace quorvel::muxhost {

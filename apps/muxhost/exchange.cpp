@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "apps/muxhost/combined_parts.h"
+#include "apps/muxhost/device/combined_parts.h"
 
 namespace quorvel::muxhost {
 

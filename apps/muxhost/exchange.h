@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/simulated_device.h"
+#include "apps/muxhost/device/simulated_device.h"
 
 namespace quorvel::muxhost {
 

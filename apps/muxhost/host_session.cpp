@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "apps/muxhost/script_report.h"
+#include "apps/muxhost/script/report.h"
 #include "quorvel/platform.h"
 
 namespace quorvel::muxhost {

@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
+#include "apps/muxhost/device/link.h"
 #include "apps/muxhost/device_reader.h"
 #include "apps/muxhost/exchange.h"
-#include "apps/muxhost/link.h"
 #include "quorvel/main_menu_ctrl.h"
 
 namespace quorvel::muxhost {

@@ -1,6 +1,6 @@
 #include <utility>
 
-#include "apps/muxhost/combined_parts.h"
+#include "apps/muxhost/device/combined_parts.h"
 #include "apps/muxhost/host_session.h"
 #include "quorvel/platform.h"
 

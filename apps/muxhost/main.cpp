@@ -5,14 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/script_runner.h"
+#include "apps/muxhost/script/runner.h"
 #include "core/block_map.h"
 
 #ifdef MUXHOST_WITH_QT
 #include <cstdlib>
 
-#include "apps/muxhost/gallery.h"
-#include "apps/muxhost/run_window.h"
+#include "apps/muxhost/gallery/gallery.h"
+#include "apps/muxhost/window/run_window.h"
 #endif
 
 namespace {

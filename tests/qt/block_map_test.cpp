@@ -1,3 +1,5 @@
+#include "apps/muxhost/window/block_map.h"
+
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -5,7 +7,6 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 
-#include "apps/muxhost/window_block_map.h"
 #include "tests/qt/muxhost_on_screen.h"
 
 namespace quorvel::muxhost {

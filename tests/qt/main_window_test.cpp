@@ -1,4 +1,4 @@
-#include "apps/muxhost/main_window.h"
+#include "apps/muxhost/window/main_window.h"
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -7,7 +7,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
-#include "apps/muxhost/window_event_log.h"
+#include "apps/muxhost/window/event_log.h"
 #include "tests/qt/muxhost_on_screen.h"
 
 namespace quorvel::muxhost {

@@ -16,7 +16,7 @@
 #include <string>
 #include <utility>
 
-#include "apps/muxhost/main_window.h"
+#include "apps/muxhost/window/main_window.h"
 
 namespace quorvel::muxhost {
 

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "apps/muxhost/widget_page.h"
+#include "apps/muxhost/widget_page/widget_page.h"
 #include "quorvel/qt_platform.h"
 #include "tests/qt/drawn_as_told.h"
 #include "tests/qt/random_changes.h"

@@ -1,4 +1,4 @@
-#include "apps/muxhost/widget_page.h"
+#include "apps/muxhost/widget_page/widget_page.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <map>
 #include <set>
 
-#include "apps/muxhost/gallery_tour.h"
+#include "apps/muxhost/gallery/tour.h"
 #include "quorvel/qt_platform.h"
 #include "tests/qt/drawn_as_told.h"
 

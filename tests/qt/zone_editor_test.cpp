@@ -1,8 +1,9 @@
+#include "apps/muxhost/window/zone_editor.h"
+
 #include <QAccessible>
 #include <QLabel>
 #include <QMessageBox>
 
-#include "apps/muxhost/window_zone_editor.h"
 #include "tests/qt/muxhost_on_screen.h"
 
 namespace quorvel::muxhost {

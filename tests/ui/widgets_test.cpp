@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "apps/muxhost/script_commands.h"
+#include "apps/muxhost/script/commands.h"
 #include "quorvel/headless_platform.h"
 #include "ui/editing/octet_boxes.h"
 

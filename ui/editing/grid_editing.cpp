@@ -166,7 +166,8 @@ void GridEditing::TakeBack(const Widget& control) {
     if (shown != shown_.end()) {
       return shown->second.binding->control->Show(shown->second.row, shown->second.values);
     }
-    return binding.control->Show(grid_.Row(), std::vector<int>(binding.columns.size(), Grid::kNone));
+    return binding.control->Show(grid_.Row(),
+                                 std::vector<int>(binding.columns.size(), Grid::kNone));
   }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/commit.h"
+#include "resources/text_table.h"
 #include "ui/menu/frm_msg.h"
 #include "ui/menu/menu_items.h"
 #include "ui/setup/alarm/frm_alarm.h"
@@ -163,7 +164,8 @@ void frm_Menu::SetUpCaptions() {
     menu_->Item(text.item).caption = context_.GetText(text.id);
   }
   const bool lumacast = context_.env.identity.LumacastModel;
-  menu_->Item("mnu_VArchive").caption = context_.GetText(lumacast ? 309 : 168);
+  menu_->Item("mnu_VArchive").caption =
+      context_.GetText(lumacast ? txt::kLumacastSetup : txt::kVideoArchiveSetup);
   menu_->Item("mnu_Exit").caption = context_.texts.Objects().objstExit;
 }
 

@@ -1,14 +1,15 @@
 #include "ui/menu/frm_msg.h"
 
 #include "resources/icon.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
 frmMsg::frmMsg(Context& context) : Dialog(context.platform, "frmMsg") {
   KeepAliveWith(context.life);
-  SetCaption(context.GetText(304));
+  SetCaption(context.GetText(txt::kInformationMessage));
   SetIcon(&Icon101());
-  Label1.SetCaption(context.GetText(307));
+  Label1.SetCaption(context.GetText(txt::kEstablishEthernetFirst));
   cmdOK.SetCaption(context.texts.Constants().cnstrOK);
   cmdOK.on_click = [this] { Close(); };
   SetKeyButtons(&cmdOK, &cmdOK);

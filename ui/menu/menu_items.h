@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "quorvel/widgets.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
@@ -15,14 +16,26 @@ struct ItemText {
   std::string_view item;
   int id;
 };
-inline constexpr std::array kItemTexts = {
-    ItemText{"mnu_Alarm", 64},       ItemText{"mnu_Macro", 88},      ItemText{"mnu_Record", 101},
-    ItemText{"mnu_CSetup", 121},     ItemText{"mnu_Comm", 125},      ItemText{"mnu_German", 151},
-    ItemText{"mnu_French", 152},     ItemText{"mnu_EngLang", 153},   ItemText{"mnu_Factory", 154},
-    ItemText{"mnu_FPanelLock", 155}, ItemText{"mnu_LockKB", 156},    ItemText{"mnu_Main", 157},
-    ItemText{"mnu_MDetection", 159}, ItemText{"mnu_Sequence", 160},  ItemText{"mnuActGrid", 161},
-    ItemText{"mnuMTSetup", 162},     ItemText{"mnu_Telemetry", 163}, ItemText{"mnu_TimeDate", 164},
-    ItemText{"mnu_UnLock", 166},     ItemText{"mnuVCR", 167}};
+inline constexpr std::array kItemTexts = {ItemText{"mnu_Alarm", txt::kAlarms},
+                                          ItemText{"mnu_Macro", txt::kMacro},
+                                          ItemText{"mnu_Record", txt::kRecord},
+                                          ItemText{"mnu_CSetup", txt::kCameraSetup},
+                                          ItemText{"mnu_Comm", txt::kCommunications},
+                                          ItemText{"mnu_German", txt::kGerman},
+                                          ItemText{"mnu_French", txt::kFrench},
+                                          ItemText{"mnu_EngLang", txt::kEnglish},
+                                          ItemText{"mnu_Factory", txt::kFactorySettings},
+                                          ItemText{"mnu_FPanelLock", txt::kFrontPanelLock},
+                                          ItemText{"mnu_LockKB", txt::kLockKeyboard},
+                                          ItemText{"mnu_Main", txt::kMain},
+                                          ItemText{"mnu_MDetection", txt::kMotionDetection},
+                                          ItemText{"mnu_Sequence", txt::kSequencing},
+                                          ItemText{"mnuActGrid", txt::kSetupActiveZones},
+                                          ItemText{"mnuMTSetup", txt::kSetupParameters},
+                                          ItemText{"mnu_Telemetry", txt::kTelemetry},
+                                          ItemText{"mnu_TimeDate", txt::kTimeAndDate},
+                                          ItemText{"mnu_UnLock", txt::kUnlockKeyboard},
+                                          ItemText{"mnuVCR", txt::kVcrSetup}};
 
 /// Languages of the device; a language's code is its place in the submenu, 0 to 12.
 inline constexpr int kLanguages = 13;

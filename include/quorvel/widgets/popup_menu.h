@@ -42,8 +42,8 @@ class PopupMenu {
   /// admitted.
   std::function<Answer()> admit;
 
-  /// Runs a handler as an edge of its owner, who copies what may be replaced meanwhile; by default it
-  /// is called directly.
+  /// Runs a handler as an edge of its owner, who copies what may be replaced meanwhile; by default
+  /// it is called directly.
   std::function<void(const std::string& place, const Handler& handler)> edge;
 
  private:

@@ -1,0 +1,52 @@
+#include "apps/muxhost/device/bare_blocks.h"
+
+#include <algorithm>
+
+#include "core/codec.h"
+#include "core/survey.h"
+#include "host/send_plan.h"
+
+namespace quorvel::muxhost {
+
+std::set<Byte> BareBlocks::Differing(std::span<const Byte> image,
+                                     std::span<const Byte> device) const {
+  std::set<Byte> differing;
+  for (const Byte block : sent) {
+    const std::size_t end = std::size_t{block} * kBlockSize;
+    if (end > image.size() || end > device.size()) continue;
+    const auto mine = image.subspan(end - kBlockSize, kBlockSize);
+    const auto its = device.subspan(end - kBlockSize, kBlockSize);
+    if (!std::equal(mine.begin(), mine.end(), its.begin())) differing.insert(block);
+  }
+  return differing;
+}
+
+BareBlocks FindBareBlocks(std::span<const Byte> image, bool combined) {
+  BlockImage blocks({image.begin(), image.end()});
+  RecordEnvironment env;
+  MuxData record(env);
+  try {
+    DecodeImage(blocks, env, record);
+  } catch (const ImageError&) {
+    return {};
+  }
+  const int count = blocks.BlkCount();
+  BareBlocks bare;
+  const auto with = PlanAllBlocks(blocks, true);
+  bare.sent = {with.begin(), with.end()};
+  if (combined) {
+    // The array brings the blocks as they are; its macro data is kept apart from them.
+    for (int block = 1; block <= count; ++block) bare.sent.insert(static_cast<Byte>(block));
+  } else {
+    bare.with_macros = bare.sent;
+    for (const Byte block : PlanAllBlocks(blocks, false)) bare.with_macros.erase(block);
+  }
+  for (const auto direction : {Direction::kRead, Direction::kWritten}) {
+    for (const auto& place : SurveyRecord(record, env.identity, count, direction)) {
+      bare.sent.erase(static_cast<Byte>(place.block));
+    }
+  }
+  return bare;
+}
+
+}  // namespace quorvel::muxhost

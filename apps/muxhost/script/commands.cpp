@@ -1,0 +1,82 @@
+#include "apps/muxhost/script/commands.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "apps/muxhost/script/parser.h"
+
+namespace quorvel::muxhost {
+
+namespace {
+
+constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
+
+struct Command {
+  std::string_view usage;  ///< starts with the command's name
+  std::size_t least;       ///< words after the name
+  std::size_t most;
+  void (*run)(Desk& desk, commands::Words words);
+};
+
+constexpr Command kCommands[] = {
+    {"device [model=N] [cameras=N] [blocks=N] [variant=C] [name=TEXT] [image=FILE] "
+     "[combined] [macros=NxM] [firmware=N.NN]",
+     0, kAny, commands::Device},
+    {"host [family=N] [dvr=N] [commid=N] [link=N] [sync] [latency=MS]", 0, kAny, commands::Host},
+    {"download [hold]", 0, 1, commands::Download},
+    {"upload all|modified|none|hold [macros]", 1, 2, commands::Upload},
+    {"save FILE", 1, 1, commands::Save},
+    {"restore FILE", 1, 1, commands::Restore},
+    {"defaults", 0, 0, commands::Defaults},
+    {"fault [none|KIND [at=N] [ms=T]]", 0, kAny, commands::FaultOnLink},
+    {"zones CAMERA [BYTE=VALUE...]", 1, kAny, commands::Zones},
+    {"menu", 0, 0, commands::Menu},
+    {"choose ITEM", 1, 1, commands::Choose},
+    {"dismiss", 0, 0, commands::Dismiss},
+    {"click CONTROL", 1, 1, commands::Click},
+    {"type CONTROL TEXT", 2, 2, commands::Type},
+    {"select LIST INDEX", 2, 2, commands::Select},
+    {"slide SLIDER VALUE", 2, 2, commands::Slide},
+    {"pick PICKER TIME|DATE", 2, 2, commands::Pick},
+    {"press GRID ROW COLUMN", 3, 3, commands::Press},
+    {"release GRID FIRST LAST", 3, 3, commands::Release},
+    {"mark GRID ROW", 2, 2, commands::Mark},
+    {"tab TABSTRIP PAGE", 2, 2, commands::Tab},
+    {"close [WINDOW]", 0, 1, commands::Close},
+    {"answer ok|cancel|file FILE|file cancel", 1, 2, commands::AnswerNext},
+    {"wait MS", 1, 1, commands::Wait},
+    {"show [WINDOW|WINDOW.CONTROL]", 0, 1, commands::Show},
+    {"pages [WINDOW [PAGE...]]", 0, kAny, commands::Pages},
+    {"menu-items", 0, 0, commands::MenuItems},
+    {"modified", 0, 0, commands::Modified},
+    {"settings [PATTERN]", 0, 1, commands::Settings},
+    {"diff [FILE]", 0, 1, commands::Diff},
+    {"block N", 1, 1, commands::DeviceBlock},
+    {"image N", 1, 1, commands::ImageBlock},
+    {"events", 0, 0, commands::Events},
+    {"messages", 0, 0, commands::Messages},
+};
+
+}  // namespace
+
+void Execute(Desk& desk, std::span<const std::string> words) {
+  const std::string& name = words.front();
+  const auto* const found =
+      std::find_if(std::begin(kCommands), std::end(kCommands), [&name](const Command& command) {
+        return command.usage.substr(0, command.usage.find(' ')) == name;
+      });
+  if (found == std::end(kCommands)) throw ScriptError("unknown command " + name);
+  const std::size_t arguments = words.size() - 1;
+  if (arguments < found->least || arguments > found->most) {
+    throw ScriptError("usage: " + std::string(found->usage));
+  }
+  found->run(desk, words);
+}
+
+void commands::RequireUnlocked(const Desk& desk) {
+  if (desk.modal_depth > 0) {
+    throw ScriptError("a modal dialog is open: " + desk.platform.Windows().back()->Name());
+  }
+}
+
+}  // namespace quorvel::muxhost

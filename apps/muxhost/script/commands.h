@@ -1,0 +1,63 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "apps/muxhost/script/desk.h"
+
+namespace quorvel::muxhost {
+
+/// Carries out one line of a script, its command first. Throws std::exception, whose text is the
+/// reason, when it cannot be carried out.
+void Execute(Desk& desk, std::span<const std::string> words);
+
+namespace commands {
+
+using Words = std::span<const std::string>;
+
+// The device and the host.
+void Device(Desk& desk, Words words);
+void Host(Desk& desk, Words words);
+void Download(Desk& desk, Words words);
+void Upload(Desk& desk, Words words);
+void Save(Desk& desk, Words words);
+void Restore(Desk& desk, Words words);
+void Defaults(Desk& desk, Words words);
+void FaultOnLink(Desk& desk, Words words);
+void Zones(Desk& desk, Words words);
+
+// The person at the screen.
+void Menu(Desk& desk, Words words);
+void Choose(Desk& desk, Words words);
+void Dismiss(Desk& desk, Words words);
+void Click(Desk& desk, Words words);
+void Type(Desk& desk, Words words);
+void Select(Desk& desk, Words words);
+void Slide(Desk& desk, Words words);
+void Pick(Desk& desk, Words words);
+void Press(Desk& desk, Words words);
+void Release(Desk& desk, Words words);
+void Mark(Desk& desk, Words words);
+void Tab(Desk& desk, Words words);
+void Close(Desk& desk, Words words);
+void AnswerNext(Desk& desk, Words words);
+void Wait(Desk& desk, Words words);
+
+// What there is to see.
+void Show(Desk& desk, Words words);
+void Pages(Desk& desk, Words words);
+void MenuItems(Desk& desk, Words words);
+void Modified(Desk& desk, Words words);
+void Settings(Desk& desk, Words words);
+void Diff(Desk& desk, Words words);
+void DeviceBlock(Desk& desk, Words words);
+void ImageBlock(Desk& desk, Words words);
+void Events(Desk& desk, Words words);
+void Messages(Desk& desk, Words words);
+
+/// Throws ScriptError while a modal dialog locks the host's window.
+void RequireUnlocked(const Desk& desk);
+
+}  // namespace commands
+
+}  // namespace quorvel::muxhost

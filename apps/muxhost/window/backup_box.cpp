@@ -1,0 +1,44 @@
+#include "apps/muxhost/window/backup_box.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+namespace quorvel::muxhost {
+
+BackupBox::BackupBox(QWidget* parent)
+    : QGroupBox("Backup", parent),
+      wanted_(new QCheckBox("Of the device, before each upload")),
+      folder_(new QLineEdit),
+      change_(new QPushButton("Folder...")) {
+  wanted_->setChecked(true);
+  wanted_->setToolTip("Restore file brings a backup back");
+  folder_->setReadOnly(true);
+  folder_->setAccessibleName("Backup folder");
+  change_->setToolTip("Chooses where backups are kept");
+  auto* const column = new QVBoxLayout(this);
+  column->addWidget(wanted_);
+  auto* const row = new QHBoxLayout;
+  row->addWidget(folder_, 1);
+  row->addWidget(change_);
+  column->addLayout(row);
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  SetFolder((documents.isEmpty() ? QDir::homePath() : documents) + "/muxhost backups");
+  QObject::connect(change_, &QPushButton::clicked, this, [this] { AskForFolder(); });
+}
+
+void BackupBox::SetFolder(const QString& folder) {
+  folder_->setText(QDir::toNativeSeparators(folder));
+  folder_->setToolTip(folder_->text());
+  folder_->setCursorPosition(0);
+}
+
+void BackupBox::AskForFolder() {
+  const QString folder =
+      QFileDialog::getExistingDirectory(window(), "Where backups are kept", Folder());
+  if (!folder.isEmpty()) SetFolder(folder);
+}
+
+}  // namespace quorvel::muxhost

@@ -1,0 +1,126 @@
+#include "apps/muxhost/window/device_picker.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRegularExpressionValidator>
+#include <cmath>
+
+#include "host/model_catalogue.h"
+
+namespace quorvel::muxhost {
+
+namespace {
+
+constexpr int kMostBlocks = 255;
+constexpr int kNameLength = 14;
+constexpr int kMinorsAMajor = 100;
+
+}  // namespace
+
+DevicePicker::DevicePicker(const Platform& platform, QWidget* parent)
+    : QGroupBox("Simulated device", parent),
+      platform_(platform),
+      model_(new QComboBox(this)),
+      cameras_(new QComboBox(this)),
+      blocks_(new QSpinBox(this)),
+      variant_(new QLineEdit(this)),
+      name_(new QLineEdit(this)),
+      exchange_(new QComboBox(this)),
+      macros_(new QSpinBox(this)),
+      macro_size_(new QSpinBox(this)),
+      firmware_(new QDoubleSpinBox(this)),
+      macro_row_(MakeMacroRow()),
+      form_(new QFormLayout(this)),
+      connect_(new QPushButton("Connect", this)) {
+  const DeviceSetup usual;
+  for (int code = 0; !ModelText(code).empty(); ++code) {
+    const std::string text(ModelText(code));
+    model_->addItem(QString("%1  %2").arg(code).arg(QString::fromStdString(text)), code);
+  }
+  model_->setCurrentIndex(usual.model);
+  for (const int count : {4, 9, 10, 16}) cameras_->addItem(QString::number(count), count);
+  cameras_->setCurrentIndex(cameras_->findData(usual.cameras));
+  blocks_->setRange(0, kMostBlocks);
+  blocks_->setSpecialValueText("as usual for the model");
+  variant_->setValidator(new QRegularExpressionValidator(QRegularExpression("[!-~]?"), variant_));
+  variant_->setObjectName("variant");
+  variant_->setPlaceholderText("as from the factory");
+  name_->setObjectName("name");
+  name_->setMaxLength(kNameLength);
+  name_->setPlaceholderText("as from the factory");
+  exchange_->addItems({"Single blocks", "Combined array"});
+  const CombinedSetup usual_combined;
+  firmware_->setLocale(QLocale::c());
+  firmware_->setRange(0, 255.99);
+  firmware_->setSingleStep(0.01);
+  firmware_->setValue(usual_combined.firmware_major +
+                      static_cast<double>(usual_combined.firmware_minor) / kMinorsAMajor);
+
+  form_->addRow("Model", model_);
+  form_->addRow("Cameras", cameras_);
+  form_->addRow("Blocks", blocks_);
+  form_->addRow("Variant", variant_);
+  form_->addRow("Name", name_);
+  form_->addRow("Exchange", exchange_);
+  form_->addRow("Macros", macro_row_);
+  form_->addRow("Firmware", firmware_);
+  form_->addRow(connect_);
+  QWidget* const order[] = {exchange_, macros_, macro_size_, firmware_, connect_};
+  for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+  ShowCombined();
+  QObject::connect(exchange_, &QComboBox::currentIndexChanged, this, [this] { ShowCombined(); });
+  QObject::connect(connect_, &QPushButton::clicked, this, [this] { on_connect(); });
+}
+
+QWidget* DevicePicker::MakeMacroRow() {
+  constexpr int kMostMacros = 255;
+  constexpr int kMostBytes = 65535;
+  constexpr int kMacros = 16;
+  constexpr int kMacroSize = 64;
+  macros_->setRange(0, kMostMacros);
+  macros_->setValue(kMacros);
+  macros_->setAccessibleName("Macro records");
+  macro_size_->setRange(0, kMostBytes);
+  macro_size_->setValue(kMacroSize);
+  macro_size_->setSuffix(" bytes");
+  macro_size_->setAccessibleName("Bytes of a macro record");
+  auto* const line = new QWidget;
+  auto* const row = new QHBoxLayout(line);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(macros_);
+  row->addWidget(new QLabel("x"));
+  row->addWidget(macro_size_, 1);
+  return line;
+}
+
+void DevicePicker::ShowCombined() {
+  const bool combined = exchange_->currentIndex() == 1;
+  form_->setRowVisible(macro_row_, combined);
+  form_->setRowVisible(firmware_, combined);
+}
+
+CombinedSetup DevicePicker::Combined() const {
+  const auto version = static_cast<int>(std::lround(firmware_->value() * kMinorsAMajor));
+  return {.macros = macros_->value(),
+          .macro_size = macro_size_->value(),
+          .firmware_major = version / kMinorsAMajor,
+          .firmware_minor = version % kMinorsAMajor};
+}
+
+DeviceSetup DevicePicker::Setup() const {
+  DeviceSetup setup;
+  setup.model = model_->currentData().toInt();
+  setup.cameras = cameras_->currentData().toInt();
+  if (blocks_->value() > 0) setup.blocks = blocks_->value();
+  if (!variant_->text().isEmpty()) setup.variant = variant_->text().at(0).toLatin1();
+  if (!name_->text().isEmpty()) setup.name = platform_.FromUtf8(name_->text().toStdString());
+  if (exchange_->currentIndex() == 1) setup.combined = Combined();
+  return setup;
+}
+
+void DevicePicker::AllowConnect(bool allowed, const QString& why_not) {
+  connect_->setEnabled(allowed);
+  connect_->setToolTip(allowed ? "Replaces the device by a new one" : why_not);
+}
+
+}  // namespace quorvel::muxhost

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <functional>
+
+#include "apps/muxhost/device/simulated_device.h"
+#include "quorvel/platform.h"
+
+namespace quorvel::muxhost {
+
+/// Where a person says what the simulated device is made like.
+class DevicePicker : public QGroupBox {
+ public:
+  /// `platform` gives the code page of the device's name.
+  explicit DevicePicker(const Platform& platform, QWidget* parent = nullptr);
+
+  /// The device was asked for with the button.
+  std::function<void()> on_connect;
+
+  /// As chosen; SimulatedDevice says what of it no device can be.
+  [[nodiscard]] DeviceSetup Setup() const;
+  /// Whether the button can be pressed, and why not.
+  void AllowConnect(bool allowed, const QString& why_not);
+
+ private:
+  [[nodiscard]] QWidget* MakeMacroRow();
+  [[nodiscard]] CombinedSetup Combined() const;
+  /// What belongs to the combined exchange takes no space without it.
+  void ShowCombined();
+
+  const Platform& platform_;
+  QComboBox* const model_;
+  QComboBox* const cameras_;
+  QSpinBox* const blocks_;
+  QLineEdit* const variant_;
+  QLineEdit* const name_;
+  QComboBox* const exchange_;
+  QSpinBox* const macros_;
+  QSpinBox* const macro_size_;
+  QDoubleSpinBox* const firmware_;
+  QWidget* const macro_row_;
+  QFormLayout* const form_;
+  QPushButton* const connect_;
+};
+
+}  // namespace quorvel::muxhost

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "apps/muxhost/device/link.h"
+
+namespace quorvel::muxhost {
+
+/// Does on the screen what somebody at a transfer's dialog does. False when the dialog is not there
+/// or has another one in front of it, or when the button cannot be pressed.
+bool Interrupt(const Interruption& what);
+
+}  // namespace quorvel::muxhost

@@ -1,0 +1,331 @@
+#include "apps/muxhost/window/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QStatusBar>
+#include <stdexcept>
+
+#include "apps/muxhost/window/desktop.h"
+#include "apps/muxhost/window/interruption.h"
+#include "apps/muxhost/window/side_area.h"
+#include "apps/muxhost/window/words.h"
+
+namespace quorvel::muxhost {
+
+MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
+    : platform_(platform),
+      session_(session),
+      picker_(new DevicePicker(platform)),
+      options_(new HostOptions(session.Settings())),
+      backups_(new BackupBox),
+      link_(new LinkBox),
+      commands_(new CommandBox),
+      hint_(new QLabel),
+      blocks_(new BlockMapBox(session)),
+      log_(new EventLog),
+      identity_(new QLabel),
+      silence_([this](const std::string& sentence) {
+        log_->Add(sentence);
+        if (std::exchange(awaits_answer_, false)) NoteOutcome();
+      }),
+      uploader_({platform, session, *this, *backups_, *log_, silence_}) {
+  constexpr int kWatchInterval = 150;
+  setWindowTitle("muxhost");
+  auto* const sides = new QHBoxLayout;
+  sides->addWidget(MakeLeftSide());
+  sides->addWidget(MakeRightSide(), 1);
+  auto* const body = new QWidget;
+  body->setLayout(sides);
+  setCentralWidget(body);
+  for (QLabel* const label : {hint_, identity_}) label->setTextFormat(Qt::PlainText);
+  identity_->setObjectName("Identity");
+  statusBar()->addWidget(identity_);
+
+  platform_.SetHostWindow(this);
+  platform_.SetMenuButton(&commands_->MenuButton());
+  AttachToSession();
+  // Edits raise no event, so the window looks for them.
+  QObject::connect(&watch_, &QTimer::timeout, this, [this] { ShowState(); });
+  watch_.start(kWatchInterval);
+  PlaceSurface();
+  ShowLog();
+  commands_->FocusDefault();
+  const QSize borders(16, 48);
+  resize(QSize(1180, 700).expandedTo(sizeHint()).boundedTo(screen()->availableSize() - borders));
+}
+
+void MainWindow::AttachToSession() {
+  session_.on_change = [this] { ShowLog(); };
+  session_.interrupt = &Interrupt;
+  uploader_.run = [this] { Run(&HostSession::Upload); };
+  // Not from within the menu's own event.
+  session_.on_zones_wanted = [this](int cameras) {
+    zones_wanted_ = cameras;
+    zones_request_.start();
+  };
+  zones_request_.setSingleShot(true);
+  QObject::connect(&zones_request_, &QTimer::timeout, this, [this] { EditZones(zones_wanted_); });
+}
+
+MainWindow::~MainWindow() {
+  session_.on_change = nullptr;
+  session_.interrupt = nullptr;
+  session_.on_zones_wanted = nullptr;
+}
+
+QWidget* MainWindow::MakeLeftSide() {
+  auto* const side = new QWidget;
+  auto* const column = new QVBoxLayout(side);
+  column->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* const box : std::initializer_list<QWidget*>{picker_, options_, backups_, link_}) {
+    column->addWidget(box);
+  }
+  column->addStretch();
+  picker_->on_connect = [this] { Connect(); };
+  options_->on_change = [this](const HostSettings& settings) { session_.Configure(settings); };
+  options_->on_link = [this](bool on) { session_.SwitchLink(on); };
+  link_->on_fault = [this](const std::optional<Fault>& fault) { session_.SetFault(fault); };
+  return new SideArea(side);
+}
+
+QWidget* MainWindow::MakeRightSide() {
+  auto* const side = new QWidget;
+  auto* const column = new QVBoxLayout(side);
+  column->setContentsMargins(0, 0, 0, 0);
+  hint_->setObjectName("Hint");
+  hint_->setWordWrap(true);
+  QFont bold = hint_->font();
+  bold.setBold(true);
+  hint_->setFont(bold);
+  commands_->on_command = [this](Command command) { Do(command); };
+  column->addWidget(commands_);
+  column->addWidget(blocks_, 5);
+  auto* const row = new QHBoxLayout;
+  auto* const events = new QGroupBox("Events");
+  (new QVBoxLayout(events))->addWidget(log_);
+  row->addWidget(events, 4);
+  row->addWidget(blocks_->ContentsBox(), 3);
+  column->addLayout(row, 3);
+  // The hint is not scrolled away.
+  auto* const right = new QWidget;
+  auto* const whole = new QVBoxLayout(right);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(hint_);
+  whole->addWidget(new MainArea(side), 1);
+  return right;
+}
+
+void MainWindow::PlaceSurface() {
+  surface_ = new ControlSurfaceWidget(session_.Control().Surface(), this);
+  commands_->SurfacePlace().addWidget(surface_);
+}
+
+bool MainWindow::MayLoseChanges(const QString& by) {
+  blocks_->Update(transfer_runs_, true);
+  const auto changed = blocks_->States().Unwritten().size();
+  QString question;
+  if (changed > 0) {
+    question = QString("%1 modified %2 not been sent to the device. ")
+                   .arg(changed)
+                   .arg(changed == 1 ? "block has" : "blocks have");
+  }
+  // A transfer's dialog locks the window, an editor does not.
+  const bool locked = IsLocked();
+  if (locked) {
+    question += "A transfer or a question is still open. ";
+  } else if (OthersAreOpen(this)) {
+    question += "A window of the menu is open. ";
+  }
+  if (question.isEmpty()) return true;
+  question += by + (locked ? " breaks it off and loses the changes." : " loses the changes.");
+  return QMessageBox::question(this, windowTitle(), question,
+                               QMessageBox::Discard | QMessageBox::Cancel,
+                               QMessageBox::Cancel) == QMessageBox::Discard;
+}
+
+void MainWindow::Connect() {
+  if (!MayLoseChanges("Connecting another device")) return;
+  try {
+    SimulatedDevice device(picker_->Setup());
+    silence_.End();
+    awaits_answer_ = false;
+    surface_->Detach();
+    delete surface_;
+    surface_ = nullptr;
+    loaded_ = false;
+    asked_.reset();
+    brought_.reset();
+    missed_.reset();
+    blocks_->Forget();
+    session_.Connect(std::move(device));
+    PlaceSurface();
+    log_->Add("a new device is connected");
+  } catch (const std::invalid_argument& error) {
+    QMessageBox::warning(this, windowTitle(), QString::fromStdString(error.what()));
+  }
+  ShowState();
+}
+
+void MainWindow::Do(Command command) {
+  // What the command before waited for is not waited for any more.
+  silence_.End();
+  missed_.reset();
+  switch (command) {
+    case Command::kDownload: return Download();
+    case Command::kMenu: return session_.OpenMenu();
+    case Command::kZones: return EditZones(session_.Device().IdentityBytes().at(0));
+    case Command::kUploadModified: return uploader_.Upload(false, commands_->WithMacros());
+    case Command::kUploadAll: return uploader_.Upload(true, commands_->WithMacros());
+    case Command::kSave: return Run(&HostSession::Save);
+    case Command::kRestore:
+      if (!MayLoseChanges("Restoring a file")) return;
+      asked_ = command;
+      Run(&HostSession::Restore);
+      NoteOutcome();
+      return ShowState();
+    case Command::kDefaults: return BuildDefaults();
+  }
+}
+
+void MainWindow::Run(void (HostSession::*command)()) {
+  {
+    const QScopedValueRollback<bool> runs(transfer_runs_, true);
+    (session_.*command)();
+  }
+  // Whatever became of it: what the control holds now decides what can be done next.
+  loaded_ = !session_.Control().Settings().empty();
+  ShowState();
+  commands_->FocusDefault();
+}
+
+void MainWindow::RunUntilAnswered(void (HostSession::*command)()) {
+  Run(command);
+  awaits_answer_ = true;
+  ShowState();
+}
+
+void MainWindow::NoticeAnswer() {
+  if (!awaits_answer_) return;
+  if (!session_.LastExchange().arrived && session_.LinkIsOn()) return;
+  awaits_answer_ = false;
+  silence_.End();
+  NoteOutcome();
+}
+
+void MainWindow::NoteOutcome() {
+  const auto asked = std::exchange(asked_, std::nullopt);
+  if (!asked) return;
+  (session_.LastExchange().arrived ? brought_ : missed_) = asked;
+}
+
+int MainWindow::Patience() const {
+  const auto& fault = session_.PendingFault();
+  const int later = fault && fault->kind == FaultKind::kLate ? fault->delay_ms : 0;
+  return SilenceWatch::kUsualPatience + session_.Settings().latency_ms + later;
+}
+
+void MainWindow::Download() {
+  if (!MayLoseChanges("Downloading")) return;
+  loaded_ = false;
+  asked_ = Command::kDownload;
+  const bool with_dialog = session_.Settings().comm_id == 0;
+  silence_.Begin(
+      Patience(), [this] { return !session_.LastExchange().arrived; },
+      with_dialog ? "the device has not answered: close the dialog to break it off"
+                  : "the device has not answered");
+  if (!with_dialog) return RunUntilAnswered(&HostSession::Download);
+  Run(&HostSession::Download);
+  silence_.End();
+  if (!session_.LastExchange().arrived) {
+    log_->Add("the download has not come to its end: the control keeps what it had");
+  }
+  NoteOutcome();
+  ShowState();
+}
+
+void MainWindow::BuildDefaults() {
+  if (!MayLoseChanges("Taking the factory defaults")) return;
+  asked_ = Command::kDefaults;
+  // They are there when the message that says so is closed.
+  silence_.Begin(
+      Patience(), [this] { return !session_.LastExchange().arrived && !IsLocked(); },
+      "the device has not answered: there are no factory defaults");
+  RunUntilAnswered(&HostSession::BuildDefaults);
+}
+
+void MainWindow::EditZones(int cameras) {
+  if (zones_ == nullptr) {
+    zones_ = new ZoneEditor(session_, cameras, this);
+    zones_->setAttribute(Qt::WA_DeleteOnClose);
+    zones_->setWindowModality(Qt::ApplicationModal);
+    QObject::connect(zones_, &QDialog::finished, this, [this] { ShowState(); });
+  }
+  zones_->show();
+  zones_->raise();
+  zones_->activateWindow();
+  ShowState();
+}
+
+void MainWindow::ShowLog() {
+  for (const std::string& entry : session_.TakeLog()) log_->Add(entry);
+  silence_.Notice();
+  ShowState();
+}
+
+Situation MainWindow::PresentSituation() const {
+  const BlockStates& states = blocks_->States();
+  return {{.link_on = session_.LinkIsOn(),
+           .loaded = loaded_,
+           .modified = !session_.Control().ModifiedBlocks().empty(),
+           .others_open = OthersAreOpen(this),
+           .locked = IsLocked(),
+           .waiting = awaits_answer_},
+          states.Unwritten().size(),
+          states.In(BlockState::kFailed).size(),
+          states.In(BlockState::kVerified).size(),
+          blocks_->OnlyMacrosAreLeft(),
+          brought_,
+          missed_,
+          LackingBlocks(session_)};
+}
+
+void MainWindow::ShowState() {
+  loaded_ = loaded_ || session_.LastExchange().arrived;
+  NoticeAnswer();
+  blocks_->Update(transfer_runs_, OthersAreOpen(this));
+  Situation situation = PresentSituation();
+  const NextStep step = NextStepIn(situation);
+  situation.commands.next = step.press;
+  commands_->Show(situation.commands);
+  hint_->setText(step.hint);
+  const QString busy = CommandBox::Busy(situation.commands);
+  picker_->AllowConnect(busy.isEmpty(), busy);
+  options_->AllowExchange(busy.isEmpty(), busy);
+  link_->ShowPending(session_.PendingFault());
+  identity_->setText(Describe(session_.Device(), platform_));
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  // A button that has the focus, the default one too, takes its key itself.
+  const QWidget* const focus = focusWidget();
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter || (focus != nullptr && focus != this)) return QMainWindow::keyPressEvent(event);
+  commands_->PressDefault();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (closing_) return;
+  const QScopedValueRollback<bool> closing(closing_, true);
+  if (!MayLoseChanges("Closing")) return;
+  if (zones_ != nullptr) zones_->Abandon();
+  // A command that waits for them in a loop of its own comes to its end.
+  CloseLockingWindows();
+  event->accept();
+}
+
+}  // namespace quorvel::muxhost

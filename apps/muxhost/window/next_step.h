@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <cstddef>
+
+#include "apps/muxhost/window/command_box.h"
+
+namespace quorvel::muxhost {
+
+/// Where somebody who configures a device has got to.
+struct Situation {
+  CommandBox::State commands;
+  std::size_t unwritten = 0;  ///< blocks with changes that the device has not got
+  std::size_t failed = 0;
+  std::size_t verified = 0;
+  bool only_macros = false;  ///< unwritten and failed are blocks that come with the macros alone
+  /// What has brought the configuration: kDownload, kRestore or kDefaults.
+  std::optional<Command> brought = {};
+  /// The same, of a command given last that has brought none.
+  std::optional<Command> missed = {};
+  QString lacking = {};  ///< blocks of the device that the configuration lacks: "blocks 201-225"
+};
+
+/// What is sensible next.
+struct NextStep {
+  QString hint;                  ///< one line
+  std::optional<Command> press;  ///< nothing when it is not one of the commands
+};
+
+[[nodiscard]] NextStep NextStepIn(const Situation& situation);
+
+}  // namespace quorvel::muxhost

@@ -1,0 +1,39 @@
+#include "apps/muxhost/window/run_window.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include "apps/muxhost/widget_page/widget_page.h"
+#include "apps/muxhost/window/main_window.h"
+
+namespace quorvel::muxhost {
+
+int RunWindow(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  QApplication::setApplicationName("muxhost");
+  QtPlatform platform;
+  QObject turns;  // what is still scheduled ends with it
+  HostSession session(platform, [&turns](int milliseconds, std::function<void()> task) {
+    auto* const timer = new QTimer(&turns);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, task = std::move(task)] {
+      timer->deleteLater();
+      task();
+    });
+    timer->start(milliseconds);
+  });
+  MainWindow window(platform, session);
+  window.show();
+  return QApplication::exec();
+}
+
+int RunWidgetPage(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  QtPlatform platform;
+  const auto page = std::make_shared<WidgetPage>(platform);
+  page->on_closed = [] { QApplication::quit(); };
+  page->Show();
+  return QApplication::exec();
+}
+
+}  // namespace quorvel::muxhost

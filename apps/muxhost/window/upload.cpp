@@ -1,0 +1,94 @@
+#include "apps/muxhost/window/upload.h"
+
+#include <QMessageBox>
+
+#include "apps/muxhost/window/backup.h"
+#include "apps/muxhost/window/send_choice.h"
+#include "apps/muxhost/window/words.h"
+
+namespace quorvel::muxhost {
+
+void Uploader::Upload(bool all, bool macros) {
+  if (all && !MayLeaveOut()) return;
+  if (at_.backups.Wanted() && !BackUp()) return;
+  do {
+    const SendChoice choice(all, macros);
+    at_.silence.Begin(
+        SilenceWatch::kUsualPatience + at_.session.Settings().latency_ms,
+        [this] { return at_.session.LastExchange().unanswered.has_value(); },
+        "the device has not acknowledged a block: STOP and START send again");
+    run();
+    at_.silence.End();
+  } while (WantsToSendAgain());
+}
+
+bool Uploader::MayLeaveOut() {
+  const QString lacking = LackingBlocks(at_.session);
+  if (lacking.isEmpty()) return true;
+  // An array may be as long as the device has said, and filled up.
+  const QString fate = at_.session.Device().IsCombined() ? "They get zero bytes, if anything."
+                                                         : "They keep what they hold.";
+  return MayGoOn(QString("The configuration has nothing for %1 of the device.").arg(lacking),
+                 fate + " Upload the rest?", "Upload the rest");
+}
+
+bool Uploader::BackUp() {
+  const BackupResult backup =
+      BackUpDevice(at_.platform, at_.session, at_.backups.Folder(), &at_.window);
+  switch (backup.outcome) {
+    case BackupResult::Outcome::kWritten:
+      at_.log.Add("backup of the device: " + backup.told.toStdString());
+      return at_.window.isVisible();
+    case BackupResult::Outcome::kTooLongToRestore:
+      at_.log.Add("backup of the device, too long to be restored: " + backup.told.toStdString());
+      return MayGoOn("The backup of the device is too long to be restored: " + backup.told + ".",
+                     "Files of 32768 bytes or more are kept, but cannot be restored. Upload "
+                     "all the same?",
+                     "Upload");
+    case BackupResult::Outcome::kCancelled:
+      at_.log.Add("the backup was cancelled: nothing is uploaded");
+      return false;
+    case BackupResult::Outcome::kFailed: break;
+  }
+  at_.log.Add("no backup of the device: " + backup.told.toStdString());
+  return MayGoOn("There is no backup of the device: " + backup.told + ".", "Upload without one?",
+                 "Upload without backup");
+}
+
+bool Uploader::MayGoOn(const QString& trouble, const QString& question, const char* go_on) {
+  if (!at_.window.isVisible()) return false;
+  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Cancel,
+                  &at_.window);
+  box.setInformativeText(question);
+  const auto* const on = box.addButton(go_on, QMessageBox::AcceptRole);
+  box.setDefaultButton(QMessageBox::Cancel);
+  box.exec();
+  return box.clickedButton() == on && at_.window.isVisible();
+}
+
+bool Uploader::WantsToSendAgain() {
+  const Exchange& exchange = at_.session.LastExchange();
+  const bool by_blocks = exchange.array_bytes == 0 && !exchange.sent_blocks.empty();
+  if (by_blocks && !exchange.end_written) {
+    const std::string where =
+        exchange.unanswered
+            ? ": block " + std::to_string(*exchange.unanswered) + " was not acknowledged"
+            : "";
+    at_.log.Add("the upload has not come to its end" + where);
+  }
+  const QString trouble = WhatWentWrong(exchange);
+  if (trouble.isEmpty() || !at_.window.isVisible()) return false;
+  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Close,
+                  &at_.window);
+  if (!at_.session.LinkIsOn()) {
+    box.setInformativeText("The link to the device is off. Switch it on, then upload again.");
+    box.exec();
+    return false;
+  }
+  box.setInformativeText("Send again?");
+  const auto* const again = box.addButton("Send again", QMessageBox::AcceptRole);
+  box.exec();
+  return box.clickedButton() == again && at_.window.isVisible();
+}
+
+}  // namespace quorvel::muxhost

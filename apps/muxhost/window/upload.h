@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+
+#include "apps/muxhost/host_session.h"
+#include "apps/muxhost/window/backup_box.h"
+#include "apps/muxhost/window/event_log.h"
+#include "apps/muxhost/window/silence_watch.h"
+#include "quorvel/qt_platform.h"
+
+namespace quorvel::muxhost {
+
+/// Uploads as a careful host does: with a backup of the device before, and a question after when
+/// the device does not hold what was sent.
+class Uploader {
+ public:
+  /// What it works with; all must outlive it.
+  struct Surroundings {
+    QtPlatform& platform;
+    HostSession& session;
+    QWidget& window;
+    BackupBox& backups;
+    EventLog& log;
+    SilenceWatch& silence;
+  };
+  explicit Uploader(const Surroundings& at) : at_(at) {}
+
+  /// Has the session upload.
+  std::function<void()> run;
+
+  /// All blocks, or the modified ones. The choice is made in the send dialog, whose START is the
+  /// user's.
+  void Upload(bool all, bool macros);
+
+ private:
+  /// Keeps what the device holds; false when there is to be no upload.
+  [[nodiscard]] bool BackUp();
+  /// Asks about blocks that an upload of everything brings nothing for.
+  [[nodiscard]] bool MayLeaveOut();
+  [[nodiscard]] bool MayGoOn(const QString& trouble, const QString& question, const char* go_on);
+  /// Tells what came of an upload; true when it is to be done again.
+  [[nodiscard]] bool WantsToSendAgain();
+
+  Surroundings at_;
+};
+
+}  // namespace quorvel::muxhost

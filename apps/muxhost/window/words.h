@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <span>
+
+#include "apps/muxhost/block_states.h"
+#include "apps/muxhost/device/link_fault.h"
+#include "apps/muxhost/exchange.h"
+#include "apps/muxhost/host_session.h"
+#include "quorvel/platform.h"
+
+namespace quorvel::muxhost {
+
+/// "block 12"; "blocks 3, 12, 40-45".
+[[nodiscard]] QString InWords(const QString& what, std::span<const Byte> numbers);
+
+/// What the fault does to what crosses the link: "no answer comes".
+[[nodiscard]] QString InWords(FaultKind kind);
+
+[[nodiscard]] QString InWords(BlockState state);
+
+/// "TX16:  Triplex NTSC, 16 cameras, 225 blocks, single blocks".
+[[nodiscard]] QString Describe(const SimulatedDevice& device, const Platform& platform);
+/// The device's name as text.
+[[nodiscard]] QString NameOf(const SimulatedDevice& device, const Platform& platform);
+
+/// "blocks 201-225": what the device has and the control's configuration lacks; empty when there is
+/// nothing of the kind.
+[[nodiscard]] QString LackingBlocks(HostSession& session);
+
+/// An entry of the session's log as a sentence.
+[[nodiscard]] QString Sentence(const QString& entry);
+
+/// An entry that says the same of many blocks, one after the other.
+struct BlockEntry {
+  QString about;   ///< what it says: its text with %1 for the block number
+  int number = 0;  ///< block number
+  /// The sentence about the blocks from `first` on.
+  [[nodiscard]] QString SentenceFrom(int first) const;
+};
+/// That entry; `about` is empty for one of another kind.
+[[nodiscard]] BlockEntry AsBlockEntry(const QString& entry);
+
+/// What is to be told of an upload that did not leave the device as it should be; empty when there
+/// is nothing to tell.
+[[nodiscard]] QString WhatWentWrong(const Exchange& upload);
+
+}  // namespace quorvel::muxhost
