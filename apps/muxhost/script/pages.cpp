@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "apps/muxhost/script/report.h"
@@ -35,13 +36,13 @@ void Collect(const Layout& layout, Controls& controls) {
 /// The first control with the others of its array that have its state; takes them away.
 Controls TakeGroup(Controls& controls) {
   const Widget& first = *controls.front();
-  const auto other =
-      std::stable_partition(controls.begin(), controls.end(), [&first](const Widget* it) {
-        return ArrayName(*it) == ArrayName(first) && it->Visible() == first.Visible() &&
-               it->Enabled() == first.Enabled();
-      });
-  Controls group(controls.begin(), other);
-  controls.erase(controls.begin(), other);
+  Controls group, others;
+  for (const Widget* it : controls) {
+    const bool alike = ArrayName(*it) == ArrayName(first) && it->Visible() == first.Visible() &&
+                       it->Enabled() == first.Enabled();
+    (alike ? group : others).push_back(it);
+  }
+  controls = std::move(others);
   return group;
 }
 
