@@ -1,13 +1,13 @@
 #include "ui/menu/frm_menu.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/commit.h"
 #include "resources/text_table.h"
 #include "ui/menu/frm_msg.h"
 #include "ui/menu/menu_items.h"
-#include "ui/setup/alarm/frm_alarm.h"
-#include "ui/setup/frm_camera_setup.h"
+#include "ui/widgets/failure.h"
 
 namespace quorvel {
 
@@ -18,20 +18,10 @@ constexpr int kFormHeight = 240;
 constexpr int kPopupDelay = 3;  // milliseconds, until the form has loaded or an action returned
 constexpr int kManyLanguagesFirmware = 501;
 
-template <class EditorType>
-std::shared_ptr<Dialog> Create(Context& context) {
-  return std::make_shared<EditorType>(context);
-}
-
 }  // namespace
 
 frm_Menu::frm_Menu(Context& context)
-    : context_(context),
-      menu_(std::make_shared<PopupMenu>(MainMenuItems())),
-      editors_{{"fAlarm", "mnu_Alarm", Create<frm_Alarm>, nullptr},
-               {"fCamera", "mnu_CSetup", Create<frm_CameraSetup>, nullptr},
-               {"fMsg", "", Create<frmMsg>, nullptr}},
-      message_(editors_.back()) {}
+    : context_(context), menu_(std::make_shared<PopupMenu>(MainMenuItems())) {}
 
 frm_Menu::~frm_Menu() { Unload(); }
 
@@ -94,12 +84,14 @@ void frm_Menu::Unload() {
   context_.platform.TakeDown(*menu_);
   // A choice that is still on its way is refused.
   for (MenuItem& item : menu_->Root().children) item.enabled = false;
-  for (EditorReference& reference : editors_) {
-    if (reference.dialog == nullptr) continue;
-    reference.dialog->on_closed = nullptr;
-    reference.dialog->Close();
-    reference.dialog.reset();
-  }
+  const auto take_off = [](std::shared_ptr<Dialog>& place) {
+    const auto dialog = std::exchange(place, nullptr);
+    if (dialog == nullptr) return;
+    dialog->on_closed = nullptr;
+    dialog->Close();
+  };
+  for (auto& [editor, dialog] : open_) take_off(dialog);
+  take_off(fMsg);
 }
 
 void frm_Menu::BindItem(std::string_view item, Handler action) {
@@ -109,8 +101,9 @@ void frm_Menu::BindItem(std::string_view item, Handler action) {
 /// Items without an action here open editors that do not exist; they are shown as the model asks,
 /// and disabled.
 void frm_Menu::BuildItems() {
-  for (EditorReference& reference : editors_) {
-    if (!reference.item.empty()) BindItem(reference.item, [this, &reference] { Open(reference); });
+  for (const MenuEditor& editor : MenuEditors()) {
+    if (EditorOf(editor.item, context_.env.identity) == nullptr) continue;
+    BindItem(editor.item, [this, item = editor.item] { OpenEditor(item); });
   }
   BindItem("mnuActGrid", [this] { ChooseActiveZones(); });
   BindItem("mnu_LockKB", [this] { LockKeyboard(true); });
@@ -182,15 +175,26 @@ void frm_Menu::SetUpLanguages() {
   }
 }
 
-void frm_Menu::Open(EditorReference& reference) {
-  if (reference.dialog == nullptr) {
-    reference.dialog = reference.create(context_);
-    reference.dialog->on_closed = [this, &reference] {
-      reference.dialog.reset();
-      PopUpSoon();
-    };
+void frm_Menu::OpenEditor(std::string_view item) {
+  const MenuEditor* const editor = EditorOf(item, context_.env.identity);
+  if (editor == nullptr) return;
+  std::shared_ptr<Dialog>& place = open_[editor];
+  try {
+    if (place == nullptr) place = editor->create(context_);
+  } catch (...) {
+    if (editor->failure.empty()) throw;
+    TellFailure(context_.platform, editor->failure);
+    return;
   }
-  reference.dialog->Show();
+  Show(place);
+}
+
+void frm_Menu::Show(std::shared_ptr<Dialog>& place) {
+  place->on_closed = [this, &place] {
+    place.reset();
+    PopUpSoon();
+  };
+  place->Show();
 }
 
 void frm_Menu::ChooseLanguage(int code) {
@@ -213,7 +217,8 @@ void frm_Menu::LockKeyboard(bool lock) {
 
 void frm_Menu::ChooseActiveZones() {
   if (context_.MenuParam < 1) {
-    Open(message_);
+    if (fMsg == nullptr) fMsg = std::make_shared<frmMsg>(context_);
+    Show(fMsg);
   } else if (ActGridRequest) {
     ActGridRequest();
   }

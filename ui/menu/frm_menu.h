@@ -1,12 +1,12 @@
 #pragma once
 
-#include <functional>
+#include <map>
 #include <memory>
 #include <string_view>
-#include <vector>
 
 #include "quorvel/widgets.h"
 #include "ui/context.h"
+#include "ui/menu/menu_editors.h"
 
 namespace quorvel {
 
@@ -29,14 +29,6 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   Handler ActGridRequest;
 
  private:
-  /// A dialog that the menu opens, one instance at a time.
-  struct EditorReference {
-    std::string_view name;
-    std::string_view item;  ///< the item that opens it
-    std::function<std::shared_ptr<Dialog>(Context&)> create;
-    std::shared_ptr<Dialog> dialog;
-  };
-
   /// A menu for the present image, in place of the one before.
   void Build();
   [[nodiscard]] Answer Admit();
@@ -49,7 +41,10 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   void SetUpCaptions();
   void SetUpLanguages();
 
-  void Open(EditorReference& reference);
+  /// Opens an item's editor, or brings it to the front when it is open.
+  void OpenEditor(std::string_view item);
+  /// Shows a dialog that the menu keeps in `place` until it closes.
+  void Show(std::shared_ptr<Dialog>& place);
   void ChooseLanguage(int code);
   void LockKeyboard(bool lock);
   void ChooseActiveZones();
@@ -61,8 +56,9 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   std::shared_ptr<PopupMenu> menu_;
   int generation_ = 0;  ///< of the image that the menu is for
   std::unique_ptr<Timer> tmPopup;
-  std::vector<EditorReference> editors_;
-  EditorReference& message_;  ///< fMsg, which no item of its own opens
+  /// What is open, one instance of each editor.
+  std::map<const MenuEditor*, std::shared_ptr<Dialog>> open_;
+  std::shared_ptr<Dialog> fMsg;
   bool unloaded_ = false;
 };
 

@@ -8,6 +8,7 @@ constexpr int kFirmwareOfCurrentProtocol = 503;
 
 frm_Telemetry::frm_Telemetry(Context& context)
     : Editor(context, "frm_Telemetry", txt::kTelemetry, {CommitTelemetry}) {
+  MSFG_Tel.SetSpokenName(Caption());
   const bool current = Id().VariantChar == '2' &&
                        context.ComboArray.Header().Firmware() >= kFirmwareOfCurrentProtocol;
   const auto of_two = [this, current](int first, int second) -> Choices {

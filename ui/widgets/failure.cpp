@@ -43,4 +43,11 @@ void ReportFailure(Platform& platform, std::string_view routine, std::string_vie
   }
 }
 
+void TellFailure(Platform& platform, std::string_view beginning) noexcept {
+  try {
+    platform.Ask({std::string(beginning) + Reason(), kComponentName, Message::Buttons::kOk});
+  } catch (...) {  // as above
+  }
+}
+
 }  // namespace quorvel

@@ -15,4 +15,7 @@ inline constexpr const char* kComponentName = "Quorvel";
 void ReportFailure(Platform& platform, std::string_view routine,
                    std::string_view place = {}) noexcept;
 
+/// The same in other words: `beginning`, and the reason behind it. Throws nothing.
+void TellFailure(Platform& platform, std::string_view beginning) noexcept;
+
 }  // namespace quorvel

@@ -1,0 +1,38 @@
+#include "ui/menu/menu_editors.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ui/setup/alarm/frm_alarm.h"
+#include "ui/setup/frm_camera_setup.h"
+#include "ui/setup/frm_telemetry.h"
+
+namespace quorvel {
+
+namespace {
+
+template <class Editor>
+std::shared_ptr<Dialog> Create(Context& context) {
+  return std::make_shared<Editor>(context);
+}
+
+bool EveryDevice(const Identity& /*device*/) { return true; }
+
+constexpr std::array kEditors = {
+    MenuEditor{"mnu_Alarm", Create<frm_Alarm>, EveryDevice},
+    MenuEditor{"mnu_CSetup", Create<frm_CameraSetup>, EveryDevice},
+    MenuEditor{"mnu_Telemetry", Create<frm_Telemetry>, EveryDevice},
+};
+
+}  // namespace
+
+std::span<const MenuEditor> MenuEditors() { return kEditors; }
+
+const MenuEditor* EditorOf(std::string_view item, const Identity& device) {
+  const auto found = std::find_if(kEditors.begin(), kEditors.end(), [&](const MenuEditor& it) {
+    return it.item == item && it.serves(device);
+  });
+  return found == kEditors.end() ? nullptr : &*found;
+}
+
+}  // namespace quorvel
