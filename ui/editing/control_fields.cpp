@@ -129,9 +129,8 @@ SettingRef ThreeParts(SettingRef high, SettingRef middle, SettingRef low) {
   return Joined(
       {std::move(high), std::move(middle), std::move(low)},
       [](const std::vector<int>& parts) {
-        int value = 0;
-        for (const int part : parts) value = value << kByteBits | (part & kByteMask);
-        return value;
+        return parts.at(0) << 2 * kByteBits | (parts.at(1) & kByteMask) << kByteBits |
+               (parts.at(2) & kByteMask);
       },
       [](int value, std::vector<int>& parts) {
         parts = {value >> 2 * kByteBits, value >> kByteBits & kByteMask, value & kByteMask};

@@ -9,9 +9,13 @@
 namespace quorvel {
 
 LineGrid::LineGrid(const EditorPart& part, Grid& grid, FieldGroup& group, const std::string& name,
-                   GridEditing::Release release)
+                   GridEditing::Release release, Header header)
     : grid_(grid), group_(group), editing_(grid, release) {
   part.editor_.grids_.push_back(this);
+  if (header == Header::kTwoRows) {
+    grid_.SetHeaderRows(2);
+    grid_.SetMergedHeader(true);
+  }
   const int header_rows = grid_.HeaderRows();
   grid_.SetSize(header_rows + group.Lines(), 1);
   for (int row = 0; row < header_rows; ++row) grid_.SetCell(row, 0, name);

@@ -11,10 +11,15 @@ namespace quorvel {
 /// name.
 class LineGrid {
  public:
+  enum class Header {
+    kOneRow,
+    kTwoRows,  ///< equal names, side by side or one below the other, are drawn as one
+  };
   /// `name` heads the column of the numbers. The columns are fields of `group`, which has a line
   /// for each of the grid's.
   LineGrid(const EditorPart& part, Grid& grid, FieldGroup& group, const std::string& name,
-           GridEditing::Release release = GridEditing::Release::kWrites);
+           GridEditing::Release release = GridEditing::Release::kWrites,
+           Header header = Header::kOneRow);
   LineGrid(const LineGrid&) = delete;
   LineGrid& operator=(const LineGrid&) = delete;
   ~LineGrid() = default;
