@@ -1,6 +1,5 @@
 #include "ui/editing/cell_control.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -20,17 +19,14 @@ class List {
   void Show(int value) { ShowIn(choices_, value); }
   /// Shows a value among lines of its own, which the list then offers.
   void ShowIn(const Choices& choices, int value) {
-    std::vector<std::string> texts = choices.Texts();
-    if (list_.Items() != texts) list_.SetItems(std::move(texts));
+    if (!choices.AreTexts(list_.Items())) list_.SetItems(choices.Texts());
     offered_ = &choices == &choices_ ? Choices() : choices;
     list_.Select(choices.LineOf(value));
   }
   [[nodiscard]] int Chosen() const {
     const Choices& offered = offered_.Count() == 0 ? choices_ : offered_;
     // Another column may have given the list its own lines since.
-    return list_.Count() == offered.Count() && list_.Items() == offered.Texts()
-               ? offered.ValueAt(list_.Current())
-               : Choices::kNone;
+    return offered.AreTexts(list_.Items()) ? offered.ValueAt(list_.Current()) : Choices::kNone;
   }
 
  private:
@@ -74,9 +70,7 @@ class ListPairCells : public CellControl {
   ListPairCells(List one, List other) : lists_{std::move(one), std::move(other)} {}
 
   [[nodiscard]] Widget& Control() const override { return lists_[0].Control(); }
-  [[nodiscard]] std::vector<Widget*> Controls() const override {
-    return {&lists_[0].Control(), &lists_[1].Control()};
-  }
+  [[nodiscard]] Widget* OtherControl() const override { return &lists_[1].Control(); }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return At(part).Lines().TextOf(value);
   }
@@ -195,11 +189,6 @@ class HourAndMinuteCells : public CellControl {
 };
 
 }  // namespace
-
-bool CellControl::Is(const Widget& widget) const {
-  const auto controls = Controls();
-  return std::find(controls.begin(), controls.end(), &widget) != controls.end();
-}
 
 std::unique_ptr<CellControl> MakeCellControl(ChoiceWidget& list, Choices choices,
                                              ChoicesOfRow of_row) {

@@ -19,12 +19,13 @@ class CellControl {
   CellControl(const CellControl&) = delete;
   CellControl& operator=(const CellControl&) = delete;
 
-  /// The controls: one, or two that stand at the same value.
-  [[nodiscard]] virtual std::vector<Widget*> Controls() const { return {&Control()}; }
-  /// The first of them.
+  /// The control, and another that stands at the same value, if there is one.
   [[nodiscard]] virtual Widget& Control() const = 0;
-  /// Whether `widget`, which a person has just used, is one of them.
-  [[nodiscard]] bool Is(const Widget& widget) const;
+  [[nodiscard]] virtual Widget* OtherControl() const { return nullptr; }
+  /// Whether `widget` is one of them.
+  [[nodiscard]] bool Is(const Widget& widget) const {
+    return &Control() == &widget || OtherControl() == &widget;
+  }
   /// Cell text of a value; empty for one that reads as nothing.
   [[nodiscard]] virtual std::string TextOf(int part, int value) const = 0;
   /// The first value that a person can choose and whose cell reads so, or kNone.

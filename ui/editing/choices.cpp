@@ -16,65 +16,91 @@ auto FindValue(const Lines& lines, int value) {
 
 }  // namespace
 
+Choices::Choices(std::initializer_list<Line> lines)
+    : data_(std::make_shared<Data>(Data{lines, {}, {}})) {}
+
 Choices::Choices(std::vector<std::string> texts, int first) {
-  lines_.reserve(texts.size());
-  for (std::string& text : texts) lines_.push_back({first++, std::move(text)});
+  std::vector<Line>& lines = Own().lines;
+  lines.reserve(texts.size());
+  for (std::string& text : texts) lines.push_back({first++, std::move(text)});
 }
 
 Choices Choices::Numbers(int first, int last, int first_value, std::size_t digits) {
   return Choices(NumberTexts(first, last, digits), first_value);
 }
 
+Choices::Data& Choices::Own() {
+  if (data_ == nullptr) {
+    data_ = std::make_shared<Data>();
+  } else if (data_.use_count() > 1) {
+    data_ = std::make_shared<Data>(*data_);
+  }
+  return *data_;
+}
+
 Choices& Choices::Add(int value, std::string text) {
-  lines_.push_back({value, std::move(text)});
+  Own().lines.push_back({value, std::move(text)});
   return *this;
 }
 
 Choices& Choices::Add(const Choices& more) {
-  lines_.insert(lines_.end(), more.lines_.begin(), more.lines_.end());
+  if (more.data_ == nullptr) return *this;
+  const auto added = more.data_;  // also where a list adds itself
+  std::vector<Line>& lines = Own().lines;
+  lines.insert(lines.end(), added->lines.begin(), added->lines.end());
   return *this;
 }
 
 Choices& Choices::Reads(int value, std::string text) {
-  readings_.push_back({value, std::move(text)});
+  Own().readings.push_back({value, std::move(text)});
   return *this;
 }
 
 Choices& Choices::OthersRead(std::function<std::string(int)> text) {
-  others_ = std::move(text);
+  Own().others = std::move(text);
   return *this;
 }
 
 std::vector<std::string> Choices::Texts() const {
   std::vector<std::string> texts;
-  texts.reserve(lines_.size());
-  for (const Line& line : lines_) texts.push_back(line.text);
+  if (data_ == nullptr) return texts;
+  texts.reserve(data_->lines.size());
+  for (const Line& line : data_->lines) texts.push_back(line.text);
   return texts;
 }
 
+bool Choices::AreTexts(const std::vector<std::string>& texts) const {
+  if (data_ == nullptr) return texts.empty();
+  return std::equal(texts.begin(), texts.end(), data_->lines.begin(), data_->lines.end(),
+                    [](const std::string& text, const Line& line) { return text == line.text; });
+}
+
 int Choices::ValueAt(int line) const {
-  return line >= 0 && line < Count() ? lines_[static_cast<std::size_t>(line)].value : kNone;
+  return line >= 0 && line < Count() ? data_->lines[static_cast<std::size_t>(line)].value : kNone;
 }
 
 int Choices::LineOf(int value) const {
+  if (Count() == 0) return kNone;
   // Most lists count: the line is found where it would then be.
-  const int expected = lines_.empty() ? kNone : value - lines_.front().value;
+  const std::vector<Line>& lines = data_->lines;
+  const int expected = value - lines.front().value;
   if (expected >= 0 && ValueAt(expected) == value) return expected;
-  const auto found = FindValue(lines_, value);
-  return found == lines_.end() ? kNone : static_cast<int>(found - lines_.begin());
+  const auto found = FindValue(lines, value);
+  return found == lines.end() ? kNone : static_cast<int>(found - lines.begin());
 }
 
 std::string Choices::TextOf(int value) const {
-  if (value == kNone) return {};
-  const auto reading = FindValue(readings_, value);
-  if (reading != readings_.end()) return reading->text;
+  if (value == kNone || data_ == nullptr) return {};
+  const auto reading = FindValue(data_->readings, value);
+  if (reading != data_->readings.end()) return reading->text;
   const int line = LineOf(value);
-  if (line != kNone) return lines_[static_cast<std::size_t>(line)].text;
-  return others_ ? others_(value) : std::string();
+  if (line != kNone) return data_->lines[static_cast<std::size_t>(line)].text;
+  return data_->others ? data_->others(value) : std::string();
 }
 
 int Choices::ValueOf(std::string_view text) const {
-  for (const Line& line : lines_) {
+  if (data_ == nullptr) return kNone;
+  for (const Line& line : data_->lines) {
     if (TextOf(line.value) == text) return line.value;
   }
   return kNone;

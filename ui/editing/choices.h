@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -22,7 +23,7 @@ class Choices {
   };
 
   Choices() = default;
-  Choices(std::initializer_list<Line> lines) : lines_(lines) {}
+  Choices(std::initializer_list<Line> lines);
   /// Texts that stand for the values from `first` on.
   explicit Choices(std::vector<std::string> texts, int first = 0);
   /// The numbers `first` to `last`; the first of them stands for `first_value`, the next for one
@@ -40,9 +41,10 @@ class Choices {
   /// read as nothing.
   Choices& OthersRead(std::function<std::string(int value)> text);
 
-  [[nodiscard]] int Count() const { return static_cast<int>(lines_.size()); }
+  [[nodiscard]] int Count() const { return data_ ? static_cast<int>(data_->lines.size()) : 0; }
   /// The texts of the lines, as a list shows them.
   [[nodiscard]] std::vector<std::string> Texts() const;
+  [[nodiscard]] bool AreTexts(const std::vector<std::string>& texts) const;
   /// The value of a line, 0-based, or kNone.
   [[nodiscard]] int ValueAt(int line) const;
   /// The first line of a value, or kNone.
@@ -54,9 +56,15 @@ class Choices {
   [[nodiscard]] int ValueOf(std::string_view text) const;
 
  private:
-  std::vector<Line> lines_;
-  std::vector<Line> readings_;
-  std::function<std::string(int)> others_;
+  struct Data {
+    std::vector<Line> lines;
+    std::vector<Line> readings;
+    std::function<std::string(int)> others;
+  };
+  /// For a change: copies share their lines until one of them changes.
+  [[nodiscard]] Data& Own();
+
+  std::shared_ptr<Data> data_;  ///< none without lines
 };
 
 }  // namespace quorvel

@@ -59,6 +59,7 @@ void ValueField::Fill(MuxData& record, int line) {
   int value = setting_.Access().Get(record, line);
   if (!Offers(value)) value = setting_.ShownFor(value);
   const auto place = static_cast<std::size_t>(line);
+  if (opened_.capacity() == 0) opened_.reserve(kMostCameras);
   if (opened_.size() <= place) opened_.resize(place + 1, kNone);
   opened_[place] = value;
   Show(line, value);

@@ -30,6 +30,11 @@ int GridEditing::Binding::PartOf(int column) const {
 std::function<void(const Widget&)> GridEditing::Add(std::unique_ptr<CellControl> control,
                                                     std::vector<int> columns, ColumnRules rules) {
   bindings_.push_back({std::move(control), std::move(columns), std::move(rules)});
+  for (const int column : bindings_.back().columns) {
+    const auto place = static_cast<std::size_t>(column);
+    if (by_column_.size() <= place) by_column_.resize(place + 1, nullptr);
+    if (by_column_[place] == nullptr) by_column_[place] = &bindings_.back();
+  }
   return [this](const Widget& widget) { WriteChoice(widget); };
 }
 
@@ -76,10 +81,8 @@ void GridEditing::BindPair(int column, ChoiceWidget& list, Choices choices, int 
 }
 
 const GridEditing::Binding* GridEditing::BindingOf(int column) const {
-  const auto found = std::find_if(bindings_.begin(), bindings_.end(), [column](const Binding& it) {
-    return it.PartOf(column) != kNoPart;
-  });
-  return found == bindings_.end() ? nullptr : &*found;
+  const auto place = static_cast<std::size_t>(column);
+  return place < by_column_.size() ? by_column_[place] : nullptr;
 }
 
 bool GridEditing::Offers(int column, int value) const {
@@ -98,7 +101,9 @@ std::string GridEditing::TextOf(int column, int value) const {
 }
 
 void GridEditing::SetValue(int row, int column, int value) {
-  if (BindingOf(column) != nullptr) grid_.SetCell(row, column, TextOf(column, value), value);
+  const Binding* const binding = BindingOf(column);
+  if (binding == nullptr) return;
+  grid_.SetCell(row, column, binding->control->TextOf(binding->PartOf(column), value), value);
 }
 
 void GridEditing::GoTo(int row, int column) {
@@ -131,20 +136,20 @@ bool GridEditing::WritesNow(const Binding& binding, int column) {
 
 /// A control may serve several columns; it is marked while one of them is current.
 void GridEditing::MarkControls() {
+  for (const Binding& binding : bindings_) {
+    Mark(binding.control->Control());
+    if (Widget* const other = binding.control->OtherControl()) Mark(*other);
+  }
+}
+
+void GridEditing::Mark(Widget& control) {
   const int column = grid_.Column();
-  std::map<Widget*, std::string> editing;
-  for (const Binding& binding : bindings_) {
-    if (!WritesNow(binding, column)) continue;
-    const bool on_it = binding.PartOf(column) != kNoPart;
-    const std::string name = grid_.ColumnName(on_it ? column : binding.columns.front());
-    for (Widget* const control : binding.control->Controls()) editing[control] = name;
-  }
-  for (const Binding& binding : bindings_) {
-    for (Widget* const control : binding.control->Controls()) {
-      const auto found = editing.find(control);
-      control->SetEditsCell(found != editing.end(), found == editing.end() ? "" : found->second);
-    }
-  }
+  const auto edits = std::find_if(bindings_.begin(), bindings_.end(), [&](const Binding& it) {
+    return WritesNow(it, column) && it.control->Is(control);
+  });
+  if (edits == bindings_.end()) return control.SetEditsCell(false, {});
+  const bool on_it = edits->PartOf(column) != kNoPart;
+  control.SetEditsCell(true, grid_.ColumnName(on_it ? column : edits->columns.front()));
 }
 
 void GridEditing::WriteChoice(const Widget& control) {

@@ -107,6 +107,7 @@ class GridEditing {
   [[nodiscard]] static bool WritesNow(const Binding& binding, int column);
   void Show(const Binding& binding, int row, std::vector<int> values);
   void MarkControls();
+  void Mark(Widget& control);
   void WriteChoice(const Widget& control);
   void TakeBack(const Widget& control);
   void WriteSelectedRows(const Binding& binding);
@@ -127,6 +128,7 @@ class GridEditing {
   Grid& grid_;
   Empties empties_ = Empties::kCells;
   std::deque<Binding> bindings_;  // stay where they are
+  std::vector<const Binding*> by_column_;
   std::map<const Widget*, Shown> shown_;
 };
 

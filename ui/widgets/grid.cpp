@@ -1,7 +1,6 @@
 #include "quorvel/widgets/grid.h"
 
 #include <algorithm>
-#include <iterator>
 #include <stdexcept>
 
 namespace quorvel {
@@ -13,8 +12,8 @@ std::size_t Grid::Place(int row, int column) const {
     throw std::out_of_range(Name() + " has no cell " + std::to_string(row) + ", " +
                             std::to_string(column));
   }
-  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
-         static_cast<std::size_t>(column);
+  return static_cast<std::size_t>(column) * static_cast<std::size_t>(rows_) +
+         static_cast<std::size_t>(row);
 }
 
 bool Grid::IsCell(int row, int column) const {
@@ -59,17 +58,9 @@ void Grid::SetSize(int rows, int columns) {
 
 int Grid::AddColumns(int count) {
   const int first = columns_;
-  const int columns = columns_ + std::max(count, 0);
-  std::vector<CellValue> cells;
-  cells.reserve(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns));
-  for (auto row = cells_.begin(); row != cells_.end(); row += columns_) {
-    cells.insert(cells.end(), std::make_move_iterator(row),
-                 std::make_move_iterator(row + columns_));
-    cells.resize(cells.size() + static_cast<std::size_t>(columns - columns_));
-  }
-  cells_ = std::move(cells);
-  columns_ = columns;
-  least_widths_.resize(static_cast<std::size_t>(columns));
+  columns_ += std::max(count, 0);
+  cells_.resize(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns_));
+  least_widths_.resize(static_cast<std::size_t>(columns_));
   Redraw(Aspect::kContent);
   return first;
 }

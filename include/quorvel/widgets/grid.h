@@ -123,7 +123,7 @@ class Grid : public Widget {
   bool merged_header_ = false;
   Align align_ = Align::kLeft;
   Range range_ = Range::kRows;
-  std::vector<CellValue> cells_{1};
+  std::vector<CellValue> cells_{1};  ///< column by column, so that one is easily added
   std::vector<int> least_widths_{0};
 };
 
