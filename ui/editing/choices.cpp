@@ -26,7 +26,13 @@ Choices::Choices(std::vector<std::string> texts, int first) {
 }
 
 Choices Choices::Numbers(int first, int last, int first_value, std::size_t digits) {
-  return Choices(NumberTexts(first, last, digits), first_value);
+  Choices numbers;
+  std::vector<Line>& lines = numbers.Own().lines;
+  lines.reserve(static_cast<std::size_t>(std::max(last - first + 1, 0)));
+  for (int number = first; number <= last; ++number) {
+    lines.push_back({first_value++, NumberText(number, digits)});
+  }
+  return numbers;
 }
 
 Choices::Data& Choices::Own() {

@@ -12,13 +12,6 @@ std::string NumberText(int number, std::size_t digits) {
   return text;
 }
 
-std::vector<std::string> NumberTexts(int first, int last, std::size_t digits) {
-  std::vector<std::string> texts;
-  texts.reserve(static_cast<std::size_t>(std::max(last - first + 1, 0)));
-  for (int number = first; number <= last; ++number) texts.push_back(NumberText(number, digits));
-  return texts;
-}
-
 std::optional<int> ReadNumber(std::string_view text) {
   const bool digits =
       std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
