@@ -3,7 +3,6 @@
 #include <array>
 #include <cstdio>
 
-#include "core/change_marks.h"
 #include "resources/icon.h"
 #include "resources/text_table.h"
 
@@ -19,7 +18,8 @@ std::string ThreeDigits(int number) {
 
 }  // namespace
 
-frm_ToMux::frm_ToMux(Context& context) : Dialog(context.platform, "frm_ToMux"), context_(context) {
+frm_ToMux::frm_ToMux(const Context& context)
+    : Dialog(context.platform, "frm_ToMux"), context_(context) {
   KeepAliveWith(context.life);
   upload_block_text_ = context.GetText(txt::kUploadBlockNumber);
   abort_text_ = context.GetText(txt::kAbort);
@@ -105,15 +105,14 @@ void frm_ToMux::EnableStart() {
 }
 
 void frm_ToMux::Start() {
-  context_.IncludeMacros = chkMacro(kMacros).Checked();
-  context_.IncludeData = chkMacro(kData).Checked();
-  if (context_.IncludeData) {
-    if (!AllBlocks()) lstBlkSav.Select(0);
-    optBlk(AllBlocks() ? kModified : kAll).SetEnabled(false);
+  const SendChoice choice{chkMacro(kMacros).Checked(), chkMacro(kData).Checked(), AllBlocks()};
+  if (choice.IncludeData) {
+    if (!choice.all_blocks) lstBlkSav.Select(0);
+    optBlk(choice.all_blocks ? kModified : kAll).SetEnabled(false);
   }
   StatusBar1.SetPanel(kStatus, upload_block_text_);
   cmdOK.SetEnabled(false);
-  if (StartDL) StartDL();
+  if (StartDL) StartDL(choice);
 }
 
 void frm_ToMux::Stop() {
@@ -127,8 +126,7 @@ void frm_ToMux::Stop() {
 void frm_ToMux::ClearBlocks() {
   StatusBar1.SetPanel(kStatus, delete_text_);
   StatusBar1.SetPanel(kBlock, {});
-  context_.env.blocks.BlkSavIdx(0);
-  ClearChangeMarks(context_.BlkImage, context_.ComboArray, context_.env, context_.Record());
+  if (ClearBlk) ClearBlk();
   lstBlkSav.SetItems({});
   ChooseAll();
   cmdClearBlk.SetVisible(false);

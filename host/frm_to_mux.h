@@ -1,23 +1,26 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
+#include "host/send_choice.h"
 #include "quorvel/widgets.h"
 #include "ui/context.h"
 
 namespace quorvel {
 
-/// The send dialog: what to send, START and STOP, and how far it has come.
+/// The send dialog: what to send, START and STOP, and how far it has come. It changes nothing of
+/// the control: the send that listens to it does.
 class frm_ToMux : public Dialog {
  public:
-  explicit frm_ToMux(Context& context);
+  explicit frm_ToMux(const Context& context);
 
-  [[nodiscard]] bool AllBlocks() const { return optBlk(kAll).Selected(); }
-
-  /// START was pressed; IncludeMacros and IncludeData of the context are set.
-  Handler StartDL;
+  /// START was pressed.
+  std::function<void(const SendChoice&)> StartDL;
   /// STOP was pressed, or the dialog has been closed.
   Handler StopDL;
+  /// "Clear Blocks" was pressed: the list of modified blocks is to be emptied.
+  Handler ClearBlk;
 
   /// A block-by-block send has begun.
   void ShowSending();
@@ -31,9 +34,10 @@ class frm_ToMux : public Dialog {
   void ShowClearBlocks() { cmdClearBlk.SetVisible(true); }
 
  private:
-  enum Choice { kMacros = 0, kData = 1, kAll = 0, kModified = 1 };
+  enum Entry { kMacros = 0, kData = 1, kAll = 0, kModified = 1 };
   enum Panel { kStatus = 1, kBlock = 2, kResult = 3 };
 
+  [[nodiscard]] bool AllBlocks() const { return optBlk(kAll).Selected(); }
   void ArrangeControls();
   void BindHandlers();
   void ChooseAll();
@@ -47,7 +51,7 @@ class frm_ToMux : public Dialog {
   /// Makes a button the one that Return presses where the focus is on no other.
   void Recommend(Button& button);
 
-  Context& context_;
+  const Context& context_;
   // Texts may be the host's, who may do anything while it is asked for one: not during a send.
   std::string upload_block_text_;
   std::string abort_text_;

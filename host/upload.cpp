@@ -29,7 +29,7 @@ Upload::Upload(Context& context, HostEvents& host) : context_(context), host_(ho
     context_.Guard("patience", [this] {
       patience_->Stop();
       outstanding_ = false;
-      if (start_waits_) Timer1->Start();
+      if (state_ == State::kWaiting) Timer1->Start();
     });
   });
   patience_->SetInterval(kPatience);
@@ -67,14 +67,15 @@ void Upload::Send() {
   if (context_.terminated || frmDL != nullptr) return;
   basis_ = basis;
   const std::weak_ptr<frm_ToMux> weak = dialog;
-  dialog->StartDL = [this, weak] {
+  dialog->StartDL = [this, weak](const SendChoice& choice) {
     const auto started = weak.lock();
     if (started == nullptr || started != frmDL) return;
-    context_.Guard("StartDL", [&] { StartDL(started); });
+    context_.Guard("StartDL", [&] { StartDL(started, choice); });
   };
   dialog->StopDL = [this, weak] {
     if (weak.lock() == frmDL) StopDL();
   };
+  dialog->ClearBlk = [this] { ClearBlocks(); };
   frmDL = dialog;
   dialog->ShowModal();
 }
@@ -95,34 +96,33 @@ bool Upload::BasisHolds() {
   return false;
 }
 
-void Upload::StartDL(const std::shared_ptr<frm_ToMux>& dialog) {
+void Upload::StartDL(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice) {
   if (!BasisHolds()) return;
   if (context_.ComboMode) {
-    StartCombined(dialog);
+    StartCombined(dialog, choice);
   } else {
-    StartBlocks(*dialog);
+    StartBlocks(*dialog, choice);
   }
 }
 
-void Upload::StartCombined(const std::shared_ptr<frm_ToMux>& dialog) {
-  const bool listed_only = context_.IncludeData && !dialog->AllBlocks();
+void Upload::StartCombined(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice) {
+  const bool listed_only = choice.IncludeData && !choice.all_blocks;
   ProvideComboArray(context_);
   if (listed_only) {
     PutListedBlocks();
     dialog->ShowClearBlocks();
     // The device keeps its macros: it is given the listed blocks alone.
-    if (!context_.IncludeMacros) return StartBlocks(*dialog);
-  } else if (context_.IncludeData) {
+    if (!choice.IncludeMacros) return StartBlocks(*dialog, choice);
+  } else if (choice.IncludeData) {
     FixUpForCombinedSend(context_.BlkImage, context_.env, context_.Record(), context_.UsePcTime);
     context_.ComboArray.PutImage(context_.BlkImage);
   }
-  if (context_.IncludeMacros && !MacrosFit()) return;
+  if (choice.IncludeMacros && !MacrosFit()) return;
   if (dialog != frmDL || !BasisHolds()) return;  // while the user was asked
   // What is sent is a copy: the lengths of what is left out are 0 in it, and the host may write
   // into it.
-  std::vector<Byte> array =
-      context_.ComboArray.Outgoing(context_.IncludeData, context_.IncludeMacros);
-  const auto included = IncludedBlocks(dialog->AllBlocks());
+  std::vector<Byte> array = context_.ComboArray.Outgoing(choice.IncludeData, choice.IncludeMacros);
+  const auto included = IncludedBlocks(choice);
   host_->SendComboBlocks(array);
   for (const HandedOver& block : included) NoteTaken(block);
   dialog->ShowFinished();
@@ -130,12 +130,10 @@ void Upload::StartCombined(const std::shared_ptr<frm_ToMux>& dialog) {
 
 /// The blocks that a combined send brings up to date. There is no acknowledgement: what was sent
 /// counts as taken.
-std::vector<Upload::HandedOver> Upload::IncludedBlocks(bool all) const {
-  if (!context_.IncludeData) return {};
-  const auto plan = all ? PlanAllBlocks(context_.BlkImage, true)
-                        : PlanListedBlocks(context_.env.blocks, context_.BlkImage, true);
+std::vector<Upload::HandedOver> Upload::IncludedBlocks(const SendChoice& choice) const {
+  if (!choice.IncludeData) return {};
   std::vector<HandedOver> blocks;
-  for (const Byte number : plan) blocks.push_back(HandOver(number));
+  for (const Byte number : Plan(choice.all_blocks, true)) blocks.push_back(HandOver(number));
   return blocks;
 }
 
@@ -166,34 +164,46 @@ bool Upload::MacrosFit() {
                                 context_.GetText(txt::kMessage), Message::Buttons::kOkCancel});
 }
 
-void Upload::StartBlocks(frm_ToMux& dialog) {
-  plan_ = dialog.AllBlocks()
-              ? PlanAllBlocks(context_.BlkImage, context_.IncludeMacros)
-              : PlanListedBlocks(context_.env.blocks, context_.BlkImage, context_.IncludeMacros);
+std::vector<Byte> Upload::Plan(bool all_blocks, bool macros) const {
+  return all_blocks ? PlanAllBlocks(context_.BlkImage, macros)
+                    : PlanListedBlocks(context_.env.blocks, context_.BlkImage, macros);
+}
+
+void Upload::StartBlocks(frm_ToMux& dialog, const SendChoice& choice) {
+  plan_ = Plan(choice.all_blocks, choice.IncludeMacros);
   next_ = 0;
   if (plan_.empty()) dialog.ShowFinished();
   dialog.ShowSending();
-  Timer1->SetInterval(kSendingInterval);
-  start_waits_ = outstanding_;
-  if (!start_waits_) Timer1->Start();
+  Enter(outstanding_ ? State::kWaiting : State::kRunning);
+  if (state_ == State::kRunning) Timer1->Start();
+}
+
+void Upload::Enter(State state) {
+  state_ = state;
+  Timer1->SetInterval(state == State::kEnded ? kEndedInterval : kSendingInterval);
 }
 
 void Upload::StopDL() {
-  start_waits_ = false;
-  Timer1->SetInterval(kEndedInterval);
+  Enter(State::kEnded);
   Timer1->Stop();
+}
+
+/// The list goes, and with it the marks that tell the device what changed.
+void Upload::ClearBlocks() {
+  context_.env.blocks.BlkSavIdx(0);
+  ClearChangeMarks(context_.BlkImage, context_.ComboArray, context_.env, context_.Record());
 }
 
 void Upload::TriggerTimer() {
   outstanding_ = false;
   patience_->Stop();
   if (const auto block = std::exchange(unacknowledged_, std::nullopt)) NoteTaken(*block);
-  if (Timer1->Interval() != kEndedInterval) Timer1->Start();
+  if (state_ == State::kWaiting || state_ == State::kRunning) Timer1->Start();
 }
 
 void Upload::Tick() {
   Timer1->Stop();
-  start_waits_ = false;
+  state_ = State::kRunning;
   if (frmDL == nullptr || !BasisHolds()) return;
   if (next_ == plan_.size()) {
     SendEndPacket();

@@ -9,6 +9,7 @@
 
 #include "host/frm_to_mux.h"
 #include "host/host_events.h"
+#include "host/send_choice.h"
 #include "ui/context.h"
 
 namespace quorvel {
@@ -34,6 +35,13 @@ class Upload {
  private:
   static constexpr std::size_t kPacketSize = 18;
 
+  enum class State {
+    kIdle,     ///< no block-by-block send yet
+    kWaiting,  ///< START was pressed while a packet of the send before is on its way
+    kRunning,  ///< each tick sends a block of the plan, the last one the end packet
+    kEnded,    ///< the end packet was sent, or the user stopped the send
+  };
+
   /// What a send rests on: the image, and what it was compared with when command 11 was given.
   struct Basis {
     int generation;
@@ -56,15 +64,19 @@ class Upload {
   [[nodiscard]] bool FamilyFits() const;
   void RefuseData();
   [[nodiscard]] bool BasisHolds();
-  void StartDL(const std::shared_ptr<frm_ToMux>& dialog);
+  /// Goes to a state. Timer1 has the interval of it.
+  void Enter(State state);
+  void StartDL(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice);
   void StopDL();
-  void StartCombined(const std::shared_ptr<frm_ToMux>& dialog);
+  void ClearBlocks();
+  void StartCombined(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice);
   void PutListedBlocks();
-  [[nodiscard]] std::vector<HandedOver> IncludedBlocks(bool all) const;
+  [[nodiscard]] std::vector<HandedOver> IncludedBlocks(const SendChoice& choice) const;
   [[nodiscard]] HandedOver HandOver(int number) const;
   void NoteTaken(const HandedOver& block);
   [[nodiscard]] bool MacrosFit();
-  void StartBlocks(frm_ToMux& dialog);
+  [[nodiscard]] std::vector<Byte> Plan(bool all_blocks, bool macros) const;
+  void StartBlocks(frm_ToMux& dialog, const SendChoice& choice);
   void Tick();
   void SendEndPacket();
   void SendPacket(std::array<Byte, kPacketSize>& packet);
@@ -72,13 +84,12 @@ class Upload {
   Context& context_;
   HostEvents& host_;
   std::shared_ptr<frm_ToMux> frmDL;
-  /// Its interval is also the state of the send: 0 before any, 50 ms running, 500 ms ended.
+  State state_ = State::kIdle;
   std::unique_ptr<Timer> Timer1;
   /// Ends the wait for the acknowledgement of a packet that the user has stopped.
   std::unique_ptr<Timer> patience_;
   bool outstanding_ = false;                  ///< a packet has not been acknowledged
   std::optional<HandedOver> unacknowledged_;  ///< its block, also when it was given up
-  bool start_waits_ = false;                  ///< START was pressed meanwhile
   Basis basis_{};                             ///< of the dialog
   std::vector<Byte> plan_;
   std::size_t next_ = 0;  ///< place in the plan; at its end, the end packet follows
