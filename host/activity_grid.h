@@ -3,7 +3,7 @@
 #include <array>
 #include <span>
 
-#include "ui/context.h"
+#include "core/device_state.h"
 
 namespace quorvel {
 
@@ -13,10 +13,10 @@ using ActivityGridBytes = std::array<Byte, 32>;
 
 /// Fills `grid` with the grid of `camera`; false, and no change, for a camera that the device
 /// lacks.
-bool ReadActivityGrid(Context& context, int camera, ActivityGridBytes& grid);
+bool ReadActivityGrid(DeviceState& device, int camera, ActivityGridBytes& grid);
 
 /// Stores an edited grid, [0] camera and 32 bytes, and lists the blocks of the bytes that differ.
 /// Data that is too short, or names a camera that the device lacks, changes nothing.
-void UpdateActivityGrid(Context& context, std::span<const Byte> data);
+void UpdateActivityGrid(DeviceState& device, std::span<const Byte> data);
 
 }  // namespace quorvel

@@ -23,9 +23,9 @@ CombinedArray BuildComboArray(const ComboSizes& sizes, const BlockImage& image) 
   return CombinedArray::Build(header, image);
 }
 
-void ProvideComboArray(Context& context) {
-  if (context.ComboArray.Carries(context.BlkImage)) return;
-  context.ComboArray = BuildComboArray(context.combo_sizes, context.BlkImage);
+void ProvideComboArray(DeviceState& device, const ComboSizes& sizes) {
+  if (device.ComboArray.Carries(device.BlkImage)) return;
+  device.ComboArray = BuildComboArray(sizes, device.BlkImage);
 }
 
 }  // namespace quorvel

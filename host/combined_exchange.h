@@ -1,7 +1,8 @@
 #pragma once
 
 #include "core/combined_array.h"
-#include "ui/context.h"
+#include "core/device_state.h"
+#include "ui/combo_sizes.h"
 
 namespace quorvel {
 
@@ -11,6 +12,6 @@ namespace quorvel {
 
 /// Sees to it that ComboArray can carry the image, so that the next send or save does: factory
 /// defaults, or an image of another exchange, have no array of their own.
-void ProvideComboArray(Context& context);
+void ProvideComboArray(DeviceState& device, const ComboSizes& sizes);
 
 }  // namespace quorvel

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "core/byte_order.h"
+#include "core/codec.h"
 #include "core/survey.h"
 #include "host/model_catalogue.h"
 #include "host/settings_file.h"
@@ -25,7 +26,7 @@ Value Property(const PropertyBag& bag, std::string_view name, Value otherwise) {
 
 std::shared_ptr<Component> Component::Create(Platform& platform, MainMenuEvents& host) {
   auto component = std::make_shared<Component>(platform, host);
-  component->context.life = component;
+  component->context.edges.life = component;
   return component;
 }
 
@@ -38,9 +39,9 @@ Component::Component(Platform& platform, MainMenuEvents& host)
 
 void Component::InitProperties() {
   surface.SetFont(context.platform.AmbientFont());
-  static_cast<void>(context.Record());
+  static_cast<void>(context.device.Record());
   surface.SetExtent(context.platform.MeasureText(surface.LabelFont(), surface.Label1()));
-  context.HostCommId = 0;
+  context.host.HostCommId = 0;
   properties_changed = true;
 }
 
@@ -48,19 +49,19 @@ void Component::ReadProperties(const PropertyBag& bag) {
   surface.SetEnabled(Property(bag, "Enabled", true));
   surface.SetFont(Property(bag, "Font", context.platform.AmbientFont()));
   surface.SetExtent(context.platform.MeasureText(surface.LabelFont(), surface.Label1()));
-  context.HostCommId = Property(bag, "HostCommId", Byte{0});
+  context.host.HostCommId = Property(bag, "HostCommId", Byte{0});
   properties_changed = false;
 }
 
 void Component::WriteProperties(PropertyBag& bag) {
   bag.Write("Enabled", surface.Enabled());
   bag.Write("Font", surface.LabelFont());
-  bag.Write("HostCommId", context.HostCommId);
+  bag.Write("HostCommId", context.host.HostCommId);
   properties_changed = false;
 }
 
 void Component::Terminate() {
-  context.terminated = true;
+  context.edges.terminated = true;
   host_.Detach();
   upload_.CloseDialog();
   download_.CloseDialog();
@@ -72,14 +73,15 @@ void Component::Custom(std::int16_t command, std::int32_t param1, std::int32_t p
     case 10: return download_.Receive();
     case 11: return upload_.Send();
     case 12:
-      return context.Guard("RestoreImageFromFile", [this] { download_.RestoreImageFromFile(); });
-    case 14: return context.Guard("SaveImageToFile", [this] { SaveImageToFile(context); });
+      return context.edges.Guard("RestoreImageFromFile",
+                                 [this] { download_.RestoreImageFromFile(); });
+    case 14: return context.edges.Guard("SaveImageToFile", [this] { SaveImageToFile(context); });
     case 15: return OpenMenu(static_cast<std::int16_t>(param1));
     case 16: return download_.BuildDefaults();
     case 17: return SendActivityGrid(param1);
     case 18:
-      context.HostType = static_cast<std::int16_t>(param1);
-      context.HostIsDvr = static_cast<Byte>(param2);
+      context.host.HostType = static_cast<std::int16_t>(param1);
+      context.host.HostIsDvr = static_cast<Byte>(param2);
       return;
     default: return;
   }
@@ -92,47 +94,48 @@ void Component::CustomWithString(std::int16_t command, std::string_view text) {
 }
 
 void Component::OpenMenu(std::int16_t link) {
-  context.MenuParam = link;
-  context.MenuHostCommId = context.HostCommId;
+  context.host.MenuParam = link;
+  context.host.MenuHostCommId = context.host.HostCommId;
   if (frmMPop != nullptr) frmMPop->Unload();
   // Loading asks the host for texts, which may open another menu.
   const auto menu = std::make_shared<frm_Menu>(context);
   frmMPop = menu;
-  menu->ActGridRequest = [this] { host_->ActGridPop(context.env.identity.MaxCam); };
+  menu->ActGridRequest = [this] { host_->ActGridPop(context.device.env.identity.MaxCam); };
   menu->Load();
 }
 
 void Component::SendActivityGrid(int camera) {
-  if (ReadActivityGrid(context, camera, ActGridBuf)) host_->ActGridData(ActGridBuf);
+  if (ReadActivityGrid(context.device, camera, ActGridBuf)) host_->ActGridData(ActGridBuf);
 }
 
 void Component::FillComboInfo(std::span<const Byte> data) {
   constexpr std::size_t kSizesLength = 7;
   if (data.size() < kSizesLength) return;
-  context.combo_sizes = {FromDeviceOrder(data.subspan<0, 2>()), data[2],
-                         FromDeviceOrder(data.subspan<3, 2>()), data[5], data[6]};
-  context.ComboMode = true;
+  context.host.combo_sizes = {FromDeviceOrder(data.subspan<0, 2>()), data[2],
+                              FromDeviceOrder(data.subspan<3, 2>()), data[5], data[6]};
+  context.host.ComboMode = true;
 }
 
 /// On copies: what is sent is made ready when it is sent.
 std::vector<Byte> Component::EditedImage() {
-  BlockImage image = context.BlkImage;
-  RecordEnvironment env = context.env;
+  BlockImage image = context.device.BlkImage;
+  RecordEnvironment env = context.device.env;
   MuxData record(env);
-  record = context.Record();
+  record = context.device.Record();
   EncodeModifiedBlocks(image, env, record);
   const auto bytes = image.Bytes();
   return {bytes.begin(), bytes.end()};
 }
 
 std::vector<SettingLine> Component::Settings(std::string_view pattern) {
-  if (!context.HasImage()) return {};
-  return ListSettings(context.Record(), context.env.identity, context.BlkImage.BlkCount(), pattern);
+  if (!context.device.HasImage()) return {};
+  return ListSettings(context.device.Record(), context.device.env.identity,
+                      context.device.BlkImage.BlkCount(), pattern);
 }
 
 std::optional<std::vector<SettingDifference>> Component::DifferencesFrom(
     std::span<const Byte> image) {
-  if (!context.HasImage()) return std::nullopt;
+  if (!context.device.HasImage()) return std::nullopt;
   BlockImage other({image.begin(), image.end()});
   RecordEnvironment other_env;
   MuxData other_record(other_env);
@@ -142,7 +145,7 @@ std::optional<std::vector<SettingDifference>> Component::DifferencesFrom(
     return std::nullopt;
   }
   return CompareConfigurations(
-      {context.Record(), context.env.identity, context.BlkImage.BlkCount()},
+      {context.device.Record(), context.device.env.identity, context.device.BlkImage.BlkCount()},
       {other_record, other_env.identity, other.BlkCount()});
 }
 

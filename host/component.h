@@ -29,7 +29,7 @@ class Component : public std::enable_shared_from_this<Component> {
   /// Runs a call of the host as an edge, and keeps the component alive meanwhile.
   template <class Body>
   void Call(std::string_view routine, Body&& body) {
-    context.Guard(routine, body);
+    context.edges.Guard(routine, body);
   }
 
   void InitProperties();

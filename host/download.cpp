@@ -8,6 +8,7 @@
 #include "host/settings_file.h"
 #include "resources/default_images.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
@@ -30,6 +31,8 @@ int Download::BeginAnew() {
   return round;
 }
 
+bool Download::GoesOn(int round) const { return round == round_ && !context_.edges.terminated; }
+
 /// Texts may be the host's, who may do anything while it is asked for one: not between a look at
 /// the state and what follows from it.
 void Download::FetchTexts() {
@@ -47,14 +50,14 @@ void Download::Receive() {
   if (!GoesOn(round)) return;
   // A host may answer from inside its event handler, before there is a dialog. The dialog then
   // opens on what has been reached.
-  if (context_.ComboMode) {
+  if (context_.host.ComboMode) {
     expecting_ = Expecting::kComboArray;
     awaited_ = 1;
     host_->RequestComboBlocks();
   } else {
     Request(Expecting::kBlock, 1);
   }
-  if (context_.HostCommId == 0) OpenDialog(round, false);
+  if (context_.host.HostCommId == 0) OpenDialog(round, false);
 }
 
 void Download::Request(Expecting expecting, int number) {
@@ -73,7 +76,9 @@ void Download::OpenDialog(int round, bool restored) {
     // comes yet.
     if (ExpectsDevice()) expecting_ = Expecting::kNothing;
   };
-  dialog->SaveFile = [this] { context_.Guard("SaveReceivedData", [this] { SaveReceivedData(); }); };
+  dialog->SaveFile = [this] {
+    context_.edges.Guard("SaveReceivedData", [this] { SaveReceivedData(); });
+  };
   frmUL = dialog;
   ShowProgress();
   dialog->ShowModal();
@@ -97,7 +102,7 @@ void Download::TakeReply(std::span<const Byte> data) {
     case Expecting::kDefaultsIdentity: return TakeIdentity(data);
     default: break;
   }
-  if (context_.HostCommId != 0) {
+  if (context_.host.HostCommId != 0) {
     TakeWholeImage(data);
   } else if (ExpectsDevice()) {
     TakeBlock(data);
@@ -136,7 +141,7 @@ bool Download::ExpectsDevice() const {
 /// A reply that comes late, or twice, must not undo what was edited since. While nothing is edited,
 /// a host may hand over a configuration without having been asked.
 bool Download::MayTakeUnasked() const {
-  return expecting_ == Expecting::kNothing && context_.env.blocks.BlkSavIdx() == 0;
+  return expecting_ == Expecting::kNothing && context_.device.env.blocks.BlkSavIdx() == 0;
 }
 
 void Download::TakeWholeImage(std::span<const Byte> data) {
@@ -145,14 +150,14 @@ void Download::TakeWholeImage(std::span<const Byte> data) {
   BlockImage image({bytes.begin(), bytes.end()});
   if (image.BlkCount() == 0) throw ImageError("the configuration counts no blocks");
   Adopt(std::move(image), ImageSource::kDevice);
-  context_.ImageByteCount = static_cast<std::int32_t>(bytes.size());
+  context_.device.ImageByteCount = static_cast<std::int32_t>(bytes.size());
   TellArrival();
 }
 
 void Download::TakeComboArray(std::span<const Byte> data) {
   FetchTexts();
   if (!ExpectsDevice() && !MayTakeUnasked()) return;
-  auto array = CombinedArray::Parse(data, context_.ComboArray.Header());
+  auto array = CombinedArray::Parse(data, context_.device.ComboArray.Header());
   const std::int32_t length = array.Header().TotalLength();
   std::string flaw;
   if (array.HoldsImage()) {
@@ -162,24 +167,24 @@ void Download::TakeComboArray(std::span<const Byte> data) {
     Adopt(std::move(image), ImageSource::kDevice, std::move(array));
     received_combined_ = true;
   } else {
-    if (!context_.HasImage()) array.RequireImage();  // there is none to fall back on
+    if (!context_.device.HasImage()) array.RequireImage();  // there is none to fall back on
     // The present image stays, and what was edited in it; what came can be saved.
     flaw = not_used_text_;
     unusable_.emplace(data.begin(), data.end());
     expecting_ = Expecting::kNothing;
   }
-  context_.ComboMode = true;
+  context_.host.ComboMode = true;
   FinishReception(length);
   TellFlaw(flaw);
 }
 
 void Download::TellFlaw(const std::string& flaw) {
-  if (flaw.empty() || context_.terminated) return;
+  if (flaw.empty() || context_.edges.terminated) return;
   context_.platform.Ask({flaw, message_title_, Message::Buttons::kOk});
 }
 
 void Download::Adopt(BlockImage image, ImageSource source, CombinedArray array) {
-  context_.Adopt(std::move(image), source, std::move(array));
+  context_.device.Adopt(std::move(image), source, std::move(array));
   expecting_ = Expecting::kNothing;
   received_combined_ = false;
   unusable_.reset();
@@ -187,25 +192,27 @@ void Download::Adopt(BlockImage image, ImageSource source, CombinedArray array) 
 
 /// The dialog says "Finished" only of an image that could be decoded.
 void Download::FinishReception(std::int32_t bytes) {
-  context_.ImageByteCount = bytes;
-  const int count = context_.BlkImage.BlkCount();
+  context_.device.ImageByteCount = bytes;
+  const int count = context_.device.BlkImage.BlkCount();
   progress_ = {count, count, finished_text_, bytes, true};
   ShowProgress();
   TellArrival();
 }
 
 void Download::TellArrival() {
-  if (context_.HostCommId == 0) {
+  if (context_.host.HostCommId == 0) {
     host_->UploadSucceeded();
     return;
   }
-  host_->ULSucceededWithStr(context_.Record().MuxModelName(), context_.env.identity.ModelCode,
-                            context_.env.identity.MaxCam);
+  host_->ULSucceededWithStr(context_.device.Record().MuxModelName(),
+                            context_.device.env.identity.ModelCode,
+                            context_.device.env.identity.MaxCam);
 }
 
 void Download::SaveReceivedData() {
   // What is on screen is what is saved, also when another image arrives meanwhile.
-  auto received = received_combined_ ? context_.ComboArray.Bytes() : context_.BlkImage.Bytes();
+  auto received =
+      received_combined_ ? context_.device.ComboArray.Bytes() : context_.device.BlkImage.Bytes();
   if (unusable_) received = *unusable_;
   SaveBytes(context_, "*.bin", std::vector<Byte>(received.begin(), received.end()));
 }
@@ -213,16 +220,16 @@ void Download::SaveReceivedData() {
 void Download::RestoreImageFromFile() {
   context_.InitGlobals();
   // Also when nothing comes of it: what is sent next is compared with the device.
-  context_.LoadedFromFile = true;
+  context_.device.LoadedFromFile = true;
   const auto bytes = AskForSettings(context_);
   FetchTexts();
-  if (!bytes || context_.terminated) return;
-  SettingsFile file = ReadSettingsFile(context_, *bytes);
+  if (!bytes || context_.edges.terminated) return;
+  SettingsFile file = ReadSettingsFile(context_.host, *bytes);
   const bool lacks_macros = file.combined && !file.array.HoldsMacros();
   const std::int32_t length =
       file.combined ? file.array.Header().TotalLength() : static_cast<std::int32_t>(bytes->size());
   Adopt(std::move(file.image), ImageSource::kSettingsFile, std::move(file.array));
-  if (file.combined) context_.ComboMode = true;
+  if (file.combined) context_.host.ComboMode = true;
   received_combined_ = file.combined;
   const int round = BeginAnew();
   FinishReception(length);
@@ -250,7 +257,7 @@ void Download::TakeIdentity(std::span<const Byte> reply) {
   defaults_.DefChannels = reply[1];
   defaults_.DefModelCode = reply[2] & kModelCodeMask;
   std::copy_n(reply.begin() + 3, defaults_.DefModelName.size(), defaults_.DefModelName.begin());
-  context_.Guard("LoadDefaultData", [this] { LoadDefaultData(); });
+  context_.edges.Guard("LoadDefaultData", [this] { LoadDefaultData(); });
 }
 
 void Download::LoadDefaultData() {
@@ -258,15 +265,15 @@ void Download::LoadDefaultData() {
   const std::string loaded = context_.GetText(txt::kDefaultsLoadedForModel);
   const std::string title = context_.GetText(txt::kMessage);
   if (!GoesOn(round)) return;
-  const ComboSizes& sizes = context_.combo_sizes;
+  const ComboSizes& sizes = context_.host.combo_sizes;
   BlockImage image = LoadDefaultImage(FactoryImageOf(defaults_.DefModelCode));
   // The sizes belong to the device only while it is one of the combined exchange.
-  AdaptToDevice(image, defaults_, context_.ComboMode ? sizes.ComboBlockCount : 0);
+  AdaptToDevice(image, defaults_, context_.host.ComboMode ? sizes.ComboBlockCount : 0);
   const auto bytes = static_cast<std::int32_t>(image.Size());
-  CombinedArray array = context_.ComboMode ? BuildComboArray(sizes, image) : CombinedArray();
+  CombinedArray array = context_.host.ComboMode ? BuildComboArray(sizes, image) : CombinedArray();
   Adopt(std::move(image), ImageSource::kFactory, std::move(array));
-  context_.ImageByteCount = bytes;
-  const std::string name = context_.platform.ToUtf8(context_.Record().MuxModelName());
+  context_.device.ImageByteCount = bytes;
+  const std::string name = context_.platform.ToUtf8(context_.device.Record().MuxModelName());
   context_.platform.Ask({loaded + name, title, Message::Buttons::kOk});
   if (GoesOn(round)) host_->UploadSucceeded();
 }

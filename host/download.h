@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "core/device_state.h"
 #include "core/factory_defaults.h"
 #include "host/frm_ul_fr_mux.h"
 #include "host/host_events.h"
-#include "ui/context.h"
 
 namespace quorvel {
 
@@ -52,7 +52,7 @@ class Download {
   int BeginAnew();
   /// False when a host has begun another sequence, or destroyed the control, from inside an event,
   /// a text or a message box of this one.
-  [[nodiscard]] bool GoesOn(int round) const { return round == round_ && !context_.terminated; }
+  [[nodiscard]] bool GoesOn(int round) const;
   void FetchTexts();
   void Request(Expecting expecting, int number);
   void TakeBlock(std::span<const Byte> reply);

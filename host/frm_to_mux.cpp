@@ -5,6 +5,7 @@
 
 #include "resources/icon.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
@@ -20,7 +21,7 @@ std::string ThreeDigits(int number) {
 
 frm_ToMux::frm_ToMux(const Context& context)
     : Dialog(context.platform, "frm_ToMux"), context_(context) {
-  KeepAliveWith(context.life);
+  KeepAliveWith(context.edges.life);
   upload_block_text_ = context.GetText(txt::kUploadBlockNumber);
   abort_text_ = context.GetText(txt::kAbort);
   delete_text_ = context.GetText(txt::kDeleteBlocksBeingSaved);
@@ -31,7 +32,7 @@ frm_ToMux::frm_ToMux(const Context& context)
 }
 
 void frm_ToMux::ArrangeControls() {
-  SetCaption(context_.GetText(txt::kUploadingDataTo) + context_.CaptionSuffix());
+  SetCaption(context_.GetText(txt::kUploadingDataTo) + context_.host.CaptionSuffix());
   chkMacro(kMacros).SetCaption(context_.GetText(txt::kUploadMacroSettings));
   chkMacro(kData).SetCaption(context_.GetText(txt::kUploadBlockData));
   chkMacro(kData).SetChecked(true);
@@ -74,7 +75,7 @@ void frm_ToMux::ChooseAll() {
 
 void frm_ToMux::ChooseModified() {
   std::vector<std::string> numbers;
-  const clsBlkSave& list = context_.env.blocks;
+  const clsBlkSave& list = context_.device.env.blocks;
   for (Byte i = 0; i < list.BlkSavIdx(); ++i) {
     if (list.BlkNumSav(i) != 0) numbers.push_back(ThreeDigits(list.BlkNumSav(i)));
   }
@@ -88,12 +89,12 @@ void frm_ToMux::ChooseModified() {
 }
 
 void frm_ToMux::IncludeClicked(bool data) {
-  if (data && !context_.ComboMode) {
+  if (data && !context_.host.ComboMode) {
     chkMacro(kData).SetChecked(true);  // block by block, the data cannot be left out
   } else if (data) {
     const bool with_data = chkMacro(kData).Checked();
     optBlk(kAll).SetVisible(with_data);
-    optBlk(kModified).SetVisible(with_data && context_.env.blocks.BlkSavIdx() != 0);
+    optBlk(kModified).SetVisible(with_data && context_.device.env.blocks.BlkSavIdx() != 0);
   }
   EnableStart();
 }

@@ -5,9 +5,10 @@
 
 #include "host/send_choice.h"
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// The send dialog: what to send, START and STOP, and how far it has come. It changes nothing of
 /// the control: the send that listens to it does.

@@ -2,6 +2,7 @@
 
 #include "resources/icon.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
@@ -11,9 +12,9 @@ constexpr int kPatience = 5000;  // milliseconds without a reply
 
 frm_ULFrMux::frm_ULFrMux(Context& context)
     : Dialog(context.platform, "frm_ULFrMux"), context_(context) {
-  KeepAliveWith(context.life);
+  KeepAliveWith(context.edges.life);
   SetIcon(&Icon101());
-  SetCaption(context.GetText(txt::kDownloadingDataFrom) + context.CaptionSuffix());
+  SetCaption(context.GetText(txt::kDownloadingDataFrom) + context.host.CaptionSuffix());
   Label1.SetCaption(context.GetText(txt::kByteCount));
   Label2.SetCaption(context.GetText(txt::kStatus) + ":");
   lblSilent.SetCaption(context.GetText(kTextDeviceSilent));

@@ -3,10 +3,12 @@
 #include <memory>
 #include <string>
 
+#include "quorvel/platform.h"
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// How far a receive has come; a dialog opened later shows it as well.
 struct ReceiveProgress {

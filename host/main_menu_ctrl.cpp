@@ -42,7 +42,7 @@ std::int32_t MainMenuCtrl::CustomWithString(std::int16_t command, std::int32_t /
 
 std::int32_t MainMenuCtrl::SaveConnectedInfo(std::span<const std::uint8_t> data) {
   component_->Call("SaveConnectedInfo",
-                   [&it = *component_, data] { SaveConnectedIdentity(it.context, data); });
+                   [&it = *component_, data] { SaveConnectedIdentity(it.context.host, data); });
   return 0;
 }
 
@@ -63,7 +63,7 @@ std::int32_t MainMenuCtrl::FillDataBlk(std::span<const std::uint8_t> bdata) {
 
 std::int32_t MainMenuCtrl::UpdateActGrid(std::span<const std::uint8_t> bdata) {
   component_->Call("UpdateActGrid",
-                   [&it = *component_, bdata] { UpdateActivityGrid(it.context, bdata); });
+                   [&it = *component_, bdata] { UpdateActivityGrid(it.context.device, bdata); });
   return 0;
 }
 
@@ -94,17 +94,17 @@ void MainMenuCtrl::Font(const quorvel::Font& font) {
   });
 }
 
-std::uint8_t MainMenuCtrl::HostCommId() const { return component_->context.HostCommId; }
+std::uint8_t MainMenuCtrl::HostCommId() const { return component_->context.host.HostCommId; }
 
 void MainMenuCtrl::HostCommId(std::uint8_t id) {
-  component_->context.HostCommId = id;
+  component_->context.host.HostCommId = id;
   component_->properties_changed = true;
 }
 
 ControlSurface& MainMenuCtrl::Surface() { return component_->surface; }
 
 std::vector<std::uint8_t> MainMenuCtrl::ModifiedBlocks() const {
-  const clsBlkSave& list = component_->context.env.blocks;
+  const clsBlkSave& list = component_->context.device.env.blocks;
   std::vector<std::uint8_t> numbers;
   for (Byte i = 0; i < list.BlkSavIdx(); ++i) {
     if (list.BlkNumSav(i) != 0) numbers.push_back(list.BlkNumSav(i));
@@ -126,7 +126,7 @@ std::optional<std::vector<SettingDifference>> MainMenuCtrl::DifferencesFrom(
 }
 
 std::vector<std::uint8_t> MainMenuCtrl::Image() const {
-  const auto bytes = component_->context.BlkImage.Bytes();
+  const auto bytes = component_->context.device.BlkImage.Bytes();
   return {bytes.begin(), bytes.end()};
 }
 

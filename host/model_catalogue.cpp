@@ -4,6 +4,7 @@
 #include <array>
 
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
@@ -77,10 +78,9 @@ ImageIdentity IdentityOf(const BlockImage& image) {
           true};
 }
 
-bool IdentityFits(const Context& context, const ImageIdentity& image) {
-  const ConnectedIdentity& connected = context.connected;
+bool IdentityFits(const ConnectedIdentity& connected, const ImageIdentity& image) {
   if (image.channels != connected.ConnChannels) return false;
-  if (image.code != connected.ConnModelCode && !IsVideoTwin(context, image.code)) return false;
+  if (image.code != connected.ConnModelCode && !IsVideoTwin(connected, image.code)) return false;
   return !image.named || image.name == connected.ConnModelName ||
          AreVaultlineEditions(image.name, connected.ConnModelName);
 }
@@ -92,48 +92,48 @@ std::string_view ModelText(int code) {
   return known ? kModelTexts[static_cast<std::size_t>(code)] : std::string_view();
 }
 
-void SaveConnectedIdentity(Context& context, std::span<const Byte> data) {
+void SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data) {
   if (data.size() < 4) return;
-  context.connected = {data[1], static_cast<Byte>(data[2] & kModelCodeMask),
-                       NameOf(data.subspan(3))};
-  context.ComboMode = false;
-  context.combo_sizes.ComboExtraA = 0;
-  context.combo_sizes.ComboExtraB = 0;
+  host.connected = {data[1], static_cast<Byte>(data[2] & kModelCodeMask), NameOf(data.subspan(3))};
+  host.ComboMode = false;
+  host.combo_sizes.ComboExtraA = 0;
+  host.combo_sizes.ComboExtraB = 0;
 }
 
 std::string ModelDescription(const Context& context, int which) {
   int channels = 0;
   int code = 0;
   if (which == kOfConnected) {
-    channels = context.connected.ConnChannels;
-    code = context.connected.ConnModelCode;
+    channels = context.host.connected.ConnChannels;
+    code = context.host.connected.ConnModelCode;
   } else if (which == kOfImage) {
-    const ImageIdentity identity = IdentityOf(context.BlkImage);
+    const ImageIdentity identity = IdentityOf(context.device.BlkImage);
     channels = identity.channels;
     code = identity.code;
   }
   return " (" + std::to_string(channels) + " ch, " + std::string(ModelText(code)) + ")";
 }
 
-bool IsVideoTwin(const Context& context, Byte code) {
-  const Byte connected = context.connected.ConnModelCode;
+bool IsVideoTwin(const ConnectedIdentity& connected, Byte code) {
   const auto has_twin = [](Byte it) { return it >= 2 && it <= 19; };
-  return has_twin(code) && has_twin(connected) && code == (connected ^ 1);
+  return has_twin(code) && has_twin(connected.ConnModelCode) &&
+         code == (connected.ConnModelCode ^ 1);
 }
 
 bool CheckLoadedIdentity(Context& context) {
-  if (!context.LoadedFromFile) return true;
-  const ImageIdentity identity = IdentityOf(context.BlkImage);
-  if (IdentityFits(context, identity)) return true;
+  if (!context.device.LoadedFromFile) return true;
+  const ImageIdentity identity = IdentityOf(context.device.BlkImage);
+  if (IdentityFits(context.host.connected, identity)) return true;
   const auto shown = [&context](const std::string& bytes) {
     return context.platform.ToUtf8(bytes);
   };
-  context.platform.Ask(
-      {context.GetText(txt::kDataDoesNotMatch) + "\r" + context.GetText(txt::kConnectedToModel) +
-           "  " + shown(context.connected.ConnModelName) + ModelDescription(context, kOfConnected) +
-           "\r" + context.GetText(txt::kLoadingFromModel) + "  " + shown(identity.name) +
-           ModelDescription(context, kOfImage),
-       context.GetText(txt::kErrorMessage), Message::Buttons::kOk});
+  context.platform.Ask({context.GetText(txt::kDataDoesNotMatch) + "\r" +
+                            context.GetText(txt::kConnectedToModel) + "  " +
+                            shown(context.host.connected.ConnModelName) +
+                            ModelDescription(context, kOfConnected) + "\r" +
+                            context.GetText(txt::kLoadingFromModel) + "  " + shown(identity.name) +
+                            ModelDescription(context, kOfImage),
+                        context.GetText(txt::kErrorMessage), Message::Buttons::kOk});
   return false;
 }
 

@@ -4,23 +4,26 @@
 #include <string>
 #include <string_view>
 
-#include "ui/context.h"
+#include "core/byte.h"
+#include "ui/host_statements.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// Display text of a model code; empty for a code that nobody knows.
 [[nodiscard]] std::string_view ModelText(int code);
 
 /// Stores the connected device's identity: [1] cameras, [2] model code, from [3] the name. Data of
 /// fewer than 4 bytes is not an identity and changes nothing.
-void SaveConnectedIdentity(Context& context, std::span<const Byte> data);
+void SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data);
 
 /// " (16 ch, Triplex NTSC)": which = 0 of the connected device, 1 of the image as it is decoded,
 /// anything else of no device (0 channels, code 0).
 [[nodiscard]] std::string ModelDescription(const Context& context, int which);
 
 /// True when `code` is the NTSC or PAL twin of the connected model.
-[[nodiscard]] bool IsVideoTwin(const Context& context, Byte code);
+[[nodiscard]] bool IsVideoTwin(const ConnectedIdentity& connected, Byte code);
 
 /// True when the image may be written to the connected device. An image that was restored from a
 /// file must come from a device of the same model, and of the same name where it holds one;

@@ -2,6 +2,7 @@
 
 #include "host/combined_exchange.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
@@ -18,10 +19,10 @@ std::size_t LengthByItsCount(std::span<const Byte> bytes) {
 /// In the combined exchange a file with more than the device's blocks is a combined array. Where no
 /// number of blocks was stated, images are short, but for those whose own count says that they are
 /// not.
-bool IsCombinedFile(const Context& context, std::span<const Byte> bytes) {
+bool IsCombinedFile(const HostStatements& host, std::span<const Byte> bytes) {
   constexpr std::size_t kLongestImage = 3488;
-  if (context.ComboMode && context.combo_sizes.ComboBlockCount > 0) {
-    return bytes.size() > std::size_t{context.combo_sizes.ComboBlockCount} * kBlockSize;
+  if (host.ComboMode && host.combo_sizes.ComboBlockCount > 0) {
+    return bytes.size() > std::size_t{host.combo_sizes.ComboBlockCount} * kBlockSize;
   }
   return bytes.size() > kLongestImage && bytes.size() != LengthByItsCount(bytes);
 }
@@ -61,7 +62,7 @@ void Write(Context& context, const std::string& path, std::span<const Byte> byte
   context.platform.StoreFile(path, bytes);
   if (bytes.size() < kRestoreLimit) return;
   const Message message{context.GetText(kTextTooLongToRestore), context.GetText(txt::kMessage)};
-  if (!context.terminated) context.platform.Ask(message);
+  if (!context.edges.terminated) context.platform.Ask(message);
 }
 
 FileRequest RestoreRequest() {
@@ -76,25 +77,25 @@ FileRequest RestoreRequest() {
 
 }  // namespace
 
-SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> bytes) {
+SettingsFile ReadSettingsFile(const HostStatements& host, std::span<const Byte> bytes) {
   if (bytes.size() >= kRestoreLimit) {
     throw ImageError("the file has " + std::to_string(bytes.size()) +
                      " bytes; files of 32768 bytes or more cannot be restored");
   }
   SettingsFile file;
-  file.combined = IsCombinedFile(context, bytes);
+  file.combined = IsCombinedFile(host, bytes);
   if (file.combined) {
     file.array = CombinedArray::Parse(bytes, {});
     file.image = file.array.Image();
   } else {
     RefuseMisplaced(bytes);
     file.image = BlockImage({bytes.begin(), bytes.end()});
-    if (context.ComboMode) file.array = BuildComboArray(context.combo_sizes, file.image);
+    if (host.ComboMode) file.array = BuildComboArray(host.combo_sizes, file.image);
   }
   if (file.image.BlkCountOrZero() == 0) {
     throw ImageError("this is no configuration: it counts no blocks");
   }
-  LockOldKeyboards(file.image, context.HostCommId);
+  LockOldKeyboards(file.image, host.HostCommId);
   return file;
 }
 
@@ -110,14 +111,14 @@ void SaveBytes(Context& context, const std::string& default_name, std::span<cons
 }
 
 void SaveImageToFile(Context& context) {
-  if (!context.HasImage()) return;
+  if (!context.device.HasImage()) return;
   const auto path = context.platform.AskFile(SaveRequest(kFileName));
-  if (!path || context.terminated) return;
+  if (!path || context.edges.terminated) return;
   context.EncodeListedBlocks();
-  if (!context.ComboMode) return Write(context, *path, context.BlkImage.Bytes());
-  ProvideComboArray(context);
-  context.ComboArray.PutImage(context.BlkImage);
-  Write(context, *path, context.ComboArray.Bytes());
+  if (!context.host.ComboMode) return Write(context, *path, context.device.BlkImage.Bytes());
+  ProvideComboArray(context.device, context.host.combo_sizes);
+  context.device.ComboArray.PutImage(context.device.BlkImage);
+  Write(context, *path, context.device.ComboArray.Bytes());
 }
 
 }  // namespace quorvel

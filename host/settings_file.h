@@ -3,11 +3,15 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
+#include "core/block_image.h"
 #include "core/combined_array.h"
-#include "ui/context.h"
+#include "ui/host_statements.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// A settings file keeps a configuration as raw bytes: a plain image, or a combined array in the
 /// combined exchange. It has neither mark nor version; the two are told apart by its length.
@@ -23,7 +27,8 @@ inline constexpr std::size_t kRestoreLimit = 32768;
 
 /// What the bytes of a file hold. Throws ImageError for kRestoreLimit bytes or more, and for bytes
 /// that contradict themselves. Whether the image can be decoded shows when it is.
-[[nodiscard]] SettingsFile ReadSettingsFile(const Context& context, std::span<const Byte> bytes);
+[[nodiscard]] SettingsFile ReadSettingsFile(const HostStatements& host,
+                                            std::span<const Byte> bytes);
 
 /// Asks the user for a file to restore and reads it; nothing when the dialog was cancelled.
 [[nodiscard]] std::optional<std::vector<Byte>> AskForSettings(Context& context);

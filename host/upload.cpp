@@ -9,6 +9,7 @@
 #include "host/model_catalogue.h"
 #include "host/send_plan.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
@@ -24,9 +25,10 @@ constexpr Byte kEndPacket = 255;
 }  // namespace
 
 Upload::Upload(Context& context, HostEvents& host) : context_(context), host_(host) {
-  Timer1 = context_.platform.NewTimer([this] { context_.Guard("Timer1", [this] { Tick(); }); });
+  Timer1 =
+      context_.platform.NewTimer([this] { context_.edges.Guard("Timer1", [this] { Tick(); }); });
   patience_ = context_.platform.NewTimer([this] {
-    context_.Guard("patience", [this] {
+    context_.edges.Guard("patience", [this] {
       patience_->Stop();
       outstanding_ = false;
       if (state_ == State::kWaiting) Timer1->Start();
@@ -36,9 +38,9 @@ Upload::Upload(Context& context, HostEvents& host) : context_(context), host_(ho
 }
 
 bool Upload::FamilyFits() const {
-  const auto host = context_.HostType;
-  if (context_.HostCommId != 0) return true;
-  return context_.env.identity.IsTriplex() ? host != 16 : host != 48 && host != 112;
+  const auto host = context_.host.HostType;
+  if (context_.host.HostCommId != 0) return true;
+  return context_.device.env.identity.IsTriplex() ? host != 16 : host != 48 && host != 112;
 }
 
 void Upload::RefuseData() {
@@ -47,30 +49,30 @@ void Upload::RefuseData() {
 }
 
 Upload::Basis Upload::PresentBasis() const {
-  return {context_.ImageGeneration(), context_.ComboMode, context_.HostType, context_.HostCommId,
-          context_.connected};
+  return {context_.device.ImageGeneration(), context_.host.ComboMode, context_.host.HostType,
+          context_.host.HostCommId, context_.host.connected};
 }
 
 bool Upload::DataFits() {
-  if (context_.HasImage() && FamilyFits()) return CheckLoadedIdentity(context_);
+  if (context_.device.HasImage() && FamilyFits()) return CheckLoadedIdentity(context_);
   RefuseData();
   return false;
 }
 
 void Upload::Send() {
   const Basis basis = PresentBasis();
-  if (context_.HasImage()) context_.EncodeListedBlocks();
+  if (context_.device.HasImage()) context_.EncodeListedBlocks();
   if (!DataFits()) return;
   CloseDialog();
   // The dialog's texts may be the host's, who may do anything while it is asked for one.
   const auto dialog = std::make_shared<frm_ToMux>(context_);
-  if (context_.terminated || frmDL != nullptr) return;
+  if (context_.edges.terminated || frmDL != nullptr) return;
   basis_ = basis;
   const std::weak_ptr<frm_ToMux> weak = dialog;
   dialog->StartDL = [this, weak](const SendChoice& choice) {
     const auto started = weak.lock();
     if (started == nullptr || started != frmDL) return;
-    context_.Guard("StartDL", [&] { StartDL(started, choice); });
+    context_.edges.Guard("StartDL", [&] { StartDL(started, choice); });
   };
   dialog->StopDL = [this, weak] {
     if (weak.lock() == frmDL) StopDL();
@@ -98,7 +100,7 @@ bool Upload::BasisHolds() {
 
 void Upload::StartDL(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice) {
   if (!BasisHolds()) return;
-  if (context_.ComboMode) {
+  if (context_.host.ComboMode) {
     StartCombined(dialog, choice);
   } else {
     StartBlocks(*dialog, choice);
@@ -107,21 +109,23 @@ void Upload::StartDL(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice&
 
 void Upload::StartCombined(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice) {
   const bool listed_only = choice.IncludeData && !choice.all_blocks;
-  ProvideComboArray(context_);
+  ProvideComboArray(context_.device, context_.host.combo_sizes);
   if (listed_only) {
     PutListedBlocks();
     dialog->ShowClearBlocks();
     // The device keeps its macros: it is given the listed blocks alone.
     if (!choice.IncludeMacros) return StartBlocks(*dialog, choice);
   } else if (choice.IncludeData) {
-    FixUpForCombinedSend(context_.BlkImage, context_.env, context_.Record(), context_.UsePcTime);
-    context_.ComboArray.PutImage(context_.BlkImage);
+    FixUpForCombinedSend(context_.device.BlkImage, context_.device.env, context_.device.Record(),
+                         context_.device.UsePcTime);
+    context_.device.ComboArray.PutImage(context_.device.BlkImage);
   }
   if (choice.IncludeMacros && !MacrosFit()) return;
   if (dialog != frmDL || !BasisHolds()) return;  // while the user was asked
   // What is sent is a copy: the lengths of what is left out are 0 in it, and the host may write
   // into it.
-  std::vector<Byte> array = context_.ComboArray.Outgoing(choice.IncludeData, choice.IncludeMacros);
+  std::vector<Byte> array =
+      context_.device.ComboArray.Outgoing(choice.IncludeData, choice.IncludeMacros);
   const auto included = IncludedBlocks(choice);
   host_->SendComboBlocks(array);
   for (const HandedOver& block : included) NoteTaken(block);
@@ -138,35 +142,37 @@ std::vector<Upload::HandedOver> Upload::IncludedBlocks(const SendChoice& choice)
 }
 
 Upload::HandedOver Upload::HandOver(int number) const {
-  HandedOver block{context_.ImageGeneration(), number, {}};
-  std::ranges::copy(context_.BlkImage.Block(number), block.bytes.begin());
+  HandedOver block{context_.device.ImageGeneration(), number, {}};
+  std::ranges::copy(context_.device.BlkImage.Block(number), block.bytes.begin());
   return block;
 }
 
 void Upload::NoteTaken(const HandedOver& block) {
-  if (context_.terminated || block.generation != context_.ImageGeneration()) return;
-  SettleChangeMark(block.number, block.bytes, context_.BlkImage, context_.ComboArray, context_.env,
-                   context_.Record());
+  if (context_.edges.terminated || block.generation != context_.device.ImageGeneration()) return;
+  SettleChangeMark(block.number, block.bytes, context_.device.BlkImage, context_.device.ComboArray,
+                   context_.device.env, context_.device.Record());
 }
 
 void Upload::PutListedBlocks() {
-  const clsBlkSave& list = context_.env.blocks;
+  const clsBlkSave& list = context_.device.env.blocks;
   for (Byte i = 0; i < list.BlkSavIdx(); ++i) {
-    context_.ComboArray.PutBlock(context_.BlkImage, list.BlkNumSav(i));
+    context_.device.ComboArray.PutBlock(context_.device.BlkImage, list.BlkNumSav(i));
   }
 }
 
 /// Macro data of another record size is sent only when the user agrees.
 bool Upload::MacrosFit() {
-  if (context_.combo_sizes.ComboMacroSize == context_.ComboArray.Header().MacroRecSize) return true;
+  if (context_.host.combo_sizes.ComboMacroSize == context_.device.ComboArray.Header().MacroRecSize)
+    return true;
   return context_.platform.Ask({context_.GetText(txt::kMacroSizeDifference) + "\r" +
                                     context_.GetText(txt::kSomeVariablesNotUpdated),
                                 context_.GetText(txt::kMessage), Message::Buttons::kOkCancel});
 }
 
 std::vector<Byte> Upload::Plan(bool all_blocks, bool macros) const {
-  return all_blocks ? PlanAllBlocks(context_.BlkImage, macros)
-                    : PlanListedBlocks(context_.env.blocks, context_.BlkImage, macros);
+  return all_blocks
+             ? PlanAllBlocks(context_.device.BlkImage, macros)
+             : PlanListedBlocks(context_.device.env.blocks, context_.device.BlkImage, macros);
 }
 
 void Upload::StartBlocks(frm_ToMux& dialog, const SendChoice& choice) {
@@ -190,8 +196,9 @@ void Upload::StopDL() {
 
 /// The list goes, and with it the marks that tell the device what changed.
 void Upload::ClearBlocks() {
-  context_.env.blocks.BlkSavIdx(0);
-  ClearChangeMarks(context_.BlkImage, context_.ComboArray, context_.env, context_.Record());
+  context_.device.env.blocks.BlkSavIdx(0);
+  ClearChangeMarks(context_.device.BlkImage, context_.device.ComboArray, context_.device.env,
+                   context_.device.Record());
 }
 
 void Upload::TriggerTimer() {

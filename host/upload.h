@@ -7,10 +7,12 @@
 #include <span>
 #include <vector>
 
+#include "core/block_image.h"
 #include "host/frm_to_mux.h"
 #include "host/host_events.h"
 #include "host/send_choice.h"
-#include "ui/context.h"
+#include "quorvel/platform.h"
+#include "ui/connected_identity.h"
 
 namespace quorvel {
 

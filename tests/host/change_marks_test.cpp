@@ -23,7 +23,8 @@ class ChangeMarks : public ::testing::Test, public MainMenuEvents {
     It().Adopt(std::move(image), ImageSource::kDevice);
     packets_.clear();
   }
-  Context& It() { return component_->context; }
+  HostStatements& Host() { return component_->context.host; }
+  DeviceState& It() { return component_->context.device; }
   void EditServer(Byte octet) {
     const CommitScope commit(It().env.commit, CommitAlarm);
     It().Record().AlmEmailNotify.SMTPServer(0, octet);
@@ -102,10 +103,10 @@ TEST_F(ChangeMarks, AreWrittenUntilAPacketThatCarriedThemIsAcknowledged) {
   platform_.AnswerNextFile("saved.bin");
   component_->Custom(14, 0, 0);
   EXPECT_EQ(platform_.files["saved.bin"].at((kServers - 1) * 16), 1);
-  It().HostType = 16;  // the family does not fit
+  Host().HostType = 16;  // the family does not fit
   component_->Custom(11, 0, 0);
   EXPECT_EQ(platform_.TakeMessages().size(), 1U);
-  It().HostType = 48;
+  Host().HostType = 48;
   acknowledge_ = false;
   Send();  // one packet, and the dialog is closed
   EXPECT_EQ(packets_.size(), 1U);
@@ -196,8 +197,8 @@ TEST_F(ChangeMarks, AreTakenWithACombinedArray) {
       {"listed blocks, one by one", false, false, false, "", "1 0 0, image 1 0 0, array 1 0 0"},
       {"a host that fails", true, false, true, "0 7 3", "0 1 2, image 0 7 3, array 0 7 3"},
   };
-  It().ComboMode = true;
-  It().combo_sizes = {4, 2, 225, 5, 6};
+  Host().ComboMode = true;
+  Host().combo_sizes = {4, 2, 225, 5, 6};
   for (const auto& it : cases) {
     SCOPED_TRACE(it.what);
     Arrive(6);
@@ -221,7 +222,7 @@ TEST_F(ChangeMarks, TellWhoseClockItIs) {
     int sent;
   } cases[] = {{6, false, 1, 1}, {6, false, 0, 0}, {6, true, 1, 0},
                {5, false, 9, 9}, {5, true, 9, 9},  {0, false, 9, 9}};
-  It().ComboMode = true;
+  Host().ComboMode = true;
   for (const auto& it : cases) {
     Arrive(it.code);
     It().Record().PlayDwell(static_cast<Byte>(it.dwell));

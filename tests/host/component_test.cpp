@@ -2,6 +2,7 @@
 
 #include "host/model_catalogue.h"
 #include "tests/host/test_host.h"
+#include "ui/context.h"
 
 namespace quorvel {
 namespace {
@@ -220,11 +221,11 @@ class Identities : public ::testing::Test {
   void Connect(Byte channels, Byte code, std::string_view name) {
     std::vector<Byte> data{0, channels, code};
     data.insert(data.end(), name.begin(), name.end());
-    SaveConnectedIdentity(context_, data);
+    SaveConnectedIdentity(context_.host, data);
   }
   bool Loads(Byte channels, Byte code, std::string_view name) {
-    context_.BlkImage.ResizeBlocks(185);
-    WriteIdentityBlock(context_.BlkImage, channels, code, name);
+    context_.device.BlkImage.ResizeBlocks(185);
+    WriteIdentityBlock(context_.device.BlkImage, channels, code, name);
     return CheckLoadedIdentity(context_);
   }
   HeadlessPlatform platform_;
@@ -233,22 +234,22 @@ class Identities : public ::testing::Test {
 
 TEST_F(Identities, AreStored) {
   Connect(16, 0x87, std::string_view("DVR\0\0", 5));
-  EXPECT_EQ(context_.connected.ConnChannels, 16);
-  EXPECT_EQ(context_.connected.ConnModelCode, 7);
-  EXPECT_EQ(context_.connected.ConnModelName, "DVR");
+  EXPECT_EQ(context_.host.connected.ConnChannels, 16);
+  EXPECT_EQ(context_.host.connected.ConnModelCode, 7);
+  EXPECT_EQ(context_.host.connected.ConnModelName, "DVR");
   EXPECT_EQ(ModelDescription(context_, 0), " (16 ch, Triplex PAL)");
   EXPECT_EQ(ModelDescription(context_, 2), " (0 ch, Mux model)");
-  SaveConnectedIdentity(context_, std::vector<Byte>{0, 4, 2});
-  EXPECT_EQ(context_.connected.ConnChannels, 16);
+  SaveConnectedIdentity(context_.host, std::vector<Byte>{0, 4, 2});
+  EXPECT_EQ(context_.host.connected.ConnChannels, 16);
   Connect(4, 21, std::string_view("\0A", 2));
-  EXPECT_EQ(context_.connected.ConnModelName, std::string("\0A", 2));
+  EXPECT_EQ(context_.host.connected.ConnModelName, std::string("\0A", 2));
   EXPECT_EQ(ModelDescription(context_, 0), " (4 ch, )");
 }
 
 TEST_F(Identities, OfARestoredImageMustFit) {
-  context_.LoadedFromFile = false;
+  context_.device.LoadedFromFile = false;
   EXPECT_TRUE(Loads(4, 0, "OTHER"));
-  context_.LoadedFromFile = true;
+  context_.device.LoadedFromFile = true;
   const struct {
     const char* connected_name;
     Byte connected_code;

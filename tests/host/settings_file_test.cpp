@@ -20,14 +20,13 @@ std::vector<Byte> FileOf(std::size_t length, Byte count) {
 }
 
 TEST(SettingsFile, APlainFileGetsAHeader) {
-  HeadlessPlatform platform;
-  Context context(platform);
-  context.ComboMode = true;
-  context.combo_sizes = {.ComboMacroSize = 0x0102,
-                         .ComboMacroCount = 0,
-                         .ComboBlockCount = 200,
-                         .ComboExtraA = 5,
-                         .ComboExtraB = 6};
+  HostStatements host;
+  host.ComboMode = true;
+  host.combo_sizes = {.ComboMacroSize = 0x0102,
+                      .ComboMacroCount = 0,
+                      .ComboBlockCount = 200,
+                      .ComboExtraA = 5,
+                      .ComboExtraB = 6};
   const auto header_of = [](const SettingsFile& file) {
     const auto bytes = file.array.Bytes();
     EXPECT_EQ(bytes.size(), 13U + file.array.Header().DataLen);
@@ -35,15 +34,15 @@ TEST(SettingsFile, APlainFileGetsAHeader) {
   };
   // Without macro records the stated number of blocks replaces that of the file.
   const auto plain = FileOf(2960, 185);
-  EXPECT_EQ(header_of(ReadSettingsFile(context, plain)),
+  EXPECT_EQ(header_of(ReadSettingsFile(host, plain)),
             (std::vector<Byte>{0, 13, 0x0C, 0x80, 0, 0, 1, 2, 0, 0, 200, 5, 6}));
   // An image is not cut to it.
-  context.combo_sizes.ComboBlockCount = 180;
-  EXPECT_EQ(header_of(ReadSettingsFile(context, FileOf(2880, 180)))[10], 180);
-  EXPECT_EQ(BuildComboArray(context.combo_sizes, BlockImage(plain)).Header().BlockCount, 185);
-  context.combo_sizes.ComboBlockCount = 200;
-  context.combo_sizes.ComboMacroCount = 3;
-  EXPECT_EQ(header_of(ReadSettingsFile(context, plain)),
+  host.combo_sizes.ComboBlockCount = 180;
+  EXPECT_EQ(header_of(ReadSettingsFile(host, FileOf(2880, 180)))[10], 180);
+  EXPECT_EQ(BuildComboArray(host.combo_sizes, BlockImage(plain)).Header().BlockCount, 185);
+  host.combo_sizes.ComboBlockCount = 200;
+  host.combo_sizes.ComboMacroCount = 3;
+  EXPECT_EQ(header_of(ReadSettingsFile(host, plain)),
             (std::vector<Byte>{0, 13, 0x0B, 0x90, 0, 0, 1, 2, 3, 0, 185, 5, 6}));
 }
 

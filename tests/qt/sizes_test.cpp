@@ -10,6 +10,7 @@
 #include "resources/default_images.h"
 #include "resources/text_table.h"
 #include "tests/qt/every_kind.h"
+#include "ui/context.h"
 #include "ui/setup/alarm/frm_alarm.h"
 #include "ui/setup/frm_camera_setup.h"
 
@@ -175,7 +176,7 @@ class QtSizes : public ::testing::Test {
     context_ = std::make_unique<Context>(platform_);
     if (long_texts) context_->texts.CreateTextSource(platform_.Classes(), "Texts.Long");
     context_->InitGlobals();
-    context_->Adopt(LoadDefaultImage(401), ImageSource::kFactory);
+    context_->device.Adopt(LoadDefaultImage(401), ImageSource::kFactory);
     return *context_;
   }
 
@@ -228,7 +229,7 @@ TEST_F(QtSizes, AWarningMovesNothing) {
   BlockImage image = LoadDefaultImage(401);
   image.ResizeBlocks(225);  // enough for notification
   image.Block(1)[15] = 225;
-  context.Adopt(image, ImageSource::kFactory);
+  context.device.Adopt(image, ImageSource::kFactory);
   const auto dialog = std::make_shared<frm_Alarm>(context);
   dialog->Find<TabStrip>("SSTab1").SetCurrent(7);
   dialog->Show();

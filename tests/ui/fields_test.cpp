@@ -5,6 +5,7 @@
 #include "quorvel/headless_platform.h"
 #include "resources/default_images.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 #include "ui/editing/editor.h"
 #include "ui/editing/line_grid.h"
 
@@ -80,7 +81,7 @@ class frm_Trial : public Editor {
 class FieldsTest : public ::testing::Test {
  protected:
   FieldsTest() {
-    context_.Adopt(LoadDefaultImage(401), ImageSource::kDevice);
+    context_.device.Adopt(LoadDefaultImage(401), ImageSource::kDevice);
     Timer(1).RTstart_hh(7);
     Timer(1).RTstart_mm(5);
     Timer(2).RTstart_hh(31);  // no clock shows it
@@ -90,7 +91,7 @@ class FieldsTest : public ::testing::Test {
     record().TDInfo.CurrentMonth(2);
     record().TDInfo.CurrentDay(29);
   }
-  MuxData& record() { return context_.Record(); }
+  MuxData& record() { return context_.device.Record(); }
   clsRecTimer& Timer(int i) { return *record().MRecTimer(i); }
   frm_Trial& Open() {
     editor_ = std::make_shared<frm_Trial>(context_);
@@ -101,10 +102,10 @@ class FieldsTest : public ::testing::Test {
   std::vector<int> Accepted() {
     editor_->cmdOK.Click();
     std::vector<int> blocks;
-    for (Byte i = 0; i < context_.env.blocks.BlkSavIdx(); ++i) {
-      blocks.push_back(context_.env.blocks.BlkNumSav(i));
+    for (Byte i = 0; i < context_.device.env.blocks.BlkSavIdx(); ++i) {
+      blocks.push_back(context_.device.env.blocks.BlkNumSav(i));
     }
-    context_.env.blocks.SetMaxBlk(0);
+    context_.device.env.blocks.SetMaxBlk(0);
     return blocks;
   }
   /// What the editor tells of the first field of a setting.
@@ -192,12 +193,12 @@ TEST_F(FieldsTest, WhatNoRuleListsIsListedAndAFailureChangesNothing) {
 }
 
 TEST_F(FieldsTest, AnEntryThatMovesIsTracked) {
-  const CommitScope commit(context_.env.commit, CommitRecord);
+  const CommitScope commit(context_.device.env.commit, CommitRecord);
   Timer(3).Take(Timer(1));
   EXPECT_EQ(Timer(3), Timer(1));
-  EXPECT_EQ(context_.env.blocks.BlkNumSav(0), 196);
+  EXPECT_EQ(context_.device.env.blocks.BlkNumSav(0), 196);
   record().MarkModified(7);
-  EXPECT_EQ(context_.env.blocks.BlkNumSav(1), 7);
+  EXPECT_EQ(context_.device.env.blocks.BlkNumSav(1), 7);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/host/test_host.h"
+#include "ui/context.h"
 #include "ui/menu/frm_menu.h"
 
 namespace quorvel {
@@ -96,18 +97,18 @@ TEST_F(MenuForm, LanguagesByCode) {
                                "mnu_Hungarian", "mnu_Slovak", "mnu_Spanish", "mnu_Dutch",
                                "mnu_Danish"};
   const auto state_firmware = [this](Byte a, Byte b) {
-    context_.ComboArray = CombinedArray::Build({.ExtraA = a, .ExtraB = b}, {});
+    context_.device.ComboArray = CombinedArray::Build({.ExtraA = a, .ExtraB = b}, {});
   };
   state_firmware(5, 2);
-  context_.env.identity.VariantChar = '2';  // says nothing from firmware 5.02 on
+  context_.device.env.identity.VariantChar = '2';  // says nothing from firmware 5.02 on
   for (int code = 0; code < 13; ++code) {
     Load();
     EXPECT_EQ(platform_.ChooseMenu(items[code]), Answer::kDone);
-    EXPECT_EQ(context_.Record().MuxLang(), code);
+    EXPECT_EQ(context_.device.Record().MuxLang(), code);
     Load();
     EXPECT_EQ(Ticked(), items[code]);
   }
-  context_.Record().MuxLang(200);
+  context_.device.Record().MuxLang(200);
   Load();
   EXPECT_EQ(Ticked(), "mnu_Danish");
   state_firmware(5, 1);
@@ -126,9 +127,9 @@ TEST_F(MenuForm, PopsUpAShortWhileAfterItsFormHasLoadedAndEachAction) {
 }
 
 TEST_F(MenuForm, TelemetryOfMultiplexers) {
-  context_.env.identity.VariantChar = '2';
+  context_.device.env.identity.VariantChar = '2';
   for (const Byte kind : {0, 1, 2}) {
-    context_.env.identity.RecorderKind = kind;
+    context_.device.env.identity.RecorderKind = kind;
     EXPECT_EQ(Load().Item("mnu_Telemetry").visible, kind == 2);
   }
 }

@@ -1,6 +1,7 @@
 #include <optional>
 #include <utility>
 
+#include "ui/context.h"
 #include "ui/editing/device_text.h"
 #include "ui/editing/fields.h"
 #include "ui/editing/number_box.h"
@@ -265,7 +266,7 @@ class TextsField final : public Field {
              const Context& context)
       : boxes_(boxes),
         series_(boxes, TextSeries::Kind::kLines),
-        notes_(context, notes),
+        notes_(context.texts, notes),
         setting_(std::move(setting)) {
     for (int line = 0; line < lines; ++line) {
       texts_.emplace_back(boxes(line), context.platform, notes_);

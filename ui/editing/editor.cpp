@@ -6,6 +6,7 @@
 #include "core/codec.h"
 #include "resources/icon.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 #include "ui/editing/line_grid.h"
 
 namespace quorvel {
@@ -39,17 +40,23 @@ Editor::Editor(Context& context, std::string name, int caption,
       EditorPart(*this),
       context_(context),
       flags_(flags),
-      generation_(context.ImageGeneration()),
-      id_(context.env.identity),
+      generation_(context.device.ImageGeneration()),
+      id_(context.device.env.identity),
       fields_(context) {
-  for (const CommitFlag flag : flags_) context_.env.commit.Set(flag, false);
-  KeepAliveWith(context.life);
+  for (const CommitFlag flag : flags_) context_.device.env.commit.Set(flag, false);
+  KeepAliveWith(context.edges.life);
   SetIcon(&Icon101());
   context_.texts.CreateCatalogues();
   SetCaption(Text(caption));
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
   SetEditsCellWords(Text(kTextEditsCells));
 }
+
+std::vector<ShownSetting> Editor::ShownSettings() const {
+  return fields_.Tell(context_.device.Record());
+}
+
+bool Editor::BelongsToImage() const { return generation_ == context_.device.ImageGeneration(); }
 
 void Editor::Open(Button& ok, Button& cancel, TabStrip* tabs) {
   ok.SetCaption(Words().cnstrOK);
@@ -93,11 +100,13 @@ bool Editor::DoubtsAreSettled() {
 
 void Editor::Ok() {
   if (BelongsToImage() && !DoubtsAreSettled()) return;
-  if (!Shown() || context_.terminated) return;  // it was closed, or ended, during the question
+  if (!Shown() || context_.edges.terminated)
+    return;  // it was closed, or ended, during the question
   if (!BelongsToImage()) {
     const Message refusal{Text(kTextEditorOutdated), Text(txt::kErrorMessage),
                           Message::Buttons::kOk};
-    if (!context_.terminated) context_.platform.Ask(refusal);  // a text source may have ended it
+    if (!context_.edges.terminated)
+      context_.platform.Ask(refusal);  // a text source may have ended it
     return;
   }
   if (!MayWrite()) return;
@@ -107,9 +116,9 @@ void Editor::Ok() {
 
 /// All of it or nothing: a failure half way puts back what was there.
 void Editor::Write() {
-  RecordEnvironment& env = context_.env;
-  Edits before = context_.PresentEdits();
-  const BlockImage image_before = Encoded(context_.BlkImage, env, Record());
+  RecordEnvironment& env = context_.device.env;
+  Edits before = context_.device.PresentEdits();
+  const BlockImage image_before = Encoded(context_.device.BlkImage, env, Record());
   try {
     {
       std::deque<CommitScope> raised;
@@ -117,9 +126,9 @@ void Editor::Write() {
       fields_.Write(Record(), env.commit);
       WriteRest(Record());
     }
-    ListChangedBlocks(image_before, Encoded(context_.BlkImage, env, Record()), env.blocks);
+    ListChangedBlocks(image_before, Encoded(context_.device.BlkImage, env, Record()), env.blocks);
   } catch (...) {
-    context_.PutBack(std::move(before));
+    context_.device.PutBack(std::move(before));
     throw;
   }
 }

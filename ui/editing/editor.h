@@ -6,11 +6,13 @@
 #include <vector>
 
 #include "core/commit.h"
+#include "core/identity.h"
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 #include "ui/editing/editor_part.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// A dialog that edits part of the record. It describes its controls once: what each shows, and
 /// which setting it is bound to. Opening runs the description to fill them; they hold the only
@@ -23,9 +25,7 @@ class Editor : public Dialog, public EditorPart {
  public:
   /// What the editor shows, in the order in which it is written. The reference stays valid as long
   /// as the editor; a record that was replaced meanwhile is asked for names only.
-  [[nodiscard]] std::vector<ShownSetting> ShownSettings() const {
-    return fields_.Tell(context_.Record());
-  }
+  [[nodiscard]] std::vector<ShownSetting> ShownSettings() const;
   /// Whether anything differs from when the editor opened.
   [[nodiscard]] bool Differs() const { return fields_.Differ(); }
 
@@ -49,7 +49,7 @@ class Editor : public Dialog, public EditorPart {
   virtual bool MayWrite() { return true; }
 
   /// False once another image has arrived: then nothing may be written any more.
-  [[nodiscard]] bool BelongsToImage() const { return generation_ == context_.ImageGeneration(); }
+  [[nodiscard]] bool BelongsToImage() const;
 
  private:
   friend class EditorPart;

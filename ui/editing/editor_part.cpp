@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ui/context.h"
 #include "ui/editing/editor.h"
 
 namespace quorvel {
@@ -11,6 +12,14 @@ EditorPart::operator Dialog&() const { return editor_; }
 Context& EditorPart::Ctx() const { return editor_.context_; }
 
 const Identity& EditorPart::Id() const { return editor_.id_; }
+
+MuxData& EditorPart::Record() const { return Ctx().device.Record(); }
+
+std::string EditorPart::Text(int id) const { return Ctx().GetText(id); }
+
+const GlobalCnst& EditorPart::Words() const { return Ctx().texts.Constants(); }
+
+const ObjStr& EditorPart::Objects() const { return Ctx().texts.Objects(); }
 
 FieldGroup& EditorPart::Each(int lines) const { return editor_.fields_.Group(exists_ ? lines : 0); }
 

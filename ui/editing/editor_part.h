@@ -3,12 +3,14 @@
 #include <string>
 
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 #include "ui/editing/choices.h"
 #include "ui/editing/fields.h"
+#include "ui/texts/text_catalogue.h"
 
 namespace quorvel {
 
+struct Context;
+struct Identity;
 class Editor;
 class LineGrid;
 
@@ -31,13 +33,13 @@ class EditorPart {
   ~EditorPart() = default;
 
   [[nodiscard]] Context& Ctx() const;
-  [[nodiscard]] MuxData& Record() const { return Ctx().Record(); }
+  [[nodiscard]] MuxData& Record() const;
   /// The device that the editor has opened for, which stays the same while a text source of the
   /// host's brings another image.
   [[nodiscard]] const Identity& Id() const;
-  [[nodiscard]] std::string Text(int id) const { return Ctx().GetText(id); }
-  [[nodiscard]] const GlobalCnst& Words() const { return Ctx().texts.Constants(); }
-  [[nodiscard]] const ObjStr& Objects() const { return Ctx().texts.Objects(); }
+  [[nodiscard]] std::string Text(int id) const;
+  [[nodiscard]] const GlobalCnst& Words() const;
+  [[nodiscard]] const ObjStr& Objects() const;
 
   /// Fields of one line each, and fields of `lines` lines that are written line by line. Groups are
   /// written in the order in which they are made.

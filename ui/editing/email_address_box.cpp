@@ -4,6 +4,7 @@
 #include <array>
 
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
@@ -31,7 +32,7 @@ EmailAddressField::EmailAddressField(Editor& editor, const Context& context, int
                                      TextBox& box, Label& warning)
     : address_(address),
       box_(box),
-      notes_(context, warning),
+      notes_(context.texts, warning),
       text_(box, context.platform, notes_),
       would_be_empty_(context.GetText(kTextAddressEmptied)),
       would_be_cut_(context.GetText(kTextAddressCut)),

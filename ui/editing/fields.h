@@ -8,11 +8,12 @@
 
 #include "core/commit.h"
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 #include "ui/editing/field.h"
 #include "ui/editing/grid_editing.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// Fields that are written line by line: all of the first camera, then all of the second. Within a
 /// line they are written in the order in which they were added, which is the order in which an

@@ -4,14 +4,15 @@
 #include <utility>
 
 #include "resources/text_table.h"
+#include "ui/texts/text_catalogue.h"
 
 namespace quorvel {
 
-NoteLine::NoteLine(const Context& context, Label& line)
+NoteLine::NoteLine(const TextCatalogue& texts, Label& line)
     : line_(line),
-      unknown_character_(context.GetText(kTextUnknownCharacter)),
-      control_left_out_(context.GetText(kTextControlLeftOut)),
-      lines_left_over_(context.GetText(kTextLinesLeftOver)),
+      unknown_character_(texts.GetText(kTextUnknownCharacter)),
+      control_left_out_(texts.GetText(kTextControlLeftOut)),
+      lines_left_over_(texts.GetText(kTextLinesLeftOver)),
       notes_{unknown_character_, control_left_out_} {}
 
 void NoteLine::Serve(TextBox& box) {

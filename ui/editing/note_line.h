@@ -4,9 +4,10 @@
 #include <vector>
 
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 
 namespace quorvel {
+
+class TextCatalogue;
 
 /// A line of a window that tells what there is to say of text boxes, as that the device lacks a
 /// character. One line may serve several boxes, which it then calls by name; each note stays until
@@ -14,7 +15,7 @@ namespace quorvel {
 class NoteLine {
  public:
   /// Asks for its texts now: a text source may do anything while it is asked.
-  NoteLine(const Context& context, Label& line);
+  NoteLine(const TextCatalogue& texts, Label& line);
   NoteLine(const NoteLine&) = delete;
   NoteLine& operator=(const NoteLine&) = delete;
   ~NoteLine() = default;

@@ -5,6 +5,7 @@
 
 #include "core/commit.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 #include "ui/menu/frm_msg.h"
 #include "ui/menu/menu_items.h"
 #include "ui/widgets/failure.h"
@@ -29,7 +30,8 @@ void frm_Menu::Load() {
   Build();
   if (unloaded_) return;
 
-  tmPopup = context_.platform.NewTimer([this] { context_.Guard("tmPopup", [this] { PopUp(); }); });
+  tmPopup =
+      context_.platform.NewTimer([this] { context_.edges.Guard("tmPopup", [this] { PopUp(); }); });
   tmPopup->SetInterval(kPopupDelay);
   PopUpSoon();
 }
@@ -37,19 +39,19 @@ void frm_Menu::Load() {
 void frm_Menu::Build() {
   context_.platform.TakeDown(*menu_);
   menu_ = std::make_shared<PopupMenu>(MainMenuItems());
-  generation_ = context_.ImageGeneration();
+  generation_ = context_.device.ImageGeneration();
   // The menu outlives its form for the moment in which a choice unloads the form.
-  menu_->edge = [weak = weak_from_this(), life = context_.life](const std::string& place,
-                                                                const Handler& handler) {
+  menu_->edge = [weak = weak_from_this(), life = context_.edges.life](const std::string& place,
+                                                                      const Handler& handler) {
     const auto keep_context = life.lock();
     const auto keep = weak.lock();
     if (!keep || !handler) return;
-    keep->context_.Guard(place, [&handler] {
+    keep->context_.edges.Guard(place, [&handler] {
       const Handler copy = handler;
       copy();
     });
   };
-  menu_->admit = [weak = weak_from_this(), life = context_.life] {
+  menu_->admit = [weak = weak_from_this(), life = context_.edges.life] {
     const auto keep_context = life.lock();
     const auto keep = weak.lock();
     return keep ? keep->Admit() : Answer::kOutdated;
@@ -62,7 +64,7 @@ void frm_Menu::Build() {
 }
 
 Answer frm_Menu::Admit() {
-  if (generation_ == context_.ImageGeneration()) return Answer::kDone;
+  if (generation_ == context_.device.ImageGeneration()) return Answer::kDone;
   PopUpSoon();
   return Answer::kOutdated;
 }
@@ -70,7 +72,7 @@ Answer frm_Menu::Admit() {
 void frm_Menu::PopUp() {
   const auto keep = shared_from_this();  // a text source may unload it meanwhile
   tmPopup->Stop();
-  if (generation_ != context_.ImageGeneration()) Build();
+  if (generation_ != context_.device.ImageGeneration()) Build();
   if (!unloaded_) context_.platform.PopUp(menu_, kFormWidth / 2, kFormHeight / 2);
 }
 
@@ -102,7 +104,7 @@ void frm_Menu::BindItem(std::string_view item, Handler action) {
 /// and disabled.
 void frm_Menu::BuildItems() {
   for (const MenuEditor& editor : MenuEditors()) {
-    if (EditorOf(editor.item, context_.env.identity) == nullptr) continue;
+    if (EditorOf(editor.item, context_.device.env.identity) == nullptr) continue;
     BindItem(editor.item, [this, item = editor.item] { OpenEditor(item); });
   }
   BindItem("mnuActGrid", [this] { ChooseActiveZones(); });
@@ -116,9 +118,10 @@ void frm_Menu::BuildItems() {
 }
 
 void frm_Menu::SetUpKeyboardLock() {
-  MuxData& record = context_.Record();
-  const bool lockable = context_.MenuHostCommId != 0 || context_.env.identity.IsTriplex();
-  if (context_.MenuHostCommId != 0) HideItem("mnuActGrid");
+  MuxData& record = context_.device.Record();
+  const bool lockable =
+      context_.host.MenuHostCommId != 0 || context_.device.env.identity.IsTriplex();
+  if (context_.host.MenuHostCommId != 0) HideItem("mnuActGrid");
   if (!lockable) {
     // These devices keep their keyboard locked while a host is connected; no flag is raised, so
     // this is not an edit.
@@ -129,7 +132,7 @@ void frm_Menu::SetUpKeyboardLock() {
 }
 
 void frm_Menu::SetUpForModel() {
-  const Identity& id = context_.env.identity;
+  const Identity& id = context_.device.env.identity;
   const char variant = static_cast<char>(id.VariantChar);
   if (id.IsMultiplexer()) {
     const bool basic = variant == 'A' || variant == 'C';
@@ -156,17 +159,17 @@ void frm_Menu::SetUpCaptions() {
   for (const ItemText& text : kItemTexts) {
     menu_->Item(text.item).caption = context_.GetText(text.id);
   }
-  const bool lumacast = context_.env.identity.LumacastModel;
+  const bool lumacast = context_.device.env.identity.LumacastModel;
   menu_->Item("mnu_VArchive").caption =
       context_.GetText(lumacast ? txt::kLumacastSetup : txt::kVideoArchiveSetup);
   menu_->Item("mnu_Exit").caption = context_.texts.Objects().objstExit;
 }
 
 void frm_Menu::SetUpLanguages() {
-  const int firmware = context_.ComboArray.Header().Firmware();
-  const Byte variant = context_.env.identity.VariantChar;
+  const int firmware = context_.device.ComboArray.Header().Firmware();
+  const Byte variant = context_.device.env.identity.VariantChar;
   if (firmware > kManyLanguagesFirmware) {
-    TickLanguage(std::min<int>(context_.Record().MuxLang(), kLanguages - 1));
+    TickLanguage(std::min<int>(context_.device.Record().MuxLang(), kLanguages - 1));
   } else if (variant == '1' || variant == '2') {
     TickLanguage(0);
     menu_->Item("mnu_French").enabled = false;
@@ -176,7 +179,7 @@ void frm_Menu::SetUpLanguages() {
 }
 
 void frm_Menu::OpenEditor(std::string_view item) {
-  const MenuEditor* const editor = EditorOf(item, context_.env.identity);
+  const MenuEditor* const editor = EditorOf(item, context_.device.env.identity);
   if (editor == nullptr) return;
   std::shared_ptr<Dialog>& place = open_[editor];
   try {
@@ -199,8 +202,8 @@ void frm_Menu::Show(std::shared_ptr<Dialog>& place) {
 
 void frm_Menu::ChooseLanguage(int code) {
   {
-    const CommitScope commit(context_.env.commit, CommitMenu);
-    context_.Record().MuxLang(static_cast<Byte>(code));
+    const CommitScope commit(context_.device.env.commit, CommitMenu);
+    context_.device.Record().MuxLang(static_cast<Byte>(code));
   }
   TickLanguage(code);
   PopUpSoon();
@@ -208,15 +211,15 @@ void frm_Menu::ChooseLanguage(int code) {
 
 void frm_Menu::LockKeyboard(bool lock) {
   {
-    const CommitScope commit(context_.env.commit, CommitMenu);
-    context_.Record().LockKeyBoard(lock ? 1 : 0);
+    const CommitScope commit(context_.device.env.commit, CommitMenu);
+    context_.device.Record().LockKeyBoard(lock ? 1 : 0);
   }
   TickKeyboardLock(lock);
   PopUpSoon();
 }
 
 void frm_Menu::ChooseActiveZones() {
-  if (context_.MenuParam < 1) {
+  if (context_.host.MenuParam < 1) {
     if (fMsg == nullptr) fMsg = std::make_shared<frmMsg>(context_);
     Show(fMsg);
   } else if (ActGridRequest) {

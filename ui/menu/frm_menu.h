@@ -4,11 +4,13 @@
 #include <memory>
 #include <string_view>
 
+#include "quorvel/platform.h"
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 #include "ui/menu/menu_editors.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// The popup menu: the user's entry to every editor, and the language and keyboard-lock commands.
 /// The form itself is never seen; it shows the menu in the middle of its own area.

@@ -2,11 +2,12 @@
 
 #include "resources/icon.h"
 #include "resources/text_table.h"
+#include "ui/context.h"
 
 namespace quorvel {
 
 frmMsg::frmMsg(Context& context) : Dialog(context.platform, "frmMsg") {
-  KeepAliveWith(context.life);
+  KeepAliveWith(context.edges.life);
   SetCaption(context.GetText(txt::kInformationMessage));
   SetIcon(&Icon101());
   Label1.SetCaption(context.GetText(txt::kEstablishEthernetFirst));

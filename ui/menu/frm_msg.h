@@ -1,9 +1,10 @@
 #pragma once
 
 #include "quorvel/widgets.h"
-#include "ui/context.h"
 
 namespace quorvel {
+
+struct Context;
 
 /// Tells that active zones need a network link. on_closed is its MsgClose.
 class frmMsg : public Dialog {

@@ -1,5 +1,7 @@
 #include "ui/setup/frm_telemetry.h"
 
+#include "ui/context.h"
+
 namespace quorvel {
 
 namespace {
@@ -10,7 +12,7 @@ frm_Telemetry::frm_Telemetry(Context& context)
     : Editor(context, "frm_Telemetry", txt::kTelemetry, {CommitTelemetry}) {
   MSFG_Tel.SetSpokenName(Caption());
   const bool current = Id().VariantChar == '2' &&
-                       context.ComboArray.Header().Firmware() >= kFirmwareOfCurrentProtocol;
+                       context.device.ComboArray.Header().Firmware() >= kFirmwareOfCurrentProtocol;
   const auto of_two = [this, current](int first, int second) -> Choices {
     return {{0, Text(current ? txt::kLegacy : first)}, {1, Text(current ? txt::kCurrent : second)}};
   };

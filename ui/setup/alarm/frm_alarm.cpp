@@ -1,8 +1,13 @@
 #include "ui/setup/alarm/frm_alarm.h"
 
+#include "ui/context.h"
+
 namespace quorvel {
 
-frm_Alarm::frm_Alarm(Context& context) : Editor(context, "frm_Alarm", txt::kAlarms, {CommitAlarm}) {
+frm_Alarm::frm_Alarm(Context& context)
+    : Editor(context, "frm_Alarm", txt::kAlarms, {CommitAlarm}),
+      features_(AlarmFeaturesOf(Id(), context.DeviceFirmware(),
+                                context.device.BlkImage.BlkCountOrZero())) {
   SetLayout(Column(Pages(), Row(Stretch(), cmd_OK, cmd_Cancel)));
   // Not an edit: these models do so in any case.
   if (features_.full_screen_always && BelongsToImage()) Record().FullscrAlm(true);

@@ -20,8 +20,7 @@ class frm_Alarm : public Editor {
  private:
   [[nodiscard]] Layout Pages();
 
-  AlarmFeatures features_{
-      AlarmFeaturesOf(Id(), Ctx().DeviceFirmware(), Ctx().BlkImage.BlkCountOrZero())};
+  AlarmFeatures features_;
 
   TabStrip SSTab1{*this, "SSTab1"};
   AlarmInputPage input_page_{*this};

@@ -1,4 +1,4 @@
-#include "ui/menu/text_catalogue.h"
+#include "ui/texts/text_catalogue.h"
 
 #include "resources/text_table.h"
 

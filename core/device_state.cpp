@@ -1,0 +1,42 @@
+#include "core/device_state.h"
+
+#include <utility>
+
+#include "core/codec.h"
+
+namespace quorvel {
+
+MuxData& DeviceState::Record() {
+  if (record_ == nullptr) record_ = std::make_unique<MuxData>(env);
+  return *record_;
+}
+
+void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray array) {
+  const Identity present = env.identity;
+  auto fresh = std::make_unique<MuxData>(env);
+  try {
+    DecodeImage(image, env, *fresh);
+  } catch (...) {
+    env.identity = present;
+    throw;
+  }
+  record_ = std::move(fresh);
+  BlkImage = std::move(image);
+  ComboArray = std::move(array);
+  LoadedFromFile = source == ImageSource::kSettingsFile;
+  env.blocks.SetMaxBlk(BlkImage.BlkCount());
+  ++generation_;
+}
+
+Edits DeviceState::PresentEdits() {
+  Edits edits{std::make_unique<MuxData>(env), env.blocks};
+  *edits.record = Record();
+  return edits;
+}
+
+void DeviceState::PutBack(Edits edits) noexcept {
+  record_ = std::move(edits.record);
+  env.blocks = edits.blocks;
+}
+
+}  // namespace quorvel

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "core/block_image.h"
+#include "core/combined_array.h"
+#include "core/record/mux_data.h"
+#include "core/record_environment.h"
+
+namespace quorvel {
+
+/// Where an image comes from.
+enum class ImageSource { kDevice, kSettingsFile, kFactory };
+
+/// The record and what is listed of it as modified.
+struct Edits {
+  std::unique_ptr<MuxData> record;
+  clsBlkSave blocks;
+};
+
+/// What a control holds of its device: the image, the record that was decoded from it, and what is
+/// listed of it as modified.
+class DeviceState {
+ public:
+  DeviceState() = default;
+  DeviceState(const DeviceState&) = delete;
+  DeviceState& operator=(const DeviceState&) = delete;
+  ~DeviceState() = default;
+
+  BlockImage BlkImage;
+  std::int32_t ImageByteCount = 0;  ///< bytes received, restored or built
+  RecordEnvironment env;            ///< commit flags, modified-block list, identity of the image
+  CombinedArray ComboArray;         ///< the image's own, received, restored or built; or empty
+  bool LoadedFromFile = false;      ///< what is sent is compared with the connected device first
+  bool UsePcTime = false;           ///< block 61 takes the computer's clock when it is encoded
+
+  /// The record; created at first use.
+  [[nodiscard]] MuxData& Record();
+  /// Counts the images that have arrived: an editor that opened on the settings of an earlier one
+  /// must not write into the present ones.
+  [[nodiscard]] int ImageGeneration() const { return generation_; }
+  /// True when there is an image. It is whole, and the record was decoded from it: an image that
+  /// was refused, or of which a part is missing, is no configuration and does not get here.
+  [[nodiscard]] bool HasImage() const { return BlkImage.Size() != 0; }
+
+  /// Decodes `image` into a fresh record; both then replace the present ones, `array` is what the
+  /// image travelled in, and nothing is modified any more. Throws ImageError, and keeps what is
+  /// there, when the image cannot be decoded.
+  void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});
+
+  /// A copy of what was edited, and the way back to it.
+  [[nodiscard]] Edits PresentEdits();
+  void PutBack(Edits edits) noexcept;
+
+ private:
+  std::unique_ptr<MuxData> record_;
+  int generation_ = 0;
+};
+
+}  // namespace quorvel

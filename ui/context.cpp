@@ -1,0 +1,25 @@
+#include "ui/context.h"
+
+#include "core/codec.h"
+
+namespace quorvel {
+
+void Context::InitGlobals() {
+  device.UsePcTime = false;
+  texts.CreateCatalogues();
+}
+
+void Context::EncodeListedBlocks() {
+  const LocalTime now = platform.Now();
+  const TimeOfDay pc_time{now.hour, now.minute, now.second};
+  EncodeModifiedBlocks(device.BlkImage, device.env, device.Record(),
+                       device.UsePcTime ? &pc_time : nullptr);
+}
+
+int Context::DeviceFirmware() const {
+  const ComboSizes& sizes = host.combo_sizes;
+  if (sizes.ComboExtraA == 0) return device.ComboArray.Header().Firmware();
+  return sizes.ComboExtraA * 100 + sizes.ComboExtraB;
+}
+
+}  // namespace quorvel
