@@ -28,6 +28,12 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   ++generation_;
 }
 
+BlockImage DeviceState::EncodedImage() {
+  BlockImage image = BlkImage;
+  EncodeImage(image, env, Record());
+  return image;
+}
+
 Edits DeviceState::PresentEdits() {
   Edits edits{std::make_unique<MuxData>(env), env.blocks};
   *edits.record = Record();

@@ -49,6 +49,8 @@ class DeviceState {
   /// there, when the image cannot be decoded.
   void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});
 
+  /// The image as it would be with every block encoded from the record.
+  [[nodiscard]] BlockImage EncodedImage();
   /// A copy of what was edited, and the way back to it.
   [[nodiscard]] Edits PresentEdits();
   void PutBack(Edits edits) noexcept;

@@ -71,7 +71,11 @@ class Bench {
     return dynamic_cast<Editor&>(*dialog_);
   }
   void Accept() { EXPECT_EQ(dialog_->DefaultButton()->Click(), Answer::kDone); }
+  void Cancel() { EXPECT_EQ(dialog_->CancelButton()->Click(), Answer::kDone); }
   int Below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
+  /// Which of so many lines to choose next: any, or each in its turn from `round` on.
+  int Line(int count) { return round < 0 ? Below(count) : (round + line_++) % count; }
+  int round = -1;
 
   /// What the record holds, by name.
   std::map<std::string, std::string> Values() {
@@ -115,6 +119,7 @@ class Bench {
  private:
   TestHost host_;
   std::mt19937 random_;
+  int line_ = 0;
   std::shared_ptr<Dialog> dialog_;
   std::map<std::string, std::string> device_;
 };
@@ -122,14 +127,14 @@ class Bench {
 /// Uses a control as a person does, to choose something; false when it is refused.
 bool Use(Bench& bench, Widget& control) {
   if (auto* const list = dynamic_cast<ChoiceWidget*>(&control)) {
-    return list->Count() > 0 && list->Choose(bench.Below(list->Count())) == Answer::kDone;
+    return list->Count() > 0 && list->Choose(bench.Line(list->Count())) == Answer::kDone;
   }
   if (auto* const box = dynamic_cast<CheckBox*>(&control)) {
     return (bench.Below(2) == 0 || box->Click() == Answer::kDone) && box->Click() == Answer::kDone;
   }
   if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
     auto& group = *option->GetGroup();
-    return group[static_cast<std::size_t>(bench.Below(static_cast<int>(group.size())))].Click() ==
+    return group[static_cast<std::size_t>(bench.Line(static_cast<int>(group.size())))].Click() ==
            Answer::kDone;
   }
   if (auto* const slider = dynamic_cast<Slider*>(&control)) {
@@ -231,25 +236,51 @@ TEST(EditorSuite, AnUntouchedOkPutsRightWhatTheRulesSayAndNothingElse) {
   });
 }
 
+/// Chooses in every control, accepts, and looks into the record and the editor anew.
+void ExpectChoicesArrive(Bench& bench, const std::string& item) {
+  const auto chosen = ChooseEverywhere(bench, bench.Open(item));
+  EXPECT_FALSE(chosen.empty());
+  bench.Accept();
+  const auto values = bench.Values();
+  for (const auto& [name, value] : chosen) {
+    EXPECT_TRUE(Holds(values, name, value))
+        << name << " = " << value << ", not " << values.at(name.substr(0, name.find(" bit ")));
+  }
+  for (const ShownSetting& shown : bench.Open(item).ShownSettings()) {
+    EXPECT_FALSE(shown.differs) << shown.settings.front();
+    const auto found = chosen.find(shown.settings.front());
+    if (found == chosen.end()) continue;
+    EXPECT_EQ(shown.value, found->second) << found->first;
+  }
+}
+
 TEST(EditorSuite, EveryChoiceReachesItsSettingAndIsShownAgain) {
   ForEveryModel([](Bench& bench, const std::string& item) {
-    Editor& editor = bench.Open(item);
-    const auto chosen = ChooseEverywhere(bench, editor);
-    EXPECT_FALSE(chosen.empty());
-    bench.Accept();
-    const auto values = bench.Values();
-    for (const auto& [name, value] : chosen) {
-      EXPECT_TRUE(Holds(values, name, value))
-          << name << " = " << value << ", not " << values.at(name.substr(0, name.find(" bit ")));
-    }
+    ExpectChoicesArrive(bench, item);
     bench.ExpectListedWhatChanged();
-    for (const ShownSetting& shown : bench.Open(item).ShownSettings()) {
-      EXPECT_FALSE(shown.differs) << shown.settings.front();
-      const auto found = chosen.find(shown.settings.front());
-      if (found == chosen.end()) continue;
-      EXPECT_EQ(shown.value, found->second) << found->first;
-    }
   });
+}
+
+TEST(EditorSuite, EveryLineOfEveryListIsAValueOfItsOwn) {
+  for (const int code : {0, 14}) {
+    Bench bench(4, static_cast<Byte>(code), '4', 1);
+    for (const std::string& item : bench.Items()) {
+      int lines = 2;
+      const Editor& editor = bench.Open(item);
+      for (const Widget* const widget : editor.Widgets()) {
+        const auto* const list = dynamic_cast<const ChoiceWidget*>(widget);
+        if (list != nullptr) lines = std::max(lines, list->Count());
+      }
+      bench.Cancel();
+      for (bench.round = 0; bench.round < lines; ++bench.round) {
+        SCOPED_TRACE(item + " " + std::to_string(code) + " from line " +
+                     std::to_string(bench.round));
+        ExpectChoicesArrive(bench, item);
+        bench.Cancel();
+        if (testing::Test::HasFailure()) return;
+      }
+    }
+  }
 }
 
 TEST(EditorSuite, CancelAndTheCloseButtonWriteNothing) {

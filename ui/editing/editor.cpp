@@ -1,9 +1,9 @@
 #include "ui/editing/editor.h"
 
+#include <algorithm>
 #include <deque>
 #include <utility>
 
-#include "core/codec.h"
 #include "resources/icon.h"
 #include "resources/text_table.h"
 #include "ui/context.h"
@@ -12,15 +12,6 @@
 namespace quorvel {
 
 namespace {
-
-/// The image as it would be with every block encoded from the record, which stays as it is.
-BlockImage Encoded(const BlockImage& present, RecordEnvironment& env, const MuxData& record) {
-  BlockImage image = present;
-  MuxData copy(env);
-  copy = record;
-  EncodeImage(image, env, copy);
-  return image;
-}
 
 /// A change that no rule of the record has listed is listed here, so that none stays behind: what
 /// is accepted is sent.
@@ -100,13 +91,13 @@ bool Editor::DoubtsAreSettled() {
 
 void Editor::Ok() {
   if (BelongsToImage() && !DoubtsAreSettled()) return;
-  if (!Shown() || context_.edges.terminated)
-    return;  // it was closed, or ended, during the question
+  // The question, or a text source that is asked for a text, may close the editor or end the
+  // control.
+  if (!Shown() || context_.edges.terminated) return;
   if (!BelongsToImage()) {
     const Message refusal{Text(kTextEditorOutdated), Text(txt::kErrorMessage),
                           Message::Buttons::kOk};
-    if (!context_.edges.terminated)
-      context_.platform.Ask(refusal);  // a text source may have ended it
+    if (!context_.edges.terminated) context_.platform.Ask(refusal);
     return;
   }
   if (!MayWrite()) return;
@@ -118,7 +109,7 @@ void Editor::Ok() {
 void Editor::Write() {
   RecordEnvironment& env = context_.device.env;
   Edits before = context_.device.PresentEdits();
-  const BlockImage image_before = Encoded(context_.device.BlkImage, env, Record());
+  const BlockImage image_before = context_.device.EncodedImage();
   try {
     {
       std::deque<CommitScope> raised;
@@ -126,7 +117,7 @@ void Editor::Write() {
       fields_.Write(Record(), env.commit);
       WriteRest(Record());
     }
-    ListChangedBlocks(image_before, Encoded(context_.device.BlkImage, env, Record()), env.blocks);
+    ListChangedBlocks(image_before, context_.device.EncodedImage(), env.blocks);
   } catch (...) {
     context_.device.PutBack(std::move(before));
     throw;
