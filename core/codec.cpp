@@ -75,7 +75,7 @@ void EncodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec) {
 }
 
 void EncodeModifiedBlocks(BlockImage& image, RecordEnvironment& env, MuxData& rec,
-                          const TimeOfDay* pc_time) {
+                          const ClockTime* pc_time) {
   BlockSet blocks;
   for (Byte i = 0; i < env.blocks.BlkSavIdx(); ++i) blocks.set(env.blocks.BlkNumSav(i));
   if (blocks[kClockBlock] && image.Counts(kClockBlock) && pc_time != nullptr) {

@@ -3,15 +3,9 @@
 #include "core/block_image.h"
 #include "core/record/mux_data.h"
 #include "core/record_environment.h"
+#include "quorvel/clock_time.h"
 
 namespace quorvel {
-
-/// Wall-clock time of day that may replace the record's clock when block 61 is encoded.
-struct TimeOfDay {
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
-};
 
 /// Fills `rec` and the identity of `env` from the image, and lowers all commit flags. Settings that
 /// the model does not have keep their values. Compression nibbles above 8 are repaired in the image
@@ -31,6 +25,6 @@ void EncodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec);
 /// Encodes every listed block. With `pc_time`, block 61 takes the clock from it, where there is
 /// one.
 void EncodeModifiedBlocks(BlockImage& image, RecordEnvironment& env, MuxData& rec,
-                          const TimeOfDay* pc_time = nullptr);
+                          const ClockTime* pc_time = nullptr);
 
 }  // namespace quorvel

@@ -10,8 +10,7 @@ void Context::InitGlobals() {
 }
 
 void Context::EncodeListedBlocks() {
-  const LocalTime now = platform.Now();
-  const TimeOfDay pc_time{now.hour, now.minute, now.second};
+  const ClockTime pc_time = platform.Now().time;
   EncodeModifiedBlocks(device.BlkImage, device.env, device.Record(),
                        device.UsePcTime ? &pc_time : nullptr);
 }

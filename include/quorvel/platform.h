@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "quorvel/class_factory.h"
+#include "quorvel/clock_time.h"
 #include "quorvel/property_bag.h"
 
 namespace quorvel {
@@ -45,16 +46,6 @@ struct FileRequest {
   bool ask_before_overwriting = false;
   bool must_exist = false;
   bool read_only_box = false;  ///< shows a ticked box that says that the file is only read
-};
-
-/// Local date and time. Month and day count from 1.
-struct LocalTime {
-  int year = 2000;
-  int month = 1;
-  int day = 1;
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
 };
 
 /// Pixels.

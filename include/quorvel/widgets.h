@@ -1,8 +1,8 @@
 #pragma once
 
 /// The widget models that a toolkit draws and tests drive.
+#include "quorvel/clock_time.h"
 #include "quorvel/widgets/choice.h"
-#include "quorvel/widgets/clock_time.h"
 #include "quorvel/widgets/control_array.h"
 #include "quorvel/widgets/controls.h"
 #include "quorvel/widgets/dialog.h"

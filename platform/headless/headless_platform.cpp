@@ -189,22 +189,21 @@ std::unique_ptr<Timer> HeadlessPlatform::NewTimer(std::function<void()> tick) {
 LocalTime HeadlessPlatform::Now() const {
   using std::chrono::days;
   using std::chrono::sys_days;
+  const auto& [start_date, start_time] = wall_clock_;
   const std::chrono::year_month_day start{
-      std::chrono::year(wall_clock_.year),
-      std::chrono::month(static_cast<unsigned>(wall_clock_.month)),
-      std::chrono::day(static_cast<unsigned>(wall_clock_.day))};
-  const auto moment = sys_days(start) + std::chrono::hours(wall_clock_.hour) +
-                      std::chrono::minutes(wall_clock_.minute) +
-                      std::chrono::seconds(wall_clock_.second + now_ / 1000);
+      std::chrono::year(start_date.year),
+      std::chrono::month(static_cast<unsigned>(start_date.month)),
+      std::chrono::day(static_cast<unsigned>(start_date.day))};
+  const auto moment = sys_days(start) + std::chrono::hours(start_time.hour) +
+                      std::chrono::minutes(start_time.minute) +
+                      std::chrono::seconds(start_time.second + now_ / 1000);
   const auto midnight = std::chrono::floor<days>(moment);
   const std::chrono::year_month_day date(midnight);
   const std::chrono::hh_mm_ss time(moment - midnight);
-  return {static_cast<int>(date.year()),
-          static_cast<int>(static_cast<unsigned>(date.month())),
-          static_cast<int>(static_cast<unsigned>(date.day())),
-          static_cast<int>(time.hours().count()),
-          static_cast<int>(time.minutes().count()),
-          static_cast<int>(time.seconds().count())};
+  return {{static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+           static_cast<int>(static_cast<unsigned>(date.day()))},
+          {static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
+           static_cast<int>(time.seconds().count())}};
 }
 
 std::vector<std::uint8_t> HeadlessPlatform::ReadFile(const std::string& path) {

@@ -65,8 +65,8 @@ std::unique_ptr<Timer> QtPlatform::NewTimer(std::function<void()> tick) {
 
 LocalTime QtPlatform::Now() const {
   const QDateTime now = QDateTime::currentDateTime();
-  return {now.date().year(), now.date().month(),  now.date().day(),
-          now.time().hour(), now.time().minute(), now.time().second()};
+  return {{now.date().year(), now.date().month(), now.date().day()},
+          {now.time().hour(), now.time().minute(), now.time().second()}};
 }
 
 std::vector<std::uint8_t> QtPlatform::ReadFile(const std::string& path) {

@@ -32,7 +32,7 @@ TEST_F(Codec, ModifiedBlocksOnlyAndTheClockOfThePc) {
   Decode();
   rec_->MuxLang(9);
   rec_->MultiDwell(8);
-  const TimeOfDay now{23, 58, 57};
+  const ClockTime now{23, 58, 57};
   env_.blocks.AddBlk(60);
   EncodeModifiedBlocks(image_, env_, *rec_, &now);
   EXPECT_EQ(image_.Block(60)[4], 9);

@@ -234,5 +234,17 @@ TEST_F(ChangeMarks, TellWhoseClockItIs) {
   }
 }
 
+TEST_F(ChangeMarks, TheClockOfTheComputerIsThatOfTheMomentOfSending) {
+  platform_.SetNow({{2024, 2, 28}, {23, 59, 58}});
+  It().UsePcTime = true;
+  It().env.blocks.AddBlk(kClock);
+  platform_.Advance(3000);
+  EXPECT_TRUE((platform_.Now() == LocalTime{{2024, 2, 29}, {0, 0, 1}}));
+  Send();
+  EXPECT_EQ(Sent(kClock, 0), 0);
+  EXPECT_EQ(Sent(kClock, 1), 0);
+  EXPECT_EQ(Sent(kClock, 2), 1);
+}
+
 }  // namespace
 }  // namespace quorvel

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "quorvel/widgets/clock_time.h"
+#include "quorvel/clock_time.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {

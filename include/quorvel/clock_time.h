@@ -15,12 +15,19 @@ struct ClockTime {
   auto operator<=>(const ClockTime&) const = default;
 };
 
-/// A day of the calendar.
+/// A day of the calendar. Month and day count from 1.
 struct CalendarDate {
   int year = 2000;
   int month = 1;
   int day = 1;
   auto operator<=>(const CalendarDate&) const = default;
+};
+
+/// A moment of the computer's clock, in its own time zone.
+struct LocalTime {
+  CalendarDate date;
+  ClockTime time;
+  auto operator<=>(const LocalTime&) const = default;
 };
 
 enum class ClockFormat {

@@ -1,4 +1,4 @@
-#include "quorvel/widgets/clock_time.h"
+#include "quorvel/clock_time.h"
 
 #include <algorithm>
 #include <chrono>
