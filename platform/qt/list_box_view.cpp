@@ -103,6 +103,13 @@ int ChoiceList::SelectedRow() const {
   return selected.isEmpty() ? -1 : selected.front().row();
 }
 
+/// The toolkit takes the selection away when the pointer, pressed on the selected item, is let go
+/// below the last one.
+QItemSelectionModel::SelectionFlags ChoiceList::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* /*event*/) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
 void ChoiceList::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   pressed_ = indexAt(event->position().toPoint()).isValid();

@@ -36,6 +36,8 @@ class ChoiceList : public FocusShown<QListView> {
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(
+      const QModelIndex& index, const QEvent* event) const override;
 
  private:
   void ShowBarWhereNeeded();

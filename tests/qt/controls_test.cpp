@@ -77,6 +77,13 @@ TEST_F(QtControls, ListHasNoCurrentItemUntilAPickAndTellsEachOnce) {
             "list 3 \"3\" of 101; list 1 \"1\" of 101; ");
   dialog_->list.Select(500);
   EXPECT_FALSE(list.selectionModel()->hasSelection());
+
+  dialog_->list.SetItems({"Off", "On"});
+  dialog_->list.Select(1);
+  QTest::mousePress(list.viewport(), Qt::LeftButton, {}, CellPlace(list, 1, 0));
+  QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, list.viewport()->rect().bottomLeft());
+  EXPECT_EQ(TakeNotes(), "list 1 \"On\" of 2; ");
+  EXPECT_TRUE(list.selectionModel()->isSelected(list.model()->index(1, 0)));
 }
 
 TEST_F(QtControls, LongListScrollsToWhatTheProgramSelectsAndShowsWholeRowsAndTheFocus) {
