@@ -225,6 +225,7 @@ void GridTable::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) return on_copy();
   if (event->matches(QKeySequence::Paste)) return on_paste();
   if (event->matches(QKeySequence::SelectAll)) return MarkColumn();
+  if (event->matches(QKeySequence::Delete)) return on_empty();
   const bool extend = (event->modifiers() & Qt::ShiftModifier) != 0 && row_ > 0;
   int row = extend ? row_sel_ : row_;
   int column = column_;

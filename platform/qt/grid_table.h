@@ -29,6 +29,8 @@ class GridTable : public FocusShown<QTableView> {
   /// The selected cells are to be copied, or replaced by what was copied.
   std::function<void()> on_copy;
   std::function<void()> on_paste;
+  /// The Delete key: the selected rows are to be emptied.
+  std::function<void()> on_empty;
 
   /// Draws this selection; row 0 for none.
   void ShowSelection(int row, int column, int row_sel);

@@ -25,6 +25,7 @@ GridView::GridView(VerbsUnderWay& verbs, Grid& model, QWidget& parent, GridTexts
   GetBody()->on_mark = [this](int row) { Act([row](Grid& grid) { grid.Mark(row); }); };
   GetBody()->on_copy = [this] { Copy(); };
   GetBody()->on_paste = [this] { Paste(); };
+  GetBody()->on_empty = [this] { Act([](Grid& grid) { grid.Empty(); }); };
   GetBody()->on_cancel = [this] { Refresh(Aspect::kSelection); };
   DrawAll();
   RenewTexts();  // the window is about to ask how large the table is

@@ -48,7 +48,9 @@ TEST_F(QtGrid, PressDragReleaseSelectsRowsOfOneColumn) {
   EXPECT_EQ(TakeNotes(), "press 5,1; grid 5-5@1; ");
 }
 
-TEST_F(QtGrid, KeysMoveAndExtend) {
+TEST_F(QtGrid, KeysMoveExtendAndEmpty) {
+  dialog_->grid.can_empty = [this] { return dialog_->grid.Column() == 1; };
+  dialog_->grid.on_empty = [this] { dialog_->notes += "empty; "; };
   const struct {
     Qt::Key key;
     Qt::KeyboardModifiers modifiers;
@@ -66,6 +68,8 @@ TEST_F(QtGrid, KeysMoveAndExtend) {
       {Qt::Key_Down, Qt::ShiftModifier, "", "1-3@1"},
       {Qt::Key_Return, {}, "", "1-3@1"},
       {Qt::Key_C, {}, "", "1-3@1"},
+      {Qt::Key_Delete, Qt::ShiftModifier, "", "1-3@1"},
+      {Qt::Key_Delete, {}, "empty; ", "1-3@1"},
       {Qt::Key_A, Qt::ControlModifier, "press 1,1; ", "1-16@1"},
   };
   for (const auto& it : cases) {

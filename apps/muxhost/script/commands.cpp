@@ -41,6 +41,7 @@ constexpr Command kCommands[] = {
     {"press GRID ROW COLUMN", 3, 3, commands::Press},
     {"release GRID FIRST LAST", 3, 3, commands::Release},
     {"mark GRID ROW", 2, 2, commands::Mark},
+    {"empty GRID", 1, 1, commands::Empty},
     {"tab TABSTRIP PAGE", 2, 2, commands::Tab},
     {"close [WINDOW]", 0, 1, commands::Close},
     {"answer ok|cancel|file FILE|file cancel", 1, 2, commands::AnswerNext},

@@ -38,6 +38,7 @@ void Pick(Desk& desk, Words words);
 void Press(Desk& desk, Words words);
 void Release(Desk& desk, Words words);
 void Mark(Desk& desk, Words words);
+void Empty(Desk& desk, Words words);
 void Tab(Desk& desk, Words words);
 void Close(Desk& desk, Words words);
 void AnswerNext(Desk& desk, Words words);

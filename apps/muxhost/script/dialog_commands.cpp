@@ -120,6 +120,14 @@ void Mark(Desk& desk, Words words) {
   Require(FindControlOf<Grid>(desk, words[1], "mark").Mark(row), words[1]);
 }
 
+void Empty(Desk& desk, Words words) {
+  const Answer answer = FindControlOf<Grid>(desk, words[1], "empty").Empty();
+  if (answer == Answer::kNotAChoice) {
+    throw ScriptError("the cells of this column of " + words[1] + " cannot be empty");
+  }
+  Require(answer, words[1]);
+}
+
 void Tab(Desk& desk, Words words) {
   const int page = Place("page", words[2]);
   Require(FindControlOf<TabStrip>(desk, words[1], "turn over").Choose(page), words[1]);
