@@ -124,7 +124,7 @@ class Bench {
   std::map<std::string, std::string> device_;
 };
 
-/// Uses a control as a person does, to choose something; false when it is refused.
+/// Uses a control as the user does, to choose something; false when it is refused.
 bool Use(Bench& bench, Widget& control) {
   if (auto* const list = dynamic_cast<ChoiceWidget*>(&control)) {
     return list->Count() > 0 && list->Choose(bench.Line(list->Count())) == Answer::kDone;
@@ -203,7 +203,7 @@ bool Holds(const std::map<std::string, std::string>& values, const std::string& 
 }
 
 /// Runs `trial` for devices of every model, all with other cameras, variants and settings.
-/// QUORVEL_SUITE_ROUNDS says how often, for whoever has the time.
+/// QUORVEL_SUITE_ROUNDS says how often.
 template <class Trial>
 void ForEveryModel(const Trial& trial) {
   const char* const rounds = std::getenv("QUORVEL_SUITE_ROUNDS");

@@ -91,7 +91,7 @@ class ListPairCells : public CellControl {
   std::array<List, 2> lists_;
 };
 
-/// A slider shows something even when the cell has nothing. That is no choice until somebody moves
+/// A slider shows something even when the cell has nothing. That is no choice until the user moves
 /// the handle.
 class SliderCells : public CellControl {
  public:

@@ -28,9 +28,9 @@ class CellControl {
   }
   /// Cell text of a value; empty for one that reads as nothing.
   [[nodiscard]] virtual std::string TextOf(int part, int value) const = 0;
-  /// The first value that a person can choose and whose cell reads so, or kNone.
+  /// The first value that the user can choose and whose cell reads so, or kNone.
   [[nodiscard]] virtual int ValueOf(int part, const std::string& text) const = 0;
-  /// True for a value that a person can choose.
+  /// True for a value that the user can choose.
   [[nodiscard]] virtual bool Offers(int part, int value) const = 0;
   /// Shows the cells of `row`: a value for each part, or kNone. What the control does not offer
   /// leaves it blank.

@@ -196,7 +196,7 @@ class PortField final : public ValueField {
  protected:
   void Show(int /*line*/, int value) override { port_.Show(value); }
   [[nodiscard]] int Present(int /*line*/) const override { return port_.Number(); }
-  /// What is stored out of range is shown, and stays until somebody types.
+  /// What is stored out of range is shown, and stays until the user types.
   [[nodiscard]] bool Offers(int /*value*/) const override { return true; }
   [[nodiscard]] std::string TextOf(int value) const override { return std::to_string(value); }
   [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return box_; }

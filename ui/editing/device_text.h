@@ -11,9 +11,9 @@
 
 namespace quorvel {
 
-/// A text box over a byte string of the device. While somebody types it shows at once what the
-/// device's code page can keep, and the line of notes tells what was left out. A box that nobody
-/// changed says nothing about the bytes, some of which it may be unable to show. Takes the box's
+/// A text box over a byte string of the device. While the user types it shows at once what the
+/// device's code page can keep, and the line of notes tells what was left out. A box that the user
+/// left alone says nothing about the bytes, some of which it may be unable to show. Takes the box's
 /// on_change for itself.
 class DeviceText {
  public:
@@ -29,7 +29,7 @@ class DeviceText {
   [[nodiscard]] const std::string& Shown() const { return shown_; }
   /// What the box shows, as the device would hold it.
   [[nodiscard]] std::string Bytes() const { return platform_.FromUtf8(box_.Text()); }
-  /// The bytes that somebody has typed; nothing when the box reads as it was shown, also after
+  /// The bytes that the user has typed; nothing when the box reads as it was shown, also after
   /// something else had been typed meanwhile.
   [[nodiscard]] std::optional<std::string> Typed() const;
   /// What there is to say of the text itself, where typing has left nothing out.

@@ -29,7 +29,7 @@ class Editor : public Dialog, public EditorPart {
   /// Whether anything differs from when the editor opened.
   [[nodiscard]] bool Differs() const { return fields_.Differ(); }
 
-  /// Tells what is doubtful of what somebody has typed into a control; empty for nothing. It asks
+  /// Tells what is doubtful of what the user has typed into a control; empty for nothing. It asks
   /// for no texts.
   using Doubt = std::function<std::string()>;
   /// Has OK ask whether to store what is doubtful, whatever page is in front. Who goes back finds

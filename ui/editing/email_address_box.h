@@ -14,8 +14,8 @@ namespace quorvel {
 ///
 /// The device holds the parts before and after the "@" apart. A part without the other reads as no
 /// address; the box is empty then, and emptying it once more clears the part. An address that
-/// nobody has typed stays as it is stored: not every pair of parts that a device holds reads as an
-/// address.
+/// the user left alone stays as it is stored: not every pair of parts that a device holds reads as
+/// an address.
 class EmailAddressField : public Field {
  public:
   /// `address` as in clsEmailNotify::EmailString.

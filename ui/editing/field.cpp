@@ -5,12 +5,7 @@
 namespace quorvel {
 
 Field& Field::When(bool exists) {
-  if (!exists) lines_ = 0;
-  return *this;
-}
-
-Field& Field::First(int lines) {
-  lines_ = lines;
+  exists_ = exists;
   return *this;
 }
 
@@ -30,13 +25,13 @@ Field& Field::Lists(std::function<int(int)> block) {
 }
 
 void Field::WriteLine(MuxData& record, int line) {
-  if (!Has(line) || !written_ || (written_while_ && !written_while_())) return;
+  if (!exists_ || !written_ || (written_while_ && !written_while_())) return;
   Write(record, line);
   if (block_ && LineDiffers(line)) record.MarkModified(block_(line));
 }
 
 void Field::TellLine(MuxData& record, int line, std::vector<ShownSetting>& told) const {
-  if (!Has(line)) return;
+  if (!exists_) return;
   ShownSetting shown;
   Tell(record, line, shown);
   shown.differs = LineDiffers(line);

@@ -39,11 +39,8 @@ class Field {
   Field& operator=(const Field&) = delete;
   virtual ~Field() = default;
 
-  /// The model does not have it: it is neither filled nor written nor told. For a field of one
-  /// line; one of several lines can be left out line by line.
+  /// Unless the model has it, it is neither filled nor written nor told.
   Field& When(bool exists);
-  /// It has the first `lines` lines only.
-  Field& First(int lines);
   /// It is shown, and written only where, or while, this holds.
   Field& WrittenWhen(bool written);
   Field& WrittenWhen(std::function<bool()> written);
@@ -51,14 +48,14 @@ class Field {
   Field& Lists(std::function<int(int line)> block);
 
   void FillLine(MuxData& record, int line) {
-    if (Has(line)) Fill(record, line);
+    if (exists_) Fill(record, line);
   }
   void WriteLine(MuxData& record, int line);
   /// Shows again what it was filled with.
   virtual void PutBack(int line) = 0;
   /// Appends what it shows of a line.
   void TellLine(MuxData& record, int line, std::vector<ShownSetting>& told) const;
-  [[nodiscard]] bool Differs(int line) const { return Has(line) && LineDiffers(line); }
+  [[nodiscard]] bool Differs(int line) const { return exists_ && LineDiffers(line); }
 
  protected:
   virtual void Fill(MuxData& record, int line) = 0;
@@ -68,10 +65,7 @@ class Field {
   [[nodiscard]] virtual bool LineDiffers(int line) const = 0;
 
  private:
-  [[nodiscard]] bool Has(int line) const { return lines_ == kAll || line < lines_; }
-
-  static constexpr int kAll = -1;
-  int lines_ = kAll;
+  bool exists_ = true;
   bool written_ = true;
   std::function<bool()> written_while_;
   std::function<int(int)> block_;
@@ -105,7 +99,7 @@ class ValueField : public Field {
   [[nodiscard]] int Opened(int line) const;
 
  private:
-  /// What the control stands at, or what it was filled with while nobody has chosen.
+  /// What the control stands at, or what it was filled with while the user has chosen nothing.
   [[nodiscard]] int Standing(int line) const;
 
   SettingRef setting_;

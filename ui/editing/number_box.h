@@ -13,7 +13,7 @@ class NumberBox {
   NumberBox& operator=(const NumberBox&) = delete;
   ~NumberBox() = default;
 
-  /// Shows a number, also one outside the limits, which stays until somebody types.
+  /// Shows a number, also one outside the limits, which stays until the user types.
   void Show(int number);
   /// The number that the box shows.
   [[nodiscard]] int Number() const;
