@@ -40,7 +40,8 @@ class BlockImage {
   /// True when all 16 bytes of block `n` (from 1) are here.
   [[nodiscard]] bool Holds(int n) const;
 
-  /// True when block `n` is here and within the image's own count: bytes beyond it are nobody's.
+  /// True when block `n` is here and within the image's own count: bytes beyond it belong to no
+  /// block.
   [[nodiscard]] bool Counts(int n) const { return Holds(n) && n <= BlkCount(); }
 
   /// The 16 bytes of block `n`; throws ImageError when the image does not hold it.

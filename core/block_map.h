@@ -4,7 +4,7 @@
 
 namespace quorvel {
 
-/// The map of all blocks in Markdown, for somebody who holds a hex dump: every block with its
+/// The map of all blocks in Markdown, for reading a hex dump: every block with its
 /// bytes, bits and settings by model family. Made from the block layouts themselves.
 [[nodiscard]] std::string BlockMapMarkdown();
 

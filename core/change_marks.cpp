@@ -40,7 +40,7 @@ void Rest(const ChangeMark& mark, BlockImage& image, CombinedArray& array, MuxDa
   array.PutByte(mark.block, mark.at, mark.rest);
 }
 
-/// True when the device knows of what it was sent, and the record holds nothing else.
+/// True when the record holds nothing but what the device was sent.
 bool IsTold(const ChangeMark& mark, std::span<const Byte, kBlockSize> sent, BlockImage image,
             RecordEnvironment& env, MuxData& rec) {
   if (mark.read(rec) != mark.rest && sent[mark.at] == mark.rest) return false;

@@ -15,8 +15,8 @@ void DecodeImage(BlockImage& image, RecordEnvironment& env, MuxData& rec);
 
 /// Writes block `number` of the image anew from the record. Bytes that carry no setting keep their
 /// content; blocks that hold no editable setting, or that the image does not hold, stay as they
-/// are. What tells the device of a change is written as well, and stays in the record until the
-/// device has been told (core/change_marks.h).
+/// are. Change marks are written as well, and stay in the record until the device has been told
+/// (core/change_marks.h).
 void EncodeBlock(int number, BlockImage& image, RecordEnvironment& env, MuxData& rec);
 
 /// Writes every block that the image holds: for images made from scratch.

@@ -33,13 +33,13 @@ struct ComboHeader {
   }
 };
 
-/// A device's configuration in one piece: header, block image, macro data. The macro data is
-/// nothing that the component reads; it travels through unchanged.
+/// A device's configuration in one piece: header, block image, macro data. The component does not
+/// read the macro data and passes it on unchanged.
 class CombinedArray {
  public:
   CombinedArray() = default;
 
-  /// The bytes of a device or a file. Fields that they are too short for are those of `previous`.
+  /// The bytes of a device or a file. Fields beyond their end are taken from `previous`.
   static CombinedArray Parse(std::span<const Byte> bytes, const ComboHeader& previous);
   /// An array of this header and image, and of zero bytes where the image is shorter than DataLen.
   static CombinedArray Build(const ComboHeader& header, const BlockImage& image);
@@ -48,7 +48,7 @@ class CombinedArray {
   /// Header, block data and macro data as the header counts them, as far as they are here.
   [[nodiscard]] std::span<const Byte> Bytes() const;
 
-  /// True when the fields agree and all block data that they count is here: only then it has an
+  /// True when the fields agree and all block data that they count is here. Only then is there an
   /// image.
   [[nodiscard]] bool HoldsImage() const;
   /// True when all macro data that is counted is here as well.

@@ -16,8 +16,8 @@ void Put(BlockImage& image, int number, std::size_t at, Byte value) {
   if (image.Holds(number)) image.Block(number)[at] = value;
 }
 
-/// What decoding block 219 does, the other way round: a device with turbo recording marks the rate
-/// indices that are 99, and finds them as 99 in their own blocks when it is sent everything.
+/// The reverse of what decoding block 219 does. A device with turbo recording marks the rate
+/// indices that are 99. A send of everything writes 99 into their own blocks.
 void PutTurboRates(BlockImage& image, const RecordEnvironment& env, MuxData& rec) {
   if (rec.Rec120sp() != 1) return;
   struct Marked {

@@ -44,14 +44,14 @@ class DeviceState {
   /// was refused, or of which a part is missing, is no configuration and does not get here.
   [[nodiscard]] bool HasImage() const { return BlkImage.Size() != 0; }
 
-  /// Decodes `image` into a fresh record; both then replace the present ones, `array` is what the
-  /// image travelled in, and nothing is modified any more. Throws ImageError, and keeps what is
-  /// there, when the image cannot be decoded.
+  /// Decodes `image` into a fresh record; both then replace the present ones, `array` is the
+  /// combined array that the image came in, and nothing is modified any more. Throws ImageError,
+  /// and keeps what is there, when the image cannot be decoded.
   void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});
 
   /// The image as it would be with every block encoded from the record.
   [[nodiscard]] BlockImage EncodedImage();
-  /// A copy of what was edited, and the way back to it.
+  /// PresentEdits copies the record and the list; PutBack restores them.
   [[nodiscard]] Edits PresentEdits();
   void PutBack(Edits edits) noexcept;
 

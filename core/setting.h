@@ -65,7 +65,7 @@ struct In {
 struct Untracked {
   static void Changed(SettingOwner& /*owner*/, int /*index*/) {}
 };
-/// The decoder fills the setting and nobody edits it.
+/// Only the decoder fills the setting; no editor changes it.
 struct ReadOnly {};
 
 /// A rule whose setting has an upper limit: a larger number is taken as `kMost`.

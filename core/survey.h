@@ -22,9 +22,9 @@ enum class Direction { kRead, kWritten };
 [[nodiscard]] std::vector<layout::Place> Locate(MuxData& rec, const Identity& id, int blocks,
                                                 std::string_view name);
 
-/// Bits that two settings of a survey claim both, as "block 45 byte 13: A and B"; none is right. A
-/// setting that another block's layout depends on may share its byte: on codes 1 to 5, byte 13 of
-/// block 45 is also an external alarm output.
+/// Bits that two settings of a survey both claim, as "block 45 byte 13: A and B". There should be
+/// none. A setting that another block's layout depends on may share its byte: on codes 1 to 5, byte
+/// 13 of block 45 is also an external alarm output.
 [[nodiscard]] std::vector<std::string> FindOverlaps(const std::vector<layout::Place>& places);
 
 /// The settings whose name fits `pattern`, by name and value, in block order. A pattern may hold

@@ -10,8 +10,8 @@ namespace quorvel {
 /// image, no macro data.
 [[nodiscard]] CombinedArray BuildComboArray(const ComboSizes& sizes, const BlockImage& image);
 
-/// Sees to it that ComboArray can carry the image, so that the next send or save does: factory
-/// defaults, or an image of another exchange, have no array of their own.
+/// Builds a ComboArray for the image where the present one cannot carry it: factory defaults, and
+/// images that came block by block, have none of their own.
 void ProvideComboArray(DeviceState& device, const ComboSizes& sizes);
 
 }  // namespace quorvel

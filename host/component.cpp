@@ -116,7 +116,7 @@ void Component::FillComboInfo(std::span<const Byte> data) {
   context.host.ComboMode = true;
 }
 
-/// On copies: what is sent is made ready when it is sent.
+/// Works on copies: the image itself is encoded when it is sent.
 std::vector<Byte> Component::EditedImage() {
   BlockImage image = context.device.BlkImage;
   RecordEnvironment env = context.device.env;

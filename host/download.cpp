@@ -33,8 +33,8 @@ int Download::BeginAnew() {
 
 bool Download::GoesOn(int round) const { return round == round_ && !context_.edges.terminated; }
 
-/// Texts may be the host's, who may do anything while it is asked for one: not between a look at
-/// the state and what follows from it.
+/// A text source of the host may do anything while it is asked for a text, so texts are fetched
+/// before the state is looked at.
 void Download::FetchTexts() {
   block_text_ = context_.GetText(txt::kDownloadingBlock);
   finished_text_ = context_.GetText(txt::kFinished);
@@ -49,7 +49,7 @@ void Download::Receive() {
   FetchTexts();
   if (!GoesOn(round)) return;
   // A host may answer from inside its event handler, before there is a dialog. The dialog then
-  // opens on what has been reached.
+  // shows how far the receive has come.
   if (context_.host.ComboMode) {
     expecting_ = Expecting::kComboArray;
     awaited_ = 1;
@@ -72,8 +72,8 @@ void Download::OpenDialog(int round, bool restored) {
   if (restored) dialog->ShowRestored();
   if (!GoesOn(round)) return;
   dialog->StopUL = [this] {
-    // No further block is asked for, and what is edited from now on must not be undone by what
-    // comes yet.
+    // No further block is asked for, and a reply that still comes must not undo what is edited from
+    // now on.
     if (ExpectsDevice()) expecting_ = Expecting::kNothing;
   };
   dialog->SaveFile = [this] {
@@ -132,8 +132,8 @@ void Download::TakeBlock(std::span<const Byte> reply) {
   }
 }
 
-/// What the device holds is on its way. How it comes is the host's choice: the reply to a request
-/// of one exchange may be that of another.
+/// The device's configuration is on its way. The host chooses how: it may answer a request of one
+/// exchange with a reply of the other.
 bool Download::ExpectsDevice() const {
   return expecting_ == Expecting::kBlock || expecting_ == Expecting::kComboArray;
 }
@@ -219,7 +219,7 @@ void Download::SaveReceivedData() {
 
 void Download::RestoreImageFromFile() {
   context_.InitGlobals();
-  // Also when nothing comes of it: what is sent next is compared with the device.
+  // Also when no file is restored: what is sent next is compared with the device.
   context_.device.LoadedFromFile = true;
   const auto bytes = AskForSettings(context_);
   FetchTexts();

@@ -16,9 +16,9 @@ namespace quorvel {
 /// Brings a configuration into the component: the device's, a settings file's or the factory's. It
 /// asks for what is needed, decodes the image and tells the host that it has arrived.
 ///
-/// One of these is under way at a time. Each begins anew, whatever was under way before; replies to
-/// what is no longer asked for change nothing. Until a new image is complete and decoded, the
-/// present one stays, with its record and what was edited in it.
+/// One of these is under way at a time. Each begins anew and ends the one before; replies to what
+/// is no longer asked for change nothing. Until a new image is complete and decoded, the present
+/// one stays, with its record and what was edited in it.
 class Download {
  public:
   Download(Context& context, HostEvents& host) : context_(context), host_(host) {}
@@ -42,13 +42,13 @@ class Download {
   /// FillComboBlk: the combined array.
   void TakeComboArray(std::span<const Byte> data);
 
-  /// Takes the dialog off the screen, without telling anybody.
+  /// Takes the dialog off the screen, without raising its events.
   void CloseDialog();
 
  private:
   enum class Expecting { kNothing, kBlock, kComboArray, kDefaultsProbe, kDefaultsIdentity };
 
-  /// Ends what was under way; returns the number of what begins.
+  /// Ends the sequence that was under way; returns the number of the new one.
   int BeginAnew();
   /// False when a host has begun another sequence, or destroyed the control, from inside an event,
   /// a text or a message box of this one.

@@ -42,7 +42,7 @@ void frm_ToMux::ArrangeControls() {
   lstBlkSav.SetVisible(false);
   lstBlkSav.SetKeepsPlace(true);
   cmdStop.SetVisible(false);
-  cmdStop.SetKeepsPlace(true);  // so that a double click on START meets nothing else
+  cmdStop.SetKeepsPlace(true);  // so that a double click on START hits no other button
   cmdOK.SetCaption(context_.GetText(txt::kStart));
   cmdStop.SetCaption(context_.GetText(txt::kStop));
   cmdCancel.SetCaption(context_.GetText(txt::kClose));

@@ -53,7 +53,8 @@ class frm_ToMux : public Dialog {
   void Recommend(Button& button);
 
   const Context& context_;
-  // Texts may be the host's, who may do anything while it is asked for one: not during a send.
+  // A text source of the host may do anything while it is asked for a text: none is asked for
+  // during a send.
   std::string upload_block_text_;
   std::string abort_text_;
   std::string delete_text_;

@@ -56,7 +56,7 @@ void frm_ULFrMux::ShowProgress(const ReceiveProgress& progress) {
   ListenFor(!progress.finished);
 }
 
-/// Waits anew for a reply, or not any more.
+/// Starts the wait for a reply anew, or ends it.
 void frm_ULFrMux::ListenFor(bool more) {
   lblSilent.SetVisible(false);
   tmSilence->Stop();

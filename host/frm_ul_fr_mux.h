@@ -12,7 +12,7 @@ struct Context;
 
 /// How far a receive has come; a dialog opened later shows it as well.
 struct ReceiveProgress {
-  int maximum = 0;     ///< blocks to come, 0 until block 1 has told
+  int maximum = 0;     ///< blocks to come, 0 until block 1 has come
   int value = 0;       ///< last block received
   std::string status;  ///< UTF-8
   std::int32_t bytes = 0;

@@ -4,7 +4,7 @@
 
 namespace quorvel {
 
-/// The control's way to its host. Events of a control that the host has destroyed go nowhere.
+/// The control's way to its host. Events of a control that the host has destroyed are dropped.
 class HostEvents {
  public:
   explicit HostEvents(MainMenuEvents& host) : host_(&host) {}

@@ -38,7 +38,7 @@ constexpr Byte kModelCodeMask = 0x7F;
 constexpr int kOfConnected = 0;
 constexpr int kOfImage = 1;
 
-/// A name as devices hold it: the first character as it is, of the others those that are not 0.
+/// A name as devices hold it: the first character, and of the others those that are not 0.
 std::string NameOf(std::span<const Byte> bytes) {
   std::string name(1, static_cast<char>(bytes[0]));
   for (const Byte byte : bytes.subspan(1)) {
@@ -62,7 +62,7 @@ bool AreVaultlineEditions(std::string_view a, std::string_view b) {
   return (a == kAdvanced && b == kPro) || (a == kPro && b == kAdvanced);
 }
 
-/// What an image is taken for, also one without an identity block.
+/// The identity by which an image is compared, also without an identity block.
 struct ImageIdentity {
   Byte channels = 0;
   Byte code = 0;

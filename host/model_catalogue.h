@@ -11,7 +11,7 @@ namespace quorvel {
 
 struct Context;
 
-/// Display text of a model code; empty for a code that nobody knows.
+/// Display text of a model code; empty for an unknown code.
 [[nodiscard]] std::string_view ModelText(int code);
 
 /// Stores the connected device's identity: [1] cameras, [2] model code, from [3] the name. Data of

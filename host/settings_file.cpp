@@ -16,9 +16,9 @@ std::size_t LengthByItsCount(std::span<const Byte> bytes) {
   return bytes.size() > kBlockCountByte ? std::size_t{bytes[kBlockCountByte]} * kBlockSize : 0;
 }
 
-/// In the combined exchange a file with more than the device's blocks is a combined array. Where no
-/// number of blocks was stated, images are short, but for those whose own count says that they are
-/// not.
+/// In the combined exchange a file with more than the device's blocks is a combined array. Where
+/// the host has stated no number of blocks, a file is a plain image when it is short, or as long as
+/// its own count says.
 bool IsCombinedFile(const HostStatements& host, std::span<const Byte> bytes) {
   constexpr std::size_t kLongestImage = 3488;
   if (host.ComboMode && host.combo_sizes.ComboBlockCount > 0) {

@@ -26,20 +26,20 @@ struct SettingsFile {
 inline constexpr std::size_t kRestoreLimit = 32768;
 
 /// What the bytes of a file hold. Throws ImageError for kRestoreLimit bytes or more, and for bytes
-/// that contradict themselves. Whether the image can be decoded shows when it is.
+/// that contradict themselves. The image is not decoded here.
 [[nodiscard]] SettingsFile ReadSettingsFile(const HostStatements& host,
                                             std::span<const Byte> bytes);
 
 /// Asks the user for a file to restore and reads it; nothing when the dialog was cancelled.
 [[nodiscard]] std::optional<std::vector<Byte>> AskForSettings(Context& context);
 
-/// Asks the user for a name, proposing `default_name`, and replaces the file by `bytes`; tells when
-/// they are too many to be restored. Cancel ends it.
+/// Asks the user for a name, proposing `default_name`, and replaces the file by `bytes`; tells the
+/// user when they are too many to be restored. Cancel ends it.
 void SaveBytes(Context& context, const std::string& default_name, std::span<const Byte> bytes);
 
 /// Command 14. Asks for a name, encodes what is listed as modified, and writes the image or the
-/// combined array; tells when that is too long to be restored. Nothing happens before there is an
-/// image.
+/// combined array; tells the user when that is too long to be restored. Nothing happens before
+/// there is an image.
 void SaveImageToFile(Context& context);
 
 }  // namespace quorvel

@@ -64,7 +64,7 @@ void Upload::Send() {
   if (context_.device.HasImage()) context_.EncodeListedBlocks();
   if (!DataFits()) return;
   CloseDialog();
-  // The dialog's texts may be the host's, who may do anything while it is asked for one.
+  // A text source of the host may do anything while the dialog asks it for texts.
   const auto dialog = std::make_shared<frm_ToMux>(context_);
   if (context_.edges.terminated || frmDL != nullptr) return;
   basis_ = basis;
@@ -89,8 +89,8 @@ void Upload::CloseDialog() {
   dialog->Close();
 }
 
-/// An image that has come since, or another device, has been compared with nothing: the one is not
-/// sent, nor mixed into a send of the image before; the other is given no block.
+/// An image that has come since, or another device, has not been compared: that image is not sent,
+/// nor mixed into a send of the one before; that device is given no block.
 bool Upload::BasisHolds() {
   if (basis_ == PresentBasis()) return true;
   CloseDialog();
@@ -194,7 +194,7 @@ void Upload::StopDL() {
   Timer1->Stop();
 }
 
-/// The list goes, and with it the marks that tell the device what changed.
+/// Empties the list and puts the marks that tell the device what changed to rest.
 void Upload::ClearBlocks() {
   context_.device.env.blocks.BlkSavIdx(0);
   ClearChangeMarks(context_.device.BlkImage, context_.device.ComboArray, context_.device.env,

@@ -54,7 +54,8 @@ class Upload {
     bool operator==(const Basis&) const = default;
   };
 
-  /// A block as it was handed to the host, which may still be another image's when it is taken.
+  /// A block as it was handed to the host. Another image may have come by the time the device takes
+  /// it.
   struct HandedOver {
     int generation;
     int number;
@@ -92,7 +93,7 @@ class Upload {
   std::unique_ptr<Timer> patience_;
   bool outstanding_ = false;                  ///< a packet has not been acknowledged
   std::optional<HandedOver> unacknowledged_;  ///< its block, also when it was given up
-  Basis basis_{};                             ///< of the dialog
+  Basis basis_{};                             ///< of the dialog that is open
   std::vector<Byte> plan_;
   std::size_t next_ = 0;  ///< place in the plan; at its end, the end packet follows
 };

@@ -40,7 +40,7 @@ class DeviceReader {
 
   Link& link_;
   std::vector<Byte> bytes_;
-  /// Gone with the reader: a late reply finds nobody.
+  /// Gone with the reader: a late reply finds no reader.
   std::shared_ptr<DeviceReader*> self_ = std::make_shared<DeviceReader*>(this);
 };
 

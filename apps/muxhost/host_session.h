@@ -86,7 +86,7 @@ class HostSession final : public MainMenuEvents {
   /// Called after each entry of the log, and when the device, the settings or the fault were
   /// replaced. May take the log; must not replace the device or start a transfer.
   std::function<void()> on_change;
-  /// The fault of the link lets somebody press a button of the transfer's dialog or close it: does
+  /// The fault of the link has the user press a button of the transfer's dialog or close it: does
   /// that, by the dialog's user verbs. False when there is no such dialog or it refuses.
   std::function<bool(const Interruption&)> interrupt;
   /// The user wants to edit the activity grids of that many cameras.

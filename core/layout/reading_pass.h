@@ -27,8 +27,7 @@ class ReadingPass {
     item.Load(static_cast<ValueOf<Item>>(Raw(at)));
   }
 
-  /// One whole byte; a value of `limit` or more is none that the device can mean and is passed
-  /// over.
+  /// One whole byte; the device cannot mean a value of `limit` or more, which is passed over.
   template <class Item>
   void ByteBelow(int limit, int at, Item&& item) {
     if (Raw(at) < limit) Byte(at, item);
@@ -163,7 +162,7 @@ class ReadingPass {
   // For what only reading does.
 
   [[nodiscard]] std::uint8_t Raw(int at) const { return *Run(at, 1); }
-  /// Rewrites a byte of the image whose content is repaired on the way in.
+  /// Rewrites a byte of the image that reading repairs.
   void Repair(int at, std::uint8_t value) {
     CheckInBlock(at, 1);
     bytes_[static_cast<std::size_t>(at)] = value;

@@ -5,8 +5,8 @@
 
 namespace quorvel::layout {
 
-/// Blocks 64 to 68: timed macros from entry `first` on, four entries of four bytes. Values that the
-/// device cannot mean are passed over on the way in.
+/// Blocks 64 to 68: timed macros from entry `first` on, four entries of four bytes. Reading passes
+/// over values that the device cannot mean.
 template <class Pass>
 void TimedMacros(Pass& block, int first, MuxData& rec) {
   constexpr int kEntries = 4;

@@ -27,7 +27,8 @@ class ClassFactory {
   void Register(std::string class_id, Maker maker) {
     makers_.insert_or_assign(std::move(class_id), std::move(maker));
   }
-  /// A new object of the class; throws std::invalid_argument for an identifier nobody registered.
+  /// A new object of the class; throws std::invalid_argument for an identifier that is not
+  /// registered.
   [[nodiscard]] std::shared_ptr<AutomationObject> Create(std::string_view class_id) const {
     const auto found = makers_.find(class_id);
     if (found == makers_.end()) {

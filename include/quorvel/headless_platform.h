@@ -11,7 +11,7 @@
 namespace quorvel {
 
 /// A platform without a screen, for tests and automation: a virtual clock, the dialogs that would
-/// be on screen by name, and a person at the desk who answers as told.
+/// be on screen by name, and a user who answers as told.
 class HeadlessPlatform : public Platform {
  public:
   HeadlessPlatform();
@@ -45,10 +45,10 @@ class HeadlessPlatform : public Platform {
   Answer ChooseMenu(std::string_view name);
   void DismissMenu() { menu_.reset(); }
 
-  // The person.
+  // The user.
 
   /// Called while a modal dialog waits and nothing is due at this moment: acts on the dialog and
-  /// returns true, or returns false to let time pass. When nobody acts and nothing is left to
+  /// returns true, or returns false to let time pass. When it never acts and nothing is left to
   /// happen, or a million turns were not enough, the dialog is closed as by its window's close
   /// button and its name is noted (TakeStalled).
   std::function<bool(Dialog&)> at_modal;
@@ -60,7 +60,7 @@ class HeadlessPlatform : public Platform {
   std::vector<Message> TakeMessages() { return std::exchange(messages_, {}); }
   /// File dialogs shown since last asked.
   std::vector<FileRequest> TakeFileRequests() { return std::exchange(requests_, {}); }
-  /// Modal dialogs that nobody closed, since last asked.
+  /// Modal dialogs that were left open and closed by the platform, since last asked.
   std::vector<std::string> TakeStalled() { return std::exchange(stalled_, {}); }
 
   // Platform.

@@ -36,8 +36,8 @@ class MainMenuCtrl {
 
   /// A control newly placed in a host: ambient font, HostCommId 0, the size of its label.
   void InitProperties();
-  /// Restores "Enabled" (True), "Font" (the ambient font) and "HostCommId" (0); in brackets what a
-  /// property is that the bag lacks, or holds with another type.
+  /// Restores "Enabled" (True), "Font" (the ambient font) and "HostCommId" (0); in brackets the
+  /// value of a property that the bag lacks or holds with another type.
   void ReadProperties(const PropertyBag& bag);
   /// Stores the same three.
   void WriteProperties(PropertyBag& bag) const;

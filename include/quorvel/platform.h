@@ -20,8 +20,8 @@ class ControlSurface;
 class Dialog;
 class PopupMenu;
 
-/// The outside world refused: a file cannot be read or written. The text says what failed and why;
-/// the user sees it in the second line of a message.
+/// A call to the outside world has failed: a file cannot be read or written. The text says what
+/// failed and why; the user sees it in the second line of a message.
 class PlatformError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -73,8 +73,8 @@ class Platform {
  public:
   virtual ~Platform() = default;
 
-  /// Puts a dialog on screen, or in front of the other windows when it is there already. The dialog
-  /// stays its owner's; Hide is called before it goes.
+  /// Puts a dialog on screen, or in front of the other windows when it is there already. The owner
+  /// keeps the dialog and calls Hide before destroying it.
   virtual void Show(Dialog& dialog) = 0;
   /// The same, with the rest of the component's windows locked; returns when the dialog is hidden.
   virtual void ShowModal(Dialog& dialog) = 0;

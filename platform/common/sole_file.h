@@ -10,8 +10,8 @@
 namespace quorvel {
 
 /// A new file that this writer alone writes into. Another writer, in this process or another, that
-/// wants the same name meanwhile is turned away; one that comes after this writer was killed finds
-/// the name free. The file goes with its writer unless it is moved.
+/// wants the same name meanwhile is refused; one that comes after this writer was killed finds the
+/// name free. The file goes with its writer unless it is moved.
 class SoleFile {
  public:
   /// Makes the file. What a killed writer has left under that name is removed first; nothing, and

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
 /// A writer holds a lock on its file, which goes with its process. A file system without locks
-/// turns nobody away.
+/// accepts every writer.
 bool Lock(int handle) { return ::flock(handle, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
 
 /// True while the name is still that of the open file: another writer may have moved it away.

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 std::error_code LastError() { return {static_cast<int>(::GetLastError()), std::system_category()}; }
 
-/// An open file that is shared with nobody can be neither opened nor removed by another writer.
+/// An open file that is not shared can be neither opened nor removed by another writer.
 HANDLE CreateNew(const fs::path& path) {
   return ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
                        nullptr);

@@ -58,7 +58,7 @@ std::error_code WriteBeside(const fs::path& target, const fs::file_status& prese
   error = file->Write(bytes);
   if (error) return error;
   if (fs::exists(present)) {
-    std::error_code refused;  // somebody else's file: it is replaced all the same
+    std::error_code refused;  // another user's file: it is replaced all the same
     fs::permissions(file->Path(), present.permissions(), refused);
   }
   return file->MoveTo(target);

@@ -13,7 +13,7 @@
 
 namespace quorvel::qt {
 
-/// One control on screen. It draws its model and turns what a person does into user verbs.
+/// One control on screen. It draws its model and turns what the user does into user verbs.
 class ControlView : public WidgetView {
  public:
   ControlView(const ControlView&) = delete;

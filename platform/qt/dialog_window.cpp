@@ -129,7 +129,7 @@ void DialogWindow::FocusDefault() {
 }
 
 /// The toolkit passes the focus of a button that is disabled or hidden on to the next control,
-/// which nobody has chosen: Return would press it.
+/// which the user has not chosen: Return would press it.
 bool DialogWindow::focusNextPrevChild(bool next) {
   const auto* const button = qobject_cast<QPushButton*>(focusWidget());
   const bool gone = button != nullptr && (!button->isEnabled() || !button->isVisibleTo(this));

@@ -48,7 +48,7 @@ class DialogWindow : public QDialog, public WidgetView {
   /// Enlarges the window by what its contents have grown.
   void Fit();
   [[nodiscard]] QSize LargestSize() const;
-  /// Gives the focus to the first control that takes a person's input, else to the default button.
+  /// Gives the focus to the first control that takes the user's input, else to the default button.
   void FocusInput();
   /// Gives the focus to the default button where it can be pressed, else to no control.
   void FocusDefault();

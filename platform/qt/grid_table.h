@@ -11,7 +11,7 @@ namespace quorvel::qt {
 
 /// The toolkit's table with a grid's way of selecting: one cell is current, and a range of rows in
 /// its column is selected. Rows are numbered as in the grid, header included. The table reports
-/// what a person does; what is selected afterwards is for its view to tell. The first column, which
+/// what the user does; what is selected afterwards is for its view to tell. The first column, which
 /// names the rows, stays in sight while the others are scrolled sideways.
 class GridTable : public FocusShown<QTableView> {
  public:

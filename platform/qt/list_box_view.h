@@ -10,7 +10,7 @@
 
 namespace quorvel::qt {
 
-/// The toolkit's list with one signal of its own: a person picked an item, with the mouse or from
+/// The toolkit's list with one signal of its own: the user picked an item, with the mouse or from
 /// the keyboard, be it the current one.
 class ChoiceList : public FocusShown<QListView> {
  public:

@@ -13,7 +13,7 @@ namespace quorvel::qt {
 
 namespace {
 
-/// The filter as people read it.
+/// The filter as the user reads it.
 QString DescribeFilter(const QString& filter) {
   if (filter == QLatin1String("*.bin")) return QStringLiteral("Settings files (*.bin)");
   return QStringLiteral("Files (%1)").arg(filter);

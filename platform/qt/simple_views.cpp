@@ -103,7 +103,7 @@ class CheckBoxView : public ViewOf<CheckBox, QCheckBox> {
   }
 };
 
-/// An option whose arrow keys pick the option before or after it in its group, as people know it;
+/// An option whose arrow keys pick the option before or after it in its group, as users know it;
 /// the toolkit's own keep to what stands nearest, and only move the focus.
 class OptionCircle : public QRadioButton {
  public:

@@ -38,7 +38,7 @@ void TextLine::mouseReleaseEvent(QMouseEvent* event) {
   QLineEdit::mouseReleaseEvent(event);
   if (event->button() != Qt::LeftButton) return;
   const bool arrives = std::exchange(came_by_click_, false);
-  if (!hasSelectedText()) on_focus(!arrives);  // somebody who selects a part wants that part
+  if (!hasSelectedText()) on_focus(!arrives);  // a user who selects a part wants that part
 }
 
 TextBoxView::TextBoxView(VerbsUnderWay& verbs, TextBox& model, QWidget& parent)

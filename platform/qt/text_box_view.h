@@ -8,7 +8,7 @@
 
 namespace quorvel::qt {
 
-/// The toolkit's line of text with a signal of its own: the focus has come, or somebody clicks
+/// The toolkit's line of text with a signal of its own: the focus has come, or the user clicks
 /// where it is. A click counts when the button is let go, after the toolkit has placed the cursor.
 class TextLine : public QLineEdit {
  public:

@@ -21,7 +21,7 @@ void DropDown::wheelEvent(QWheelEvent* event) {
 ComboBoxView::ComboBoxView(VerbsUnderWay& verbs, ComboBox& model, QWidget& parent)
     : ViewOf(verbs, model, new DropDown(parent)), texts_(new ChoiceTexts(model, *GetBody())) {
   GetBody()->setModel(texts_);
-  // Of all signals only this one comes from a person alone, and also for the current item.
+  // Of all signals only this one comes from the user alone, and also for the current item.
   QObject::connect(GetBody(), &QComboBox::activated, Context(),
                    [this](int item) { Act([item](ComboBox& box) { box.Choose(item); }); });
   DrawAll();

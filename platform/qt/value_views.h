@@ -31,7 +31,7 @@ class ComboBoxView : public ViewOf<ComboBox, DropDown> {
   ChoiceTexts* const texts_;  ///< owned by the toolkit's list
 };
 
-/// The toolkit's slider with one signal of its own: a person moved the handle, be it to where it
+/// The toolkit's slider with one signal of its own: the user moved the handle, be it to where it
 /// stood, by letting go of it there or with Space.
 class Scale : public QSlider {
  public:

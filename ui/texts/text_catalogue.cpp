@@ -88,7 +88,8 @@ std::string TextCatalogue::GetText(int id) const {
 void TextCatalogue::CreateTextSource(const ClassFactory& classes, std::string_view class_id) {
   try {
     if (auto source = classes.Create(class_id)) source_ = std::move(source);
-  } catch (...) {  // nobody offers the class, or it cannot be made: the present source stays
+  } catch (
+      ...) {  // the host does not offer the class, or it cannot be made: the present source stays
   }
 }
 

@@ -51,7 +51,7 @@ struct ObjStr {
 class TextCatalogue {
  public:
   /// The text of an id, UTF-8: the text source's, or the built-in one when there is no source or it
-  /// fails. Empty for an id that nobody knows.
+  /// fails. Empty for an unknown id.
   [[nodiscard]] std::string GetText(int id) const;
 
   /// Takes the texts from a new object of the class; a class that cannot be created leaves the

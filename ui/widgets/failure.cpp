@@ -17,8 +17,8 @@ std::string AsSentence(std::string words) {
   return words;
 }
 
-/// What the exception that is being handled says. An image, a file or a host says it in words; what
-/// else there is helps whoever is shown the message.
+/// What the exception that is being handled says. Errors of images, files and hosts say it in
+/// words. What other exceptions say is shown as well, since it may help.
 std::string Reason() {
   try {
     throw;
@@ -39,7 +39,7 @@ void ReportFailure(Platform& platform, std::string_view routine, std::string_vie
     text.append(routine);
     if (!place.empty()) text.append(".").append(place);
     platform.Ask({text + '\r' + Reason(), kComponentName, Message::Buttons::kOk});
-  } catch (...) {  // a platform that cannot even show a message leaves nobody to tell
+  } catch (...) {  // a platform that cannot even show a message leaves nothing else to do
   }
 }
 

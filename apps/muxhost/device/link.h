@@ -11,7 +11,7 @@
 
 namespace quorvel::muxhost {
 
-/// What somebody does at the dialog of a transfer while it runs.
+/// What the user does at the dialog of a transfer while it runs.
 struct Interruption {
   const char* window;  ///< the dialog's name
   const char*
@@ -60,7 +60,7 @@ class Link {
 
   /// Called when the fault strikes.
   std::function<void(const Fault&)> on_fault;
-  /// Does what somebody at the screen does.
+  /// Does what the user does at the screen.
   std::function<void(const Interruption&)> interrupt;
 
  private:

@@ -22,8 +22,8 @@ enum class FaultKind {
   kDuplicate,  ///< it comes twice; a packet is acknowledged once
   kLate,       ///< the reply, or a packet's acknowledgement, takes longer
   kDrop,       ///< a packet is acknowledged and not written, an array is not written
-  kStop,       ///< meanwhile somebody presses STOP, or closes the receive dialog
-  kClose,      ///< meanwhile somebody closes the transfer's dialog by its window
+  kStop,       ///< meanwhile the user presses STOP, or closes the receive dialog
+  kClose,      ///< meanwhile the user closes the transfer's dialog by its window
 };
 
 /// The kind of that name ("silent", "short", ...), or nothing.

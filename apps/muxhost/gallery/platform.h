@@ -9,10 +9,10 @@
 
 namespace quorvel::muxhost {
 
-/// The platform of somebody who is shown around: what comes on screen is remembered.
+/// The platform of the tour: it remembers what comes on screen.
 class TourPlatform : public QtPlatform {
  public:
-  /// The menu that was popped up last; whoever takes it waits for the next.
+  /// The menu that was popped up last; taking it leaves none until the next pops up.
   std::shared_ptr<PopupMenu> menu;
   /// Called from the loop of the next modal dialog.
   std::function<void(Dialog&)> at_modal;

@@ -12,7 +12,7 @@ namespace quorvel::muxhost {
 [[nodiscard]] std::string Longer(std::string_view text);
 
 /// Makes the texts of a dialog longer that are its own: captions, items, cells and panels. What
-/// somebody could have typed stays.
+/// a user could have typed stays.
 void MakeLonger(Dialog& dialog);
 
 /// A text source that has the built-in texts, longer.

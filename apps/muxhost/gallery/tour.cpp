@@ -51,7 +51,7 @@ Tour::Tour(Album& album, const TourDevice& device, bool long_texts)
   constexpr int kPatience = 1000;
   QObject::connect(&questions_, &QTimer::timeout, &turns_, [this] { DismissQuestion(); });
   questions_.start(kPatience);
-  window_.Backups().SetFolder("Backups");  // as everywhere, whoever draws the pictures
+  window_.Backups().SetFolder("Backups");  // the same on every machine that draws the pictures
   window_.show();
   Connect(device);
   if (!long_texts) return;

@@ -30,7 +30,7 @@ class Tour {
   void TakeHost(const QString& name);
   void Connect(const TourDevice& device);
   void Choose(const QString& item, Qt::MatchFlags match);
-  /// Takes a picture of a question that nobody expects, and cancels it.
+  /// Takes a picture of an unexpected question, and cancels it.
   void DismissQuestion();
   void Receive();
   void Send();

@@ -56,7 +56,7 @@ class Sender : public Attendant {
   std::string status_;
 };
 
-/// Runs a transfer with somebody at its dialog until nothing is left to happen.
+/// Runs a transfer with a user at its dialog until nothing is left to happen.
 void RunAttended(Desk& desk, Attendant& attendant, void (HostSession::*transfer)());
 
 }  // namespace quorvel::muxhost

@@ -26,7 +26,7 @@ void Defaults(Desk& desk, Words words);
 void FaultOnLink(Desk& desk, Words words);
 void Zones(Desk& desk, Words words);
 
-// The person at the screen.
+// The user at the screen.
 void Menu(Desk& desk, Words words);
 void Choose(Desk& desk, Words words);
 void Dismiss(Desk& desk, Words words);

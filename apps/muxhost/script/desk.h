@@ -11,7 +11,7 @@
 
 namespace quorvel::muxhost {
 
-/// Somebody who works a modal dialog while a command waits for it.
+/// Works a modal dialog, as a user would, while a command waits for it.
 class Attendant {
  public:
   /// `window` is the name of the dialog to work.
@@ -41,7 +41,7 @@ class DeskPlatform final : public HeadlessPlatform {
   void StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
 };
 
-/// What the commands of a script act on: a host without a screen, and whoever sits before it.
+/// What the commands of a script act on: a host without a screen, and its user.
 struct Desk {
   explicit Desk(std::ostream& output);
 
@@ -50,7 +50,7 @@ struct Desk {
   HostSession session;
   /// Message boxes shown since the script last asked.
   std::vector<Message> messages;
-  /// Who works the modal dialog of the running command; nobody: the script's next lines do.
+  /// Works the modal dialog of the running command; without one, the script's next lines do.
   Attendant* attendant = nullptr;
   /// What the attendant failed at; it cannot be thrown through the control.
   std::exception_ptr failure;

@@ -11,7 +11,7 @@ constexpr int kMostPlaces = 1000;
 constexpr int kLongestWait = 3'600'000;
 
 /// The control that a line names, as CONTROL or WINDOW.CONTROL. Without a window it is the one in
-/// the frontmost window that has a control of that name: what somebody would take it to mean.
+/// the frontmost window that has a control of that name: what the user means by it.
 Widget& FindControl(const Desk& desk, const std::string& target) {
   const auto dot = target.find('.');
   if (dot != std::string::npos) {

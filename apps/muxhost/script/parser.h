@@ -42,7 +42,7 @@ class Options {
   [[nodiscard]] std::optional<int> TakeNumber(std::string_view key, int least, int most);
   /// True when the line has this word.
   [[nodiscard]] bool TakeWord(std::string_view word);
-  /// Throws ScriptError that names what nobody took; `where` is added to its reason.
+  /// Throws ScriptError that names what was not taken; `where` is added to its reason.
   void Finish(std::string_view where = {}) const;
 
  private:

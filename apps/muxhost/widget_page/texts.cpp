@@ -43,7 +43,7 @@ void TextKinds::FillBoxes() {
   txtSelected.SetSelectOnFocus(TextBox::kWhole, true);
   txtDisabled.SetText("Gate");
   txtDisabled.SetEnabled(false);
-  port_.Show(70000);                               // no port, and stays until somebody types
+  port_.Show(70000);                               // no port, and stays until the user types
   constexpr Byte kAddress[] = {240, 168, 0, 255};  // no host's address
   for (int i = 0; i < txtAddress.Count(); ++i) address_.Show(i, kAddress[i]);
   txtAddress.SetSpokenNames("Address");

@@ -8,7 +8,7 @@
 namespace quorvel::muxhost {
 
 /// A window with every kind of control in every state, values that no control can show among them:
-/// what somebody looks at who writes or changes a renderer. It edits nothing.
+/// for those who write or change a renderer. It edits nothing.
 class WidgetPage : public Dialog {
  public:
   explicit WidgetPage(Platform& platform);

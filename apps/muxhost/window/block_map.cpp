@@ -95,7 +95,7 @@ BlockMapBox::BlockMapBox(HostSession& session, QWidget* parent)
       contents_(new QPlainTextEdit) {
   grid_->on_look = [this](int block) { Look(block); };
   grid_->setModel(model_);
-  // What happens is seen, unless somebody looks at a place of his own.
+  // What happens is seen, unless the user has scrolled elsewhere.
   QObject::connect(model_, &BlockModel::dataChanged, this, [this](const QModelIndex& cell) {
     if (!grid_->hasFocus() && !grid_->underMouse()) grid_->scrollTo(cell);
   });

@@ -11,7 +11,7 @@ namespace quorvel::muxhost {
 /// True while a window is on screen that locks all others.
 [[nodiscard]] bool IsLocked();
 
-/// Closes the windows that lock all others, the front one first, as a person would.
+/// Closes the windows that lock all others, the front one first, as the user would.
 void CloseLockingWindows();
 
 }  // namespace quorvel::muxhost

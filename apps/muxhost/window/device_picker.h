@@ -14,7 +14,7 @@
 
 namespace quorvel::muxhost {
 
-/// Where a person says what the simulated device is made like.
+/// Where the user says what the simulated device is made like.
 class DevicePicker : public QGroupBox {
  public:
   /// `platform` gives the code page of the device's name.

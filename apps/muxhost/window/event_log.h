@@ -7,7 +7,7 @@
 namespace quorvel::muxhost {
 
 /// What crossed between control and host, in plain words. A run of block numbers takes one line.
-/// The newest line is in sight, unless somebody has scrolled up from it.
+/// The newest line is in sight, unless the user has scrolled up from it.
 class EventLog : public QListWidget {
  public:
   explicit EventLog(QWidget* parent = nullptr);

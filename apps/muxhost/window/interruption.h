@@ -4,7 +4,7 @@
 
 namespace quorvel::muxhost {
 
-/// Does on the screen what somebody at a transfer's dialog does. False when the dialog is not there
+/// Does on the screen what the user does at a transfer's dialog. False when the dialog is not there
 /// or has another one in front of it, or when the button cannot be pressed.
 bool Interrupt(const Interruption& what);
 

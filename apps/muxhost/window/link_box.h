@@ -12,7 +12,7 @@
 
 namespace quorvel::muxhost {
 
-/// Where a person who tests hosts says how the link fails next. Folded up but for its heading until
+/// Where the user says how the link fails next. Folded up but for its heading until
 /// it is wanted.
 class LinkBox : public QWidget {
  public:

@@ -23,7 +23,7 @@
 namespace quorvel::muxhost {
 
 /// The host's window: the device, the control, its commands, and what crosses the link. While the
-/// dialog of a transfer is open a person cannot close the window: the window system does not
+/// dialog of a transfer is open the user cannot close the window: the window system does not
 /// deliver it. Closed then by other means, such as the end of the desktop's session, it ends the
 /// transfer.
 class MainWindow : public QMainWindow {

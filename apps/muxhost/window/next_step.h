@@ -7,7 +7,7 @@
 
 namespace quorvel::muxhost {
 
-/// Where somebody who configures a device has got to.
+/// How far the user has got with configuring a device.
 struct Situation {
   CommandBox::State commands;
   std::size_t unwritten = 0;  ///< blocks with changes that the device has not got

@@ -4,7 +4,7 @@
 
 namespace quorvel::muxhost {
 
-/// While it lives, it makes a choice in the send dialog when that comes on screen, as a person
+/// While it lives, it makes a choice in the send dialog when that comes on screen, as the user
 /// would with the mouse. START is left to the user.
 class SendChoice : public QObject {
  public:

@@ -24,7 +24,7 @@ class ZoneGrid : public QTableView {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
-  /// A person has changed cells, which were as in `before`: with a key, or with a whole drag.
+  /// The user has changed cells, which were as in `before`: with a key, or with a whole drag.
   std::function<void(const ZoneCells& before)> on_change;
 
  protected:

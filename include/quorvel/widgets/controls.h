@@ -8,7 +8,7 @@
 
 namespace quorvel {
 
-/// A text that nobody edits.
+/// A text that the user reads and cannot edit.
 class Label : public Widget {
  public:
   Label(Dialog& dialog, std::string name, std::string caption = {});

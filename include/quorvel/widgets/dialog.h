@@ -16,7 +16,7 @@ struct Picture;
 
 /// A window as a value: its controls, their layout, and whether it is on screen. Editors derive
 /// from it and hold their controls as members. A dialog lives in a std::shared_ptr; while one of
-/// its handlers runs it stays alive, whoever lets go of it meanwhile.
+/// its handlers runs it stays alive, even when its owner lets go of it.
 class Dialog : public std::enable_shared_from_this<Dialog> {
  public:
   /// `name` is the window's name in the code, as "frm_CameraSetup".
@@ -49,7 +49,7 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
   [[nodiscard]] Button* DefaultButton() const { return default_button_; }
   [[nodiscard]] Button* CancelButton() const { return cancel_button_; }
 
-  /// What to tell somebody whose paste into a grid was refused: kNotAChoice or kNoSuchPlace.
+  /// What to tell the user whose paste into a grid was refused: kNotAChoice or kNoSuchPlace.
   [[nodiscard]] const std::string& PasteRefusal(Answer answer) const {
     return answer == Answer::kNotAChoice ? not_a_choice_ : does_not_fit_;
   }
@@ -73,7 +73,7 @@ class Dialog : public std::enable_shared_from_this<Dialog> {
   /// Takes the dialog off the screen and raises on_closed; nothing when it is not shown.
   void Close();
 
-  /// What a person does with the window's own close button, or Escape.
+  /// What the user does with the window's own close button, or Escape.
   Answer CloseWindow();
 
   /// Raised each time the dialog leaves the screen, whatever closed it.

@@ -9,7 +9,7 @@
 
 namespace quorvel {
 
-/// Where the controls of a dialog stand, told so that it reads like the window:
+/// Where the controls of a dialog stand, written so that it reads like the window:
 ///
 ///     Column(Tabs(SSTab1, Page("Titles", Row(Framed(Frame2, Lines(m_CameraTitle))))),
 ///            Row(Stretch(), cmd_OK, cmd_Cancel))

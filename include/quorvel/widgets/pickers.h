@@ -15,7 +15,7 @@ class TimePicker : public Widget {
   /// The time, as set; nothing when blank.
   [[nodiscard]] const std::optional<ClockTime>& Time() const { return time_; }
   [[nodiscard]] ClockFormat Format() const { return format_; }
-  /// True once a person has picked a time, be it the one that was set.
+  /// True once the user has picked a time, be it the one that was set.
   [[nodiscard]] bool Edited() const { return edited_; }
   /// The time in the picker's format; empty when it is drawn blank.
   [[nodiscard]] std::string ValueText() const override;
@@ -45,7 +45,7 @@ class DatePicker : public Widget {
   DatePicker(Dialog& dialog, std::string name);
   /// The date, as set; nothing when blank.
   [[nodiscard]] const std::optional<CalendarDate>& Date() const { return date_; }
-  /// True once a person has picked a date, be it the one that was set.
+  /// True once the user has picked a date, be it the one that was set.
   [[nodiscard]] bool Edited() const { return edited_; }
   /// The date as "2024-02-29"; empty when it is drawn blank.
   [[nodiscard]] std::string ValueText() const override;

@@ -33,7 +33,7 @@ class PopupMenu {
   /// The item of that name; throws std::invalid_argument when there is none.
   [[nodiscard]] MenuItem& Item(std::string_view name);
 
-  /// What a person does with an item. Refused when the owner does not admit it, when the item, or a
+  /// What the user does with an item. Refused when the owner does not admit it, when the item, or a
   /// menu around it, is hidden or disabled, and for items that open a submenu. Calls the handler
   /// last.
   Answer Choose(std::string_view name);

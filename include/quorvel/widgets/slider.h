@@ -16,7 +16,7 @@ class Slider : public Widget {
   [[nodiscard]] int Step() const { return step_; }
   [[nodiscard]] int LargeStep() const { return large_step_; }
   [[nodiscard]] int Value() const { return value_; }
-  /// True once a person has moved the handle, be it to where it stood.
+  /// True once the user has moved the handle, be it to where it stood.
   [[nodiscard]] bool Edited() const { return edited_; }
   [[nodiscard]] std::string ValueText() const override;
 

@@ -18,19 +18,19 @@ class TextBox : public Widget {
   TextBox(Dialog& dialog, std::string name);
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::string ValueText() const override { return text_; }
-  /// Most characters that a person can type; 0 for no limit.
+  /// Most characters that the user can type; 0 for no limit.
   [[nodiscard]] int MaxLength() const { return max_length_; }
   /// Characters that the box is wide: as set, else the maximum length; 0 for any width.
   [[nodiscard]] int ShownLength() const { return shown_length_ > 0 ? shown_length_ : max_length_; }
-  /// True once a person has changed the text that the program set.
+  /// True once the user has changed the text that the program set.
   [[nodiscard]] bool Edited() const { return edited_; }
-  /// True when what is typed is handed over as a whole, once the person leaves the box, presses
+  /// True when what is typed is handed over as a whole, once the user leaves the box, presses
   /// Return or a button; otherwise it is with every key.
   [[nodiscard]] bool TakenWhenLeft() const { return taken_when_left_; }
   /// Characters from the start of the text that are selected, so that typing replaces them.
   [[nodiscard]] int SelectedCharacters() const { return selected_; }
 
-  /// What of the last typing the box did not take, for whoever tells the user.
+  /// What of the last typing the box did not take, for a note to the user.
   struct LeftOut {
     bool controls = false;  ///< control characters, line ends among them
     bool lines = false;     ///< pasted lines for which the series had no box
@@ -54,11 +54,11 @@ class TextBox : public Widget {
   void SetSelectOnFocus(int characters, bool on_click = false);
   /// Sets the text, even beyond the maximum length; the box counts as not edited.
   void SetText(std::string text);
-  /// Rewrites what a person has typed, from a change handler; the box stays edited. One that
+  /// Rewrites what the user has typed, from a change handler; the box stays edited. One that
   /// selects on focus selects the new text, so that the next key replaces it.
   void RewriteText(std::string text);
 
-  /// Replaces the whole text, as somebody does who selects it and types, or who types elsewhere in
+  /// Replaces the whole text, as a user does who selects it and types, or who types elsewhere in
   /// it: `after` is what stands behind the cursor then. Characters before the cursor that do not
   /// fit into the maximum length are not taken, and control characters only where the box holds
   /// them already. In a series the text may be for several boxes.

@@ -58,7 +58,7 @@ using Handler = std::function<void()>;
 /// A control of a dialog: its state and value, without any drawing.
 ///
 /// Program verbs (SetCaption, SetText, Select, ...) change the model and redraw; they never call
-/// handlers. User verbs (Click, Choose, Type, Press, ...) do what a person does, call the handlers,
+/// handlers. User verbs (Click, Choose, Type, Press, ...) do what the user does, call the handlers,
 /// and are refused by a control that is hidden or disabled. Toolkits and tests use user verbs only.
 /// A user verb may end with the dialog destroyed; its caller must not touch the widget afterwards.
 ///
@@ -99,7 +99,7 @@ class Widget {
   /// What screen readers add to the name: "" or, of a control that edits the current cell, the
   /// dialog's words for it and the column.
   [[nodiscard]] std::string SpokenNote() const;
-  /// What a person can change, as one line of text: "" for kinds without a value.
+  /// What the user can change, as one line of text: "" for kinds without a value.
   [[nodiscard]] virtual std::string ValueText() const { return {}; }
 
   void SetCaption(std::string caption);
@@ -114,7 +114,7 @@ class Widget {
   /// Whether the control edits the current cell of a grid, and its column's name.
   void SetEditsCell(bool edits, std::string column = {});
 
-  /// The keyboard focus comes here; `by_click`, somebody clicks where it is already.
+  /// The keyboard focus comes here; `by_click`, the user clicks where it is already.
   Answer Focus(bool by_click = false);
 
   /// The view that draws this widget, or none. The view detaches itself before it goes.
