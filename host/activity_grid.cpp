@@ -25,7 +25,7 @@ void UpdateActivityGrid(DeviceState& device, std::span<const Byte> data) {
     if (camera->ActGrid(k) == cell) continue;
     const int block = kFirstGridBlock + 2 * number + k / kBlockSize;
     device.env.blocks.AddBlk(static_cast<Byte>(block));
-    camera->ActGrid(k, cell);
+    camera->ActGrid.Set(k, cell);
     // A send may be under way that has encoded its blocks already.
     if (device.HasImage()) {
       EncodeBlock(block, device.BlkImage, device.env, device.Record());

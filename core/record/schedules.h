@@ -80,14 +80,14 @@ class clsRecTimer : public SettingOwner {
 
   /// Takes the values of another entry, each as if it had been set: an entry that moves is tracked.
   void Take(const clsRecTimer& other) {
-    RTdate(other.RTdate());
-    RTstart_hh(other.RTstart_hh());
-    RTstart_mm(other.RTstart_mm());
-    RTstop_hh(other.RTstop_hh());
-    RTstop_mm(other.RTstop_mm());
-    RTmacrolnk(other.RTmacrolnk());
-    RTstatus(other.RTstatus());
-    RTvalid(other.RTvalid());
+    RTdate.Set(other.RTdate());
+    RTstart_hh.Set(other.RTstart_hh());
+    RTstart_mm.Set(other.RTstart_mm());
+    RTstop_hh.Set(other.RTstop_hh());
+    RTstop_mm.Set(other.RTstop_mm());
+    RTmacrolnk.Set(other.RTmacrolnk());
+    RTstatus.Set(other.RTstatus());
+    RTvalid.Set(other.RTvalid());
   }
 };
 

@@ -55,8 +55,54 @@ TEST(Record, CommitFlagsFallWithTheirScopeAndWithFillData) {
   EXPECT_EQ(Listed(env.blocks), (std::vector<int>{}));
 }
 
-static_assert(!std::invocable<decltype(MuxData::MacroEditDL1)&, Byte>, "nobody edits it");
+static_assert(!std::invocable<decltype(MuxData::MacroEditDL1)&, Byte>, "no editor sets it");
 static_assert(std::invocable<decltype(MuxData::MuxLang)&, Byte>);
+template <class S, class... Args>
+concept Settable = requires(S& setting, Args... args) {
+  setting.Set(args...);
+};
+static_assert(!Settable<decltype(MuxData::MacroEditDL1), Byte>, "no editor sets it");
+static_assert(!Settable<decltype(MuxData::TelEnable), Byte>, "an entry of an array has an index");
+
+TEST(Record, SetIsTheSetter) {
+  RecordEnvironment env;
+  const auto record = std::make_unique<MuxData>(env);
+  const CommitScope scope(env.commit, CommitTelemetry);
+  record->TelEnable.Set(3, 1);
+  record->Tel_options.Set(1);
+  EXPECT_EQ(record->TelEnable(3), 1);
+  EXPECT_EQ(record->TelEnable(2), 0);
+  EXPECT_EQ(record->Tel_options(), 1);
+  EXPECT_EQ(Listed(env.blocks), (std::vector<int>{61, 59}));
+  record->TelEnable.Set(16, 1);
+  record->TelEnable.Set(3, 1);
+  EXPECT_EQ(Listed(env.blocks), (std::vector<int>{61, 59}));
+}
+
+/// A setting has no pointer to its owner and finds it by its distance.
+TEST(Record, SettingsFindTheirOwner) {
+  RecordEnvironment env;
+  env.identity.MaxCam = 16;
+  const auto record = std::make_unique<MuxData>(env);
+  const auto other = std::make_unique<MuxData>(env);
+  *record = *other;
+  const auto owner = [](const auto& setting) { return &setting.Owner(); };
+  EXPECT_EQ(owner(record->AlarmMode), record.get());
+  EXPECT_EQ(owner(record->TelEnable), record.get());
+  EXPECT_EQ(owner(record->MatrixInfo.AuxMonitor), &record->MatrixInfo);
+  for (int i = 0; i < 16; ++i) {
+    EXPECT_EQ(owner(record->CamInfo(i)->SignalGain), record->CamInfo(i));
+    EXPECT_EQ(owner(record->AlmActionInfo(i)->Display3), record->AlmActionInfo(i));
+  }
+  // What the owner is told is what its settings see.
+  clsRecTimer timer(env, 0);
+  const CommitScope scope(env.commit, CommitRecord);
+  for (const Byte place : {3, 8, 1}) {
+    timer.SetRTIdx(place);
+    timer.RTdate.Set(place);
+  }
+  EXPECT_EQ(Listed(env.blocks), (std::vector<int>{196, 199, 195}));
+}
 
 TEST(Record, IndicesOutOfRange) {
   RecordEnvironment env;

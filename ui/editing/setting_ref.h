@@ -105,9 +105,9 @@ class Member final
     if (owner == nullptr) return;
     S& setting = owner->*member_;
     if constexpr (Array<S>) {
-      setting(Entry(line), static_cast<Stored>(value));
+      setting.Set(Entry(line), static_cast<Stored>(value));
     } else {
-      setting(static_cast<Stored>(std::move(value)));
+      setting.Set(static_cast<Stored>(std::move(value)));
     }
   }
   void AddNames(MuxData& record, int line, std::vector<std::string>& names) const override {
