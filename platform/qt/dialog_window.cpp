@@ -134,10 +134,20 @@ bool DialogWindow::focusNextPrevChild(bool next) {
   const auto* const button = qobject_cast<QPushButton*>(focusWidget());
   const bool gone = button != nullptr && (!button->isEnabled() || !button->isVisibleTo(this));
   if (!gone || dialog_ == nullptr || dialog_->DefaultButton() == nullptr) {
-    return QDialog::focusNextPrevChild(next);
+    const bool moved = QDialog::focusNextPrevChild(next);
+    if (moved) ScrollToFocus();
+    return moved;
   }
   FocusDefault();
   return true;
+}
+
+/// The toolkit scrolls an area only when the focus moves within it, not when it comes from outside.
+void DialogWindow::ScrollToFocus() {
+  QWidget* const focus = focusWidget();
+  for (QWidget* it = focus; it != nullptr; it = it->parentWidget()) {
+    if (auto* const area = qobject_cast<QScrollArea*>(it)) area->ensureWidgetVisible(focus);
+  }
 }
 
 /// A default button gets the focus when it can be pressed at last.

@@ -52,6 +52,8 @@ class DialogWindow : public QDialog, public WidgetView {
   void FocusInput();
   /// Gives the focus to the default button where it can be pressed, else to no control.
   void FocusDefault();
+  /// Brings the control that has it into sight.
+  void ScrollToFocus();
   [[nodiscard]] bool NothingHasFocus() const {
     return focusWidget() == nullptr || focusWidget() == this;
   }

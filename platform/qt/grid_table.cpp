@@ -297,10 +297,12 @@ QSize GridTable::SizeOfRows(int rows) const {
           frame + header_->sizeHint().height() + rows * verticalHeader()->defaultSectionSize()};
 }
 
-/// Space beyond the last column and row would look like something that is missing.
+/// Space beyond the last column and row would look like something that is missing. Where all rows
+/// are to be seen the columns have the space of the vertical bar.
 void GridTable::EndWithContent() {
   const QSize whole = SizeOfRows(model()->rowCount());
-  const int bar = width() < whole.width() ? horizontalScrollBar()->sizeHint().height() : 0;
+  const bool scrolls = width() < whole.width() - verticalScrollBar()->sizeHint().width();
+  const int bar = scrolls ? horizontalScrollBar()->sizeHint().height() : 0;
   setMaximumSize(whole + QSize(0, bar));
 }
 
