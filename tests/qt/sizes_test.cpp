@@ -7,23 +7,12 @@
 #include <QScrollBar>
 #include <memory>
 
-#include "resources/default_images.h"
-#include "resources/text_table.h"
 #include "tests/qt/every_kind.h"
-#include "ui/context.h"
-#include "ui/setup/alarm/frm_alarm.h"
-#include "ui/setup/frm_camera_setup.h"
+#include "tests/qt/installer.h"
+#include "tests/qt/keyboard_walk.h"
 
 namespace quorvel {
 namespace {
-
-/// Texts half again as long as the English ones.
-class LongTexts : public AutomationObject {
- public:
-  std::string Call(std::string_view /*method*/, std::int32_t id) override {
-    return EveryKind::HalfAgain(std::string(BuiltInText(id)));
-  }
-};
 
 /// Width of a text in two lines, or in one where it has no blank.
 int WidthInTwoLines(const QFontMetrics& metrics, const QString& text) {
@@ -171,13 +160,36 @@ class QtSizes : public ::testing::Test {
     QApplication::setPalette(palette_);
   }
 
-  Context& MakeContext(bool long_texts) {
-    platform_.Classes().Register("Texts.Long", [] { return std::make_shared<LongTexts>(); });
-    context_ = std::make_unique<Context>(platform_);
-    if (long_texts) context_->texts.CreateTextSource(platform_.Classes(), "Texts.Long");
-    context_->InitGlobals();
-    context_->device.Adopt(LoadDefaultImage(401), ImageSource::kFactory);
-    return *context_;
+  void SetScale(double larger) {
+    QFont font = font_;
+    font.setPointSizeF(font_.pointSizeF() * larger);
+    QApplication::setFont(font);
+  }
+
+  /// A page that is in front: what is drawn, and what is reached.
+  static void CheckPage(const Dialog& editor, QWidget& window) {
+    QApplication::processEvents();
+    Fits(editor, window);
+    CheckScrolling(window);
+    for (const Widget* const widget : editor.Widgets()) {
+      const WidgetKind kind = widget->Kind();
+      const bool list = kind == WidgetKind::kListBox || kind == WidgetKind::kComboBox;
+      EXPECT_TRUE(!list || widget->NamingLabel() != nullptr) << widget->Name();
+    }
+    EXPECT_EQ(KeyboardWalk(editor, window).Unreached(), "");
+  }
+
+  /// Every page of an editor, which Ctrl+Tab leads to.
+  static void CheckByKeyboard(const Dialog& editor, QWidget& window) {
+    const auto* const tabs = dynamic_cast<const TabStrip*>(editor.FindWidget("SSTab1"));
+    if (tabs == nullptr) return CheckPage(editor, window);
+    std::set<int> seen;
+    while (seen.insert(tabs->Current()).second) {
+      SCOPED_TRACE(testing::Message() << "page " << tabs->Current());
+      CheckPage(editor, window);
+      QTest::keyClick(window.findChild<QTabBar*>(), Qt::Key_Tab, Qt::ControlModifier);
+    }
+    EXPECT_EQ(std::ranges::count(tabs->Pages(), true, &Page::visible), std::ssize(seen));
   }
 
   /// Every page of a window.
@@ -198,16 +210,13 @@ class QtSizes : public ::testing::Test {
   QFont font_ = QApplication::font();
   QPalette palette_ = QApplication::palette();
   QtPlatform platform_;
-  std::unique_ptr<Context> context_;
 };
 
 TEST_F(QtSizes, NothingClipsInAnyFontPaletteAndLengthOfTexts) {
   const auto open_already = std::make_shared<EveryKind>(platform_);
   open_already->Show();
   for (const double larger : {1.0, 1.5, 2.0}) {
-    QFont font = font_;
-    font.setPointSizeF(font_.pointSizeF() * larger);
-    QApplication::setFont(font);
+    SetScale(larger);
     for (const bool dark : {false, true}) {
       QApplication::setPalette(QColor(dark ? 0x1e1e22 : 0xf0f0f0));
       for (const bool longer : {false, true}) {
@@ -215,30 +224,43 @@ TEST_F(QtSizes, NothingClipsInAnyFontPaletteAndLengthOfTexts) {
                      << larger << (dark ? " dark" : " light") << (longer ? " long texts" : ""));
         Check(std::make_shared<EveryKind>(platform_,
                                           longer ? EveryKind::HalfAgain : EveryKind::AsIs));
-        Context& context = MakeContext(longer);
-        Check(std::make_shared<frm_CameraSetup>(context));
-        Check(std::make_shared<frm_Alarm>(context));
         Check(open_already);
       }
     }
   }
 }
 
+TEST_F(QtSizes, EveryEditorFitsAndIsWorkedByKeyboard) {
+  int editors = 0;
+  for (const double larger : {1.0, 1.5, 2.0}) {
+    SetScale(larger);
+    for (const Device& device : kFamilies) {
+      const bool longer = (larger == 1.5) == (device.code < 6);
+      SCOPED_TRACE(testing::Message() << larger << " model " << int{device.code} << device.variant
+                                      << (longer ? " long texts" : ""));
+      Installer installer(device, longer ? &EveryKind::HalfAgain : &EveryKind::AsIs);
+      for (const std::string& item : installer.Items()) {
+        SCOPED_TRACE(item);
+        Dialog& editor = installer.Open(item);
+        CheckByKeyboard(editor, *installer.WindowOf(editor));
+        ++editors;
+        editor.CloseWindow();
+      }
+    }
+  }
+  EXPECT_GE(editors, 2 * 3 * static_cast<int>(std::size(kFamilies)));
+}
+
 TEST_F(QtSizes, AWarningMovesNothing) {
-  Context& context = MakeContext(false);
-  BlockImage image = LoadDefaultImage(401);
-  image.ResizeBlocks(225);  // enough for notification
-  image.Block(1)[15] = 225;
-  context.device.Adopt(image, ImageSource::kFactory);
-  const auto dialog = std::make_shared<frm_Alarm>(context);
-  dialog->Find<TabStrip>("SSTab1").SetCurrent(7);
-  dialog->Show();
+  Installer installer({16, 6, '2'});
+  Dialog& editor = installer.Open("mnu_Alarm");
+  editor.Find<TabStrip>("SSTab1").SetCurrent(7);
   QApplication::processEvents();
-  const QWidget& window = *platform_.WindowOf(*dialog);
+  const QWidget& window = *installer.WindowOf(editor);
   const auto* const frame = window.findChild<QWidget*>("Frame12");
   const QSize sizes[] = {window.size(), frame->size()};
   for (const char* const typed : {"no address", "", "a b@site.example", "", "guard"}) {
-    dialog->Find<TextBox>("txtUser1Addr").Type(typed);
+    editor.Find<TextBox>("txtUser1Addr").Type(typed);
     QApplication::processEvents();
     EXPECT_EQ(window.size(), sizes[0]) << typed;
     EXPECT_EQ(frame->size(), sizes[1]) << typed;
@@ -269,22 +291,7 @@ TEST_F(QtSizes, AListOfTenIsShownWhole) {
   EXPECT_GE(list.viewport()->height(), 10 * list.visualRect(list.model()->index(0, 0)).height());
 }
 
-TEST_F(QtSizes, EveryListHasALabel) {
-  Context& context = MakeContext(false);
-  const std::shared_ptr<Dialog> dialogs[] = {std::make_shared<frm_CameraSetup>(context),
-                                             std::make_shared<frm_Alarm>(context)};
-  for (const auto& dialog : dialogs) {
-    for (const Widget* const widget : dialog->Widgets()) {
-      const bool list =
-          widget->Kind() == WidgetKind::kListBox || widget->Kind() == WidgetKind::kComboBox;
-      if (list) {
-        EXPECT_NE(widget->NamingLabel(), nullptr) << widget->Name();
-      }
-    }
-  }
-}
-
-/// The toolkit takes its scale when it starts, so this starts the test above anew.
+/// The toolkit takes its scale when it starts, so this starts the tests above anew.
 TEST_F(QtSizes, NothingClipsOnScaledScreens) {
   for (const char* const scale : {"1.5", "2"}) {
     QProcess again;
@@ -292,7 +299,8 @@ TEST_F(QtSizes, NothingClipsOnScaledScreens) {
     environment.insert("QT_SCALE_FACTOR", scale);
     again.setProcessEnvironment(environment);
     again.setProcessChannelMode(QProcess::MergedChannels);
-    again.start(QApplication::applicationFilePath(), {"--gtest_filter=QtSizes.*Length*"});
+    again.start(QApplication::applicationFilePath(),
+                {"--gtest_filter=QtSizes.*Length*:QtSizes.EveryEditor*"});
     EXPECT_TRUE(again.waitForFinished(-1));
     EXPECT_TRUE(again.exitStatus() == QProcess::NormalExit && again.exitCode() == 0)
         << scale << "\n"

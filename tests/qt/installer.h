@@ -1,0 +1,86 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/identity.h"
+#include "quorvel/main_menu_ctrl.h"
+#include "quorvel/qt_platform.h"
+#include "resources/default_images.h"
+#include "resources/text_table.h"
+#include "tests/ui/editor_items.h"
+
+namespace quorvel {
+
+struct Device {
+  Byte cameras;
+  Byte code;
+  char variant;
+};
+/// One of each family, with each number of cameras.
+inline constexpr Device kFamilies[] = {{16, 0, '4'}, {10, 1, '1'}, {16, 2, 'A'}, {16, 6, '2'},
+                                       {9, 8, '1'},  {4, 15, '0'}, {4, 16, 'C'}};
+
+/// A control with the settings of a device, whose editors are opened on screen through its menu.
+class Installer : public QtPlatform, private MainMenuEvents {
+ public:
+  using Lengthen = std::string (*)(std::string);
+
+  explicit Installer(const Device& device, Lengthen texts = nullptr) : control_(*this, *this) {
+    constexpr Byte kBlocks = 225;  // with which a device has all that its model can have
+    constexpr std::int16_t kTextSource = 191;
+    Classes().Register("Texts", [texts] { return std::make_shared<Texts>(texts); });
+    if (texts != nullptr) control_.CustomWithString(kTextSource, 0, 0, "Texts");
+    BlockImage image = LoadDefaultImage(401);
+    image.ResizeBlocks(kBlocks);
+    image.Block(1)[kBlockCountByte] = kBlocks;
+    image.Block(183)[7] = static_cast<Byte>(device.variant);
+    WriteIdentityBlock(image, device.cameras, device.code, "UNIT 1");
+    std::vector<Byte> whole(image.Bytes().begin(), image.Bytes().end());
+    whole.push_back(0);
+    control_.HostCommId(1);
+    control_.FillDataBlk(whole);
+    control_.HostCommId(0);
+    control_.Custom(15, 1, 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return menu_ != nullptr; }));
+  }
+
+  /// The items of the menu that open an editor.
+  [[nodiscard]] std::vector<std::string> Items() const { return EditorItems(menu_->Root()); }
+  Dialog& Open(const std::string& item) {
+    EXPECT_EQ(menu_->Choose(item), Answer::kDone);
+    QTest::qWait(0);
+    return *opened_;
+  }
+
+  void PopUp(std::shared_ptr<PopupMenu> menu, int /*x*/, int /*y*/) override {
+    menu_ = std::move(menu);
+  }
+  void Show(Dialog& dialog) override {
+    opened_ = &dialog;
+    QtPlatform::Show(dialog);
+  }
+
+ private:
+  class Texts : public AutomationObject {
+   public:
+    explicit Texts(Lengthen lengthen) : lengthen_(lengthen) {}
+    std::string Call(std::string_view /*method*/, std::int32_t id) override {
+      return lengthen_(std::string(BuiltInText(id)));
+    }
+
+   private:
+    Lengthen lengthen_;
+  };
+
+  std::shared_ptr<PopupMenu> menu_;
+  Dialog* opened_ = nullptr;
+  MainMenuCtrl control_;
+};
+
+}  // namespace quorvel
