@@ -24,15 +24,21 @@ const std::set<std::string> kPutRight = {"AlarmInfo.Enable",
                                          "Buzzer",
                                          "CamInfo.TextPos",
                                          "DvrArchAlm",
+                                         "ExtCam_SwAct",
                                          "FullScrResolution",
                                          "AutoDisable",
+                                         "PlaybackFormat",
+                                         "PlaybackOld",
                                          "PreAlDuration",
                                          "PresetMode",
                                          "PresetPGM",
                                          "SVHS_MonB",
+                                         "SwitchEdge",
                                          "TelAC_DC",
                                          "TelEnable",
-                                         "Tel_options"};
+                                         "Tel_options",
+                                         "VCRType",
+                                         "VCR_Signal_Level"};
 
 /// "CamInfo(3).TextPos" without its index.
 std::string WithoutIndex(std::string name) {
