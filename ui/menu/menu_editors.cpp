@@ -6,6 +6,7 @@
 #include "ui/setup/alarm/frm_alarm.h"
 #include "ui/setup/frm_camera_setup.h"
 #include "ui/setup/frm_telemetry.h"
+#include "ui/setup/frm_varchive.h"
 #include "ui/setup/frm_vcr.h"
 
 namespace quorvel {
@@ -23,6 +24,7 @@ constexpr std::array kEditors = {
     MenuEditor{"mnu_Alarm", Create<frm_Alarm>, EveryDevice},
     MenuEditor{"mnu_CSetup", Create<frm_CameraSetup>, EveryDevice},
     MenuEditor{"mnuVCR", Create<frm_VCR>, EveryDevice},
+    MenuEditor{"mnu_VArchive", Create<frm_VArchive>, EveryDevice},
     MenuEditor{"mnu_Telemetry", Create<frm_Telemetry>, EveryDevice},
 };
 
