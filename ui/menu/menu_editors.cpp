@@ -5,6 +5,7 @@
 
 #include "ui/setup/alarm/frm_alarm.h"
 #include "ui/setup/frm_camera_setup.h"
+#include "ui/setup/frm_comm.h"
 #include "ui/setup/frm_telemetry.h"
 #include "ui/setup/frm_varchive.h"
 #include "ui/setup/frm_vcr.h"
@@ -26,6 +27,7 @@ constexpr std::array kEditors = {
     MenuEditor{"mnuVCR", Create<frm_VCR>, EveryDevice},
     MenuEditor{"mnu_VArchive", Create<frm_VArchive>, EveryDevice},
     MenuEditor{"mnu_Telemetry", Create<frm_Telemetry>, EveryDevice},
+    MenuEditor{"mnu_Comm", Create<frm_Comm>, EveryDevice},
 };
 
 }  // namespace
