@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ui/record/frm_sequencing.h"
 #include "ui/setup/alarm/frm_alarm.h"
 #include "ui/setup/frm_camera_setup.h"
 #include "ui/setup/frm_comm.h"
@@ -26,6 +27,7 @@ constexpr std::array kEditors = {
     MenuEditor{"mnu_CSetup", Create<frm_CameraSetup>, EveryDevice},
     MenuEditor{"mnuVCR", Create<frm_VCR>, EveryDevice},
     MenuEditor{"mnu_VArchive", Create<frm_VArchive>, EveryDevice},
+    MenuEditor{"mnu_Sequence", Create<frm_Sequencing>, EveryDevice},
     MenuEditor{"mnu_Telemetry", Create<frm_Telemetry>, EveryDevice},
     MenuEditor{"mnu_Comm", Create<frm_Comm>, EveryDevice},
 };
