@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "host/model_catalogue.h"
 #include "tests/host/test_host.h"
-#include "ui/context.h"
 
 namespace quorvel {
 namespace {
@@ -128,9 +126,7 @@ TEST(Control, MayBeDestroyedInAnyEvent) {
       };
       if (event.starts_with("UL")) {
         host.control->HostCommId(1);
-        std::vector<Byte> image(host.device.Bytes().begin(), host.device.Bytes().end());
-        image.push_back(0);
-        host.control->FillDataBlk(image);
+        host.GiveWholeImage();
       }
       const std::function<void()> steps[] = {[&host] { host.Download(); },
                                              [&host] {
@@ -168,14 +164,14 @@ TEST(Control, AHostThatFailsInAnEventIsToldAndTheSequenceCanBeRepeated) {
 /// A source of texts that does something each time it is asked.
 class MeddlingSource : public AutomationObject {
  public:
-  explicit MeddlingSource(std::function<void()> act) : act_(std::move(act)) {}
-  std::string Call(std::string_view, std::int32_t) override {
-    act_();
+  explicit MeddlingSource(std::function<void(int)> act) : act_(std::move(act)) {}
+  std::string Call(std::string_view, std::int32_t id) override {
+    act_(id);
     return "X";
   }
 
  private:
-  std::function<void()> act_;
+  std::function<void(int)> act_;
 };
 
 /// For the text asked for as the `at`th; 0 is the destruction.
@@ -188,7 +184,7 @@ TEST(Control, ATextSourceMayGiveCommandsOrDestroyTheControl) {
         host.Download();
         host.platform.AnswerNextFile("x");
         int asked = 0;
-        const auto meddle = [&] {
+        const auto meddle = [&](int) {
           if (host.control == nullptr || ++asked != at) return;
           if (meddling != 0) host.control->Custom(meddling, 0, 0);
           if (meddling == 0) host.control.reset();
@@ -204,6 +200,35 @@ TEST(Control, ATextSourceMayGiveCommandsOrDestroyTheControl) {
   }
 }
 
+/// Texts in the course of which another device's image arrives.
+TEST(Control, AnEditorOpensForOneDeviceWhateverATextSourceDoes) {
+  for (const int asked_for : {60, 93, 106, 56}) {
+    for (const auto& [before, after] : {std::pair{16, 4}, std::pair{4, 16}}) {
+      TestHost host;
+      bool meddles = false;
+      const auto source = std::make_shared<MeddlingSource>([&](int id) {
+        if (meddles && id == asked_for) host.GiveWholeImage();
+      });
+      host.platform.Classes().Register("Texts", [source] { return source; });
+      host.Identify(static_cast<Byte>(before), 6, '2');
+      host.Download();
+      host.control->HostCommId(1);
+      host.control->CustomWithString(191, 0, 0, "Texts");
+      host.OpenMenu();
+      host.Identify(static_cast<Byte>(after), 6, '2');
+      meddles = true;
+      EXPECT_EQ(host.platform.ChooseMenu("mnu_Alarm"), Answer::kDone);
+      meddles = false;
+      EXPECT_TRUE(host.platform.TakeMessages().empty()) << asked_for;
+      Dialog& dialog = host.platform.Window("frm_Alarm");
+      EXPECT_EQ(dialog.Find<Grid>("MSFG_VidLoss").Rows(), before + 1);
+      EXPECT_EQ(dialog.Find<Button>("cmd_OK").Click(), Answer::kDone);
+      EXPECT_EQ(host.OnlyMessage(), "X") << "the data does not match";
+      EXPECT_TRUE(host.Modified().empty());
+    }
+  }
+}
+
 TEST(Control, TwoControlsEditTwoDevices) {
   TestHost first;
   TestHost second(301);
@@ -214,73 +239,6 @@ TEST(Control, TwoControlsEditTwoDevices) {
   EXPECT_TRUE(second.Modified().empty());
   second.OpenMenu();
   EXPECT_FALSE(second.platform.Menu().Item("mnu_UnLock").enabled);
-}
-
-class Identities : public ::testing::Test {
- protected:
-  void Connect(Byte channels, Byte code, std::string_view name) {
-    std::vector<Byte> data{0, channels, code};
-    data.insert(data.end(), name.begin(), name.end());
-    SaveConnectedIdentity(context_.host, data);
-  }
-  bool Loads(Byte channels, Byte code, std::string_view name) {
-    context_.device.BlkImage.ResizeBlocks(185);
-    WriteIdentityBlock(context_.device.BlkImage, channels, code, name);
-    return CheckLoadedIdentity(context_);
-  }
-  HeadlessPlatform platform_;
-  Context context_{platform_};
-};
-
-TEST_F(Identities, AreStored) {
-  Connect(16, 0x87, std::string_view("DVR\0\0", 5));
-  EXPECT_EQ(context_.host.connected.ConnChannels, 16);
-  EXPECT_EQ(context_.host.connected.ConnModelCode, 7);
-  EXPECT_EQ(context_.host.connected.ConnModelName, "DVR");
-  EXPECT_EQ(ModelDescription(context_, 0), " (16 ch, Triplex PAL)");
-  EXPECT_EQ(ModelDescription(context_, 2), " (0 ch, Mux model)");
-  SaveConnectedIdentity(context_.host, std::vector<Byte>{0, 4, 2});
-  EXPECT_EQ(context_.host.connected.ConnChannels, 16);
-  Connect(4, 21, std::string_view("\0A", 2));
-  EXPECT_EQ(context_.host.connected.ConnModelName, std::string("\0A", 2));
-  EXPECT_EQ(ModelDescription(context_, 0), " (4 ch, )");
-}
-
-TEST_F(Identities, OfARestoredImageMustFit) {
-  context_.device.LoadedFromFile = false;
-  EXPECT_TRUE(Loads(4, 0, "OTHER"));
-  context_.device.LoadedFromFile = true;
-  const struct {
-    const char* connected_name;
-    Byte connected_code;
-    Byte channels, code;
-    const char* name;
-    bool fits;
-  } cases[] = {{"TX16", 7, 16, 7, "TX16", true},
-               {"TX16", 7, 16, 6, "TX16", true},
-               {"TX16", 7, 16, 0x86, "TX16", true},
-               {"TX16", 7, 16, 8, "TX16", false},
-               {"TX16", 7, 4, 7, "TX16", false},
-               {"TX16", 7, 16, 7, "tx16", false},
-               {"MX", 1, 16, 0, "MX", false},
-               {"MX", 20, 16, 21, "MX", false},
-               {"Vaultline Adv  ", 12, 16, 13, "Vaultline Pro", true},
-               {"Vaultline Pro", 12, 16, 12, "Vaultline Adv", true},
-               {"  Vaultline Pro ", 6, 16, 6, "Vaultline Adv", true},
-               {"Vaultline Adv", 12, 16, 12, "Vaultline", false}};
-  for (const auto& it : cases) {
-    Connect(16, it.connected_code, it.connected_name);
-    EXPECT_EQ(Loads(it.channels, it.code, it.name), it.fits) << it.name << int{it.code};
-  }
-  platform_.TakeMessages();
-  Connect(16, 7, "TX16");
-  EXPECT_FALSE(Loads(16, 8, "TX16"));
-  const Message message = platform_.TakeMessages().at(0);
-  EXPECT_EQ(message.title, "Error Message");
-  EXPECT_EQ(message.text,
-            "The current data does not match the data of the remote device\r"
-            "You are connected to model:  TX16 (16 ch, Triplex PAL)\r"
-            "You are loading data from model:  TX16 (16 ch, Triplex NTSC, Lite/EZ)");
 }
 
 }  // namespace

@@ -5,43 +5,15 @@
 namespace quorvel {
 namespace {
 
-TEST(Download, UnusableImagesAreRefusedAndTheOldRecordStays) {
+TEST(Download, NothingIsNoReply) {
   TestHost host;
-  host.device.Block(3)[0] = 'X';
-  host.Download();
-  host.device.Block(185)[0] = 17;
-  host.device.Block(3)[0] = 'Y';
-  host.control->Custom(10, 0, 0);
-  auto messages = host.platform.TakeMessages();
-  ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0].text,
-            "Error found in FillDataBlk\rThe configuration names 17 cameras; 16 are the most.");
-  EXPECT_EQ(messages[0].title, "Quorvel");
-  EXPECT_EQ(host.Count("UploadSucceeded"), 1);
-  auto& editor = host.OpenCameraSetup();
-  EXPECT_EQ(editor.Find<TextBox>("m_CameraTitle(2)").Text(), "Xamera 03");
-
   host.control->FillDataBlk({});
-  messages = host.platform.TakeMessages();
-  ASSERT_EQ(messages.size(), 1U);
-  EXPECT_EQ(messages[0].text, "Error found in FillDataBlk\rThe reply is empty.");
-}
-
-TEST(Download, SavesWhatWasReceived) {
-  TestHost host;
-  host.platform.AnswerNextFile("received.bin");
-  bool saved = false;
-  host.platform.at_modal = [&saved](Dialog& dialog) {
-    if (!dialog.Find<Button>("cmdOK").Enabled()) return false;
-    return dialog.Find<Button>(std::exchange(saved, true) ? "cmdOK" : "cmdSaveFile").Click() ==
-           Answer::kDone;
-  };
-  host.control->Custom(10, 0, 0);
-  EXPECT_TRUE(host.platform.TakeStalled().empty());
-  EXPECT_TRUE(std::ranges::equal(host.platform.files["received.bin"], host.device.Bytes()));
-  const auto request = host.platform.TakeFileRequests().at(0);
-  EXPECT_EQ(request.default_name, "*.bin");
-  EXPECT_TRUE(request.ask_before_overwriting);
+  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk\rThe reply is empty.");
+  host.StateSizes();
+  host.control->FillComboBlk({});
+  EXPECT_EQ(host.OnlyMessage(),
+            "Error found in FillComboBlk\rThis is no combined array: it has 0 bytes, and its header "
+            "alone takes 13.");
 }
 
 /// A host that answers from inside the events is called once more for every block.
@@ -66,19 +38,6 @@ TEST(Download, NestedRepliesStayFarFromTheStacksEnd) {
   EXPECT_EQ(host.Count("UploadSucceeded"), 1);
   constexpr std::uintptr_t kEighthOfAStack = 1 << 20;
   EXPECT_LT(std::max(outermost, innermost) - std::min(outermost, innermost), kEighthOfAStack);
-}
-
-TEST(Download, ALongBlockIsRefusedAndTheRightOneStillTaken) {
-  TestHost host;
-  host.act_in = "RequestBlk 7";
-  host.act = [&host] {
-    std::vector<Byte> reply(25, 7);
-    host.control->FillDataBlk(reply);
-  };
-  host.Download();
-  EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk\rThe block has more than 16 bytes.");
-  EXPECT_EQ(host.Count("UploadSucceeded"), 1);
-  EXPECT_TRUE(std::ranges::equal(host.control->Image(), host.device.Bytes()));
 }
 
 TEST(Download, OnlyTheAwaitedBlockIsTaken) {

@@ -103,6 +103,13 @@ class TestHost : public MainMenuEvents {
     control->FillDataBlk(reply);
   }
 
+  /// Hands over the device's image in one piece.
+  void GiveWholeImage() {
+    std::vector<Byte> image(device.Bytes().begin(), device.Bytes().end());
+    image.push_back(0);
+    control->FillDataBlk(image);
+  }
+
   void RequestBlk(std::uint8_t blknum) override {
     Log("RequestBlk " + std::to_string(blknum));
     if (control == nullptr) return;

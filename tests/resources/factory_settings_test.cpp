@@ -62,6 +62,7 @@ TEST(FactorySettings, LieInTheEditorsRanges) {
     }
   }
   EXPECT_EQ(seen.size(), 43U);  // rows
+  EXPECT_THROW(static_cast<void>(LoadDefaultImage(0)), std::invalid_argument);
 }
 
 }  // namespace

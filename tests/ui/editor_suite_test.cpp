@@ -6,11 +6,32 @@
 #include <set>
 
 #include "tests/host/test_host.h"
-#include "tests/ui/editor_items.h"
 #include "ui/editing/editor.h"
 
 namespace quorvel {
 namespace {
+
+/// The items of a menu that can be chosen and open an editor, those of its submenus included.
+std::vector<std::string> EditorItems(const MenuItem& menu) {
+  static const std::set<std::string> others = {"mnu_Exit", "mnuActGrid", "mnu_FPanelLock",
+                                               "mnu_Factory"};
+  std::vector<std::string> names;
+  for (const MenuItem& item : menu.children) {
+    if (item.separator || !item.visible || !item.enabled || others.contains(item.name)) continue;
+    if (item.children.empty()) names.push_back(item.name);
+    for (const std::string& name : EditorItems(item)) names.push_back(name);
+  }
+  return names;
+}
+
+/// Opens the editor of an item; a null pointer when nothing opens.
+std::shared_ptr<Dialog> OpenEditor(TestHost& host, const std::string& item) {
+  host.OpenMenu();
+  const auto windows = host.platform.Windows().size();
+  EXPECT_EQ(host.platform.ChooseMenu(item), Answer::kDone);
+  if (host.platform.Windows().size() != windows + 1) return nullptr;
+  return host.platform.Windows().back()->shared_from_this();
+}
 
 /// Settings that OK writes anew where the device holds what no control offers: what the device's
 /// own rules of writing say.
@@ -56,15 +77,14 @@ std::string WithoutIndex(std::string name) {
 /// A device of a model with random settings, on the bench of an installer who tries everything.
 class Bench {
  public:
+  static constexpr unsigned kFactory = 0xFAC;  ///< the seed of factory settings
+
   Bench(Byte cameras, Byte code, Byte variant, unsigned seed) : random_(seed) {
-    constexpr Byte kBlocks = 225;
-    host_.device = BlockImage(std::vector<Byte>(kBlocks * std::size_t{kBlockSize}));
-    for (int number = 1; number <= kBlocks; ++number) {
-      // Small values are often choices, others never.
-      const int limit = Below(3) == 0 ? 256 : 4;
-      for (Byte& byte : host_.device.Block(number)) byte = static_cast<Byte>(Below(limit));
+    if (seed == kFactory) {
+      host_.device = LoadDefaultImage(code < 2 ? 104 : code < 6 ? 301 : 401);
+    } else {
+      FillWithRandomBytes();
     }
-    host_.device.Block(1)[kBlockCountByte] = kBlocks;
     host_.Identify(cameras, code, variant);
     host_.Download();
     host_.platform.TakeMessages();
@@ -128,6 +148,17 @@ class Bench {
   [[nodiscard]] TestHost& Host() { return host_; }
 
  private:
+  void FillWithRandomBytes() {
+    constexpr Byte kBlocks = 225;
+    host_.device = BlockImage(std::vector<Byte>(kBlocks * std::size_t{kBlockSize}));
+    for (int number = 1; number <= kBlocks; ++number) {
+      // Small values are often choices, others never.
+      const int limit = Below(3) == 0 ? 256 : 4;
+      for (Byte& byte : host_.device.Block(number)) byte = static_cast<Byte>(Below(limit));
+    }
+    host_.device.Block(1)[kBlockCountByte] = kBlocks;
+  }
+
   TestHost host_;
   std::mt19937 random_;
   int line_ = 0;
@@ -245,6 +276,23 @@ TEST(EditorSuite, AnUntouchedOkPutsRightWhatTheRulesSayAndNothingElse) {
     for (const std::string& name : bench.Changed()) EXPECT_TRUE(kPutRight.contains(name)) << name;
     bench.ExpectListedWhatChanged();
   });
+}
+
+/// They hold what every editor can show.
+TEST(EditorSuite, AnUntouchedOkLeavesFactorySettingsAsTheyAre) {
+  constexpr Byte kCameras[] = {16, 9, 4};
+  for (Byte code = 0; code <= 20; ++code) {
+    for (const char variant : {'4', '0', '1', '2', 'A', 'C'}) {
+      Bench bench(kCameras[code % 3], code, static_cast<Byte>(variant), Bench::kFactory);
+      for (const std::string& item : bench.Items()) {
+        SCOPED_TRACE(item + " " + std::to_string(code) + " " + variant);
+        Editor& editor = bench.Open(item);
+        bench.Accept();
+        EXPECT_FALSE(editor.Shown());
+        EXPECT_EQ(bench.Host().Modified(), std::vector<int>{});
+      }
+    }
+  }
 }
 
 /// Chooses in every control, accepts, and looks into the record and the editor anew.

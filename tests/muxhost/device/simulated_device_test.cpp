@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
 namespace quorvel::muxhost {
 namespace {
 
@@ -16,20 +14,6 @@ Written Send(SimulatedDevice& device, int number, Byte fill) {
   packet.front() = static_cast<Byte>(number);
   packet.back() = 0;
   return device.WritePacket(packet);
-}
-
-TEST(SimulatedDevice, KnowsWhoItIsWithoutAnIdentityBlock) {
-  const SimulatedDevice cut(DeviceSetup{.model = 3, .cameras = 10, .blocks = 20, .name = "D"});
-  EXPECT_EQ(cut.ReadBlock(185), std::nullopt);
-  EXPECT_EQ(cut.IdentityBytes(), (Bytes{10, 3, 'D', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
-  const SimulatedDevice raw(Bytes(32, 7));
-  EXPECT_EQ(raw.IdentityBytes(), (Bytes{16, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
-}
-
-TEST(SimulatedDevice, RefusesWhatIsNoImage) {
-  for (const std::size_t size : {0, 17, 4096}) {
-    EXPECT_THROW(static_cast<void>(SimulatedDevice(Bytes(size))), std::invalid_argument);
-  }
 }
 
 TEST(SimulatedDevice, TakesPackets) {
@@ -69,16 +53,6 @@ SimulatedDevice SmallCombined() {
   Bytes image(32, 0xAA);
   image[15] = 2;
   return SimulatedDevice(std::move(image), CombinedSetup{3, 4, 5, 6});
-}
-
-TEST(SimulatedDevice, GivesACombinedArray) {
-  const SimulatedDevice device = SmallCombined();
-  EXPECT_EQ(device.Sizes(), (Bytes{0, 4, 3, 0, 2, 5, 6}));
-  Bytes expected{0, 13, 0, 32, 0, 12, 0, 4, 3, 0, 2, 5, 6};
-  expected.insert(expected.end(), device.Bytes().begin(), device.Bytes().end());
-  for (Byte i = 0; i < 12; ++i) expected.push_back(i);
-  EXPECT_EQ(device.CombinedBytes(), expected);
-  EXPECT_THROW(static_cast<void>(SimulatedDevice().Sizes()), std::logic_error);
 }
 
 TEST(SimulatedDevice, TakesCombinedArraysWholeOrNotAtAll) {
