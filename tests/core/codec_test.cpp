@@ -5,15 +5,6 @@
 namespace quorvel {
 namespace {
 
-TEST_F(Codec, WhatNoTimedMacroCanMeanLeavesTheValueOfBefore) {
-  Make(6);
-  Put(65, "08 17 3a 10 00 00 00 00 00 00 00 00 00 00 00 00");
-  Decode();
-  Put(65, "09 18 3b 00 00 00 00 00 00 00 00 00 00 00 00 00");
-  Decode();
-  EXPECT_EQ(Rewritten(65), "08 17 3a 00 00 00 00 00 00 00 00 00 00 00 00 00");
-}
-
 TEST_F(Codec, TheEncoderWritesUnrepaired) {
   Make(6, 4);
   rec_->AlarmInfo(0)->MacroLnk(9);
@@ -48,20 +39,6 @@ TEST_F(Codec, ModifiedBlocksOnlyAndTheClockOfThePc) {
   Make(6, 16, 60);  // there is no block to take the time
   EncodeModifiedBlocks(image_, env_, *rec_, &now);
   EXPECT_EQ(rec_->TDInfo.CurrentHour(), 0);
-}
-
-TEST_F(Codec, TitlesArePaddedAndCut) {
-  const struct {
-    const char* title;
-    const char* bytes;
-  } titles[] = {{"Lobby", "4c 6f 62 62 79 20 20 20 20 20 20 20 20 ee ee ee"},
-                {"A title of twenty ch", "41 20 74 69 74 6c 65 20 6f 66 20 74 77 ee ee ee"},
-                {"", "20 20 20 20 20 20 20 20 20 20 20 20 20 ee ee ee"}};
-  Make(6, 15);
-  for (const auto& it : titles) {
-    rec_->CamInfo(14)->title(it.title);
-    EXPECT_EQ(Rewritten(15), it.bytes);
-  }
 }
 
 TEST_F(Codec, ReadOnlyBlocksAndBlocksBeyondTheImageStay) {

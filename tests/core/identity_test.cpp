@@ -45,12 +45,5 @@ TEST(Identity, IsThatOfBlock185WhereTheImageHasIt) {
   }
 }
 
-TEST(Identity, KindOfAMultiplexerByItsName) {
-  const std::pair<const char*, int> cases[] = {
-      {"", 0},     {"X", 0},     {"MX", 0},    {"16T", 2},   {"16D", 1},   {"16", 0}, {"16TX", 2},
-      {"16DM", 1}, {"16TMX", 2}, {"16TXM", 0}, {"16TXX", 0}, {"16DMM", 0}, {"T", 2},  {"TD", 1}};
-  for (const auto& [name, kind] : cases) EXPECT_EQ(RecorderKindByName(name), kind) << name;
-}
-
 }  // namespace
 }  // namespace quorvel

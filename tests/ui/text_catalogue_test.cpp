@@ -52,24 +52,17 @@ TEST(TextCatalogue, HoldsTheReadyMadeTexts) {
   const GlobalCnst& it = texts.Constants();
   const ObjStr& objects = texts.Objects();
   std::string all;
-  for (const std::string* text :
-       {&it.cnstrAND,        &it.cnstrOR,        &it.cnstrEvent,    &it.cnstrTL,
-        &it.cnstrEvTL,       &it.cnstrTop,       &it.cnstrBottom,   &it.cnstr2X,
-        &it.cnstr4X,         &it.cnstrI,         &it.cnstrIntrus,   &it.cnstrActivity,
-        &it.cnstrInAct,      &it.cnstrActive,    &it.cnstrAC,       &it.cnstrDC,
-        &it.cnstr12H,        &it.cnstr24h,       &it.cnstrMM,       &it.cnstrDD,
-        &it.cnstrYY,         &it.cnstrMono,      &it.cnstrColor,    &it.cnstrField,
-        &it.cnstrFrame,      &it.cnstrOK,        &it.cnstrCancel,   &it.cnstrExcl,
-        &it.cnstrInter,      &it.cnstrNoChg,     &it.cnstrON,       &it.cnstrOFF,
-        &it.cnstrSTD,        &it.cnstrLow,       &it.cnstrMed,      &it.cnstrHigh,
-        &it.cnstrClose,      &it.cnstrOpen,      &it.cnstrNo,       &it.cnstrYes,
-        &it.cnstrDisable,    &it.cnstrEnable,    &it.cnstrNone,     &it.cnstrFirst,
-        &it.cnstrSecond,     &it.cnstrFPlusS,    &it.cnstrExt1,     &it.cnstrExt2,
-        &it.cnstrExt3,       &it.cnstrExt4,      &objects.objstMon, &objects.objstInvalidPass,
-        &objects.objstWarn,  &objects.objstExit, &objects.objstCam, &objects.objstAlarm,
-        &objects.objstFWarn, &objects.objstMesg}) {
-    all += *text + "; ";
-  }
+  const auto add = [&all](const auto&... text) { ((all += text + "; "), ...); };
+  add(it.cnstrAND, it.cnstrOR, it.cnstrEvent, it.cnstrTL, it.cnstrEvTL, it.cnstrTop, it.cnstrBottom,
+      it.cnstr2X, it.cnstr4X, it.cnstrI, it.cnstrIntrus, it.cnstrActivity, it.cnstrInAct,
+      it.cnstrActive, it.cnstrAC, it.cnstrDC, it.cnstr12H, it.cnstr24h, it.cnstrMM, it.cnstrDD,
+      it.cnstrYY, it.cnstrMono, it.cnstrColor, it.cnstrField, it.cnstrFrame, it.cnstrOK,
+      it.cnstrCancel, it.cnstrExcl, it.cnstrInter, it.cnstrNoChg, it.cnstrON, it.cnstrOFF,
+      it.cnstrSTD, it.cnstrLow, it.cnstrMed, it.cnstrHigh, it.cnstrClose, it.cnstrOpen, it.cnstrNo,
+      it.cnstrYes, it.cnstrDisable, it.cnstrEnable, it.cnstrNone, it.cnstrFirst, it.cnstrSecond,
+      it.cnstrFPlusS, it.cnstrExt1, it.cnstrExt2, it.cnstrExt3, it.cnstrExt4, objects.objstMon,
+      objects.objstInvalidPass, objects.objstWarn, objects.objstExit, objects.objstCam,
+      objects.objstAlarm, objects.objstFWarn, objects.objstMesg);
   EXPECT_EQ(all,
             "AND; OR; Event; TL; Event+TL; Top; Bottom; 2x; 4x; I; INTRUSION; ACTIVITY; INACTIVE; "
             "ACTIVE; AC; DC; 12 HOUR; 24 HOUR; MM/DD/YY; DD/MM/YY; YY/MM/DD; Mono; Colour; Field; "

@@ -34,19 +34,25 @@ class OneOfEach : public Dialog {
   StatusBar status{*this, "status", 2};
 };
 
+class WidgetVerbs : public ::testing::Test {
+ protected:
+  HeadlessPlatform platform;
+  std::shared_ptr<OneOfEach> dialog = std::make_shared<OneOfEach>(platform);
+  OneOfEach& d = *dialog;
+};
+
 struct Recorder : WidgetView {
   void Refresh(Aspect what) override { told.insert(what); }
   std::set<Aspect> told;
 };
 
+constexpr ClockTime kOne{1, 2, 3}, kTwo{2, 3, 4};
+constexpr CalendarDate kNewYear{2024, 1, 1}, kLeapDay{2024, 2, 29};
 constexpr Aspect kState = Aspect::kState;
 constexpr Aspect kContent = Aspect::kContent;
 constexpr Aspect kSelection = Aspect::kSelection;
 
-TEST(WidgetVerbs, AreToldToTheView) {
-  HeadlessPlatform platform;
-  const auto dialog = std::make_shared<OneOfEach>(platform);
-  OneOfEach& d = *dialog;
+TEST_F(WidgetVerbs, AreToldToTheView) {
   const struct {
     Widget& widget;
     Handler verb;
@@ -80,28 +86,12 @@ TEST(WidgetVerbs, AreToldToTheView) {
       {d.slider, [&] { d.slider.SetSteps(1, 2); }, {kState}},
       {d.slider, [&] { d.slider.SetValue(4); }, {kSelection}},
       {d.slider, [&] { d.slider.Slide(3); }, {kSelection}},
-      {d.time,
-       [&] {
-         d.time.SetTime({1, 2, 3});
-       },
-       {kSelection}},
+      {d.time, [&] { d.time.SetTime(kOne); }, {kSelection}},
       {d.time, [&] { d.time.SetFormat(ClockFormat::kTwelveHours); }, {kState, kSelection}},
-      {d.time,
-       [&] {
-         d.time.Pick({2, 3, 4});
-       },
-       {kSelection}},
+      {d.time, [&] { d.time.Pick(kTwo); }, {kSelection}},
       {d.time, [&] { d.time.Clear(); }, {kSelection}},
-      {d.date,
-       [&] {
-         d.date.SetDate({2024, 1, 2});
-       },
-       {kSelection}},
-      {d.date,
-       [&] {
-         d.date.Pick({2024, 1, 3});
-       },
-       {kSelection}},
+      {d.date, [&] { d.date.SetDate(kNewYear); }, {kSelection}},
+      {d.date, [&] { d.date.Pick(kLeapDay); }, {kSelection}},
       {d.date, [&] { d.date.Clear(); }, {kSelection}},
       {d.grid, [&] { d.grid.SetHeaderRows(2); }, {kContent}},
       {d.grid, [&] { d.grid.SetMergedHeader(true); }, {kContent}},
@@ -120,7 +110,7 @@ TEST(WidgetVerbs, AreToldToTheView) {
       {d.tabs, [&] { d.tabs.SetPageVisible(0, false); }, {kState, kSelection}},
       {d.tabs,
        [&] {
-         d.tabs.SetPages({Page{"Only", {}}});
+         d.tabs.SetPages(std::vector(1, Page{"Only", {}}));
        },
        {kContent}},
       {d.bar, [&] { d.bar.SetMaximum(9); }, {kState}},
@@ -159,19 +149,16 @@ std::function<Answer()> Program(Verb verb) {
   };
 }
 
-TEST(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
-  HeadlessPlatform platform;
-  const auto dialog = std::make_shared<OneOfEach>(platform);
-  OneOfEach& d = *dialog;
+TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
   d.items.SetItems({"a", "b", "b"});
   d.text.SetMaxLength(3);
   d.slider.SetRange(2, 5);
   constexpr Answer kDone = Answer::kDone, kNoSuchPlace = Answer::kNoSuchPlace;
-  const auto at = [&d](int row, int column) {
-    return std::function<Answer()>([&d, row, column] { return d.grid.Press(row, column); });
+  const auto at = [this](int row, int column) {
+    return [this, row, column] { return d.grid.Press(row, column); };
   };
-  const auto release = [&d](int first, int last) {
-    return std::function<Answer()>([&d, first, last] { return d.grid.Release(first, last); });
+  const auto release = [this](int first, int last) {
+    return [this, first, last] { return d.grid.Release(first, last); };
   };
   const struct {
     Widget& widget;
@@ -234,10 +221,8 @@ TEST(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
   EXPECT_EQ(d.items.Rows(), 0);
 }
 
-TEST(WidgetVerbs, GridHeadersAreMergedWhereAskedForAndRangesAreCopied) {
-  HeadlessPlatform platform;
-  const auto dialog = std::make_shared<OneOfEach>(platform);
-  Grid& grid = dialog->grid;
+TEST_F(WidgetVerbs, GridHeadersAreMergedWhereAskedForAndRangesAreCopied) {
+  Grid& grid = d.grid;
   const auto fill = [&grid](const std::vector<std::string>& texts) {
     for (std::size_t i = 0; i < texts.size(); ++i) {
       grid.SetCell(static_cast<int>(i) / 3, static_cast<int>(i) % 3, texts[i]);
@@ -269,11 +254,8 @@ TEST(WidgetVerbs, GridHeadersAreMergedWhereAskedForAndRangesAreCopied) {
   EXPECT_EQ(grid.HeaderRows(), 1);
 }
 
-TEST(WidgetVerbs, OfAPersonAreEditsAndThoseOfTheProgramAreNot) {
-  HeadlessPlatform platform;
-  const auto dialog = std::make_shared<OneOfEach>(platform);
-  OneOfEach& d = *dialog;
-  const auto edited = [&d] {
+TEST_F(WidgetVerbs, OfAPersonAreEditsAndThoseOfTheProgramAreNot) {
+  const auto edited = [this] {
     std::string names;
     if (d.text.Edited()) names += "text ";
     if (d.slider.Edited()) names += "slider ";
@@ -285,26 +267,23 @@ TEST(WidgetVerbs, OfAPersonAreEditsAndThoseOfTheProgramAreNot) {
     EXPECT_EQ(edited(), "");
     d.text.Type("a");
     d.slider.Slide(3);
-    d.time.Pick({1, 2, 3});
-    d.date.Pick({2024, 1, 2});
+    d.time.Pick(kOne);
+    d.date.Pick(kNewYear);
     d.text.RewriteText("b");
     EXPECT_EQ(edited(), "text slider time date ");
     d.text.SetText("c");
     d.slider.SetValue(4);
-    d.time.SetTime({4, 5, 6});
-    d.date.SetDate({2024, 1, 3});
+    d.time.SetTime(kTwo);
+    d.date.SetDate(kLeapDay);
     EXPECT_EQ(edited(), "");
-    d.time.Pick({1, 2, 3});
-    d.date.Pick({2024, 1, 2});
+    d.time.Pick(kOne);
+    d.date.Pick(kNewYear);
     d.time.Clear();
     d.date.Clear();
   }
 }
 
-TEST(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
-  HeadlessPlatform platform;
-  const auto dialog = std::make_shared<OneOfEach>(platform);
-  OneOfEach& d = *dialog;
+TEST_F(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
   int calls = 0;
   const Handler count = [&calls] { ++calls; };
   d.text.on_change = d.button.on_click = d.tick.on_click = d.options(0).on_click = count;
@@ -313,18 +292,18 @@ TEST(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
   d.grid.takes_paste = [](int, int, const std::string&) { return true; };
   d.grid.on_paste = [&calls](int, int, const std::string&) { ++calls; };
   const std::function<Answer()> verbs[] = {
-      [&] { return d.text.Type("a"); },       [&] { return d.button.Click(); },
-      [&] { return d.tick.Click(); },         [&] { return d.options(0).Click(); },
-      [&] { return d.items.Choose(1); },      [&] { return d.slider.Slide(3); },
-      [&] { return d.time.Pick({1, 2, 3}); }, [&] { return d.date.Pick({2024, 1, 2}); },
-      [&] { return d.grid.Press(2, 1); },     [&] { return d.grid.Release(1, 2); },
-      [&] { return d.grid.Paste("a"); },      [&] { return d.tabs.Choose(1); },
+      [&] { return d.text.Type("a"); },   [&] { return d.button.Click(); },
+      [&] { return d.tick.Click(); },     [&] { return d.options(0).Click(); },
+      [&] { return d.items.Choose(1); },  [&] { return d.slider.Slide(3); },
+      [&] { return d.time.Pick(kOne); },  [&] { return d.date.Pick(kNewYear); },
+      [&] { return d.grid.Press(2, 1); }, [&] { return d.grid.Release(1, 2); },
+      [&] { return d.grid.Paste("a"); },  [&] { return d.tabs.Choose(1); },
       [&] { return d.text.Focus(); }};
   const auto all_answer = [&](Answer expected) {
     int number = 0;
     for (const auto& verb : verbs) EXPECT_EQ(verb(), expected) << "verb " << number++;
   };
-  const auto set_all = [&d](void (Widget::*set)(bool), bool value) {
+  const auto set_all = [this](void (Widget::*set)(bool), bool value) {
     for (Widget* const widget : d.Widgets()) (widget->*set)(value);
   };
   const std::string before = d.items.ValueText() + d.grid.ValueText() + d.tabs.ValueText();
