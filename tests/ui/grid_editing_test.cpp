@@ -50,18 +50,6 @@ class Editing : public ::testing::Test {
   std::shared_ptr<Desk> desk_ = std::make_shared<Desk>(platform_);
 };
 
-TEST_F(Editing, ASelectionBeforeAnyPressWritesNothing) {
-  GridEditing editing(desk_->grid);
-  editing.Bind(1, desk_->list, Desk::Macros());
-  editing.Bind(2, desk_->slider, desk_->shown);
-  editing.Bind(3, desk_->picker);
-  for (const int column : {1, 2, 3}) {
-    desk_->grid.SetCurrent(1, column);
-    EXPECT_EQ(desk_->grid.Release(1, 4), Answer::kDone);
-    EXPECT_EQ(desk_->TextsOf(column), "||||");
-  }
-}
-
 TEST_F(Editing, LookingAtCellsChangesNone) {
   GridEditing editing(desk_->grid);
   editing.Bind(1, desk_->list, Desk::Macros(), {.empty = 0});
@@ -160,25 +148,6 @@ TEST_F(Editing, AListMayOfferOtherLinesInEveryRow) {
   EXPECT_EQ(editing.ValueAt(2, 1), 2);
 }
 
-TEST_F(Editing, TheEndOfASelectionSelectsOrWrites) {
-  for (const auto release : {GridEditing::Release::kSelects, GridEditing::Release::kWrites}) {
-    const bool writes = release == GridEditing::Release::kWrites;
-    GridEditing editing(desk_->grid, release);
-    desk_->grid.SetSize(5, 8);
-    editing.Bind(1, desk_->list, Desk::Macros());
-    editing.SetValue(2, 1, 3);
-    Drag(2, 3, 1);
-    EXPECT_EQ(desk_->TextsOf(1), writes ? "|Macro 3|Macro 3||" : "|Macro 3|||");
-    desk_->list.Choose(3);
-    EXPECT_EQ(desk_->TextsOf(1), "|Macro 3|Macro 3||");
-    Press(2, 1);
-    EXPECT_EQ(desk_->grid.Mark(4), Answer::kDone);
-    EXPECT_EQ(desk_->grid.Copied(1, 1), "Macro 3\nMacro 3\n") << "cells that differ are selected";
-    desk_->list.Choose(0);
-    EXPECT_EQ(desk_->TextsOf(1), "||||");
-  }
-}
-
 TEST_F(Editing, ControlsReachTheirColumnOrTheWholeRow) {
   GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
   std::vector<int> written;
@@ -255,25 +224,6 @@ TEST_F(Editing, AControlOfAnotherColumnIsNotMarkedAndChoosesNothing) {
   Press(1, 2);
   desk_->list.Choose(0);
   EXPECT_EQ(desk_->list.Current(), 2) << "what was chosen last in its own column";
-}
-
-TEST_F(Editing, OneListServesColumnsOfDifferentItems) {
-  GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
-  editing.Bind(1, desk_->combo, Choices({"Low", "High"}));
-  editing.Bind(2, desk_->combo, Choices({"5 pps", "10 pps", "20 pps"}));
-  editing.SetValue(1, 2, 2);
-  editing.SetValue(1, 1, 1);
-  int shown = 0;
-  editing.before_show = [this, &shown] { shown = desk_->combo.Count(); };
-  Press(1, 1);
-  EXPECT_EQ(desk_->combo.CurrentText(), "High");
-  Press(1, 2);
-  EXPECT_EQ(shown, 2);
-  EXPECT_EQ(desk_->combo.CurrentText(), "20 pps");
-  Press(1, 1);
-  EXPECT_EQ(editing.ValueAt(1, 2), 2);
-  desk_->combo.Choose(0);
-  EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "Low||||20 pps||||");
 }
 
 TEST_F(Editing, HoursAndMinutesAreOneTime) {
