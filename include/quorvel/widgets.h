@@ -9,6 +9,7 @@
 #include "quorvel/widgets/grid.h"
 #include "quorvel/widgets/layout.h"
 #include "quorvel/widgets/pickers.h"
+#include "quorvel/widgets/placement.h"
 #include "quorvel/widgets/popup_menu.h"
 #include "quorvel/widgets/slider.h"
 #include "quorvel/widgets/text_box.h"

@@ -5,7 +5,6 @@
 
 #include "platform/qt/fitted_scroll_area.h"
 #include "platform/qt/view_builder.h"
-#include "platform/qt/view_space.h"
 
 namespace quorvel::qt {
 
@@ -56,8 +55,8 @@ FrameView::FrameView(ViewBuilder& builder, Frame& model, QWidget& parent)
 void FrameView::Draw(Aspect) {
   const QString caption = Captioned(GetModel()->Caption());
   // Lines in a border without a caption stand as high as those beside them, whose frames have one.
-  const bool lines = !IsOneLine(GetModel()->Content());
-  GetBody()->ShowCaption(caption.isEmpty() && lines ? QStringLiteral(" ") : caption);
+  const bool empty = caption.isEmpty() && GetModel()->HasBorder();
+  GetBody()->ShowCaption(empty ? QStringLiteral(" ") : caption);
 }
 
 QSize WideTabs::sizeHint() const {

@@ -9,8 +9,8 @@
 #include <numeric>
 #include <utility>
 
-#include "platform/qt/view_space.h"
 #include "platform/qt/widest.h"
+#include "quorvel/widgets/placement.h"
 
 namespace quorvel::qt {
 

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/qt/view_space.h"
 #include "platform/qt/widest.h"
+#include "quorvel/widgets/placement.h"
 
 namespace quorvel::qt {
 

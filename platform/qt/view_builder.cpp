@@ -14,28 +14,31 @@
 #include "platform/qt/simple_views.h"
 #include "platform/qt/text_box_view.h"
 #include "platform/qt/value_views.h"
-#include "platform/qt/view_space.h"
+#include "quorvel/widgets/placement.h"
 
 namespace quorvel::qt {
 
 namespace {
 
-/// True for a control whose neighbour to the right looks best below that of the row above.
-bool Leads(const Layout& row, std::size_t place, WidgetKind kind) {
-  return place + 1 < row.parts.size() && row.parts[place].kind == Layout::Kind::kWidget &&
-         row.parts[place].widget->Kind() == kind;
+/// Parts that claim little are left next to nothing by those that claim more; the empty space at
+/// the end takes all where no part claims any.
+constexpr int kEmptySpaceShare = 1;
+int ShareOf(Space space) {
+  switch (space) {
+    case Space::kOwn: return 0;
+    case Space::kLittle: return 40;
+    case Space::kSome: return 1000;
+    case Space::kMost: return 4000;
+  }
+  return 0;
 }
 
-/// Rows below one another that begin alike, with labels or ticks, go on below one another.
 void AlignRows(const Layout& layout, const QBoxLayout& column) {
-  for (const WidgetKind kind :
-       {WidgetKind::kLabel, WidgetKind::kCheckBox, WidgetKind::kOptionButton}) {
+  for (const auto& rows : RowsThatBeginAlike(layout)) {
     std::vector<QWidget*> first;
     int width = 0;
-    for (std::size_t i = 0; i < layout.parts.size(); ++i) {
-      const Layout& row = layout.parts[i];
-      if (row.kind != Layout::Kind::kRow || !Leads(row, 0, kind)) continue;
-      first.push_back(column.itemAt(static_cast<int>(i))->layout()->itemAt(0)->widget());
+    for (const std::size_t row : rows) {
+      first.push_back(column.itemAt(static_cast<int>(row))->layout()->itemAt(0)->widget());
       width = std::max(width, first.back()->sizeHint().width());
     }
     for (QWidget* const control : first) control->setMinimumWidth(width);
@@ -50,19 +53,13 @@ int LineHeight() {
   return std::max(height, QPushButton(QStringLiteral("OK")).sizeHint().height());
 }
 
-/// A list or grid that has no more items than space ends with them; a box would put it in the
-/// middle of the space.
-void AddAtTopLeft(QBoxLayout& box, QWidget& list, int share) {
+/// The box would put what ends before the space does in its middle.
+void AddAtTopLeft(QBoxLayout& box, QWidget& body, int share) {
   const bool row = box.direction() == QBoxLayout::LeftToRight;
   auto* const across = new QBoxLayout(row ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-  across->addWidget(&list, 1000 * kEmptySpaceShare);
+  across->addWidget(&body, 1000 * kEmptySpaceShare);
   across->addStretch(kEmptySpaceShare);
   box.addLayout(across, share);
-}
-
-/// True for a frame around nothing that fills space: it ends with its content.
-bool IsFrameOfItsOwnHeight(const Layout& part) {
-  return part.widget->Kind() == WidgetKind::kFrame && !FillsSpaceDown(part);
 }
 
 }  // namespace
@@ -83,30 +80,26 @@ QBoxLayout* ViewBuilder::BuildBox(const Layout& layout, QWidget& container, int 
     line_height = line_height_;
     box->setSpacing(kLineSpacing);
   }
-  const bool tall = row && !std::all_of(layout.parts.begin(), layout.parts.end(), &IsOneLine);
-  const Label* label = nullptr;
-  for (const Layout& part : layout.parts) {
-    const int share = row ? ShareAcross(part) : ShareDown(part);
+  const std::vector<Placement> placements = PlacementsIn(layout);
+  for (std::size_t i = 0; i < layout.parts.size(); ++i) {
+    const Layout& part = layout.parts[i];
+    const Placement& placement = placements[i];
+    const int share = ShareOf(placement.space);
     if (part.kind == Layout::Kind::kStretch) {
       box->addStretch(share);
     } else if (part.kind != Layout::Kind::kWidget) {
       box->addLayout(BuildBox(part, container, line_height), share);
     } else {
       QWidget& body = MakeView(*part.widget, container);
-      const WidgetKind kind = part.widget->Kind();
-      if (kind == WidgetKind::kLabel) label = static_cast<const Label*>(part.widget);
-      if (kind == WidgetKind::kTextBox && row && label != nullptr) part.widget->SetLabel(*label);
-      const bool one_line = IsOneLine(part);
-      if (one_line && line_height > 0) body.setMinimumHeight(line_height);
-      const bool at_top = row && ((one_line && tall) || IsFrameOfItsOwnHeight(part));
-      if (kind == WidgetKind::kGrid || (kind == WidgetKind::kListBox && row)) {
+      if (placement.one_line && line_height > 0) body.setMinimumHeight(line_height);
+      if (placement.ends) {
         AddAtTopLeft(*box, body, share);
       } else {
-        box->addWidget(&body, share, at_top ? Qt::AlignTop : Qt::Alignment());
+        box->addWidget(&body, share, placement.at_top ? Qt::AlignTop : Qt::Alignment());
       }
     }
   }
-  if (!row) AlignRows(layout, *box);
+  AlignRows(layout, *box);
   // Takes the space that no part asks for, so that parts keep together and their own size.
   box->addStretch(kEmptySpaceShare);
   return box;

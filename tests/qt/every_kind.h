@@ -72,7 +72,7 @@ class EveryKind : public Dialog {
     SetLayout(
         Column(Tabs(tabs,
                     Page{lengthen("Titles & texts"),
-                         Column(Framed(frame, Lines(Row(label, text), Row(check, option),
+                         Column(Framed(frame, Lines(LabelledRow(label, text), Row(check, option),
                                                     Row(combo, slider), Row(time, date))),
                                 Row(grid, list))},
                     Page{lengthen("Spare page"), Column(spare)}, Page{lengthen("Last"), Column()}),

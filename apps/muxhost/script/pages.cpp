@@ -162,10 +162,10 @@ std::string Marks(const Widget& widget) {
   return marks;
 }
 
-/// The label that names a control and stands beside it.
+/// The label that names a control and stands beside it; those of arrays have a line of their own.
 const Widget* LabelBeside(const Widget& widget, const Controls& around) {
-  const bool is =
-      widget.Visible() && std::ranges::find(around, widget.NamingLabel()) != around.end();
+  const bool is = widget.Visible() && Index(widget).empty() &&
+                  std::ranges::find(around, widget.NamingLabel()) != around.end();
   return is && widget.NamingLabel()->Visible() ? widget.NamingLabel() : nullptr;
 }
 

@@ -81,6 +81,8 @@ class Frame : public Widget {
  public:
   Frame(Dialog& dialog, std::string name, std::string caption = {});
   [[nodiscard]] const Layout& Content() const { return content_; }
+  /// False around a single line without a caption: such a frame only holds it together.
+  [[nodiscard]] bool HasBorder() const;
   /// Sets what stands inside; before the dialog's own layout is set.
   void SetContent(Layout content) { content_ = std::move(content); }
 
