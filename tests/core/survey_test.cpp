@@ -71,29 +71,6 @@ TEST(Survey, LocatesSettings) {
   EXPECT_EQ(where(6, "VCRType"), "");
 }
 
-TEST(Survey, ListsSettingsInAnInstallersTerms) {
-  BlockImage image = LoadDefaultImage(401);
-  RecordEnvironment env;
-  const auto rec = std::make_unique<MuxData>(env);
-  DecodeImage(image, env, *rec);
-  rec->CamInfo(0)->title(std::string("A\"\0", 3));
-  rec->MultiDwell.Load(7);
-  rec->AlarmTimeOut.Load(9);
-  const auto list = [&](std::string_view pattern) {
-    return ListSettings(*rec, env.identity, 200, pattern);
-  };
-  using Lines = std::vector<SettingLine>;
-  EXPECT_EQ(list("multidwell"), (Lines{{"MultiDwell", "7 s"}}));
-  EXPECT_EQ(list("TimeOut"), (Lines{{"AlarmTimeOut", "10 s"}}));
-  EXPECT_EQ(list("CamInfo(0).ti*"), (Lines{{"CamInfo(0).title", R"("A\x22\x00")"}}));
-  EXPECT_EQ(list("Relay?Conf"), (Lines{{"Relay1Conf", "yes"}, {"Relay2Conf", "yes"}}));
-  EXPECT_EQ(list("caminfo(*).covert").size(), 16U);
-  EXPECT_TRUE(list("PlaybackFormat").empty());
-  EXPECT_TRUE(list("BlkStrInit").empty());  // beyond block 200
-  EXPECT_GT(list("").size(), 1000U);
-  EXPECT_TRUE(list(std::string(40, '*') + "#").empty());
-}
-
 TEST(Survey, ComparesConfigurations) {
   TestHost host;
   host.Download();

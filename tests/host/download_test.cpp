@@ -11,9 +11,10 @@ TEST(Download, NothingIsNoReply) {
   EXPECT_EQ(host.OnlyMessage(), "Error found in FillDataBlk\rThe reply is empty.");
   host.StateSizes();
   host.control->FillComboBlk({});
-  EXPECT_EQ(host.OnlyMessage(),
-            "Error found in FillComboBlk\rThis is no combined array: it has 0 bytes, and its header "
-            "alone takes 13.");
+  EXPECT_EQ(
+      host.OnlyMessage(),
+      "Error found in FillComboBlk\rThis is no combined array: it has 0 bytes, and its header "
+      "alone takes 13.");
 }
 
 /// A host that answers from inside the events is called once more for every block.

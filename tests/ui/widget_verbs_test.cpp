@@ -221,39 +221,6 @@ TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
   EXPECT_EQ(d.items.Rows(), 0);
 }
 
-TEST_F(WidgetVerbs, GridHeadersAreMergedWhereAskedForAndRangesAreCopied) {
-  Grid& grid = d.grid;
-  const auto fill = [&grid](const std::vector<std::string>& texts) {
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-      grid.SetCell(static_cast<int>(i) / 3, static_cast<int>(i) % 3, texts[i]);
-    }
-  };
-  using Header = std::vector<Grid::HeaderCell>;
-  grid.SetLeastWidth(1, 9);
-  grid.AddColumns(1);
-  EXPECT_EQ(grid.LeastWidth(0) * 100 + grid.LeastWidth(1) * 10 + grid.LeastWidth(3), 90);
-  grid.SetSize(4, 3);
-  EXPECT_EQ(grid.LeastWidth(1), 0);
-  fill({"a", "a", "b", "a", "c", "b", "1", "2", "3", "4", "5", "6"});
-  EXPECT_EQ(grid.Header(), (Header{{0, 0, 1, 1, "a"}, {0, 1, 1, 1, "a"}, {0, 2, 1, 1, "b"}}));
-  grid.SetMergedHeader(true);
-  EXPECT_EQ(grid.Header(), (Header{{0, 0, 1, 2, "a"}, {0, 2, 1, 1, "b"}}));
-  EXPECT_EQ(grid.ColumnName(1), "a");
-  grid.SetHeaderRows(3);  // two at most
-  EXPECT_EQ(grid.HeaderRows(), 2);
-  EXPECT_EQ(grid.Header(),
-            (Header{{0, 0, 2, 1, "a"}, {0, 1, 1, 1, "a"}, {0, 2, 2, 1, "b"}, {1, 1, 1, 1, "c"}}));
-  EXPECT_EQ(grid.ColumnName(1), "a, c");
-  grid.SetCell(0, 1, " ");
-  EXPECT_EQ(grid.ColumnName(1), "c");
-  grid.Press(3, 1);
-  grid.Release(3, 2);
-  EXPECT_EQ(grid.Copied(0, 2), "1\t2\t3\n4\t5\t6");
-  EXPECT_EQ(grid.Copied(1, 1), "2\n5");
-  grid.SetHeaderRows(0);
-  EXPECT_EQ(grid.HeaderRows(), 1);
-}
-
 TEST_F(WidgetVerbs, OfAPersonAreEditsAndThoseOfTheProgramAreNot) {
   const auto edited = [this] {
     std::string names;

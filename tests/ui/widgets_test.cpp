@@ -93,11 +93,9 @@ TEST_F(Widgets, TheSameValueCountsAndOneBeyondTheRangeStays) {
   dialog_->slider.on_change = dialog_->time.on_change = dialog_->date.on_change = count;
   dialog_->tabs.Choose(1);
   dialog_->slider.SetValue(200);
-  dialog_->slider.SetRange(0, 5);
-  EXPECT_EQ(dialog_->slider.ValueText(), "200 of 0..5");
-  EXPECT_EQ(dialog_->slider.Slide(6), Answer::kNoSuchPlace);
+  EXPECT_EQ(dialog_->slider.Slide(101), Answer::kNoSuchPlace);
   EXPECT_FALSE(dialog_->slider.Edited());
-  EXPECT_EQ(dialog_->slider.Value(), 200);
+  EXPECT_EQ(dialog_->slider.ValueText(), "200 of 0..100");
   dialog_->slider.SetValue(0);
   EXPECT_EQ(dialog_->slider.Slide(0), Answer::kDone);
   EXPECT_TRUE(dialog_->slider.Edited());
@@ -154,15 +152,18 @@ TEST_F(Widgets, GridsWithTwoHeaderRows) {
   const char* const headers[2][6] = {
       {"Camera", "Sensitivity", "Activity", "Activity", "Intrusion", "Intrusion"},
       {"Camera", "Sensitivity", "Link to Event", "Relay Output", "Rejection", "Target Size"}};
-  grid.SetHeaderRows(2);
-  grid.SetMergedHeader(true);
+  grid.SetHeaderRows(3);  // two at most
   grid.SetRange(Grid::Range::kOneRow);
   grid.SetSize(6, 4);
   grid.SetCell(3, 2, "YES", 1);
+  grid.SetLeastWidth(1, 9);
   EXPECT_EQ(grid.AddColumns(2), 4);
+  EXPECT_EQ(grid.LeastWidth(0) * 100 + grid.LeastWidth(1) * 10 + grid.LeastWidth(5), 90);
   for (int row = 0; row < 2; ++row) {
     for (int column = 0; column < 6; ++column) grid.SetCell(row, column, headers[row][column]);
   }
+  EXPECT_EQ(grid.Header().size(), 12U);  // nothing is merged unless asked for
+  grid.SetMergedHeader(true);
   EXPECT_EQ(grid.Header(), (std::vector<Grid::HeaderCell>{{0, 0, 2, 1, "Camera"},
                                                           {0, 1, 2, 1, "Sensitivity"},
                                                           {0, 2, 1, 2, "Activity"},
@@ -171,6 +172,7 @@ TEST_F(Widgets, GridsWithTwoHeaderRows) {
                                                           {1, 3, 1, 1, "Relay Output"},
                                                           {1, 4, 1, 1, "Rejection"},
                                                           {1, 5, 1, 1, "Target Size"}}));
+  EXPECT_EQ(grid.HeaderRows(), 2);
   EXPECT_EQ(grid.ColumnName(0), "Camera");
   EXPECT_EQ(grid.ColumnName(5), "Intrusion, Target Size");
   EXPECT_EQ(grid.Cell(3, 2) + std::to_string(grid.Value(3, 2)) + grid.Cell(3, 5), "YES1");
@@ -182,6 +184,19 @@ TEST_F(Widgets, GridsWithTwoHeaderRows) {
   EXPECT_EQ(grid.FirstSelected() * 10 + grid.LastSelected(), 33);
   EXPECT_EQ(grid.Paste("YES"), Answer::kNotAChoice);  // nobody takes texts
   EXPECT_EQ(grid.Paste("YES\nYES"), Answer::kNoSuchPlace);
+  grid.SetRange(Grid::Range::kRows);
+  grid.SetCell(4, 2, "NO");
+  grid.SetCell(4, 3, "1");
+  grid.Press(3, 2);
+  grid.Release(3, 4);
+  EXPECT_EQ(grid.Copied(2, 3), "YES\t\nNO\t1");
+  EXPECT_EQ(grid.Copied(2, 2), "YES\nNO");
+  grid.SetCell(0, 4, " ");
+  EXPECT_EQ(grid.ColumnName(4), "Rejection");
+  grid.SetHeaderRows(0);
+  EXPECT_EQ(grid.HeaderRows(), 1);
+  grid.SetSize(4, 3);
+  EXPECT_EQ(grid.LeastWidth(1), 0);
 }
 
 TEST_F(Widgets, AHiddenPageIsNeverInFront) {
