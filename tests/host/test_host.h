@@ -27,7 +27,6 @@ class TestPlatform : public HeadlessPlatform {
     return files[path];
   }
   void StoreFile(const std::string& path, std::span<const std::uint8_t> bytes) override {
-    if (disk_is_full) throw PlatformError("the disk is full");
     files[path].assign(bytes.begin(), bytes.end());
   }
 
@@ -38,7 +37,6 @@ class TestPlatform : public HeadlessPlatform {
 
   std::function<void()> in_file_dialog;  ///< called while one is open
   std::map<std::string, std::vector<Byte>> files;
-  bool disk_is_full = false;
 };
 
 /// A host with a device in memory. It answers on the next turn of the loop, or inside the event.
@@ -50,7 +48,7 @@ class TestHost : public MainMenuEvents {
     control = std::make_unique<MainMenuCtrl>(platform, *this);
     control->InitProperties();
   }
-  /// Gives a command that opens a modal dialog, in which somebody presses OK as soon as he can.
+  /// Gives a command that opens a modal dialog, in which the user presses OK as soon as it can be.
   void CommandWithOk(std::int16_t command) {
     platform.at_modal = [](Dialog& dialog) {
       return dialog.Find<Button>("cmdOK").Click() == Answer::kDone;
@@ -59,29 +57,15 @@ class TestHost : public MainMenuEvents {
     platform.at_modal = nullptr;
   }
   void Download() { CommandWithOk(10); }
-  /// True when command 11 opens its dialog, which is closed again.
-  bool SendOpens() {
-    bool opened = false;
-    platform.at_modal = [&opened](Dialog& dialog) {
-      opened = true;
-      return dialog.CloseWindow() == Answer::kDone;
-    };
-    control->Custom(11, 0, 0);
-    platform.at_modal = nullptr;
-    return opened;
-  }
   /// Command 15 and the popup.
-  void OpenMenu(std::int32_t link = 1) {
-    control->Custom(15, link, 0);
+  void OpenMenu() {
+    control->Custom(15, 1, 0);
     platform.RunUntilIdle();
   }
-  Dialog& OpenCameraSetup() {
+  void EditTitle(int camera, const char* title) {
     OpenMenu();
     platform.ChooseMenu("mnu_CSetup");
-    return platform.Window("frm_CameraSetup");
-  }
-  void EditTitle(int camera, const char* title) {
-    auto& editor = OpenCameraSetup();
+    Dialog& editor = platform.Window("frm_CameraSetup");
     editor.Find<TextBox>("m_CameraTitle(" + std::to_string(camera) + ")").Type(title);
     editor.Find<Button>("cmd_OK").Click();
   }
@@ -181,7 +165,6 @@ class TestHost : public MainMenuEvents {
   bool sync = false;
   bool acknowledge = true;
   int silent_from = 0;  ///< the request that gets no answer
-  std::size_t reply_bytes = kBlockSize;
   /// Called inside the event whose log entry this is.
   std::string act_in;
   std::function<void()> act;
@@ -197,9 +180,7 @@ class TestHost : public MainMenuEvents {
     if (act && entry == act_in) std::exchange(act, nullptr)();
   }
   void Reply(Byte number) {
-    if (control == nullptr || !device.Holds(number)) return;
-    // Block 1 is whole, so that the count is known.
-    Give(number, 1 + (number == 1 ? std::size_t{kBlockSize} : reply_bytes));
+    if (control != nullptr && device.Holds(number)) Give(number);
   }
 };
 
