@@ -68,7 +68,8 @@ void frm_CameraSetup::BindDisplaySettings() {
 
 void frm_CameraSetup::Arrange() {
   Layout titles{Layout::Kind::kLines, nullptr, {}};
-  for (int c = 0; c < kMostCameras; ++c) titles.parts.push_back(LabelledRow(lblCam(c), m_CameraTitle(c)));
+  for (int c = 0; c < kMostCameras; ++c)
+    titles.parts.push_back(LabelledRow(lblCam(c), m_CameraTitle(c)));
   SetLayout(Column(
       Tabs(SSTab1,
            Page{Text(txt::kCameraSetup),
