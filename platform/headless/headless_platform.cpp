@@ -182,7 +182,7 @@ std::optional<std::string> HeadlessPlatform::AskFile(const FileRequest& request)
 
 std::unique_ptr<Timer> HeadlessPlatform::NewTimer(std::function<void()> tick) {
   std::erase_if(timers_, [](const auto& state) { return state.use_count() == 1; });
-  timers_.push_back(std::make_shared<TimerState>(*this, std::move(tick)));
+  timers_.push_back(std::make_shared<TimerState>(TimerState{*this, std::move(tick)}));
   return std::make_unique<VirtualTimer>(timers_.back());
 }
 

@@ -1,70 +1,34 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <map>
 #include <random>
 #include <set>
+#include <sstream>
 
 #include "tests/host/test_host.h"
+#include "tests/ui/editor_items.h"
 #include "ui/editing/editor.h"
 
 namespace quorvel {
 namespace {
 
-/// The items of a menu that can be chosen and open an editor, those of its submenus included.
-std::vector<std::string> EditorItems(const MenuItem& menu) {
-  static const std::set<std::string> others = {"mnu_Exit", "mnuActGrid", "mnu_FPanelLock",
-                                               "mnu_Factory"};
-  std::vector<std::string> names;
-  for (const MenuItem& item : menu.children) {
-    if (item.separator || !item.visible || !item.enabled || others.contains(item.name)) continue;
-    if (item.children.empty()) names.push_back(item.name);
-    for (const std::string& name : EditorItems(item)) names.push_back(name);
-  }
-  return names;
-}
-
-/// Opens the editor of an item; a null pointer when nothing opens.
-std::shared_ptr<Dialog> OpenEditor(TestHost& host, const std::string& item) {
-  host.OpenMenu();
-  const auto windows = host.platform.Windows().size();
-  EXPECT_EQ(host.platform.ChooseMenu(item), Answer::kDone);
-  if (host.platform.Windows().size() != windows + 1) return nullptr;
-  return host.platform.Windows().back()->shared_from_this();
-}
-
 /// Settings that OK writes anew where the device holds what no control offers: what the device's
 /// own rules of writing say.
-const std::set<std::string> kPutRight = {"AlarmInfo.Enable",
-                                         "AlarmInfo.InputConf",
-                                         "AlarmInfo.ExtAlmAction",
-                                         "AlmActionInfo.Freeze",
-                                         "AlmActionInfo.Relay",
-                                         "AlmActionInfo.GateIntrus",
-                                         "AlarmMode",
-                                         "ArchPortSelect",
-                                         "BaudRate",
-                                         "BaudRatePPC",
-                                         "Buzzer",
-                                         "CamInfo.TextPos",
-                                         "DvrArchAlm",
-                                         "ExtCam_SwAct",
-                                         "FullScrResolution",
-                                         "AutoDisable",
-                                         "PlaybackFormat",
-                                         "PlaybackOld",
-                                         "MatrixInfo.GroupSetup",
-                                         "MatrixInfo.GroupSwEnable",
-                                         "PreAlDuration",
-                                         "PresetMode",
-                                         "PresetPGM",
-                                         "SVHS_MonB",
-                                         "SwitchEdge",
-                                         "TelAC_DC",
-                                         "TelEnable",
-                                         "Tel_options",
-                                         "VCRType",
-                                         "VCR_Signal_Level"};
+const std::string kPutRight = R"(
+AlarmInfo.Enable AlarmInfo.ExtAlmAction AlarmInfo.InputConf AlarmMode AlmActionInfo.Freeze
+AlmActionInfo.GateIntrus AlmActionInfo.Relay ArchPortSelect AutoDisable BaudRate BaudRatePPC
+Buzzer CamInfo.TextPos DvrArchAlm ExtCam_SwAct FullScrResolution MatrixInfo.GroupSetup
+MatrixInfo.GroupSwEnable PlaybackFormat PlaybackOld PreAlDuration PresetMode PresetPGM SVHS_MonB
+SwitchEdge TelAC_DC TelEnable Tel_options VCRType VCR_Signal_Level
+)";
+
+bool IsPutRight(const std::string& name) {
+  std::istringstream names(kPutRight);
+  return std::count(std::istream_iterator<std::string>(names), {}, name) != 0;
+}
 
 /// "CamInfo(3).TextPos" without its index.
 std::string WithoutIndex(std::string name) {
@@ -273,7 +237,7 @@ TEST(EditorSuite, AnUntouchedOkPutsRightWhatTheRulesSayAndNothingElse) {
   ForEveryModel([](Bench& bench, const std::string& item) {
     bench.Open(item);
     bench.Accept();
-    for (const std::string& name : bench.Changed()) EXPECT_TRUE(kPutRight.contains(name)) << name;
+    for (const std::string& name : bench.Changed()) EXPECT_TRUE(IsPutRight(name)) << name;
     bench.ExpectListedWhatChanged();
   });
 }

@@ -18,7 +18,7 @@ void TourPlatform::Show(Dialog& dialog) {
 }
 
 void TourPlatform::ShowModal(Dialog& dialog) {
-  QTimer::singleShot(0, [this, act = std::exchange(at_modal, nullptr), &dialog] {
+  QTimer::singleShot(0, [act = std::exchange(at_modal, nullptr), &dialog] {
     if (act) act(dialog);
   });
   QtPlatform::ShowModal(dialog);

@@ -151,7 +151,7 @@ void Tour::Send() {
 
 void Tour::GoThroughMenu() {
   session_.OpenMenu();
-  Album::WaitFor("the menu", [this] { return platform_.menu != nullptr; });
+  Album::WaitFor("the menu", [] { return platform_.menu != nullptr; });
   TakeMenu();
   std::vector<std::string> items;
   AddItems(platform_.menu->Root(), items);
@@ -192,7 +192,7 @@ void Tour::TakeWhatOpens(const std::string& item) {
   }
   Album::Settle();
   if (platform_.menu == nullptr) session_.OpenMenu();  // a window of the host's own
-  Album::WaitFor("the menu", [this] { return QApplication::activePopupWidget() != nullptr; });
+  Album::WaitFor("the menu", [] { return QApplication::activePopupWidget() != nullptr; });
 }
 
 }  // namespace quorvel::muxhost
