@@ -82,9 +82,10 @@ TEST_F(WholeFiles, WhatIsRefusedTellsWhy) {
     const char* why;
   } const cases[] = {{In("folder"), ": it is not a file"},
                      {In("missing/a.bin"), ": No such file or directory"}};
-  for (const auto& [path, why] : cases) {
-    EXPECT_EQ(told([&] { static_cast<void>(ReadWholeFile(path)); }), "cannot read " + path + why);
-    EXPECT_EQ(told([&] { ReplaceWholeFile(path, bytes_); }), "cannot write " + path + why);
+  for (const auto& it : cases) {
+    EXPECT_EQ(told([&] { static_cast<void>(ReadWholeFile(it.path)); }),
+              "cannot read " + it.path + it.why);
+    EXPECT_EQ(told([&] { ReplaceWholeFile(it.path, bytes_); }), "cannot write " + it.path + it.why);
   }
   EXPECT_EQ(FilesInFolder(), 1U);
 }
