@@ -125,6 +125,7 @@ class FieldsTest : public ::testing::Test {
 TEST_F(FieldsTest, AnUntouchedEditorWritesNothingWhateverIsStored) {
   frm_Trial& editor = Open();
   EXPECT_EQ(editor.MSFG.HeaderRows(), 2);
+  EXPECT_EQ(editor.MSFG.Header().size(), 4U) << "Index and Macro take both rows";
   EXPECT_EQ(editor.MSFG.ColumnName(1), "Time, START");
   EXPECT_EQ(editor.MSFG.ColumnName(2), "Macro");
   EXPECT_EQ(editor.MSFG.Cell(3, 1) + "|" + editor.MSFG.Cell(4, 1), "07:05|");

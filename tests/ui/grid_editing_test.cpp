@@ -120,6 +120,7 @@ TEST_F(Editing, TwoListsStandAtOneValue) {
   GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
   editing.BindPair(1, desk_->list, Choices({"001", "009", "017"}), 2, other,
                    Choices({"003", "024", "048"}));
+  EXPECT_EQ(desk_->list.Count() * 10 + other.Count(), 33) << "before any press";
   editing.SetValue(1, 1, 2);
   editing.SetValue(1, 2, 2);
   Press(1, 2);
