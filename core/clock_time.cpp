@@ -57,6 +57,13 @@ bool IsDate(const CalendarDate& date) {
              .ok();
 }
 
+CalendarDate NearestDate(const CalendarDate& date) {
+  CalendarDate nearest{std::clamp(date.year, 1, 9999), std::clamp(date.month, 1, 12),
+                       std::clamp(date.day, 1, 31)};
+  while (!IsDate(nearest)) --nearest.day;
+  return nearest;
+}
+
 std::string TimeText(ClockFormat format, const ClockTime& time) {
   if (!IsTime(time)) return {};
   const bool twelve = format == ClockFormat::kTwelveHours;

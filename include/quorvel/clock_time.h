@@ -39,6 +39,9 @@ enum class ClockFormat {
 /// True for a time that a clock shows, and for a date that a calendar has, of the years 1 to 9999.
 [[nodiscard]] bool IsTime(const ClockTime& time);
 [[nodiscard]] bool IsDate(const CalendarDate& date);
+/// The date itself, or the nearest that a calendar has with its year and month: of a February 31
+/// its last day. Those are brought into range before it.
+[[nodiscard]] CalendarDate NearestDate(const CalendarDate& date);
 
 /// A time in a format, as "07:45", "13:05:09" or "01:05:09 PM"; empty for what is no time.
 [[nodiscard]] std::string TimeText(ClockFormat format, const ClockTime& time);

@@ -22,7 +22,7 @@ AlarmInfo.Enable AlarmInfo.ExtAlmAction AlarmInfo.InputConf AlarmMode AlmActionI
 AlmActionInfo.GateIntrus AlmActionInfo.Relay ArchPortSelect AutoDisable BaudRate BaudRatePPC
 Buzzer CamInfo.TextPos DvrArchAlm ExtCam_SwAct FullScrResolution MatrixInfo.GroupSetup
 MatrixInfo.GroupSwEnable PlaybackFormat PlaybackOld PreAlDuration PresetMode PresetPGM SVHS_MonB
-SwitchEdge TelAC_DC TelEnable Tel_options VCRType VCR_Signal_Level
+SwitchEdge TelAC_DC TelEnable Tel_options TransmitSpiTime VCRType VCR_Signal_Level
 )";
 
 bool IsPutRight(const std::string& name) {

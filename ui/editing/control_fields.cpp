@@ -163,21 +163,22 @@ class TimeField final : public ValueField {
   TimePicker& picker_;
 };
 
+/// What no calendar has shows as the nearest date that it has, and stays until the user picks one.
 class DateField final : public ValueField {
  public:
   DateField(DatePicker& picker, SettingRef setting)
       : ValueField(std::move(setting)), picker_(picker) {}
 
  protected:
-  void Show(int /*line*/, int value) override { picker_.SetDate(DateOfValue(value)); }
+  void Show(int /*line*/, int value) override { picker_.SetDate(NearestDate(DateOfValue(value))); }
   [[nodiscard]] int Present(int /*line*/) const override {
     const auto& date = picker_.Date();
-    if (!date) return kNone;
+    if (!date || !picker_.Edited()) return kNone;
     return (date->year << 2 * kByteBits) | (date->month << kByteBits) | date->day;
   }
   [[nodiscard]] bool Offers(int value) const override { return IsDate(DateOfValue(value)); }
   [[nodiscard]] std::string TextOf(int value) const override {
-    return DateText(DateOfValue(value));
+    return DateText(NearestDate(DateOfValue(value)));
   }
   [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return picker_; }
 

@@ -8,6 +8,7 @@
 #include "ui/setup/frm_camera_setup.h"
 #include "ui/setup/frm_comm.h"
 #include "ui/setup/frm_telemetry.h"
+#include "ui/setup/frm_time_date.h"
 #include "ui/setup/frm_varchive.h"
 #include "ui/setup/frm_vcr.h"
 
@@ -29,6 +30,7 @@ constexpr std::array kEditors = {
     MenuEditor{"mnu_VArchive", Create<frm_VArchive>, EveryDevice},
     MenuEditor{"mnu_Sequence", Create<frm_Sequencing>, EveryDevice},
     MenuEditor{"mnu_Telemetry", Create<frm_Telemetry>, EveryDevice},
+    MenuEditor{"mnu_TimeDate", Create<frm_TimeDate>, EveryDevice, "TimeDate Error: "},
     MenuEditor{"mnu_Comm", Create<frm_Comm>, EveryDevice},
 };
 

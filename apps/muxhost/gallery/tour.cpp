@@ -151,7 +151,7 @@ void Tour::Send() {
 
 void Tour::GoThroughMenu() {
   session_.OpenMenu();
-  Album::WaitFor("the menu", [] { return platform_.menu != nullptr; });
+  Album::WaitFor("the menu", [this] { return platform_.menu != nullptr; });
   TakeMenu();
   std::vector<std::string> items;
   AddItems(platform_.menu->Root(), items);
