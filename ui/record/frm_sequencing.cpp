@@ -53,7 +53,6 @@ void frm_Sequencing::BindGroups() {
     Frame3.SetCaption(Text(txt::kSalvoSwitchingSetup));
   }
   msfgGrSetup.SetSpokenName(Frame3.Caption());
-  lstGrpSetup.SetSpokenName(group);
   settings_
       .Options(optGrpEnable, {{1, Text(txt::kEnableWord)}, {0, Text(txt::kDisableWord)}},
                Of(&MuxData::MatrixInfo, &clsMatrix::GroupSwEnable).Otherwise(1))
@@ -66,13 +65,14 @@ void frm_Sequencing::BindGroups() {
 }
 
 void frm_Sequencing::Arrange() {
-  SetLayout(Column(Row(Column(Labelled(Label1, lMultiDwell), Label2),
-                       Column(Labelled(Label3, lFullDwell), Label4),
-                       Column(Labelled(Label5, lPlayDwell), Label6),
-                       Framed(Frame1, Row(Column(Framed(Frame2, Column(optGrpEnable)), Stretch()),
-                                          Framed(Frame3, Row(msfgGrSetup, lstGrpSetup)))),
-                       Stretch()),
-                   Row(Stretch(), cmdOK, cmdCancel)));
+  SetLayout(Column(
+      Row(Column(Labelled(Label1, lMultiDwell), Label2),
+          Column(Labelled(Label3, lFullDwell), Label4),
+          Column(Labelled(Label5, lPlayDwell), Label6),
+          Framed(Frame1, Row(Column(Framed(Frame2, Column(optGrpEnable)), Stretch()),
+                             Framed(Frame3, Row(msfgGrSetup, Labelled(lbGrpSetup, lstGrpSetup))))),
+          Stretch()),
+      Row(Stretch(), cmdOK, cmdCancel)));
 }
 
 }  // namespace quorvel

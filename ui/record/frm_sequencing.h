@@ -31,6 +31,7 @@ class frm_Sequencing : public Editor {
   ControlArray<OptionButton> optGrpEnable{*this, "optGrpEnable", 2};
   Frame Frame3{*this, "Frame3", Text(txt::kGroupSwitchingSetup)};
   Grid msfgGrSetup{*this, "msfgGrSetup"};
+  Label lbGrpSetup{*this, "lbGrpSetup", Text(txt::kGroup)};
   ListBox lstGrpSetup{*this, "lstGrpSetup"};
   Button cmdOK{*this, "cmdOK"};
   Button cmdCancel{*this, "cmdCancel"};
