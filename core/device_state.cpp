@@ -6,6 +6,10 @@
 
 namespace quorvel {
 
+namespace {
+constexpr int kClockBlock = 61;
+}
+
 MuxData& DeviceState::Record() {
   if (record_ == nullptr) record_ = std::make_unique<MuxData>(env);
   return *record_;
@@ -26,6 +30,23 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   LoadedFromFile = source == ImageSource::kSettingsFile;
   env.blocks.SetMaxBlk(BlkImage.BlkCount());
   ++generation_;
+}
+
+void DeviceState::TakePcTime() {
+  UsePcTime = true;
+  if (env.identity.IsTriplex()) Record().PlayDwell(0);
+  Record().MarkModified(kClockBlock);
+}
+
+void DeviceState::TakePcTime(const LocalTime& now) {
+  TimeDate& clock = Record().TDInfo;
+  clock.CurrentDay.Set(static_cast<std::int16_t>(now.date.day));
+  clock.CurrentMonth.Set(now.date.month);
+  clock.CurrentYear.Set(static_cast<std::int16_t>(now.date.year));
+  clock.CurrentHour.Set(static_cast<std::int16_t>(now.time.hour));
+  clock.CurrentMin.Set(static_cast<std::int16_t>(now.time.minute));
+  clock.CurrentSec.Set(static_cast<std::int16_t>(now.time.second));
+  TakePcTime();
 }
 
 BlockImage DeviceState::EncodedImage() {

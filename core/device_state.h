@@ -7,6 +7,7 @@
 #include "core/combined_array.h"
 #include "core/record/mux_data.h"
 #include "core/record_environment.h"
+#include "quorvel/clock_time.h"
 
 namespace quorvel {
 
@@ -48,6 +49,12 @@ class DeviceState {
   /// combined array that the image came in, and nothing is modified any more. Throws ImageError,
   /// and keeps what is there, when the image cannot be decoded.
   void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});
+
+  /// Lists the clock's block, lets the device take it, and has it carry the computer's time, taken
+  /// when the block is built.
+  void TakePcTime();
+  /// The same, with the date and time of `now` in the record meanwhile.
+  void TakePcTime(const LocalTime& now);
 
   /// The image as it would be with every block encoded from the record.
   [[nodiscard]] BlockImage EncodedImage();

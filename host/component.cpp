@@ -116,6 +116,15 @@ void Component::FillComboInfo(std::span<const Byte> data) {
   context.host.ComboMode = true;
 }
 
+void Component::UsePcTime(bool use) {
+  if (!context.device.HasImage()) return;
+  if (use) {
+    context.device.TakePcTime(context.platform.Now());
+  } else {
+    context.device.UsePcTime = false;
+  }
+}
+
 /// Works on copies: the image itself is encoded when it is sent.
 std::vector<Byte> Component::EditedImage() {
   BlockImage image = context.device.BlkImage;

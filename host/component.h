@@ -47,6 +47,7 @@ class Component : public std::enable_shared_from_this<Component> {
   [[nodiscard]] std::vector<Byte> EditedImage();
   [[nodiscard]] std::optional<std::vector<SettingDifference>> DifferencesFrom(
       std::span<const Byte> image);
+  void UsePcTime(bool use);
   void TriggerUploadTimer() { upload_.TriggerTimer(); }
 
   Context context;

@@ -72,6 +72,12 @@ std::int32_t MainMenuCtrl::TriggerUploadTimer() {
   return 0;
 }
 
+bool MainMenuCtrl::UsePcTime() const { return component_->context.device.UsePcTime; }
+
+void MainMenuCtrl::UsePcTime(bool use) {
+  component_->Call("UsePcTime", [&it = *component_, use] { it.UsePcTime(use); });
+}
+
 void MainMenuCtrl::Refresh() {
   component_->Call("Refresh", [&it = *component_] { it.surface.Repaint(); });
 }

@@ -18,7 +18,6 @@ constexpr std::int16_t kFactoryDefaults = 16;
 constexpr std::int16_t kActivityGrid = 17;
 constexpr std::int16_t kStateHost = 18;
 
-constexpr int kFirstTriplexModel = 6;
 constexpr int kDuplexFamily = 16;
 constexpr int kTriplexFamily = 48;
 

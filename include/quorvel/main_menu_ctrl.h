@@ -76,6 +76,15 @@ class MainMenuCtrl {
   /// The host has written the last packet of DownLoadData and is ready for the next.
   std::int32_t TriggerUploadTimer();
 
+  /// Whether the device's clock takes the computer's time when its block, 61, is built for a send:
+  /// because the user has ticked it in the time and date editor, which then has OK set it and
+  /// begins anew when it opens, or because the host has set it here.
+  [[nodiscard]] bool UsePcTime() const;
+  /// True: lists block 61 as modified with the computer's date and has it take the time, as that
+  /// editor does. False: the time that the configuration holds is sent. Without an image nothing
+  /// changes.
+  void UsePcTime(bool use);
+
   /// Draws the surface anew.
   void Refresh();
   [[nodiscard]] bool Enabled() const;

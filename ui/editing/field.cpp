@@ -42,7 +42,7 @@ void Field::TellLine(MuxData& record, int line, std::vector<ShownSetting>& told)
 
 int ValueField::Opened(int line) const {
   const auto place = static_cast<std::size_t>(line);
-  return place < opened_.size() ? opened_[place] : kNone;
+  return place < filled_.size() ? filled_[place].shown : kNone;
 }
 
 int ValueField::Standing(int line) const {
@@ -51,19 +51,21 @@ int ValueField::Standing(int line) const {
 }
 
 void ValueField::Fill(MuxData& record, int line) {
-  int value = setting_.Access().Get(record, line);
-  if (!Offers(value)) value = setting_.ShownFor(value);
+  Filled filled{setting_.Access().Get(record, line), kNone};
+  filled.shown = Offers(filled.stored) ? filled.stored : setting_.ShownFor(filled.stored);
   const auto place = static_cast<std::size_t>(line);
-  if (opened_.capacity() == 0) opened_.reserve(kMostCameras);
-  if (opened_.size() <= place) opened_.resize(place + 1, kNone);
-  opened_[place] = value;
-  Show(line, value);
+  if (filled_.capacity() == 0) filled_.reserve(kMostCameras);
+  if (filled_.size() <= place) filled_.resize(place + 1);
+  filled_[place] = filled;
+  Show(line, filled.shown);
 }
 
 void ValueField::Write(MuxData& record, int line) {
   int value = Standing(line);
   if (!Offers(value)) value = setting_.WrittenFor(value);
-  if (value != kNone) setting_.Access().Set(record, line, value);
+  const auto place = static_cast<std::size_t>(line);
+  if (place >= filled_.size() || value == kNone || value == filled_[place].stored) return;
+  setting_.Access().Set(record, line, value);
 }
 
 void ValueField::Tell(MuxData& record, int line, ShownSetting& shown) const {

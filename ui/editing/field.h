@@ -71,7 +71,8 @@ class Field {
   std::function<int(int)> block_;
 };
 
-/// A field whose control stands at a number of the device.
+/// A field whose control stands at a number of the device. What still is as it was filled is not
+/// written: another editor, or the host, may have changed the setting since.
 class ValueField : public Field {
  public:
   static constexpr int kNone = Choices::kNone;
@@ -102,8 +103,12 @@ class ValueField : public Field {
   /// What the control stands at, or what it was filled with while the user has chosen nothing.
   [[nodiscard]] int Standing(int line) const;
 
+  struct Filled {
+    int stored = kNone;  ///< the setting's value
+    int shown = kNone;   ///< what the control was made to stand at
+  };
   SettingRef setting_;
-  std::vector<int> opened_;
+  std::vector<Filled> filled_;
 };
 
 }  // namespace quorvel

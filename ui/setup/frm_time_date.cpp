@@ -9,7 +9,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr int kClockBlock = 61;
 constexpr int kServerBlock = 217;
 constexpr int kFirstModelWithoutMaster = 8;
 // A year is stored as two digits.
@@ -33,6 +32,7 @@ auto Clock(S TimeDate::*setting, int entry = kEntryOfLine) {
 
 frm_TimeDate::frm_TimeDate(Context& context)
     : Editor(context, "frm_TimeDate", txt::kTimeAndDate, {CommitTimeDate}) {
+  context.device.UsePcTime = false;
   FieldGroup& settings = Once();
   date_ = &settings.Pick(Calendar, Clock(&TimeDate::CurrentDay), Clock(&TimeDate::CurrentMonth),
                          Clock(&TimeDate::CurrentYear));
@@ -135,11 +135,11 @@ void frm_TimeDate::UsePcClock() {
 }
 
 void frm_TimeDate::WriteRest(MuxData& record) {
-  if (!Calendar.Edited() && !DTPicker1.Edited()) return;
-  if (Id().IsTriplex()) record.PlayDwell(0);  // lets the device take the clock
-  // The computer's time is taken anew when the block is built, unless another was picked since.
-  Ctx().device.UsePcTime = chkPCTD.Checked();
-  if (chkPCTD.Checked()) record.MarkModified(kClockBlock);
+  if (chkPCTD.Checked()) {
+    Ctx().device.TakePcTime();
+  } else if (Id().IsTriplex() && (Calendar.Edited() || DTPicker1.Edited())) {
+    record.PlayDwell(0);  // lets the device take the clock
+  }
 }
 
 void frm_TimeDate::Arrange() {

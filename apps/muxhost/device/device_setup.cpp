@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kMostModels = 21;
 constexpr int kFirstDuplexModel = 2;
-constexpr int kFirstTriplexModel = 6;
 constexpr std::size_t kNameLength = 14;
 constexpr int kVariantBlock = 183;
 constexpr int kVariantByte = 7;

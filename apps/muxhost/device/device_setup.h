@@ -7,6 +7,9 @@
 
 namespace quorvel::muxhost {
 
+/// Model codes from this one on are triplex recorders.
+inline constexpr int kFirstTriplexModel = 6;
+
 /// How a device that speaks the combined exchange is made.
 struct CombinedSetup {
   int macros = 0;          ///< macro records, 0 to 255

@@ -20,6 +20,8 @@ void Device(Desk& desk, Words words);
 void Host(Desk& desk, Words words);
 void Download(Desk& desk, Words words);
 void Upload(Desk& desk, Words words);
+void GoesAlong(Desk& desk, Words words);
+void PcTime(Desk& desk, Words words);
 void Save(Desk& desk, Words words);
 void Restore(Desk& desk, Words words);
 void Defaults(Desk& desk, Words words);

@@ -1,5 +1,6 @@
 #include <ostream>
 
+#include "apps/muxhost/going_along.h"
 #include "apps/muxhost/script/attendants.h"
 #include "apps/muxhost/script/commands.h"
 #include "apps/muxhost/script/parser.h"
@@ -85,6 +86,15 @@ void Upload(Desk& desk, Words words) {
   const auto& result = desk.session.LastExchange().read_back;
   if (result) desk.out << Describe(*result) << '\n';
 }
+
+void GoesAlong(Desk& desk, Words words) {
+  const GoingAlong along = WhatGoesAlong(desk.session, !TakeChoice(words).modified);
+  if (along.clock) desk.out << ClockInWords(*along.clock, desk.platform.Now()) << '\n';
+  if (!along.ports.empty()) desk.out << PortsInWords(along.ports) << '\n';
+  if (!along.clock && along.ports.empty()) desk.out << "nothing goes along\n";
+}
+
+void PcTime(Desk& desk, Words /*words*/) { desk.session.Control().UsePcTime(true); }
 
 void Save(Desk& desk, Words words) {
   RequireUnlocked(desk);

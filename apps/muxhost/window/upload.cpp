@@ -1,6 +1,7 @@
 #include "apps/muxhost/window/upload.h"
 
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "apps/muxhost/window/backup.h"
 #include "apps/muxhost/window/send_choice.h"
@@ -10,6 +11,7 @@ namespace quorvel::muxhost {
 
 void Uploader::Upload(bool all, bool macros) {
   if (all && !MayLeaveOut()) return;
+  if (!MayBring(WhatGoesAlong(at_.session, all))) return;
   if (at_.backups.Wanted() && !BackUp()) return;
   do {
     const SendChoice choice(all, macros);
@@ -30,6 +32,34 @@ bool Uploader::MayLeaveOut() {
                                                          : "They keep what they hold.";
   return MayGoOn(QString("The configuration has nothing for %1 of the device.").arg(lacking),
                  fate + " Upload the rest?", "Upload the rest");
+}
+
+bool Uploader::MayBring(const GoingAlong& along) {
+  if (!along.ports.empty() &&
+      !MayGoOn(QString::fromStdString(PortsInWords(along.ports)),
+               "If the link uses one of them, the device cannot be reached any more once it has "
+               "taken the change, and nothing here can take it back. Upload all the same?",
+               "Upload")) {
+    return false;
+  }
+  return !along.clock || MayBringClock(*along.clock);
+}
+
+bool Uploader::MayBringClock(const LocalTime& clock) {
+  if (!at_.window.isVisible()) return false;
+  QMessageBox box(QMessageBox::Question, at_.window.windowTitle(),
+                  QString::fromStdString(ClockInWords(clock, at_.platform.Now())),
+                  QMessageBox::Cancel, &at_.window);
+  box.setInformativeText(
+      "The device sets its clock to what is sent. It can be given the time of this computer "
+      "instead.");
+  auto* const pc_time = box.addButton("Use this computer's time", QMessageBox::AcceptRole);
+  const auto* const as_it_is = box.addButton("Send it as it is", QMessageBox::AcceptRole);
+  box.setDefaultButton(pc_time);
+  box.exec();
+  if (!at_.window.isVisible()) return false;
+  if (box.clickedButton() == pc_time) at_.session.Control().UsePcTime(true);
+  return box.clickedButton() == pc_time || box.clickedButton() == as_it_is;
 }
 
 bool Uploader::BackUp() {

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "apps/muxhost/going_along.h"
 #include "apps/muxhost/host_session.h"
 #include "apps/muxhost/window/backup_box.h"
 #include "apps/muxhost/window/event_log.h"
@@ -35,6 +36,10 @@ class Uploader {
  private:
   /// Keeps what the device holds; false when there is to be no upload.
   [[nodiscard]] bool BackUp();
+  /// Tells of a clock and of ports that go along; false when the user would rather not.
+  [[nodiscard]] bool MayBring(const GoingAlong& along);
+  /// Offers the computer's time instead.
+  [[nodiscard]] bool MayBringClock(const LocalTime& clock);
   /// Asks about blocks that an upload of everything brings nothing for.
   [[nodiscard]] bool MayLeaveOut();
   [[nodiscard]] bool MayGoOn(const QString& trouble, const QString& question, const char* go_on);

@@ -1,0 +1,148 @@
+#include "apps/muxhost/going_along.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cstdint>
+#include <cstdlib>
+#include <utility>
+
+namespace quorvel::muxhost {
+
+namespace {
+
+constexpr std::uint8_t kClockBlock = 61;
+
+int ToNumber(const std::string& text) {
+  int number = -1;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+bool Brings(const MainMenuCtrl& control, bool all, std::uint8_t block) {
+  if (all) return true;
+  const auto listed = control.ModifiedBlocks();
+  return std::find(listed.begin(), listed.end(), block) != listed.end();
+}
+
+/// The clock as the control holds it; nothing when the device has none, or one that no calendar
+/// has.
+std::optional<LocalTime> ClockOf(const MainMenuCtrl& control) {
+  constexpr std::string_view kPrefix = "TDInfo.Current";
+  LocalTime clock;
+  const std::array<std::pair<std::string_view, int*>, 6> parts = {{{"Year", &clock.date.year},
+                                                                   {"Month", &clock.date.month},
+                                                                   {"Day", &clock.date.day},
+                                                                   {"Hour", &clock.time.hour},
+                                                                   {"Min", &clock.time.minute},
+                                                                   {"Sec", &clock.time.second}}};
+  std::size_t found = 0;
+  for (const SettingLine& line : control.Settings(std::string(kPrefix) + "*")) {
+    for (const auto& [name, number] : parts) {
+      if (line.name.substr(kPrefix.size()) != name) continue;
+      *number = ToNumber(line.value);
+      ++found;
+    }
+  }
+  if (found != parts.size() || !IsDate(clock.date) || !IsTime(clock.time)) return std::nullopt;
+  return clock;
+}
+
+/// Whether a date or a time was set since the configuration came, or is about to be.
+bool ClockIsSet(const MainMenuCtrl& control) {
+  if (control.UsePcTime()) return true;
+  const auto differences = control.DifferencesFrom(control.Image());
+  return differences &&
+         std::any_of(differences->begin(), differences->end(), [](const SettingDifference& it) {
+           return it.name.starts_with("TDInfo.Current");
+         });
+}
+
+/// Some models list the four fastest rates of a port, the others begin with the slowest.
+std::string RateInWords(const std::string& code, bool fast) {
+  constexpr std::array kRates = {"1200", "2400", "4800", "9600", "19200", "38400", "57600"};
+  constexpr int kFastest = 3;
+  const int place = ToNumber(code) + (fast ? kFastest : 0);
+  if (place < 0 || place >= static_cast<int>(kRates.size())) return "code " + code;
+  return std::string(kRates.at(static_cast<std::size_t>(place))) + " baud";
+}
+
+std::string FromTo(const std::string& what, const std::string& before, const std::string& now) {
+  return what + " from " + before + " to " + now;
+}
+
+/// Nothing for another setting than those of the ports.
+std::optional<std::string> PortInWords(const SettingDifference& change, int model) {
+  const auto& [name, value, other, blocks] = change;
+  if (name == "NetworkAddr") return FromTo("the network address", other, value);
+  const bool ppc = name == "BaudRatePPC";
+  if (!ppc && name != "BaudRate") return std::nullopt;
+  const bool fast = ppc && model < kFirstTriplexModel;
+  const std::string port = model == 0 ? "the RS232 port" : ppc ? "port 1" : "port 2";
+  return FromTo(port, RateInWords(other, fast), RateInWords(value, fast));
+}
+
+std::string Several(std::int64_t count, const char* unit) {
+  return std::to_string(count) + " " + unit + (count == 1 ? "" : "s");
+}
+
+/// From two of a unit on it counts in that unit.
+std::string DurationInWords(std::int64_t seconds) {
+  constexpr std::array<std::pair<std::int64_t, const char*>, 5> kUnits = {{{365 * 86400, "year"},
+                                                                           {30 * 86400, "month"},
+                                                                           {86400, "day"},
+                                                                           {3600, "hour"},
+                                                                           {60, "minute"}}};
+  for (const auto& [length, unit] : kUnits) {
+    if (seconds >= 2 * length) return Several(seconds / length, unit);
+  }
+  return Several(seconds, "second");
+}
+
+std::int64_t Seconds(const LocalTime& at) {
+  const std::chrono::year_month_day date{std::chrono::year(at.date.year),
+                                         std::chrono::month(static_cast<unsigned>(at.date.month)),
+                                         std::chrono::day(static_cast<unsigned>(at.date.day))};
+  const std::int64_t days = std::chrono::sys_days(date).time_since_epoch().count();
+  return ((days * 24 + at.time.hour) * 60 + at.time.minute) * 60 + at.time.second;
+}
+
+}  // namespace
+
+GoingAlong WhatGoesAlong(HostSession& session, bool all) {
+  GoingAlong along;
+  const MainMenuCtrl& control = session.Control();
+  const int model = session.Device().ModelCode();
+  if (model < kFirstTriplexModel && Brings(control, all, kClockBlock) && !ClockIsSet(control)) {
+    along.clock = ClockOf(control);
+  }
+  const auto changes = control.DifferencesFrom(session.Device().Bytes());
+  if (!changes) return along;
+  for (const SettingDifference& change : *changes) {
+    auto words = PortInWords(change, model);
+    const bool goes = std::any_of(change.blocks.begin(), change.blocks.end(),
+                                  [&](std::uint8_t block) { return Brings(control, all, block); });
+    if (words && goes) along.ports.push_back(std::move(*words));
+  }
+  return along;
+}
+
+std::string ClockInWords(const LocalTime& clock, const LocalTime& now) {
+  const std::int64_t behind = Seconds(now) - Seconds(clock);
+  std::string distance = "as that of";
+  if (behind != 0) {
+    distance = DurationInWords(std::abs(behind)) + (behind < 0 ? " ahead of" : " behind");
+  }
+  return "The device's clock goes along: " + DateText(clock.date) + " " +
+         TimeText(ClockFormat::kHoursMinutesSeconds, clock.time) + ", " + distance +
+         " this computer.";
+}
+
+std::string PortsInWords(const std::vector<std::string>& ports) {
+  std::string words = "Ports change that the link may use: ";
+  for (const std::string& port : ports) words += (&port == &ports.front() ? "" : ", ") + port;
+  return words + ".";
+}
+
+}  // namespace quorvel::muxhost
