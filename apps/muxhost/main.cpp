@@ -7,6 +7,7 @@
 
 #include "apps/muxhost/script/runner.h"
 #include "core/block_map.h"
+#include "quorvel/version.h"
 
 #ifdef MUXHOST_WITH_QT
 #include <cstdlib>
@@ -113,6 +114,7 @@ int main(int argc, char** argv) {
   app.add_flag("--block-map", block_map, "Print which block holds which setting, and exit")
       ->excludes(script_option);
   const WindowOptions window(app, script_option);
+  app.set_version_flag("--version", "muxhost " + std::string(quorvel::Version()));
   CLI11_PARSE(app, argc, argv);
 
   try {

@@ -29,5 +29,5 @@ install_missing() {
 # lines of a failure.
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
 RUN_PACKAGES=(fonts-dejavu-core)
-TEST_PACKAGES=(libgtest-dev clang clang-format)
+TEST_PACKAGES=(libgtest-dev clang clang-format pkg-config)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)

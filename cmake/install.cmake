@@ -1,0 +1,39 @@
+# Installs the libraries with their public headers, so that other projects find them with
+# find_package(quorvel), whose component "qt" needs Qt 6, and with pkg-config.
+include(CMakePackageConfigHelpers)
+set(quorvel_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/quorvel)
+
+# EXPORT is a set of targets, a file of the package; what it holds may be installed alone.
+function(quorvel_install_targets export)
+  install(TARGETS ${ARGN} EXPORT ${export}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(EXPORT ${export} NAMESPACE Quorvel:: DESTINATION ${quorvel_package_folder})
+endfunction()
+
+# The prefix is found from where the file lies: the folder may be moved.
+function(quorvel_install_pkg_config name)
+  set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  file(RELATIVE_PATH quorvel_up /${folder} /)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${folder})
+endfunction()
+
+quorvel_install_targets(quorvel-targets quorvel quorvel_platform_common quorvel_headless)
+install(DIRECTORY include/quorvel DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+quorvel_install_pkg_config(quorvel)
+quorvel_install_pkg_config(quorvel-headless)
+if(QUORVEL_QT)
+  quorvel_install_targets(quorvel-qt-targets quorvel_qt)
+  install(DIRECTORY platform/qt/include/quorvel DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  quorvel_install_pkg_config(quorvel-qt)
+endif()
+
+configure_package_config_file(cmake/quorvel-config.cmake.in quorvel-config.cmake
+  INSTALL_DESTINATION ${quorvel_package_folder})
+# Before 1.0 each minor version may change what hosts see.
+write_basic_package_version_file(quorvel-config-version.cmake COMPATIBILITY SameMinorVersion)
+install(FILES
+  ${CMAKE_CURRENT_BINARY_DIR}/quorvel-config.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/quorvel-config-version.cmake
+  DESTINATION ${quorvel_package_folder})

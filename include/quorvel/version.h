@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+/// The version of these headers. A change of the first number may need changes in a host's sources;
+/// before 1.0 the second number does the same.
+#define QUORVEL_VERSION_MAJOR 0
+#define QUORVEL_VERSION_MINOR 1
+#define QUORVEL_VERSION_PATCH 0
+
+namespace quorvel {
+
+/// The version of the library that is linked, as "0.1.0".
+[[nodiscard]] std::string_view Version();
+
+}  // namespace quorvel
