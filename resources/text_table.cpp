@@ -1,5 +1,6 @@
 #include "resources/text_table.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace quorvel {
@@ -10,7 +11,14 @@ namespace {
 constexpr std::string_view kTexts[] = {
 #include "resources/text_table.inc"
 };
-constexpr std::string_view kAddedTexts[] = {
+#undef QUORVEL_TEXT
+
+struct AddedText {
+  int id;
+  std::string_view english;
+};
+#define QUORVEL_TEXT(id, name, english) {id, english},
+constexpr AddedText kAddedTexts[] = {
 #include "resources/added_texts.inc"
 };
 #undef QUORVEL_TEXT
@@ -20,11 +28,11 @@ static_assert(std::size(kTexts) == kTextCount);
 }  // namespace
 
 std::string_view BuiltInText(int id) {
-  const auto in = [id](const auto& texts, int first) {
-    return id >= first && id - first < static_cast<int>(std::size(texts));
-  };
-  if (in(kTexts, 0)) return kTexts[id];
-  return in(kAddedTexts, kFirstAddedText) ? kAddedTexts[id - kFirstAddedText] : std::string_view();
+  if (id >= 0 && id < kTextCount) return kTexts[id];
+  // Numbers may be left out among them.
+  const auto* const added = std::find_if(std::begin(kAddedTexts), std::end(kAddedTexts),
+                                         [id](const AddedText& it) { return it.id == id; });
+  return added == std::end(kAddedTexts) ? std::string_view() : added->english;
 }
 
 }  // namespace quorvel
