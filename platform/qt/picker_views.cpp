@@ -15,14 +15,14 @@ constexpr int kYearEnd = 4;  // "2024-02-29"
 constexpr int kMonthEnd = 7;
 
 /// Times go round at midnight, each part on its own.
-ClockTime Stepped(ClockTime time, int place, int steps) {
+ClockTime Stepped(ClockTime time, int place, int steps, int last_minute) {
   const auto turned = [steps](int value, int count) {
     return ((value + steps) % count + count) % count;
   };
   if (place <= kHoursEnd) {
     time.hour = turned(time.hour, 24);
   } else if (place <= kMinutesEnd) {
-    time.minute = turned(time.minute, 60);
+    time.minute = turned(time.minute, last_minute + 1);
   } else if (place <= kSecondsEnd) {
     time.second = turned(time.second, 60);
   } else {
@@ -53,7 +53,8 @@ class TimePickerView : public ViewOf<TimePicker, PartsBox> {
     GetBody()->on_step = [this](int place, int steps) {
       Act([place, steps](TimePicker& picker) {
         const bool blank = picker.ValueText().empty();
-        picker.Pick(blank ? ClockTime{} : Stepped(*picker.Time(), place, steps));
+        picker.Pick(blank ? ClockTime{}
+                          : Stepped(*picker.Time(), place, steps, picker.LastMinute()));
       });
     };
     DrawAll();

@@ -161,7 +161,7 @@ class TimeCells : public CellControl {
 
 class HourAndMinuteCells : public CellControl {
  public:
-  explicit HourAndMinuteCells(TimePicker& picker) : whole_(picker) {}
+  explicit HourAndMinuteCells(TimePicker& picker) : picker_(picker), whole_(picker) {}
 
   [[nodiscard]] Widget& Control() const override { return whole_.Control(); }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
@@ -172,7 +172,7 @@ class HourAndMinuteCells : public CellControl {
     return Offers(part, value) ? value : kNone;
   }
   [[nodiscard]] bool Offers(int part, int value) const override {
-    return value >= 0 && value < (part == 0 ? kHours : kMinutes);
+    return value >= 0 && value <= (part == 0 ? kHours - 1 : picker_.LastMinute());
   }
   void Show(int row, const std::vector<int>& values) override {
     const bool whole = Offers(0, values.at(0)) && Offers(1, values.at(1));
@@ -185,6 +185,7 @@ class HourAndMinuteCells : public CellControl {
   }
 
  private:
+  TimePicker& picker_;
   TimeCells whole_;
 };
 

@@ -1,5 +1,7 @@
 #include "quorvel/widgets/pickers.h"
 
+#include <algorithm>
+
 namespace quorvel {
 
 TimePicker::TimePicker(Dialog& dialog, std::string name)
@@ -27,6 +29,7 @@ Answer TimePicker::Pick(ClockTime time) {
   if (refusal != Answer::kDone) return refusal;
   if (!IsTime(time)) return Answer::kNotAChoice;
   if (format_ == ClockFormat::kHoursMinutes) time.second = 0;
+  time.minute = std::min(time.minute, last_minute_);
   Put(time, true);
   Raise(on_change);
   return refusal;

@@ -21,13 +21,16 @@ class TimePicker : public Widget {
   [[nodiscard]] std::string ValueText() const override;
 
   void SetFormat(ClockFormat format);
+  /// The last minute of an hour that can be picked; 59 unless set otherwise.
+  [[nodiscard]] int LastMinute() const { return last_minute_; }
+  void SetLastMinute(int minute) { last_minute_ = minute; }
   /// Sets the time; what no clock shows is kept and drawn blank. The picker counts as not edited.
   void SetTime(const ClockTime& time);
   /// Makes the picker blank.
   void Clear();
 
-  /// Picks a time, also the present one. Where the format shows no seconds they become 0. What no
-  /// clock shows is kNotAChoice.
+  /// Picks a time, also the present one. Where the format shows no seconds they become 0, and a
+  /// minute behind the last becomes the last. What no clock shows is kNotAChoice.
   Answer Pick(ClockTime time);
   Handler on_change;
 
@@ -36,6 +39,7 @@ class TimePicker : public Widget {
 
   std::optional<ClockTime> time_;
   ClockFormat format_ = ClockFormat::kHoursMinutes;
+  int last_minute_ = 59;
   bool edited_ = false;
 };
 
