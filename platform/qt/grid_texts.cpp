@@ -55,11 +55,13 @@ QVariant GridTexts::data(const QModelIndex& index, int role) const {
 }
 
 QVariant GridTexts::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (role != Qt::DisplayRole || grid_ == nullptr) return {};
+  const bool spoken = role == Qt::AccessibleTextRole;
+  if ((role != Qt::DisplayRole && !spoken) || grid_ == nullptr) return {};
   // Drawn in the table itself, and told to screen readers here.
   if (orientation == Qt::Vertical) return Text(section + header_rows_, 0);
   if (section >= grid_->Columns()) return {};
-  return header_rows_ == 1 ? Text(0, section) : QVariant(Shown(grid_->ColumnName(section)));
+  const bool as_drawn = header_rows_ == 1 && !spoken;
+  return as_drawn ? Text(0, section) : QVariant(Shown(grid_->ColumnName(section)));
 }
 
 std::vector<Grid::HeaderCell> GridTexts::Header() const {

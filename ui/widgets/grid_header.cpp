@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "quorvel/widgets/grid.h"
 
 namespace quorvel {
@@ -27,7 +29,14 @@ std::vector<Grid::HeaderCell> Grid::Header() const {
   return header;
 }
 
+void Grid::SetColumnName(int column, std::string name) {
+  column_names_[column] = std::move(name);
+  Redraw(Aspect::kContent);
+}
+
 std::string Grid::ColumnName(int column) const {
+  const auto given = column_names_.find(column);
+  if (given != column_names_.end()) return given->second;
   std::string name;
   for (int row = 0; row < header_rows_; ++row) {
     const std::string& text = Cell(row, column);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,7 +49,8 @@ class Grid : public Widget {
   [[nodiscard]] int LeastWidth(int column) const;
   /// The header cells, row by row, equal texts made one where the header is merged.
   [[nodiscard]] std::vector<HeaderCell> Header() const;
-  /// What a screen reader says of a column: its header texts, ", " between different ones.
+  /// What a screen reader says of a column: the name that it was given, else its header texts, ", "
+  /// between different ones.
   [[nodiscard]] std::string ColumnName(int column) const;
   [[nodiscard]] std::string ValueText() const override;
 
@@ -60,6 +62,8 @@ class Grid : public Widget {
   void SetSize(int rows, int columns);
   /// Adds empty columns at the right; returns the number of the first of them.
   int AddColumns(int count);
+  /// Names a column of which the header says nothing.
+  void SetColumnName(int column, std::string name);
   /// Makes a column no narrower than so many characters.
   void SetLeastWidth(int column, int characters);
   void SetAlign(Align align);
@@ -125,6 +129,7 @@ class Grid : public Widget {
   Range range_ = Range::kRows;
   std::vector<CellValue> cells_{1};  ///< column by column, so that one is easily added
   std::vector<int> least_widths_{0};
+  std::map<int, std::string> column_names_;  ///< of columns that were given one
 };
 
 }  // namespace quorvel
