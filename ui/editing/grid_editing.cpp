@@ -27,6 +27,13 @@ int GridEditing::Binding::PartOf(int column) const {
   return found == columns.end() ? kNoPart : static_cast<int>(found - columns.begin());
 }
 
+std::optional<int> GridEditing::Binding::ValueOf(int column, const std::string& text) const {
+  const int part = PartOf(column);
+  const int value = control->ValueOf(part, text);
+  if (value != Grid::kNone) return value;
+  return rules.empty && control->TextOf(part, *rules.empty) == text ? rules.empty : std::nullopt;
+}
+
 std::function<void(const Widget&)> GridEditing::Add(std::unique_ptr<CellControl> control,
                                                     std::vector<int> columns, ColumnRules rules) {
   bindings_.push_back({std::move(control), std::move(columns), std::move(rules)});
@@ -201,14 +208,13 @@ void GridEditing::PutIntoSelectedRows(const Binding& binding, const std::vector<
 bool GridEditing::Takes(int row, int column, const std::string& text) const {
   const Binding* const binding = BindingOf(column);
   if (binding == nullptr || !binding->Takes(row)) return false;
-  if (text == grid_.Cell(row, column)) return true;
-  return binding->control->ValueOf(binding->PartOf(column), text) != Grid::kNone;
+  return text == grid_.Cell(row, column) || binding->ValueOf(column, text).has_value();
 }
 
 void GridEditing::Paste(int row, int column, const std::string& text) {
   if (text == grid_.Cell(row, column)) return;  // its value, one of several of that text, stays
   const Binding& binding = *BindingOf(column);
-  SetValue(row, column, binding.control->ValueOf(binding.PartOf(column), text));
+  SetValue(row, column, binding.ValueOf(column, text).value_or(Grid::kNone));
   if (binding.rules.written) binding.rules.written(row);
   if (binding.rules.chosen) binding.rules.chosen();
   if (row == grid_.Row()) ShowCell();

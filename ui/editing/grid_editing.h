@@ -28,7 +28,8 @@ struct ColumnRules {
   std::function<void(int row)> written = {};
   /// Called once after a choice, a paste or Delete has written all rows that take it.
   Handler chosen = {};
-  /// The value of a cell that is emptied by Delete; none: cells of the column cannot be emptied.
+  /// The value of a cell that is emptied, by Delete or by pasting a text that reads like it; none:
+  /// cells of the column cannot be emptied.
   std::optional<int> empty = {};
 };
 
@@ -97,6 +98,8 @@ class GridEditing {
     [[nodiscard]] int PartOf(int column) const;
     [[nodiscard]] int Parts() const { return static_cast<int>(columns.size()); }
     [[nodiscard]] bool Takes(int row) const { return !rules.takes || rules.takes(row); }
+    /// The value that a pasted text puts into a column, if it can be put there.
+    [[nodiscard]] std::optional<int> ValueOf(int column, const std::string& text) const;
   };
   static constexpr int kNoPart = -1;
   /// Adds a binding; returns what the handler of a control has to call.

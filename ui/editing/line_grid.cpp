@@ -55,4 +55,11 @@ Field& LineGrid::Bind(int column, TimePicker& picker, SettingRef setting, Column
   return AddField(column, std::move(setting));
 }
 
+void LineGrid::BindPair(int hour_column, int minute_column, TimePicker& picker, SettingRef hour,
+                        SettingRef minute, ColumnRules rules) {
+  editing_.BindPair(hour_column, minute_column, picker, std::move(rules));
+  AddField(hour_column, std::move(hour));
+  AddField(minute_column, std::move(minute));
+}
+
 }  // namespace quorvel

@@ -34,6 +34,9 @@ class LineGrid {
   Field& Bind(int column, Slider& slider, Label& shown, SettingRef setting, ColumnRules rules = {});
   /// Minutes of the day.
   Field& Bind(int column, TimePicker& picker, SettingRef setting, ColumnRules rules = {});
+  /// Two columns: hours and minutes.
+  void BindPair(int hour_column, int minute_column, TimePicker& picker, SettingRef hour,
+                SettingRef minute, ColumnRules rules = {});
   /// Adds a column and binds it.
   Field& Column(const std::string& header, ChoiceWidget& list, Choices choices, SettingRef setting,
                 ColumnRules rules = {}) {
