@@ -181,7 +181,7 @@ class QtSizes : public ::testing::Test {
 
   /// Every page of an editor, which Ctrl+Tab leads to.
   static void CheckByKeyboard(const Dialog& editor, QWidget& window) {
-    const auto* const tabs = dynamic_cast<const TabStrip*>(editor.FindWidget("SSTab1"));
+    const TabStrip* const tabs = TabsOf(editor);
     if (tabs == nullptr) return CheckPage(editor, window);
     std::set<int> seen;
     while (seen.insert(tabs->Current()).second) {

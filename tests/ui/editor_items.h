@@ -33,4 +33,12 @@ inline std::shared_ptr<Dialog> OpenEditor(TestHost& host, const std::string& ite
   return host.platform.Windows().back()->shared_from_this();
 }
 
+/// The pages of an editor; a null pointer when it has none.
+inline TabStrip* TabsOf(const Dialog& editor) {
+  for (Widget* const widget : editor.Widgets()) {
+    if (auto* const tabs = dynamic_cast<TabStrip*>(widget)) return tabs;
+  }
+  return nullptr;
+}
+
 }  // namespace quorvel

@@ -184,7 +184,7 @@ std::map<std::string, int> ChooseEverywhere(Bench& bench, Editor& editor) {
       if (Use(bench, Mutable(editor, control))) used.push_back(i);
     }
   };
-  auto* const tabs = dynamic_cast<TabStrip*>(editor.FindWidget("SSTab1"));
+  auto* const tabs = TabsOf(editor);
   if (tabs == nullptr) choose_in_sight();
   for (int page = 0; tabs != nullptr && page < tabs->Count(); ++page) {
     if (tabs->Choose(page) == Answer::kDone) choose_in_sight();

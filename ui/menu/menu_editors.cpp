@@ -4,6 +4,7 @@
 #include <array>
 
 #include "ui/record/frm_sequencing.h"
+#include "ui/record/macro/frm_macro.h"
 #include "ui/setup/alarm/frm_alarm.h"
 #include "ui/setup/frm_camera_setup.h"
 #include "ui/setup/frm_comm.h"
@@ -29,6 +30,7 @@ constexpr std::array kEditors = {
     MenuEditor{"mnuVCR", Create<frm_VCR>, EveryDevice},
     MenuEditor{"mnu_VArchive", Create<frm_VArchive>, EveryDevice},
     MenuEditor{"mnu_Sequence", Create<frm_Sequencing>, EveryDevice},
+    MenuEditor{"mnu_Macro", Create<frm_Macro>, EveryDevice},
     MenuEditor{"mnu_Telemetry", Create<frm_Telemetry>, EveryDevice},
     MenuEditor{"mnu_TimeDate", Create<frm_TimeDate>, EveryDevice, "TimeDate Error: "},
     MenuEditor{"mnu_Comm", Create<frm_Comm>, EveryDevice},
