@@ -44,6 +44,7 @@ constexpr Command kCommands[] = {
     {"release GRID FIRST LAST", 3, 3, commands::Release},
     {"mark GRID ROW", 2, 2, commands::Mark},
     {"empty GRID", 1, 1, commands::Empty},
+    {"paste GRID TEXT", 2, 2, commands::Paste},
     {"tab TABSTRIP PAGE", 2, 2, commands::Tab},
     {"close [WINDOW]", 0, 1, commands::Close},
     {"answer ok|cancel|file FILE|file cancel", 1, 2, commands::AnswerNext},

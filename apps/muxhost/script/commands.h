@@ -41,6 +41,7 @@ void Press(Desk& desk, Words words);
 void Release(Desk& desk, Words words);
 void Mark(Desk& desk, Words words);
 void Empty(Desk& desk, Words words);
+void Paste(Desk& desk, Words words);
 void Tab(Desk& desk, Words words);
 void Close(Desk& desk, Words words);
 void AnswerNext(Desk& desk, Words words);

@@ -128,6 +128,15 @@ void Empty(Desk& desk, Words words) {
   Require(answer, words[1]);
 }
 
+void Paste(Desk& desk, Words words) {
+  auto& grid = FindControlOf<Grid>(desk, words[1], "paste into");
+  const Answer answer = grid.Paste(words[2]);
+  if (answer == Answer::kNotAChoice || answer == Answer::kNoSuchPlace) {
+    throw ScriptError(grid.Owner().PasteRefusal(answer));
+  }
+  Require(answer, words[1]);
+}
+
 void Tab(Desk& desk, Words words) {
   const int page = Place("page", words[2]);
   Require(FindControlOf<TabStrip>(desk, words[1], "turn over").Choose(page), words[1]);

@@ -64,7 +64,7 @@ std::vector<std::string> SplitWords(std::string_view line) {
   while (true) {
     while (at < line.size() && IsBlank(line[at])) ++at;
     if (at == line.size() || line[at] == '#') return words;
-    const bool typed = !words.empty() && words.front() == "type";
+    const bool typed = !words.empty() && (words.front() == "type" || words.front() == "paste");
     at = TakeOneWord(line, at, typed, words.emplace_back());
   }
 }
