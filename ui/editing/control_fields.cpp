@@ -319,6 +319,8 @@ class ColumnField final : public ValueField {
     return editing_.TextOf(column_, value);
   }
   [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return grid_; }
+  [[nodiscard]] bool HasLine(int line) const override { return editing_.Has(RowOf(line), column_); }
+  [[nodiscard]] bool Waits(int line) const override { return editing_.Waits(RowOf(line), column_); }
   void TellPlace(int line, ShownSetting& shown) const override {
     shown.edited_by = editing_.ControlOf(column_);
     shown.row = RowOf(line);

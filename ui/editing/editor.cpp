@@ -41,6 +41,7 @@ Editor::Editor(Context& context, std::string name, int caption,
   SetCaption(Text(caption));
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
   SetEditsCellWords(Text(kTextEditsCells));
+  choose_a_value_ = Text(kTextChooseAValue);
 }
 
 std::vector<ShownSetting> Editor::ShownSettings() const {
@@ -72,6 +73,18 @@ void Editor::AddDoubt(Widget& control, Doubt doubt) {
   doubts_.push_back({control, std::move(doubt)});
 }
 
+bool Editor::CellsAreFilled() {
+  for (LineGrid* const grid : grids_) {
+    const std::string cell = grid->GoToWaitingCell();
+    if (cell.empty()) continue;
+    context_.platform.Ask(
+        {cell + '\r' + choose_a_value_, context_.texts.Objects().objstWarn, Message::Buttons::kOk});
+    if (Shown()) MoveFocus(grid->Cells());
+    return false;
+  }
+  return true;
+}
+
 bool Editor::DoubtsAreSettled() {
   std::string lines;
   Widget* first = nullptr;
@@ -90,7 +103,7 @@ bool Editor::DoubtsAreSettled() {
 }
 
 void Editor::Ok() {
-  if (BelongsToImage() && !DoubtsAreSettled()) return;
+  if (BelongsToImage() && (!CellsAreFilled() || !DoubtsAreSettled())) return;
   // The question, or a text source that is asked for a text, may close the editor or end the
   // control.
   if (!Shown() || context_.edges.terminated) return;

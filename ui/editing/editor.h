@@ -3,6 +3,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/commit.h"
@@ -28,6 +29,9 @@ class Editor : public Dialog, public EditorPart {
   [[nodiscard]] std::vector<ShownSetting> ShownSettings() const;
   /// Whether anything differs from when the editor opened.
   [[nodiscard]] bool Differs() const { return fields_.Differ(); }
+
+  /// Chooses an item of the menu that the editor offers, too. Set by the menu.
+  std::function<void(std::string_view item)> choose_item;
 
   /// Tells what is doubtful of what the user has typed into a control; empty for nothing. It asks
   /// for no texts.
@@ -56,6 +60,8 @@ class Editor : public Dialog, public EditorPart {
   friend class LineGrid;
   void Ok();
   void Write();
+  /// False, with a message, while a cell waits for a choice; it becomes the current one.
+  [[nodiscard]] bool CellsAreFilled();
   /// Asks about what is doubtful; false when the user goes back to it.
   [[nodiscard]] bool DoubtsAreSettled();
 
@@ -72,6 +78,7 @@ class Editor : public Dialog, public EditorPart {
   };
   std::vector<DoubtOf> doubts_;
   std::string store_like_this_;
+  std::string choose_a_value_;
 };
 
 }  // namespace quorvel

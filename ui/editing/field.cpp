@@ -46,13 +46,16 @@ int ValueField::Opened(int line) const {
 }
 
 int ValueField::Standing(int line) const {
+  if (!HasLine(line) || Waits(line)) return kNone;
   const int present = Present(line);
   return present == kNone ? Opened(line) : present;
 }
 
 void ValueField::Fill(MuxData& record, int line) {
   Filled filled{setting_.Access().Get(record, line), kNone};
-  filled.shown = Offers(filled.stored) ? filled.stored : setting_.ShownFor(filled.stored);
+  if (HasLine(line)) {
+    filled.shown = Offers(filled.stored) ? filled.stored : setting_.ShownFor(filled.stored);
+  }
   const auto place = static_cast<std::size_t>(line);
   if (filled_.capacity() == 0) filled_.reserve(kMostCameras);
   if (filled_.size() <= place) filled_.resize(place + 1);
@@ -62,9 +65,10 @@ void ValueField::Fill(MuxData& record, int line) {
 
 void ValueField::Write(MuxData& record, int line) {
   int value = Standing(line);
+  if (value == kNone) return;
   if (!Offers(value)) value = setting_.WrittenFor(value);
   const auto place = static_cast<std::size_t>(line);
-  if (place >= filled_.size() || value == kNone || value == filled_[place].stored) return;
+  if (place >= filled_.size() || value == filled_[place].stored) return;
   setting_.Access().Set(record, line, value);
 }
 

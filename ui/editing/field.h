@@ -89,6 +89,10 @@ class ValueField : public Field {
   [[nodiscard]] virtual bool Offers(int value) const = 0;
   [[nodiscard]] virtual std::string TextOf(int value) const = 0;
   [[nodiscard]] virtual const Widget& ControlOf(int line) const = 0;
+  /// False while the line has no such setting: it shows nothing and is not written.
+  [[nodiscard]] virtual bool HasLine(int /*line*/) const { return true; }
+  /// True while the user must choose before it can be written.
+  [[nodiscard]] virtual bool Waits(int /*line*/) const { return false; }
   /// Adds what a cell tells of its place.
   virtual void TellPlace(int /*line*/, ShownSetting& /*shown*/) const {}
 
@@ -96,11 +100,12 @@ class ValueField : public Field {
   void Write(MuxData& record, int line) override;
   void Tell(MuxData& record, int line, ShownSetting& shown) const override;
   [[nodiscard]] bool LineDiffers(int line) const override;
-  /// What the control was filled with.
+  /// What the control was filled with; kNone for a line that had no such setting.
   [[nodiscard]] int Opened(int line) const;
 
  private:
-  /// What the control stands at, or what it was filled with while the user has chosen nothing.
+  /// What the control stands at, or what it was filled with while the user has chosen nothing;
+  /// kNone where nothing is to be written.
   [[nodiscard]] int Standing(int line) const;
 
   struct Filled {

@@ -97,6 +97,17 @@ bool GridEditing::Offers(int column, int value) const {
   return binding != nullptr && binding->control->Offers(binding->PartOf(column), value);
 }
 
+bool GridEditing::Has(int row, int column) const {
+  const Binding* const binding = BindingOf(column);
+  return binding == nullptr || binding->Has(row);
+}
+
+bool GridEditing::Waits(int row, int column) const {
+  const Binding* const binding = BindingOf(column);
+  return binding != nullptr && binding->Has(row) && binding->rules.needs &&
+         binding->rules.needs(row) && ValueAt(row, column) == Grid::kNone;
+}
+
 const Widget* GridEditing::ControlOf(int column) const {
   const Binding* const binding = BindingOf(column);
   return binding == nullptr ? nullptr : &binding->control->Control();
@@ -123,16 +134,22 @@ void GridEditing::Show(const Binding& binding, int row, std::vector<int> values)
   shown_[&binding.control->Control()] = {&binding, row, std::move(values)};
 }
 
+std::vector<int> GridEditing::ValuesIn(const Binding& binding, int row) const {
+  std::vector<int> values;
+  for (const int column : binding.columns) values.push_back(ValueAt(row, column));
+  return values;
+}
+
+void GridEditing::ShowRow(const Binding& binding) {
+  const int row = grid_.Row();
+  const bool shows = binding.rules.shows == ColumnRules::Reach::kInRow ||
+                     binding.PartOf(grid_.Column()) != kNoPart;
+  if (shows && row >= grid_.HeaderRows()) Show(binding, row, ValuesIn(binding, row));
+}
+
 void GridEditing::ShowCell() {
   if (before_show) before_show();
-  for (const Binding& binding : bindings_) {
-    const bool shows = binding.rules.shows == ColumnRules::Reach::kInRow ||
-                       binding.PartOf(grid_.Column()) != kNoPart;
-    if (!shows || grid_.Row() < grid_.HeaderRows()) continue;
-    std::vector<int> values;
-    for (const int column : binding.columns) values.push_back(ValueAt(grid_.Row(), column));
-    Show(binding, grid_.Row(), std::move(values));
-  }
+  for (const Binding& binding : bindings_) ShowRow(binding);
   MarkControls();
   if (after_show) after_show();
 }
@@ -190,24 +207,54 @@ void GridEditing::WriteSelectedRows(const Binding& binding) {
   }
   if (values.front() == Grid::kNone) return;
   shown_[&binding.control->Control()] = {&binding, grid_.Row(), values};
-  PutIntoSelectedRows(binding, values);
+  PutIntoRows(binding, values, grid_.FirstSelected(), grid_.LastSelected());
+  // Where the current row has not taken it, the control goes on showing what is there.
+  if (ValuesIn(binding, grid_.Row()) != values) ShowRow(binding);
 }
 
-void GridEditing::PutIntoSelectedRows(const Binding& binding, const std::vector<int>& values) {
-  const int last = grid_.LastSelected();
-  for (int row = std::max(grid_.FirstSelected(), grid_.HeaderRows()); row <= last; ++row) {
+void GridEditing::PutIntoRows(const Binding& binding, const std::vector<int>& values, int first,
+                              int last) {
+  bool taken = false;
+  for (int row = std::max(first, grid_.HeaderRows()); row <= last; ++row) {
     if (!binding.Takes(row)) continue;
+    taken = true;
     for (std::size_t part = 0; part < values.size(); ++part) {
       SetValue(row, binding.columns.at(part), values[part]);
     }
-    if (binding.rules.written) binding.rules.written(row);
+    FollowUp(binding, row);
   }
+  if (taken) MoveTo(binding);
   if (binding.rules.chosen) binding.rules.chosen();
+}
+
+void GridEditing::FollowUp(const Binding& binding, int row) {
+  if (binding.rules.written) binding.rules.written(row);
+  for (const Binding& it : bindings_) {
+    if (it.Has(row)) continue;
+    for (const int column : it.columns) SetValue(row, column, Grid::kNone);
+    if (row == grid_.Row()) ShowRow(it);
+  }
+}
+
+void GridEditing::MoveTo(const Binding& binding) {
+  if (!binding.rules.moves || binding.PartOf(grid_.Column()) != kNoPart) return;
+  grid_.SetColumn(binding.columns.front());
+  MarkControls();
+}
+
+void GridEditing::ChooseInAllRows(int column, int value) {
+  const Binding* const binding = BindingOf(column);
+  if (binding == nullptr) return;
+  PutIntoRows(*binding, std::vector<int>(binding->columns.size(), value), grid_.HeaderRows(),
+              grid_.Rows() - 1);
+  ShowRow(*binding);
 }
 
 bool GridEditing::Takes(int row, int column, const std::string& text) const {
   const Binding* const binding = BindingOf(column);
-  if (binding == nullptr || !binding->Takes(row)) return false;
+  if (binding == nullptr) return false;
+  if (!binding->Has(row)) return text.empty();  // as it is: rows can be copied whole
+  if (!binding->Takes(row)) return false;
   return text == grid_.Cell(row, column) || binding->ValueOf(column, text).has_value();
 }
 
@@ -215,7 +262,7 @@ void GridEditing::Paste(int row, int column, const std::string& text) {
   if (text == grid_.Cell(row, column)) return;  // its value, one of several of that text, stays
   const Binding& binding = *BindingOf(column);
   SetValue(row, column, binding.ValueOf(column, text).value_or(Grid::kNone));
-  if (binding.rules.written) binding.rules.written(row);
+  FollowUp(binding, row);
   if (binding.rules.chosen) binding.rules.chosen();
   if (row == grid_.Row()) ShowCell();
 }
@@ -231,7 +278,8 @@ void GridEditing::EmptySelectedRows() {
   for (const Binding& binding : bindings_) {
     const bool meant = empties_ == Empties::kRows || binding.PartOf(grid_.Column()) != kNoPart;
     if (!meant || !binding.rules.empty) continue;
-    PutIntoSelectedRows(binding, std::vector<int>(binding.columns.size(), *binding.rules.empty));
+    PutIntoRows(binding, std::vector<int>(binding.columns.size(), *binding.rules.empty),
+                grid_.FirstSelected(), grid_.LastSelected());
   }
   ShowCell();
 }

@@ -31,6 +31,13 @@ struct ColumnRules {
   /// The value of a cell that is emptied, by Delete or by pasting a text that reads like it; none:
   /// cells of the column cannot be emptied.
   std::optional<int> empty = {};
+  /// A choice makes its column current.
+  bool moves = false;
+  /// False for a row that lacks the column: its cell is empty, takes nothing and is not written. A
+  /// choice that takes the column from a row empties the cell.
+  std::function<bool(int row)> has = {};
+  /// True for a row whose cell must hold a value. OK is refused while it is empty.
+  std::function<bool(int row)> needs = {};
 };
 
 /// Edits a grid through controls beside it, one for each editable column. A press on a cell makes
@@ -79,11 +86,18 @@ class GridEditing {
   void GoTo(int row, int column);
   /// Makes the controls show the current cell again, after the editor has changed cells.
   void ShowCell();
+  /// Puts a value into every row that takes it, as one choice of the column's control does into the
+  /// selected ones.
+  void ChooseInAllRows(int column, int value);
   /// Fills a cell of a bound column with a value of the device; kNone makes it empty.
   void SetValue(int row, int column, int value);
   /// The value that a cell stands for, or Grid::kNone; and whether a column's control offers one.
   [[nodiscard]] int ValueAt(int row, int column) const { return grid_.Value(row, column); }
   [[nodiscard]] bool Offers(int column, int value) const;
+  /// False where the row lacks the column.
+  [[nodiscard]] bool Has(int row, int column) const;
+  /// True where OK has to wait for a choice.
+  [[nodiscard]] bool Waits(int row, int column) const;
   /// The control that edits a column, the first of two; none for a column that is not bound.
   [[nodiscard]] const Widget* ControlOf(int column) const;
   /// How a value reads in a cell of a bound column.
@@ -97,7 +111,10 @@ class GridEditing {
     /// Which of its columns this is, or kNoPart.
     [[nodiscard]] int PartOf(int column) const;
     [[nodiscard]] int Parts() const { return static_cast<int>(columns.size()); }
-    [[nodiscard]] bool Takes(int row) const { return !rules.takes || rules.takes(row); }
+    [[nodiscard]] bool Has(int row) const { return !rules.has || rules.has(row); }
+    [[nodiscard]] bool Takes(int row) const {
+      return Has(row) && (!rules.takes || rules.takes(row));
+    }
     /// The value that a pasted text puts into a column, if it can be put there.
     [[nodiscard]] std::optional<int> ValueOf(int column, const std::string& text) const;
   };
@@ -109,13 +126,19 @@ class GridEditing {
   /// True when a choice is written while this column is current.
   [[nodiscard]] static bool WritesNow(const Binding& binding, int column);
   void Show(const Binding& binding, int row, std::vector<int> values);
+  /// Makes a control that shows the current row show it again.
+  void ShowRow(const Binding& binding);
+  [[nodiscard]] std::vector<int> ValuesIn(const Binding& binding, int row) const;
   void MarkControls();
   void Mark(Widget& control);
   void WriteChoice(const Widget& control);
   void TakeBack(const Widget& control);
   void WriteSelectedRows(const Binding& binding);
-  /// Puts a value for each part into the selected rows that take it.
-  void PutIntoSelectedRows(const Binding& binding, const std::vector<int>& values);
+  /// Puts a value for each part into the rows that take it.
+  void PutIntoRows(const Binding& binding, const std::vector<int>& values, int first, int last);
+  /// After a cell of the row was written.
+  void FollowUp(const Binding& binding, int row);
+  void MoveTo(const Binding& binding);
   [[nodiscard]] bool Takes(int row, int column, const std::string& text) const;
   void Paste(int row, int column, const std::string& text);
   [[nodiscard]] bool CanEmpty() const;

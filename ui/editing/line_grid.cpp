@@ -34,6 +34,17 @@ int LineGrid::AddColumn(const std::string& header, const std::string& below) {
   return column;
 }
 
+std::string LineGrid::GoToWaitingCell() {
+  for (int row = grid_.HeaderRows(); row < grid_.Rows(); ++row) {
+    for (int column = 1; column < grid_.Columns(); ++column) {
+      if (!editing_.Waits(row, column)) continue;
+      editing_.GoTo(row, column);
+      return grid_.Cell(0, 0) + " " + grid_.Cell(row, 0) + ": " + grid_.ColumnName(column);
+    }
+  }
+  return {};
+}
+
 Field& LineGrid::AddField(int column, SettingRef setting) {
   return group_.Column(editing_, grid_, column, std::move(setting));
 }

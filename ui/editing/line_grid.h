@@ -45,6 +45,10 @@ class LineGrid {
 
   /// Makes the first cell current, as when the page comes to the front.
   void GoToStart() { editing_.GoTo(grid_.HeaderRows(), 1); }
+  /// Makes the first cell current that waits for a choice, and tells which: "Camera 3: Target
+  /// Size". Empty when there is none.
+  [[nodiscard]] std::string GoToWaitingCell();
+  [[nodiscard]] Grid& Cells() { return grid_; }
   [[nodiscard]] bool Showing() const { return grid_.Showing(); }
   [[nodiscard]] GridEditing& Editing() { return editing_; }
 

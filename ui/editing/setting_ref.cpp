@@ -82,6 +82,28 @@ class BitsAccess final : public SettingAccess<int> {
   std::vector<int> bits_;
 };
 
+class AccessWhere final : public SettingAccess<int> {
+ public:
+  using Holds = std::function<bool(MuxData&, int)>;
+  AccessWhere(std::shared_ptr<const SettingAccess<int>> setting, Holds holds, int otherwise)
+      : setting_(std::move(setting)), holds_(std::move(holds)), otherwise_(otherwise) {}
+
+  [[nodiscard]] int Get(MuxData& record, int line) const override {
+    return holds_(record, line) ? setting_->Get(record, line) : otherwise_;
+  }
+  void Set(MuxData& record, int line, int value) const override {
+    if (holds_(record, line)) setting_->Set(record, line, value);
+  }
+  void AddNames(MuxData& record, int line, std::vector<std::string>& names) const override {
+    setting_->AddNames(record, line, names);
+  }
+
+ private:
+  std::shared_ptr<const SettingAccess<int>> setting_;
+  Holds holds_;
+  int otherwise_;
+};
+
 }  // namespace
 
 SettingRef SettingRef::Otherwise(int value) const {
@@ -94,6 +116,12 @@ SettingRef SettingRef::Otherwise(int value) const {
 SettingRef SettingRef::OtherwiseWritten(int value) const {
   SettingRef ref = *this;
   ref.written_ = value;
+  return ref;
+}
+
+SettingRef SettingRef::Where(std::function<bool(MuxData&, int)> holds, int value) const {
+  SettingRef ref = *this;
+  ref.access_ = std::make_shared<AccessWhere>(access_, std::move(holds), value);
   return ref;
 }
 

@@ -41,6 +41,9 @@ class SettingRef {
   /// One that it does not offer is shown as nothing, and becomes `value` on OK. Without either, it
   /// is shown as nothing and stays until the user chooses.
   [[nodiscard]] SettingRef OtherwiseWritten(int value) const;
+  /// A line of which this does not hold reads as `value` and is not written.
+  [[nodiscard]] SettingRef Where(std::function<bool(MuxData& record, int line)> holds,
+                                 int value) const;
 
   [[nodiscard]] const SettingAccess<int>& Access() const { return *access_; }
   /// What to show instead of a value that is not offered, and what to write; the value itself

@@ -92,6 +92,11 @@ void Grid::SetCurrent(int row, int column) {
   Redraw(Aspect::kSelection);
 }
 
+void Grid::SetColumn(int column) {
+  column_ = std::clamp(column, 0, columns_ - 1);
+  Redraw(Aspect::kSelection);
+}
+
 Answer Grid::Press(int row, int column) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;

@@ -71,6 +71,8 @@ class Grid : public Widget {
   void SetCell(int row, int column, std::string text, int value = kNone);
   /// Makes one cell current, without a selection beyond it.
   void SetCurrent(int row, int column);
+  /// Makes another column current; the selected rows stay.
+  void SetColumn(int column);
 
   /// Press on a cell below the header: it becomes current.
   Answer Press(int row, int column);
