@@ -18,11 +18,12 @@ namespace {
 /// Settings that OK writes anew where the device holds what no control offers: what the device's
 /// own rules of writing say.
 const std::string kPutRight = R"(
-AlarmInfo.Enable AlarmInfo.ExtAlmAction AlarmInfo.InputConf AlarmMode AlmActionInfo.Freeze
-AlmActionInfo.GateIntrus AlmActionInfo.Relay ArchPortSelect AutoDisable BaudRate BaudRatePPC
-Buzzer CamInfo.TextPos DvrArchAlm ExtCam_SwAct FullScrResolution MatrixInfo.GroupSetup
-MatrixInfo.GroupSwEnable PlaybackFormat PlaybackOld PreAlDuration PresetMode PresetPGM SVHS_MonB
-SwitchEdge TelAC_DC TelEnable Tel_options TransmitSpiTime VCRType VCR_Signal_Level
+ActIndicate ActivityType AlarmInfo.Enable AlarmInfo.ExtAlmAction AlarmInfo.InputConf AlarmMode
+AlmActionInfo.Freeze AlmActionInfo.GateIntrus AlmActionInfo.Relay ArchPortSelect AutoDisable
+BaudRate BaudRatePPC Buzzer CamInfo.Reject CamInfo.TextPos DvrArchAlm ExtCam_SwAct
+FullScrResolution MatrixInfo.GroupSetup MatrixInfo.GroupSwEnable PlaybackFormat PlaybackOld
+PreAlDuration PresetMode PresetPGM SVHS_MonB SwitchEdge TelAC_DC TelEnable Tel_options
+TransmitSpiTime VCRType VCR_Signal_Level
 )";
 
 bool IsPutRight(const std::string& name) {

@@ -6,6 +6,7 @@
 #include "core/commit.h"
 #include "resources/text_table.h"
 #include "ui/context.h"
+#include "ui/editing/editor.h"
 #include "ui/menu/frm_msg.h"
 #include "ui/menu/menu_items.h"
 #include "ui/widgets/failure.h"
@@ -183,7 +184,11 @@ void frm_Menu::OpenEditor(std::string_view item) {
   if (editor == nullptr) return;
   std::shared_ptr<Dialog>& place = open_[editor];
   try {
-    if (place == nullptr) place = editor->create(context_);
+    if (place == nullptr) {
+      const auto created = editor->create(context_);
+      created->choose_item = [this](std::string_view other) { ChooseFromEditor(other); };
+      place = created;
+    }
   } catch (...) {
     if (editor->failure.empty()) throw;
     TellFailure(context_.platform, editor->failure);
@@ -195,9 +200,21 @@ void frm_Menu::OpenEditor(std::string_view item) {
 void frm_Menu::Show(std::shared_ptr<Dialog>& place) {
   place->on_closed = [this, &place] {
     place.reset();
-    PopUpSoon();
+    // What an editor has opened goes back to the editor.
+    if (!IsOpen()) PopUpSoon();
   };
   place->Show();
+}
+
+bool frm_Menu::IsOpen() const {
+  const auto open = [](const auto& it) { return it.second != nullptr; };
+  return fMsg != nullptr || std::any_of(open_.begin(), open_.end(), open);
+}
+
+void frm_Menu::ChooseFromEditor(std::string_view item) {
+  const auto keep = shared_from_this();  // the host may end the control meanwhile
+  const Handler action = menu_->Item(item).on_choose;
+  if (action) action();
 }
 
 void frm_Menu::ChooseLanguage(int code) {

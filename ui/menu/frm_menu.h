@@ -47,6 +47,10 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   void OpenEditor(std::string_view item);
   /// Shows a dialog that the menu keeps in `place` until it closes.
   void Show(std::shared_ptr<Dialog>& place);
+  /// Whether a dialog of the menu is on screen.
+  [[nodiscard]] bool IsOpen() const;
+  /// An item that an editor offers, too.
+  void ChooseFromEditor(std::string_view item);
   void ChooseLanguage(int code);
   void LockKeyboard(bool lock);
   void ChooseActiveZones();

@@ -8,6 +8,7 @@
 #include "ui/setup/alarm/frm_alarm.h"
 #include "ui/setup/frm_camera_setup.h"
 #include "ui/setup/frm_comm.h"
+#include "ui/setup/frm_mdetect.h"
 #include "ui/setup/frm_telemetry.h"
 #include "ui/setup/frm_time_date.h"
 #include "ui/setup/frm_varchive.h"
@@ -17,15 +18,16 @@ namespace quorvel {
 
 namespace {
 
-template <class Editor>
-std::shared_ptr<Dialog> Create(Context& context) {
-  return std::make_shared<Editor>(context);
+template <class AnEditor>
+std::shared_ptr<Editor> Create(Context& context) {
+  return std::make_shared<AnEditor>(context);
 }
 
 bool EveryDevice(const Identity& /*device*/) { return true; }
 
 constexpr std::array kEditors = {
     MenuEditor{"mnu_Alarm", Create<frm_Alarm>, EveryDevice},
+    MenuEditor{"mnuMTSetup", Create<frm_MDetect>, EveryDevice},
     MenuEditor{"mnu_CSetup", Create<frm_CameraSetup>, EveryDevice},
     MenuEditor{"mnuVCR", Create<frm_VCR>, EveryDevice},
     MenuEditor{"mnu_VArchive", Create<frm_VArchive>, EveryDevice},

@@ -10,11 +10,12 @@
 namespace quorvel {
 
 struct Context;
+class Editor;
 
 /// An editor and the item of the menu that opens it.
 struct MenuEditor {
   std::string_view item;
-  std::shared_ptr<Dialog> (*create)(Context&);
+  std::shared_ptr<Editor> (*create)(Context&);
   /// Whether it is the item's editor for a device: an item may have one for each kind of model.
   bool (*serves)(const Identity& device);
   /// What the message begins with when it does not open, in place of "Error found in " and the
