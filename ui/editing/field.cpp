@@ -51,10 +51,15 @@ int ValueField::Standing(int line) const {
   return present == kNone ? Opened(line) : present;
 }
 
+/// Looking a value up takes long: only where something else is to stand for it.
+int ValueField::OfferedOr(int value, int instead) const {
+  return instead == value || Offers(value) ? value : instead;
+}
+
 void ValueField::Fill(MuxData& record, int line) {
   Filled filled{setting_.Access().Get(record, line), kNone};
   if (HasLine(line)) {
-    filled.shown = Offers(filled.stored) ? filled.stored : setting_.ShownFor(filled.stored);
+    filled.shown = OfferedOr(filled.stored, setting_.ShownFor(filled.stored));
   }
   const auto place = static_cast<std::size_t>(line);
   if (filled_.capacity() == 0) filled_.reserve(kMostCameras);
@@ -66,7 +71,7 @@ void ValueField::Fill(MuxData& record, int line) {
 void ValueField::Write(MuxData& record, int line) {
   int value = Standing(line);
   if (value == kNone) return;
-  if (!Offers(value)) value = setting_.WrittenFor(value);
+  value = OfferedOr(value, setting_.WrittenFor(value));
   const auto place = static_cast<std::size_t>(line);
   if (place >= filled_.size() || value == filled_[place].stored) return;
   setting_.Access().Set(record, line, value);

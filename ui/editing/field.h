@@ -107,6 +107,8 @@ class ValueField : public Field {
   /// What the control stands at, or what it was filled with while the user has chosen nothing;
   /// kNone where nothing is to be written.
   [[nodiscard]] int Standing(int line) const;
+  /// The value where the control offers it, else `instead`.
+  [[nodiscard]] int OfferedOr(int value, int instead) const;
 
   struct Filled {
     int stored = kNone;  ///< the setting's value

@@ -59,6 +59,7 @@ Choices SubmacroPage::StepCodes() {
     }
     codes.Add(code, std::move(text));
   }
+  codes.Reads(kNoStep, "");
   return codes;
 }
 

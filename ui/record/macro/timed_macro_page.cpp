@@ -19,7 +19,7 @@ TimedMacroPage::TimedMacroPage(Editor& editor) : EditorPage(editor) {
   const int never = 0;
   Choices days{{never, Words().cnstrNone}};
   for (int day = 0; day < kDaysOfWeek; ++day) days.Add(day + 1, Words().ctDayOfWeek(day));
-  days.Add(days.Count(), "**");
+  days.Add(days.Count(), "**");  // every day
   starts_.Column(Label1.Caption(), lstDay, days, OfTimedMacro(&clsTimedMacro::Day),
                  {.empty = never});
   const int hour = starts_.AddColumn(Text(txt::kHour));
@@ -33,8 +33,9 @@ TimedMacroPage::TimedMacroPage(Editor& editor) : EditorPage(editor) {
 }
 
 Layout TimedMacroPage::Contents() {
-  return Row(MSFG_TimeMacro, Column(Labelled(Label1, lstDay), Labelled(Label2, DTPicker1),
-                                    Labelled(Label3, lstMacro), Stretch()));
+  return Row(MSFG_TimeMacro,
+             Column(Labelled(Label1, lstDay), Labelled(Label2, DTPicker1), Stretch()),
+             Labelled(Label3, lstMacro));
 }
 
 }  // namespace quorvel
