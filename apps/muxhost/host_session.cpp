@@ -144,6 +144,11 @@ std::optional<std::vector<Byte>> HostSession::ReadZones(int camera) {
   return zones_;
 }
 
+bool HostSession::DetectsMotion(int camera) const {
+  const auto lines = control_->Settings("ActivityEnable(" + std::to_string(camera) + ")");
+  return lines.empty() || lines.front().value != "0";
+}
+
 void HostSession::WriteZones(int camera, std::span<const Byte> zones) {
   std::vector<Byte> data{static_cast<Byte>(camera)};
   data.insert(data.end(), zones.begin(), zones.end());

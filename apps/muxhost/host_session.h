@@ -70,6 +70,9 @@ class HostSession final : public MainMenuEvents {
   void OpenMenu();
   /// Command 17: the 32 bytes of a camera's activity grid; nothing when there is no such camera.
   [[nodiscard]] std::optional<std::vector<Byte>> ReadZones(int camera);
+  /// Whether a camera detects motion, as the control holds it: otherwise its zones mean nothing. Of
+  /// a camera that there is not, it does.
+  [[nodiscard]] bool DetectsMotion(int camera) const;
   /// Hands an edited grid of 32 bytes to the control, which lists the blocks that change.
   void WriteZones(int camera, std::span<const Byte> zones);
 

@@ -179,6 +179,35 @@ TEST_F(MuxhostZones, ChangesAreLostOnlyWhenTheUserSaysSo) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return editor_.isNull(); }));
 }
 
+TEST_F(MuxhostZones, CamerasWithoutMotionDetectionAreMarkedAndItsEditorOpensTheZones) {
+  Choose("mnuMTSetup");
+  QTest::keyClick(Find<QAbstractButton>(OnScreen("frm_MDetect"), "Disable All"), Qt::Key_Space);
+  const auto note = [this] {
+    return Find<QLabel>(editor_,
+                        "This camera does not detect motion: its zones have no effect "
+                        "until the menu's motion detection enables it.");
+  };
+  const auto open_from_editor = [this] {
+    QTest::mouseClick(Find(OnScreen("frm_MDetect"), "Setup Active zones"), Qt::LeftButton);
+    editor_ = OnScreen("ZoneEditor");
+    grid_ = editor_->findChild<ZoneGrid*>();
+    cameras_ = Find<QListWidget>(editor_, "Cameras");
+  };
+  open_from_editor();
+  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1") << "the window has not been accepted";
+  EXPECT_FALSE(note()->isVisible());
+  Press("Cancel");
+  QTest::mouseClick(Find(OnScreen("frm_MDetect"), "OK"), Qt::LeftButton);
+  Choose("mnuMTSetup");
+  open_from_editor();
+  EXPECT_EQ(cameras_->item(15)->text(), "Camera 16, no motion detection");
+  EXPECT_TRUE(note()->isVisible());
+  QTest::keyClick(grid_, Qt::Key_Space);
+  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1, no motion detection, changed");
+  Press("OK");
+  EXPECT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{49, 85}));
+}
+
 TEST_F(MuxhostZones, CloseOfTheHostTakesTheEditorAlong) {
   Open();
   Press("All");

@@ -183,6 +183,33 @@ TEST_F(Editing, ControlsReachTheirColumnOrTheWholeRow) {
   EXPECT_EQ(desk_->TextsOf(1) + desk_->TextsOf(2), "||||Macro 1|Macro 1|Macro 1||");
 }
 
+TEST_F(Editing, ARowMayLackAColumnAndACellMayHaveToBeFilled) {
+  GridEditing editing(desk_->grid, GridEditing::Release::kSelects);
+  const auto odd = [&](int row) { return editing.ValueAt(row, 1) == 1; };
+  ColumnRules rules{.shows = Reach::kInRow, .writes = Reach::kInRow, .moves = true};
+  editing.Bind(1, desk_->list, Desk::Macros(), rules);
+  rules.has = rules.needs = odd;
+  editing.Bind(2, desk_->slider, desk_->shown, rules);
+  for (int row = 1; row <= 4; ++row) editing.SetValue(row, 1, row % 2);
+  for (const int row : {1, 3}) editing.SetValue(row, 2, 4);
+  Press(2, 1);
+  desk_->slider.Slide(5);
+  EXPECT_EQ(desk_->shown.Caption() + desk_->TextsOf(2), "4||4||") << "nothing to choose";
+  EXPECT_EQ(desk_->grid.Column(), 1);
+  desk_->grid.Release(2, 4);
+  desk_->slider.Slide(5);
+  EXPECT_EQ(desk_->shown.Caption() + desk_->TextsOf(2), "4||5||");
+  EXPECT_EQ(std::make_pair(desk_->grid.Column(), desk_->grid.LastSelected()), std::make_pair(2, 4));
+  editing.ChooseInAllRows(1, 1);
+  EXPECT_EQ(desk_->TextsOf(1), "Macro 1|Macro 1|Macro 1|Macro 1|");
+  EXPECT_EQ(editing.Waits(2, 2) * 10 + editing.Waits(3, 2), 10);
+  Press(3, 1);
+  desk_->list.Choose(3);
+  EXPECT_EQ(desk_->TextsOf(2), "4||||") << "the row has lost the column";
+  EXPECT_EQ(desk_->grid.Paste("Macro 3\t"), Answer::kDone);
+  EXPECT_EQ(desk_->grid.Paste("Macro 3\t4"), Answer::kNotAChoice);
+}
+
 TEST_F(Editing, AControlOfAnotherColumnIsNotMarkedAndChoosesNothing) {
   GridEditing editing(desk_->grid);
   desk_->SetEditsCellWords("Edits ");

@@ -33,6 +33,12 @@ bool RecordsEvents(MuxData& record, int camera) {
   return events != nullptr && (events->EType() == 1 || events->EType() == 2);
 }
 
+/// The controls show the whole row; a choice is written whatever column is current.
+ColumnRules WholeRow() {
+  using Reach = ColumnRules::Reach;
+  return {.shows = Reach::kInRow, .writes = Reach::kInRow, .moves = true};
+}
+
 }  // namespace
 
 frm_MDetect::frm_MDetect(Context& context)
@@ -44,11 +50,10 @@ frm_MDetect::frm_MDetect(Context& context)
   BindAllCameras();
   if (!Id().Model4L) BindIntrusion();
   BindActivity();
-  cameras_.Bind(
-      kSensitivityColumn, lSen,
-      Choices::Numbers(1, 10, 0).OthersRead([](int value) { return std::to_string(value + 1); }),
-      OfCamera(&Cameras::Sensitivity),
-      {.shows = ColumnRules::Reach::kInRow, .writes = ColumnRules::Reach::kInRow, .moves = true});
+  cameras_.Bind(kSensitivityColumn, lSen, Choices::Numbers(1, 10, 0).OthersRead([](int value) {
+    return std::to_string(value + 1);
+  }),
+                OfCamera(&Cameras::Sensitivity), WholeRow());
   cmdActGrid.on_click = [this] {
     if (choose_item) choose_item("mnuActGrid");
   };
@@ -81,24 +86,20 @@ ColumnRules frm_MDetect::RulesOf(Kind kind) {
   const auto is_of_kind = [this, kind](int row) {
     return cameras_.Editing().ValueAt(row, kKindColumn) == kind;
   };
-  return {.shows = ColumnRules::Reach::kInRow,
-          .writes = ColumnRules::Reach::kInRow,
-          .moves = true,
-          .has = is_of_kind,
-          .needs = is_of_kind};
+  ColumnRules rules = WholeRow();
+  rules.has = rules.needs = is_of_kind;
+  return rules;
 }
 
 void frm_MDetect::BindAllCameras() {
-  const ColumnRules rules{
-      .shows = ColumnRules::Reach::kInRow, .writes = ColumnRules::Reach::kInRow, .moves = true};
-  ColumnRules enable = rules;
+  ColumnRules enable = WholeRow();
   enable.chosen = [this] { optEnable.Select(kIndividual); };
   cameras_.Bind(kEnableColumn, lEnble, DisableEnable(), At(&MuxData::ActivityEnable), enable);
   // Without intrusion every camera is one of activity, and is stored so.
   Choices kinds{{kActivity, Words().cnstrActivity}};
   if (!Id().Model4L) kinds.Add(kIntrusion, Words().cnstrIntrus);
   cameras_.Bind(kKindColumn, lActInt, kinds, At(&MuxData::ActivityType).Otherwise(kActivity),
-                rules);
+                WholeRow());
 
   optEnable.SetCaptions(
       {Text(txt::kEnableAll), Text(txt::kDisableAll), Text(txt::kIndividualEnable)});

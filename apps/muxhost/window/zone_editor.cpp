@@ -13,6 +13,9 @@ namespace quorvel::muxhost {
 
 namespace {
 
+constexpr const char* kWithoutMotion = ", no motion detection";
+constexpr const char* kChanged = ", changed";
+
 QString NameOf(int camera) { return QString("Camera %1").arg(camera + 1); }
 
 QPushButton* MakeButton(const char* text, const char* tool_tip) {
@@ -31,6 +34,8 @@ ZoneEditor::ZoneEditor(HostSession& session, int cameras, QWidget* parent)
       cameras_(new QListWidget),
       grid_(new ZoneGrid),
       count_(new QLabel),
+      without_motion_(new QLabel("This camera does not detect motion: its zones have no effect "
+                                 "until the menu's motion detection enables it.")),
       all_(MakeButton("All", "Makes every cell of this camera active")),
       none_(MakeButton("None", "Makes no cell of this camera active")),
       undo_(MakeButton("Undo", "Takes this camera's last change back (Ctrl+Z)")) {
@@ -42,7 +47,10 @@ ZoneEditor::ZoneEditor(HostSession& session, int cameras, QWidget* parent)
   sides->addWidget(MakeGridSide(), 1);
   column->addLayout(sides, 1);
   column->addLayout(MakeEndButtons());
-  for (int camera = 0; camera < cameras; ++camera) cameras_->addItem(NameOf(camera));
+  for (int camera = 0; camera < cameras; ++camera) {
+    cameras_->addItem(NameOf(camera));
+    ShowName(camera, false);
+  }
   QObject::connect(cameras_, &QListWidget::currentRowChanged, this, [this] { ShowChosen(); });
   cameras_->setCurrentRow(0);
   grid_->setFocus();
@@ -58,9 +66,9 @@ QWidget* ZoneEditor::MakeCameraSide() {
   column->addWidget(cameras_);
   cameras_->setAccessibleName("Cameras");
   constexpr int kBesideText = 40;  // the scroll bar and the list's borders
-  cameras_->setFixedWidth(
-      cameras_->fontMetrics().horizontalAdvance(NameOf(ZoneCells::kSide) + ", changed") +
-      kBesideText);
+  cameras_->setFixedWidth(cameras_->fontMetrics().horizontalAdvance(NameOf(kMostCameras - 1) +
+                                                                    kWithoutMotion + kChanged) +
+                          kBesideText);
   return side;
 }
 
@@ -69,6 +77,8 @@ QWidget* ZoneEditor::MakeGridSide() {
   auto* const column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(count_);
+  without_motion_->setWordWrap(true);
+  column->addWidget(without_motion_);
   column->addWidget(grid_, 1);
   auto* const how =
       new QLabel("Click, or drag over cells. Keys: arrows, Space, Shift with arrows.");
@@ -124,16 +134,23 @@ void ZoneEditor::ShowChosen() {
   ShowCells();
 }
 
+void ZoneEditor::ShowName(int number, bool changed) {
+  QString text = NameOf(number);
+  if (!session_.DetectsMotion(number)) text += kWithoutMotion;
+  if (changed) text += kChanged;
+  cameras_->item(number)->setText(text);
+}
+
 void ZoneEditor::ShowCells() {
   const Camera* const camera = Chosen();
   undo_->setEnabled(camera != nullptr && !camera->before.empty());
+  without_motion_->setVisible(camera != nullptr && !session_.DetectsMotion(cameras_->currentRow()));
   if (camera == nullptr) {
     count_->setText("The control has no such camera.");
     return;
   }
   const int number = cameras_->currentRow();
-  const bool changed = camera->cells != camera->from_control;
-  cameras_->currentItem()->setText(NameOf(number) + (changed ? ", changed" : ""));
+  ShowName(number, camera->cells != camera->from_control);
   grid_->setAccessibleName("Zones of camera " + QString::number(number + 1));
   count_->setText(QString("%1: %2 of %3 cells active")
                       .arg(NameOf(number))

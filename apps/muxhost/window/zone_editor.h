@@ -12,7 +12,8 @@
 
 namespace quorvel::muxhost {
 
-/// The host's editor of the cameras' activity grids. OK hands the grids that were changed to the
+/// The host's editor of the cameras' activity grids. It marks cameras that do not detect motion,
+/// whose zones mean nothing until they do. OK hands the grids that were changed to the
 /// control; before that the control knows nothing of the changes.
 class ZoneEditor : public QDialog {
  public:
@@ -42,6 +43,7 @@ class ZoneEditor : public QDialog {
   [[nodiscard]] Camera* Chosen();
   void ShowChosen();
   void ShowCells();
+  void ShowName(int number, bool changed);
   /// The cells on screen were changed for the chosen camera.
   void TakeChange(const ZoneCells& before);
   void Fill(bool active);
@@ -52,6 +54,7 @@ class ZoneEditor : public QDialog {
   QListWidget* const cameras_;
   ZoneGrid* const grid_;
   QLabel* const count_;
+  QLabel* const without_motion_;
   QPushButton* const all_;
   QPushButton* const none_;
   QPushButton* const undo_;
