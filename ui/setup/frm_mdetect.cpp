@@ -24,6 +24,7 @@ enum MotionColumn : int {
 constexpr int kEnableAll = 0, kDisableAll = 1, kIndividual = 2;  // of optEnable
 constexpr int kWiderBy = 2;  // characters: the columns of a grid without intrusion
 constexpr int kNoLink = 2;   // in the column of links: the camera records no events
+constexpr int kSensitivities = 10;
 constexpr int kTargetSizes = 255;
 constexpr int kLines = 4;
 
@@ -31,6 +32,13 @@ constexpr int kLines = 4;
 bool RecordsEvents(MuxData& record, int camera) {
   const auto* const events = record.CamEvent(camera);
   return events != nullptr && (events->EType() == 1 || events->EType() == 2);
+}
+
+/// Shown as 1, 2, ...; a value behind the last is counted on.
+Choices CountedFrom(int first_value, int count) {
+  return Choices::Numbers(1, count, first_value).OthersRead([first_value](int value) {
+    return std::to_string(value - first_value + 1);
+  });
 }
 
 /// The controls show the whole row; a choice is written whatever column is current.
@@ -50,9 +58,7 @@ frm_MDetect::frm_MDetect(Context& context)
   BindAllCameras();
   if (!Id().Model4L) BindIntrusion();
   BindActivity();
-  cameras_.Bind(kSensitivityColumn, lSen, Choices::Numbers(1, 10, 0).OthersRead([](int value) {
-    return std::to_string(value + 1);
-  }),
+  cameras_.Bind(kSensitivityColumn, lSen, CountedFrom(0, kSensitivities),
                 OfCamera(&Cameras::Sensitivity), WholeRow());
   cmdActGrid.on_click = [this] {
     if (choose_item) choose_item("mnuActGrid");
@@ -95,7 +101,8 @@ void frm_MDetect::BindAllCameras() {
   ColumnRules enable = WholeRow();
   enable.chosen = [this] { optEnable.Select(kIndividual); };
   cameras_.Bind(kEnableColumn, lEnble, DisableEnable(), At(&MuxData::ActivityEnable), enable);
-  // Without intrusion every camera is one of activity, and is stored so.
+  // The columns of a kind ask for it while they are filled: it comes before them. Without intrusion
+  // every camera is one of activity, and is stored so.
   Choices kinds{{kActivity, Words().cnstrActivity}};
   if (!Id().Model4L) kinds.Add(kIntrusion, Words().cnstrIntrus);
   cameras_.Bind(kKindColumn, lActInt, kinds, At(&MuxData::ActivityType).Otherwise(kActivity),
@@ -121,11 +128,8 @@ void frm_MDetect::BindIntrusion() {
                 {{0, Words().cnstrLow}, {1, Words().cnstrMed}, {2, Words().cnstrHigh}},
                 OfCamera(&Cameras::Reject).OtherwiseWritten(2), rules);
   const int first = Id().IsTriplex() ? 1 : 0;  // older devices store a size less one
-  cameras_.Bind(kSizeColumn, lstTarget,
-                Choices::Numbers(1, kTargetSizes, first).OthersRead([first](int value) {
-                  return std::to_string(value + 1 - first);
-                }),
-                OfCamera(&Cameras::size), rules);
+  cameras_.Bind(kSizeColumn, lstTarget, CountedFrom(first, kTargetSizes), OfCamera(&Cameras::size),
+                rules);
   slLnkAlm.SetRange(0, Id().MaxCam);
   cameras_.Bind(kAlarmColumn, slLnkAlm, lbLnkAlm, OfCamera(&Cameras::LnkALM), rules);
 }
