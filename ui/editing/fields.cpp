@@ -1,11 +1,17 @@
 #include "ui/editing/fields.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvel {
 
 FieldGroup& FieldGroup::AlsoUnder(CommitFlag flag) {
   flag_ = flag;
+  return *this;
+}
+
+FieldGroup& FieldGroup::Then(std::function<void(MuxData&)> rule) {
+  rule_ = std::move(rule);
   return *this;
 }
 
@@ -25,6 +31,7 @@ void FieldGroup::Write(MuxData& record, CommitFlags& flags) {
   for (int line = 0; line < lines_; ++line) {
     for (const auto& field : fields_) field->WriteLine(record, line);
   }
+  if (rule_ && lines_ > 0) rule_(record);
 }
 
 void FieldGroup::Tell(MuxData& record, std::vector<ShownSetting>& told) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -27,6 +28,8 @@ class FieldGroup {
 
   /// The group is written while this flag is raised besides those of its editor.
   FieldGroup& AlsoUnder(CommitFlag flag);
+  /// Has `rule` called once the group is written: for what the settings together demand.
+  FieldGroup& Then(std::function<void(MuxData&)> rule);
   [[nodiscard]] int Lines() const { return lines_; }
 
   /// A box that is ticked for 1; element k of an array is line k. Any other value but 0 shows as
@@ -63,6 +66,7 @@ class FieldGroup {
   const Context& context_;
   int lines_;
   std::optional<CommitFlag> flag_;
+  std::function<void(MuxData&)> rule_;
   std::vector<std::unique_ptr<Field>> fields_;
 };
 

@@ -73,4 +73,13 @@ void LineGrid::BindPair(int hour_column, int minute_column, TimePicker& picker, 
   AddField(minute_column, std::move(minute));
 }
 
+void LineGrid::BindPair(int column, ChoiceWidget& list, Choices choices, int other_column,
+                        ChoiceWidget& other_list, Choices other_choices, const SettingRef& setting,
+                        ColumnRules rules) {
+  editing_.BindPair(column, list, std::move(choices), other_column, other_list,
+                    std::move(other_choices), std::move(rules));
+  AddField(column, setting);
+  AddField(other_column, setting);
+}
+
 }  // namespace quorvel

@@ -37,6 +37,11 @@ class LineGrid {
   /// Two columns: hours and minutes.
   void BindPair(int hour_column, int minute_column, TimePicker& picker, SettingRef hour,
                 SettingRef minute, ColumnRules rules = {});
+  /// Two columns of one setting, each with a list of its own; the lists always stand at the same
+  /// value.
+  void BindPair(int column, ChoiceWidget& list, Choices choices, int other_column,
+                ChoiceWidget& other_list, Choices other_choices, const SettingRef& setting,
+                ColumnRules rules = {});
   /// Adds a column and binds it.
   Field& Column(const std::string& header, ChoiceWidget& list, Choices choices, SettingRef setting,
                 ColumnRules rules = {}) {

@@ -54,6 +54,55 @@ class JoinedAccess final : public SettingAccess<int> {
   Part part_;
 };
 
+class OnePerLineAccess final : public SettingAccess<int> {
+ public:
+  explicit OnePerLineAccess(std::vector<SettingRef> settings) : settings_(std::move(settings)) {}
+
+  [[nodiscard]] int Get(MuxData& record, int line) const override {
+    return Of(line).Get(record, line);
+  }
+  void Set(MuxData& record, int line, int value) const override {
+    Of(line).Set(record, line, value);
+  }
+  void AddNames(MuxData& record, int line, std::vector<std::string>& names) const override {
+    Of(line).AddNames(record, line, names);
+  }
+
+ private:
+  [[nodiscard]] const SettingAccess<int>& Of(int line) const {
+    return settings_.at(static_cast<std::size_t>(line)).Access();
+  }
+
+  std::vector<SettingRef> settings_;
+};
+
+class ConvertedAccess final : public SettingAccess<int> {
+ public:
+  using ToShown = std::function<int(MuxData&, int, int)>;
+  using ToStored = std::function<int(int, int)>;
+  ConvertedAccess(SettingRef setting, ToShown to_shown, ToStored to_stored)
+      : setting_(std::move(setting)),
+        to_shown_(std::move(to_shown)),
+        to_stored_(std::move(to_stored)) {}
+
+  [[nodiscard]] int Get(MuxData& record, int line) const override {
+    return to_shown_(record, line, Stored().Get(record, line));
+  }
+  void Set(MuxData& record, int line, int value) const override {
+    Stored().Set(record, line, to_stored_(value, Stored().Get(record, line)));
+  }
+  void AddNames(MuxData& record, int line, std::vector<std::string>& names) const override {
+    Stored().AddNames(record, line, names);
+  }
+
+ private:
+  [[nodiscard]] const SettingAccess<int>& Stored() const { return setting_.Access(); }
+
+  SettingRef setting_;
+  ToShown to_shown_;
+  ToStored to_stored_;
+};
+
 class BitsAccess final : public SettingAccess<int> {
  public:
   BitsAccess(SettingRef mask, std::vector<int> bits)
@@ -145,6 +194,16 @@ SettingRef TimeOf(SettingRef hour, SettingRef minute) {
         const int number = value < kNoTime ? value : value - kNoTime;
         time = {number / base, number % base};
       });
+}
+
+SettingRef OnePerLine(std::vector<SettingRef> settings) {
+  return SettingRef(std::make_shared<OnePerLineAccess>(std::move(settings)));
+}
+
+SettingRef Converted(SettingRef setting, std::function<int(MuxData&, int, int)> to_shown,
+                     std::function<int(int, int)> to_stored) {
+  return SettingRef(std::make_shared<ConvertedAccess>(std::move(setting), std::move(to_shown),
+                                                      std::move(to_stored)));
 }
 
 SettingRef BitsOf(SettingRef mask, std::vector<int> bits) {

@@ -68,6 +68,13 @@ using TextRef = std::shared_ptr<const SettingAccess<std::string>>;
 /// An hour and a minute as minutes of the day; a pair that no clock shows as a larger number of its
 /// own, so that it stays.
 [[nodiscard]] SettingRef TimeOf(SettingRef hour, SettingRef minute);
+/// Settings of which each has a line of its own: line k is `settings[k]`.
+[[nodiscard]] SettingRef OnePerLine(std::vector<SettingRef> settings);
+/// A setting that its control shows as something else: what `to_shown` makes of the stored value,
+/// and stores as what `to_stored` makes of the control's and the stored one.
+[[nodiscard]] SettingRef Converted(SettingRef setting,
+                                   std::function<int(MuxData&, int line, int stored)> to_shown,
+                                   std::function<int(int shown, int stored)> to_stored);
 /// The bits of a mask, one a line: line k is bit `bits[k]`.
 [[nodiscard]] SettingRef BitsOf(SettingRef mask, std::vector<int> bits);
 
