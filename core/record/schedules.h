@@ -89,6 +89,8 @@ class clsRecTimer : public SettingOwner {
     RTstatus.Set(other.RTstatus());
     RTvalid.Set(other.RTvalid());
   }
+  /// Makes all values zeros, tracked as well.
+  void Clear() { Take(clsRecTimer(env(), Index())); }
 };
 
 }  // namespace quorvel

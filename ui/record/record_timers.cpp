@@ -1,6 +1,8 @@
 #include "ui/record/record_timers.h"
 
+#include <algorithm>
 #include <initializer_list>
+#include <numeric>
 #include <utility>
 
 namespace quorvel {
@@ -13,6 +15,7 @@ constexpr int kMonday = 40;
 constexpr int kDaysOfWeek = 7;
 constexpr int kDaysTogether = 3;
 constexpr int kMacros = 16;
+constexpr int kDelete = 2;  // a status that OK carries out
 
 /// A setting of a timer. While the timer is not valid, neither are its settings; to set one makes
 /// it valid, and to empty one ends it.
@@ -29,6 +32,38 @@ SettingRef OfValidTimer(SettingRef setting) {
         values.at(0) = value;
         if (valid == 0) valid = 1;
       });
+}
+
+/// Takes the timers that are to be deleted out of the list; those behind them move up. Each entry
+/// is set once, to what it is in the end, so that a block that ends up as it was is not listed.
+void RemoveDeletedTimers(MuxData& record) {
+  constexpr int kCleared = -1;
+  std::vector<int> from(MuxData::kRecTimers);  // the entry that each place takes
+  std::iota(from.begin(), from.end(), 0);
+  const auto timer = [&](int entry) {
+    return entry == kCleared ? nullptr : record.MRecTimer(entry);
+  };
+  const auto is_valid = [&](int entry) {
+    const clsRecTimer* const it = timer(entry);
+    return it != nullptr && it->RTvalid() != 0;
+  };
+  for (auto place = from.begin(); place != from.end();) {
+    if (!is_valid(*place) || timer(*place)->RTstatus() != kDelete) {
+      ++place;
+      continue;
+    }
+    const auto behind_last = std::find_if(from.rbegin(), from.rend(), is_valid).base();
+    std::move(place + 1, behind_last, place);
+    *(behind_last - 1) = kCleared;
+  }
+  for (int place = 0; place < MuxData::kRecTimers; ++place) {
+    const int entry = from.at(static_cast<std::size_t>(place));
+    if (entry == kCleared) {
+      record.MRecTimer(place)->Clear();
+    } else if (entry != place) {
+      record.MRecTimer(place)->Take(*record.MRecTimer(entry));
+    }
+  }
 }
 
 }  // namespace
@@ -49,8 +84,9 @@ RecordTimers::RecordTimers(Editor& editor, Grid& grid, const Choices& statuses, 
 
 void RecordTimers::AddColumns(const Choices& statuses) {
   grid_.SetSpokenName(Text(txt::kRecordTimer));
-  timers_.emplace(*this, grid_, Each(MuxData::kRecTimers), Text(txt::kIndex),
-                  GridEditing::Release::kSelects);
+  FieldGroup& lines = Each(MuxData::kRecTimers);
+  if (statuses.Has(kDelete)) lines.Then(RemoveDeletedTimers);
+  timers_.emplace(*this, grid_, lines, Text(txt::kIndex), GridEditing::Release::kSelects);
   timers_->Editing().SetEmpties(GridEditing::Empties::kRows);
   const auto time = [](auto hour, auto minute) {
     return OfValidTimer(TimeOf(OfRecTimer(hour), OfRecTimer(minute)));

@@ -17,6 +17,7 @@ namespace quorvel {
 class RecordTimers : public EditorPage {
  public:
   /// `grid` becomes the table; `statuses` are what a timer can be, the first of them of a new one.
+  /// Where 2, to be deleted, is among them, OK takes such timers out and moves later ones up.
   RecordTimers(Editor& editor, Grid& grid, const Choices& statuses, bool exists = true);
   /// The controls beside the table.
   [[nodiscard]] Layout Controls();
