@@ -145,8 +145,35 @@ TEST_F(Editing, AListMayOfferOtherLinesInEveryRow) {
   Press(2, 1);
   EXPECT_EQ(desk_->combo.Count(), 2);
   EXPECT_EQ(desk_->combo.Current(), ComboBox::kNone);  // the cell's own is not among them
+  EXPECT_EQ(desk_->grid.Paste("20 pps"), Answer::kDone) << "as it is";
   desk_->combo.Choose(1);
   EXPECT_EQ(editing.ValueAt(2, 1), 2);
+  EXPECT_EQ(desk_->grid.Paste("20 pps"), Answer::kNotAChoice);
+}
+
+TEST_F(Editing, WhatIsSelectedMayDecideWhatIsOffered) {
+  GridEditing editing(desk_->grid);
+  Choices rates{{2, "4 pps"}, {3, "20 pps"}};
+  rates.OthersRead([](int) { return "4 pps"; });
+  editing.Bind(1, desk_->combo, rates, {.of_row = [&](int) {
+                 return desk_->grid.LastSelected() == 4 ? rates : Choices{{2, "4 pps"}};
+               }});
+  for (const int row : {1, 2, 3, 4}) editing.SetValue(row, 1, row - 1);
+  Drag(3, 4, 1);
+  EXPECT_EQ(desk_->combo.Count(), 2);
+  Press(3, 1);
+  EXPECT_EQ(desk_->combo.Count(), 1);
+  desk_->grid.Mark(4);
+  EXPECT_EQ(desk_->combo.Count(), 2);
+  // A value without a line reads as one that has one: the list shows it, a drag leaves it.
+  Drag(3, 1, 1);
+  EXPECT_EQ(desk_->TextsOf(1), "4 pps|4 pps|4 pps|4 pps|") << desk_->combo.CurrentText();
+  EXPECT_EQ(editing.ValueAt(1, 1), 0);
+  desk_->combo.Choose(0);
+  EXPECT_EQ(editing.ValueAt(1, 1), 2);
+  desk_->grid.SetCell(1, 1, "DISABLE", 2);
+  Press(1, 1);
+  EXPECT_EQ(desk_->combo.Current(), ChoiceWidget::kNone) << "not what the cell reads";
 }
 
 TEST_F(Editing, ControlsReachTheirColumnOrTheWholeRow) {

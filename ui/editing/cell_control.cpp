@@ -21,7 +21,7 @@ class List {
   void ShowIn(const Choices& choices, int value) {
     if (!choices.AreTexts(list_.Items())) list_.SetItems(choices.Texts());
     offered_ = &choices == &choices_ ? Choices() : choices;
-    list_.Select(choices.LineOf(value));
+    list_.Select(choices.LineShowing(value));
   }
   [[nodiscard]] int Chosen() const {
     const Choices& offered = offered_.Count() == 0 ? choices_ : offered_;

@@ -95,6 +95,13 @@ int Choices::LineOf(int value) const {
   return found == lines.end() ? kNone : static_cast<int>(found - lines.begin());
 }
 
+int Choices::LineShowing(int value) const {
+  const int line = LineOf(value);
+  if (line != kNone) return line;
+  const std::string text = TextOf(value);
+  return text.empty() ? kNone : LineOf(ValueOf(text));
+}
+
 std::string Choices::TextOf(int value) const {
   if (value == kNone || data_ == nullptr) return {};
   const auto reading = FindValue(data_->readings, value);

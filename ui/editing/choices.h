@@ -49,6 +49,9 @@ class Choices {
   [[nodiscard]] int ValueAt(int line) const;
   /// The first line of a value, or kNone.
   [[nodiscard]] int LineOf(int value) const;
+  /// The line at which a control shows a value: its own or, of a value without one, the first that
+  /// reads as its cell does. kNone for what reads as nothing.
+  [[nodiscard]] int LineShowing(int value) const;
   [[nodiscard]] bool Has(int value) const { return LineOf(value) != kNone; }
   /// How a value reads in a cell; empty for one that reads as nothing.
   [[nodiscard]] std::string TextOf(int value) const;

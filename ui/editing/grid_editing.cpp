@@ -9,9 +9,14 @@ GridEditing::GridEditing(Grid& grid, Release release) : grid_(grid) {
   grid_.on_press = [this] { ShowCell(); };
   if (release == Release::kWrites) {
     grid_.on_release = [this] {
-      if (const Binding* binding = BindingOf(grid_.Column())) WriteSelectedRows(*binding);
+      const Binding* const binding = BindingOf(grid_.Column());
+      if (binding != nullptr) WriteSelectedRows(*binding, Alike::kStays);
+      ShowSelection();
     };
+  } else {
+    grid_.on_release = [this] { ShowSelection(); };
   }
+  grid_.on_mark = [this] { ShowSelection(); };
   grid_.takes_paste = [this](int row, int column, const std::string& text) {
     return Takes(row, column, text);
   };
@@ -134,9 +139,15 @@ void GridEditing::Show(const Binding& binding, int row, std::vector<int> values)
   shown_[&binding.control->Control()] = {&binding, row, std::move(values)};
 }
 
+/// A cell that an editor has made to read otherwise than its value shows none.
 std::vector<int> GridEditing::ValuesIn(const Binding& binding, int row) const {
   std::vector<int> values;
-  for (const int column : binding.columns) values.push_back(ValueAt(row, column));
+  for (const int column : binding.columns) {
+    const int value = ValueAt(row, column);
+    const bool reads_so =
+        grid_.Cell(row, column) == binding.control->TextOf(binding.PartOf(column), value);
+    values.push_back(reads_so ? value : Grid::kNone);
+  }
   return values;
 }
 
@@ -152,6 +163,12 @@ void GridEditing::ShowCell() {
   for (const Binding& binding : bindings_) ShowRow(binding);
   MarkControls();
   if (after_show) after_show();
+}
+
+void GridEditing::ShowSelection() {
+  for (const Binding& binding : bindings_) {
+    if (binding.rules.of_row && binding.PartOf(grid_.Column()) != kNoPart) ShowRow(binding);
+  }
 }
 
 bool GridEditing::WritesNow(const Binding& binding, int column) {
@@ -182,7 +199,7 @@ void GridEditing::WriteChoice(const Widget& control) {
   for (const Binding& binding : bindings_) {
     if (!binding.control->Is(control) || !WritesNow(binding, column)) continue;
     writes = true;
-    WriteSelectedRows(binding);
+    WriteSelectedRows(binding, Alike::kIsWritten);
   }
   if (!writes) TakeBack(control);
 }
@@ -200,26 +217,32 @@ void GridEditing::TakeBack(const Widget& control) {
   }
 }
 
-void GridEditing::WriteSelectedRows(const Binding& binding) {
+void GridEditing::WriteSelectedRows(const Binding& binding, Alike alike) {
   std::vector<int> values;
   for (int part = 0; part < binding.Parts(); ++part) {
     values.push_back(binding.control->Chosen(part));
   }
   if (values.front() == Grid::kNone) return;
   shown_[&binding.control->Control()] = {&binding, grid_.Row(), values};
-  PutIntoRows(binding, values, grid_.FirstSelected(), grid_.LastSelected());
+  PutIntoRows(binding, values, grid_.FirstSelected(), grid_.LastSelected(), alike);
   // Where the current row has not taken it, the control goes on showing what is there.
   if (ValuesIn(binding, grid_.Row()) != values) ShowRow(binding);
 }
 
+bool GridEditing::ReadsAlike(int row, int column, int value) const {
+  return !Offers(column, ValueAt(row, column)) && grid_.Cell(row, column) == TextOf(column, value);
+}
+
 void GridEditing::PutIntoRows(const Binding& binding, const std::vector<int>& values, int first,
-                              int last) {
+                              int last, Alike alike) {
   bool taken = false;
   for (int row = std::max(first, grid_.HeaderRows()); row <= last; ++row) {
     if (!binding.Takes(row)) continue;
     taken = true;
     for (std::size_t part = 0; part < values.size(); ++part) {
-      SetValue(row, binding.columns.at(part), values[part]);
+      const int column = binding.columns.at(part);
+      if (alike == Alike::kStays && ReadsAlike(row, column, values[part])) continue;
+      SetValue(row, column, values[part]);
     }
     FollowUp(binding, row);
   }
@@ -246,7 +269,7 @@ void GridEditing::ChooseInAllRows(int column, int value) {
   const Binding* const binding = BindingOf(column);
   if (binding == nullptr) return;
   PutIntoRows(*binding, std::vector<int>(binding->columns.size(), value), grid_.HeaderRows(),
-              grid_.Rows() - 1);
+              grid_.Rows() - 1, Alike::kIsWritten);
   ShowRow(*binding);
 }
 
@@ -255,7 +278,10 @@ bool GridEditing::Takes(int row, int column, const std::string& text) const {
   if (binding == nullptr) return false;
   if (!binding->Has(row)) return text.empty();  // as it is: rows can be copied whole
   if (!binding->Takes(row)) return false;
-  return text == grid_.Cell(row, column) || binding->ValueOf(column, text).has_value();
+  if (text == grid_.Cell(row, column)) return true;
+  const ChoicesOfRow& of_row = binding->rules.of_row;
+  if (of_row && of_row(row).ValueOf(text) == Choices::kNone) return false;
+  return binding->ValueOf(column, text).has_value();
 }
 
 void GridEditing::Paste(int row, int column, const std::string& text) {
@@ -279,7 +305,7 @@ void GridEditing::EmptySelectedRows() {
     const bool meant = empties_ == Empties::kRows || binding.PartOf(grid_.Column()) != kNoPart;
     if (!meant || !binding.rules.empty) continue;
     PutIntoRows(binding, std::vector<int>(binding.columns.size(), *binding.rules.empty),
-                grid_.FirstSelected(), grid_.LastSelected());
+                grid_.FirstSelected(), grid_.LastSelected(), Alike::kIsWritten);
   }
   ShowCell();
 }

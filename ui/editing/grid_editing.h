@@ -20,7 +20,8 @@ struct ColumnRules {
   Reach shows = Reach::kInColumn;
   /// A choice is written while the column is current, or whatever column is.
   Reach writes = Reach::kInColumn;
-  /// Lines that the list offers for the cell of a row; none: those of the column.
+  /// Lines that the list offers for the cell of a row, and takes from a paste; none: those of the
+  /// column. They may depend on what else is selected.
   ChoicesOfRow of_row = {};
   /// False for a row that keeps its cell.
   std::function<bool(int row)> takes = {};
@@ -46,7 +47,10 @@ struct ColumnRules {
 ///
 /// A cell stands for a value of the device: one of a list's lines, a slider's number, minutes of
 /// the day, or hours and minutes in two columns. A value that the control does not offer leaves it
-/// blank, and a blank control writes nothing: looking at a value never changes it.
+/// blank, and so does a cell that an editor has made to read otherwise; a blank control writes
+/// nothing: looking at a value never changes it. Where a value without a line reads as one that has
+/// one, the control shows that line; a drag leaves such cells as they are, only a choice changes
+/// them.
 ///
 /// A control is marked while its column is current. What is chosen in one of another column is not
 /// written, and the control shows again what it showed.
@@ -128,14 +132,20 @@ class GridEditing {
   void Show(const Binding& binding, int row, std::vector<int> values);
   /// Makes a control that shows the current row show it again.
   void ShowRow(const Binding& binding);
+  /// Renews lines that depend on the selection.
+  void ShowSelection();
   [[nodiscard]] std::vector<int> ValuesIn(const Binding& binding, int row) const;
   void MarkControls();
   void Mark(Widget& control);
   void WriteChoice(const Widget& control);
   void TakeBack(const Widget& control);
-  void WriteSelectedRows(const Binding& binding);
+  enum class Alike { kStays, kIsWritten };
+  void WriteSelectedRows(const Binding& binding, Alike alike);
   /// Puts a value for each part into the rows that take it.
-  void PutIntoRows(const Binding& binding, const std::vector<int>& values, int first, int last);
+  void PutIntoRows(const Binding& binding, const std::vector<int>& values, int first, int last,
+                   Alike alike);
+  /// Whether a cell stands for a value without a line that reads as `value` does.
+  [[nodiscard]] bool ReadsAlike(int row, int column, int value) const;
   /// After a cell of the row was written.
   void FollowUp(const Binding& binding, int row);
   void MoveTo(const Binding& binding);

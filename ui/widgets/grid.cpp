@@ -131,6 +131,7 @@ Answer Grid::Mark(int row) {
   if (!IsCell(row_, column_) || !IsCell(row, column_)) return Answer::kNoSuchPlace;
   if (range_ == Range::kRows) row_sel_ = row;
   Redraw(Aspect::kSelection);
+  Raise(on_mark);
   return refusal;
 }
 

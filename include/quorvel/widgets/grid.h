@@ -84,6 +84,7 @@ class Grid : public Widget {
   Answer Mark(int row);
   Handler on_press;
   Handler on_release;
+  Handler on_mark;
 
   /// Empties the selected rows, as the Delete key does: in the current column, or whole rows of
   /// what they hold. kNotAChoice where the grid's cells are never empty.
