@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "ui/context.h"
+#include "ui/editing/column_field.h"
 #include "ui/editing/device_text.h"
 #include "ui/editing/fields.h"
 #include "ui/editing/number_box.h"
@@ -89,7 +90,7 @@ class ListField final : public ChoiceField {
   }
 
  protected:
-  void Show(int /*line*/, int value) override { list_.Select(Lines().LineOf(value)); }
+  void Show(int line, int /*value*/) override { list_.Select(Lines().LineOf(CommonUpTo(line))); }
   [[nodiscard]] int Present(int /*line*/) const override {
     return Lines().ValueAt(list_.Current());
   }
@@ -107,20 +108,27 @@ class SliderField final : public ValueField {
   }
 
  protected:
-  void Show(int /*line*/, int value) override {
-    slider_.SetValue(value);
-    shown_.SetCaption(TextOf(value));
+  void Show(int line, int /*value*/) override {
+    const int common = CommonUpTo(line);
+    blank_ = common == kNone;
+    slider_.SetValue(blank_ ? slider_.Minimum() : common);
+    shown_.SetCaption(TextOf(common));
   }
-  [[nodiscard]] int Present(int /*line*/) const override { return slider_.Value(); }
+  [[nodiscard]] int Present(int /*line*/) const override {
+    return blank_ && !slider_.Edited() ? kNone : slider_.Value();
+  }
   [[nodiscard]] bool Offers(int value) const override {
     return value >= slider_.Minimum() && value <= slider_.Maximum();
   }
-  [[nodiscard]] std::string TextOf(int value) const override { return std::to_string(value); }
+  [[nodiscard]] std::string TextOf(int value) const override {
+    return value == kNone ? "" : std::to_string(value);
+  }
   [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return slider_; }
 
  private:
   Slider& slider_;
   Label& shown_;
+  bool blank_ = true;  ///< until the user moves the handle
 };
 
 /// Hour, minute and second, or year, month and day, as one number, whatever they hold.
@@ -302,39 +310,6 @@ class TextsField final : public Field {
   NoteLine notes_;
   TextRef setting_;
   std::deque<DeviceText> texts_;
-};
-
-class ColumnField final : public ValueField {
- public:
-  ColumnField(GridEditing& editing, Grid& grid, int column, SettingRef setting)
-      : ValueField(std::move(setting)), editing_(editing), grid_(grid), column_(column) {}
-
- protected:
-  void Show(int line, int value) override { editing_.SetValue(RowOf(line), column_, value); }
-  [[nodiscard]] int Present(int line) const override {
-    return editing_.ValueAt(RowOf(line), column_);
-  }
-  [[nodiscard]] bool Offers(int value) const override { return editing_.Offers(column_, value); }
-  [[nodiscard]] std::string TextOf(int value) const override {
-    return editing_.TextOf(column_, value);
-  }
-  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return grid_; }
-  [[nodiscard]] bool HasLine(int line) const override { return editing_.Has(RowOf(line), column_); }
-  [[nodiscard]] bool Waits(int line) const override { return editing_.Waits(RowOf(line), column_); }
-  void TellPlace(int line, ShownSetting& shown) const override {
-    shown.edited_by = editing_.ControlOf(column_);
-    shown.row = RowOf(line);
-    shown.column = column_;
-    shown.caption = grid_.ColumnName(column_);
-    shown.line = grid_.Cell(shown.row, 0);
-  }
-
- private:
-  [[nodiscard]] int RowOf(int line) const { return line + grid_.HeaderRows(); }
-
-  GridEditing& editing_;
-  Grid& grid_;
-  int column_;
 };
 
 }  // namespace

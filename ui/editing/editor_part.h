@@ -55,6 +55,10 @@ class EditorPart {
   [[nodiscard]] Choices DisableEnable() const {
     return {{0, Words().cnstrDisable}, {1, Words().cnstrEnable}};
   }
+  /// What an alarm makes of the recording that is under way.
+  [[nodiscard]] Choices AlarmRecordModes() const {
+    return {{0, Words().cnstrInter}, {1, Words().cnstrExcl}, {2, Words().cnstrNoChg}};
+  }
   /// Of a relay's contact, and of the relays that something switches.
   [[nodiscard]] Choices ClosedOpen() const {
     return {{0, Words().cnstrClose}, {1, Words().cnstrOpen}};

@@ -45,6 +45,14 @@ int ValueField::Opened(int line) const {
   return place < filled_.size() ? filled_[place].shown : kNone;
 }
 
+int ValueField::CommonUpTo(int line) const {
+  const int value = Opened(0);
+  for (int i = 1; i <= line; ++i) {
+    if (Opened(i) != value) return kNone;
+  }
+  return value;
+}
+
 int ValueField::Standing(int line) const {
   if (!HasLine(line) || Waits(line)) return kNone;
   const int present = Present(line);

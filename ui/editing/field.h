@@ -102,6 +102,9 @@ class ValueField : public Field {
   [[nodiscard]] bool LineDiffers(int line) const override;
   /// What the control was filled with; kNone for a line that had no such setting.
   [[nodiscard]] int Opened(int line) const;
+  /// What lines 0 to `line` were filled with, kNone where they differ: what one control for all
+  /// lines shows.
+  [[nodiscard]] int CommonUpTo(int line) const;
 
  private:
   /// What the control stands at, or what it was filled with while the user has chosen nothing;

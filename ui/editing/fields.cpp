@@ -15,6 +15,12 @@ FieldGroup& FieldGroup::Then(std::function<void(MuxData&)> rule) {
   return *this;
 }
 
+FieldGroup& FieldGroup::InOrderWhile(std::function<bool()> holds, std::vector<std::size_t> order) {
+  reordered_while_ = std::move(holds);
+  order_ = std::move(order);
+  return *this;
+}
+
 Field& FieldGroup::Add(std::unique_ptr<Field> field) {
   return *fields_.emplace_back(std::move(field));
 }
@@ -28,8 +34,11 @@ void FieldGroup::Fill(MuxData& record) {
 void FieldGroup::Write(MuxData& record, CommitFlags& flags) {
   std::optional<CommitScope> commit;
   if (flag_) commit.emplace(flags, *flag_);
+  const bool reordered = reordered_while_ && reordered_while_();
   for (int line = 0; line < lines_; ++line) {
-    for (const auto& field : fields_) field->WriteLine(record, line);
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+      fields_.at(reordered ? order_.at(i) : i)->WriteLine(record, line);
+    }
   }
   if (rule_ && lines_ > 0) rule_(record);
 }

@@ -30,6 +30,9 @@ class FieldGroup {
   FieldGroup& AlsoUnder(CommitFlag flag);
   /// Has `rule` called once the group is written: for what the settings together demand.
   FieldGroup& Then(std::function<void(MuxData&)> rule);
+  /// While `holds`, the fields of a line are written in another order: `order` names them by their
+  /// places, in that of their description.
+  FieldGroup& InOrderWhile(std::function<bool()> holds, std::vector<std::size_t> order);
   [[nodiscard]] int Lines() const { return lines_; }
 
   /// A box that is ticked for 1; element k of an array is line k. Any other value but 0 shows as
@@ -40,6 +43,8 @@ class FieldGroup {
   /// screen readers say before their captions; without one they know the frame around.
   Field& Options(ControlArray<OptionButton>& options, Choices choices, SettingRef setting,
                  std::string name = {});
+  /// In a group of several lines, one list or slider stands for all of them: it is blank where they
+  /// differ, and what the user chooses is written into each.
   Field& List(ChoiceWidget& list, Choices choices, SettingRef setting);
   /// `shown` repeats the slider's value.
   Field& Slide(Slider& slider, Label& shown, SettingRef setting);
@@ -67,6 +72,8 @@ class FieldGroup {
   int lines_;
   std::optional<CommitFlag> flag_;
   std::function<void(MuxData&)> rule_;
+  std::function<bool()> reordered_while_;
+  std::vector<std::size_t> order_;
   std::vector<std::unique_ptr<Field>> fields_;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ui/record/frm_nrec_lite.h"
 #include "ui/record/frm_record.h"
 #include "ui/record/frm_sequencing.h"
 #include "ui/record/macro/frm_macro.h"
@@ -26,9 +27,11 @@ std::shared_ptr<Editor> Create(Context& context) {
 
 bool EveryDevice(const Identity& /*device*/) { return true; }
 bool FullDevice(const Identity& device) { return !device.LiteRecordModel; }
+bool LiteDevice(const Identity& device) { return device.LiteRecordModel; }
 
 constexpr std::array kEditors = {
     MenuEditor{"mnu_Record", Create<frm_Record>, FullDevice},
+    MenuEditor{"mnu_Record", Create<frm_NRecLite>, LiteDevice},
     MenuEditor{"mnu_Alarm", Create<frm_Alarm>, EveryDevice},
     MenuEditor{"mnuMTSetup", Create<frm_MDetect>, EveryDevice},
     MenuEditor{"mnu_CSetup", Create<frm_CameraSetup>, EveryDevice},

@@ -17,9 +17,7 @@ AlarmSettingsPage::AlarmSettingsPage(Editor& editor, const AlarmFeatures& featur
   const bool free = !features_.fixed_settings;
   FieldGroup& settings = Once();
   settings.Options(opt_AlFullScr, NoYes(), At(&MuxData::FullscrAlm)).WrittenWhen(free);
-  settings
-      .Options(opt_AlRecMode, {{0, words.cnstrInter}, {1, words.cnstrExcl}, {2, words.cnstrNoChg}},
-               At(&MuxData::AlmRecMode))
+  settings.Options(opt_AlRecMode, AlarmRecordModes(), At(&MuxData::AlmRecMode))
       .When(!features_.archive_in_record_mode)
       .WrittenWhen(free);
   settings.Options(opt_Rl1Conf, ClosedOpen(), At(&MuxData::Relay1Conf), Label11.Caption())

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "ui/editing/field.h"
+#include "ui/editing/grid_editing.h"
+
+namespace quorvel {
+
+/// A column of a grid. Line 0 is the first row of data.
+class ColumnField : public ValueField {
+ public:
+  ColumnField(GridEditing& editing, Grid& grid, int column, SettingRef setting)
+      : ValueField(std::move(setting)), editing_(editing), grid_(grid), column_(column) {}
+
+ protected:
+  void Show(int line, int value) override { editing_.SetValue(RowOf(line), column_, value); }
+  [[nodiscard]] int Present(int line) const override {
+    return editing_.ValueAt(RowOf(line), column_);
+  }
+  [[nodiscard]] bool Offers(int value) const override { return editing_.Offers(column_, value); }
+  [[nodiscard]] std::string TextOf(int value) const override {
+    return editing_.TextOf(column_, value);
+  }
+  [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return grid_; }
+  [[nodiscard]] bool HasLine(int line) const override { return editing_.Has(RowOf(line), column_); }
+  [[nodiscard]] bool Waits(int line) const override { return editing_.Waits(RowOf(line), column_); }
+  void TellPlace(int line, ShownSetting& shown) const override {
+    shown.edited_by = editing_.ControlOf(column_);
+    shown.row = RowOf(line);
+    shown.column = column_;
+    shown.caption = grid_.ColumnName(column_);
+    shown.line = grid_.Cell(shown.row, 0);
+  }
+
+ private:
+  [[nodiscard]] int RowOf(int line) const { return line + grid_.HeaderRows(); }
+
+  GridEditing& editing_;
+  Grid& grid_;
+  int column_;
+};
+
+}  // namespace quorvel
