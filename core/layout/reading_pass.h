@@ -17,6 +17,7 @@ class ReadingPass {
  public:
   static constexpr bool kReading = true;
   static constexpr bool kWriting = false;
+  static constexpr bool kHasImage = true;
 
   ReadingPass(BlockImage& image, int block, int cameras)
       : image_(image), bytes_(image.Block(block)), cameras_(cameras) {}

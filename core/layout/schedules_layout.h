@@ -35,8 +35,8 @@ void SubMacro(Pass& block, int camera, MuxData& rec, const Identity& id) {
   auto& macro = rec.AllSubMacros().at(static_cast<std::size_t>(camera));
   block.Byte(0, macro.SMacroLen);
   int bytes = clsSubMacro::kLongest;
-  // A script is read up to the byte after its end.
-  if constexpr (Pass::kReading) bytes = std::min(macro.SMacroLen() + 1, bytes);
+  // A script reaches up to the byte after its end. What is behind stays as the device holds it.
+  if constexpr (Pass::kHasImage) bytes = std::min(macro.SMacroLen() + 1, bytes);
   block.Bytes(1, bytes, Each(macro.SMacroByte));
   if (!Pass::kWriting && id.IsMultiplexer() && camera == 0) {
     block.Byte(11, rec.MacroEditDL1);

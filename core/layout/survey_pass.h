@@ -56,6 +56,7 @@ class SurveyPass {
  public:
   static constexpr bool kReading = false;
   static constexpr bool kWriting = writing;
+  static constexpr bool kHasImage = false;
 
   SurveyPass(std::vector<Place>& places, int& word, int block, int cameras)
       : places_(places), word_(word), block_(block), cameras_(cameras) {}

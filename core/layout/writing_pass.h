@@ -16,6 +16,7 @@ class WritingPass {
  public:
   static constexpr bool kReading = false;
   static constexpr bool kWriting = true;
+  static constexpr bool kHasImage = true;
 
   WritingPass(BlockImage& image, int block, int cameras)
       : bytes_(image.Block(block)), cameras_(cameras) {}

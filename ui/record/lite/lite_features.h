@@ -12,7 +12,11 @@ struct LiteRecordFeatures {
 };
 
 [[nodiscard]] inline LiteRecordFeatures LiteRecordFeaturesOf(const Identity& id) {
-  return {id.ModelCode<10, id.ModelCode != 20, id.ModelCode> 7};
+  LiteRecordFeatures features{};
+  features.shared_mode = id.ModelCode < 10;
+  features.event_settings = id.ModelCode != 20;
+  features.record_lock = id.ModelCode > 7;
+  return features;
 }
 
 }  // namespace quorvel
