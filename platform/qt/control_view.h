@@ -102,7 +102,8 @@ class ViewOf : public ControlView {
   }
 
   void MarkCellEditor() {
-    if (!model_->EditsCell()) {
+    // A frame around what is hidden would stand at the window's corner.
+    if (!model_->EditsCell() || !model_->Visible()) {
       delete mark_;
     } else if (mark_ == nullptr) {
       mark_ = new CellMark(*body_);

@@ -200,10 +200,10 @@ TEST_F(MuxhostZones, CamerasWithoutMotionDetectionAreMarkedAndItsEditorOpensTheZ
   QTest::mouseClick(Find(OnScreen("frm_MDetect"), "OK"), Qt::LeftButton);
   Choose("mnuMTSetup");
   open_from_editor();
-  EXPECT_EQ(cameras_->item(15)->text(), "Camera 16, no motion detection");
+  EXPECT_EQ(cameras_->item(15)->text(), "Camera 16, motion off");
   EXPECT_TRUE(note()->isVisible());
   QTest::keyClick(grid_, Qt::Key_Space);
-  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1, no motion detection, changed");
+  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1, motion off, changed");
   Press("OK");
   EXPECT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{49, 85}));
 }

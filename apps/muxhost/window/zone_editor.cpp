@@ -13,7 +13,7 @@ namespace quorvel::muxhost {
 
 namespace {
 
-constexpr const char* kWithoutMotion = ", no motion detection";
+constexpr const char* kWithoutMotion = ", motion off";
 constexpr const char* kChanged = ", changed";
 
 QString NameOf(int camera) { return QString("Camera %1").arg(camera + 1); }
