@@ -183,7 +183,7 @@ void LiteCameraSettings::BindForAll() {
                     {.chosen = [this] { PutIntoAll(kType, type_of_all_.ValueAt(1, 1)); }});
 
   Once()
-      .List(cbAlm, Rates({0, 1, 2, kFastest}, false), At(&MuxData::Alarm_Rec_Index))
+      .List(cbAlm, Choices(time_lapse_.Texts()), At(&MuxData::Alarm_Rec_Index))
       .When(features_.shared_mode)
       .WrittenWhen([this] { return shared_; });
   // Pre and post event duration and the activity link stand behind these five.
