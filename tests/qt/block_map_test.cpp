@@ -1,12 +1,5 @@
 #include "apps/muxhost/window/block_map.h"
 
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-
 #include "tests/qt/muxhost_on_screen.h"
 
 namespace quorvel::muxhost {
@@ -18,55 +11,7 @@ class MuxhostBlocks : public MuxhostOnScreen {
     map_.scrollTo(map_.model()->index(block - 1, 0));
     return map_.visualRect(map_.model()->index(block - 1, 0)).center();
   }
-  [[nodiscard]] std::string Contents() {
-    return Find<QPlainTextEdit>(&window_, "What the block holds")->toPlainText().toStdString();
-  }
-  [[nodiscard]] QString Hint() { return window_.findChild<QLabel*>("Hint")->text(); }
 };
-
-TEST_F(MuxhostBlocks, NewcomerDownloadsEditsUploadsAndSeesItVerified) {
-  window_.Backups().SetWanted(true);
-  EXPECT_EQ(window_.focusWidget(), &Button("Download"));
-  EXPECT_TRUE(Button("Download").isDefault());
-  Download();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return Button("Menu").isDefault(); }));
-  EXPECT_EQ(Hint(), "Next: Menu opens the editors, such as those of the cameras.");
-
-  Choose("mnu_CSetup");
-  QWidget& editor = *OnScreen("frm_CameraSetup");
-  auto* const title = Find<QLineEdit>(&editor, "m_CameraTitle(2)");
-  QTest::mouseClick(title, Qt::LeftButton);
-  title->selectAll();
-  QTest::keyClicks(title, "Gate");
-  QTest::mouseClick(Find(&editor, "OK"), Qt::LeftButton);
-  EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-  QApplication::activePopupWidget()->close();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return Button("Upload modified").isDefault(); }));
-  EXPECT_EQ(Cell(3), "Block 3, changed");
-  EXPECT_EQ(Hint(), "1 block modified and not in the device yet. Next: Upload modified.");
-  map_.setCurrentIndex(map_.model()->index(2, 0));
-  EXPECT_NE(Contents().find("CamInfo(2).title = \"Gate"), std::string::npos) << Contents();
-  EXPECT_EQ(Contents().rfind("In the control:\n47 61 74 65 20", 0), 0U) << "the bytes as edited";
-
-  const auto before = session_.Device().Bytes();
-  const QByteArray old(reinterpret_cast<const char*>(before.data()),
-                       static_cast<qsizetype>(before.size()));
-  const WhenShown start([] { return Press("START"); });
-  const WhenShown sent([this] { return Cell(3) == "Block 3, sent"; });
-  const WhenShown finish([this] { return session_.LastExchange().end_written && Press("CLOSE"); });
-  Click("Upload modified");
-  EXPECT_EQ(session_.LastExchange().blocks_written, std::vector<Byte>{3});
-  EXPECT_EQ(Cell(3), "Block 3, verified");
-  EXPECT_EQ(Hint(), "1 block verified: the device holds what was sent.");
-
-  // What the device held is kept.
-  ASSERT_EQ(BackupFiles().size(), 1);
-  QFile file(BackupFiles().front());
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll(), old);
-  EXPECT_NE(Events().find("Backup of the device: 3600 bytes in " + file.fileName().toStdString()),
-            std::string::npos);
-}
 
 TEST_F(MuxhostBlocks, BlockAtWhichASendBreaksOffHasFailed) {
   Download();
@@ -75,27 +20,19 @@ TEST_F(MuxhostBlocks, BlockAtWhichASendBreaksOffHasFailed) {
   for (const bool link_stays : {true, false}) {
     // A packet that is never acknowledged; the dialog is closed.
     session_.SetFault(Fault{.kind = FaultKind::kSilent, .at = 1});
-    const WhenShown start([] { return Press("START"); });
-    const WhenShown close([&] {
+    const auto close = [&] {
       if (!session_.LastExchange().unanswered) return false;
       if (!link_stays) session_.SwitchLink(false);
       return QApplication::activeModalWidget()->close();
-    });
-    QString told;
-    const WhenShown question([&told] {
-      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box != nullptr) told = box->text();
-      return box != nullptr && Press("Close");
-    });
-    Click("Upload modified");
-    EXPECT_EQ(told, "The device has not acknowledged block 85.");
+    };
+    Click("Upload modified", Pressing("START"), close, Answering("Close"));
+    EXPECT_EQ(told_, "The device has not acknowledged block 85.");
     EXPECT_EQ(Cell(85), "Block 85, failed");
     EXPECT_NE(Events().find("not come to its end: block 85 was not acknowledged.\n"),
               std::string::npos);
     EXPECT_EQ(Cell(86), "Block 86, changed");
-    const QString next = link_stays ? "1 block failed. Next: Upload modified."
-                                    : "Next: switch the link on (Host, at the left).";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Hint() == next; })) << Hint().toStdString();
+    ExpectHint(link_stays ? "1 block failed. Next: Upload modified."
+                          : "Next: switch the link on (Host, at the left).");
   }
 }
 
@@ -103,20 +40,11 @@ TEST_F(MuxhostBlocks, MacroBlocksOfAFileGoToTheDeviceWithTheMacros) {
   Download();
   auto image = session_.Control().Image();
   image.at(149 * 16) ^= 1;
-  QFile file(backups_.filePath("other.bin"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(reinterpret_cast<const char*>(image.data()), static_cast<qsizetype>(image.size()));
-  file.close();
-  {
-    const WhenShown name([&] { return Name(file.fileName()); });
-    const WhenShown finish([] { return Press("OK"); });
-    Click("Restore file");
-  }
+  Restore(NewFile("other.bin", image));
   EXPECT_EQ(Cell(150), "Block 150, changed");
   EXPECT_EQ(Hint(),
             "The control holds a file's configuration: 1 block is not in the device yet. Next: "
-            "Upload all, "
-            "with macros.");
+            "Upload all, with macros.");
 }
 
 TEST_F(MuxhostBlocks, CellTellsWhatItsBlockHoldsByPointerAndByKey) {
@@ -146,24 +74,12 @@ TEST_F(MuxhostBlocks, WithoutABackupTheUploadAsksFirst) {
   Download();
   ChangeZones();
   window_.Backups().SetWanted(true);
-  QString told;
-  const auto answer = [&told](const char* with) {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return false;
-    told = box->text();
-    return Press(with);
-  };
   session_.SetFault(Fault{.kind = FaultKind::kShort, .at = 3});
-  {
-    const WhenShown question([&] { return answer("Cancel"); });
-    Click("Upload modified");
-  }
-  EXPECT_EQ(told, "There is no backup of the device: block 3 came with 8 bytes.");
+  Click("Upload modified", Answering("Cancel"));
+  EXPECT_EQ(told_, "There is no backup of the device: block 3 came with 8 bytes.");
   EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
-  QFile file(backups_.filePath("file"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  window_.Backups().SetFolder(file.fileName() + "/below");
-  const WhenShown question([&] { return answer("Upload without backup"); });
+  window_.Backups().SetFolder(NewFile("file", {}) + "/below");
+  const WhenShown question(Answering("Upload without backup"));
   SendModified();
   EXPECT_TRUE(session_.LastExchange().read_back->AsSent());
 }

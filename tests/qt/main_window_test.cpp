@@ -1,9 +1,6 @@
 #include "apps/muxhost/window/main_window.h"
 
 #include <QAbstractItemView>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QTemporaryDir>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -27,7 +24,6 @@ class MuxhostWindow : public MuxhostOnScreen {
     }
     return letters;
   }
-  [[nodiscard]] QString Hint() { return window_.findChild<QLabel*>("Hint")->text(); }
   void Arm(const char* fault, int at) {
     auto* const heading = window_.findChild<QToolButton*>("LinkHeading");
     if (!heading->isChecked()) heading->click();
@@ -43,10 +39,15 @@ class MuxhostWindow : public MuxhostOnScreen {
   }
 };
 
-TEST_F(MuxhostWindow, TitleTypedInTheEditorReachesTheDevice) {
+TEST_F(MuxhostWindow, NewcomerDownloadsEditsUploadsAndSeesItVerified) {
+  window_.Backups().SetWanted(true);
   EXPECT_EQ(Enabled(), "CDoRDe");
   EXPECT_EQ(Button("Save file").toolTip(), "Download the device's configuration first");
+  EXPECT_EQ(window_.focusWidget(), &Button("Download"));
+  EXPECT_TRUE(Button("Download").isDefault());
   Download();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Button("Menu").isDefault(); }));
+  EXPECT_EQ(Hint(), "Next: Menu opens the editors, such as those of the cameras.");
   ASSERT_EQ(Enabled(), "CDoMZUaSRDe");
   EXPECT_EQ(Button("Upload modified").toolTip(),
             "No block is listed as modified; Upload all writes everything");
@@ -59,15 +60,31 @@ TEST_F(MuxhostWindow, TitleTypedInTheEditorReachesTheDevice) {
   title->selectAll();
   QTest::keyClicks(title, "Gate");
   QTest::keyClick(title, Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-  QApplication::activePopupWidget()->close();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return Button("Upload modified").isEnabled(); }));
-  SendModified();
-  EXPECT_EQ(session_.LastExchange().blocks_written.size(), 1U);
+  DismissMenu();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Button("Upload modified").isDefault(); }));
+  EXPECT_EQ(Cell(3), "Block 3, changed");
+  EXPECT_EQ(Hint(), "1 block modified and not in the device yet. Next: Upload modified.");
+  map_.setCurrentIndex(map_.model()->index(2, 0));
+  EXPECT_NE(Contents().find("CamInfo(2).title = \"Gate"), std::string::npos) << Contents();
+  EXPECT_EQ(Contents().rfind("In the control:\n47 61 74 65 20", 0), 0U) << "the bytes as edited";
+
+  const auto before = session_.Device().Bytes();
+  const std::string old(before.begin(), before.end());
+  Click(
+      "Upload modified", Pressing("START"), [this] { return Cell(3) == "Block 3, sent"; },
+      [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
+  EXPECT_EQ(session_.LastExchange().blocks_written, std::vector<Byte>{3});
   EXPECT_TRUE(DeviceIsAsEdited());
-  const auto changed = session_.Control().Image();
-  const std::string bytes(changed.begin(), changed.end());
-  EXPECT_NE(bytes.find("Gate"), std::string::npos);
+  EXPECT_EQ(Cell(3), "Block 3, verified");
+  EXPECT_EQ(Hint(), "1 block verified: the device holds what was sent.");
+
+  // What the device held is kept.
+  ASSERT_EQ(BackupFiles().size(), 1);
+  QFile file(BackupFiles().front());
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll().toStdString(), old);
+  EXPECT_NE(Events().find("Backup of the device: 3600 bytes in " + file.fileName().toStdString()),
+            std::string::npos);
 }
 
 TEST_F(MuxhostWindow, AnotherDeviceIsConnectedWithTheButton) {
@@ -102,20 +119,15 @@ TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
   const auto zones = session_.ReadZones(0);
   ChangeZones();
   window_.Backups().SetWanted(true);
-  {
-    const WhenShown send([] { return StartSending("Select all data blocks"); });
-    const WhenShown finish(
-        [this] { return session_.LastExchange().array_bytes > 0 && Press("CLOSE"); });
-    Click("Upload all");
-  }
+  Click(
+      "Upload all", [] { return StartSending("Select all data blocks"); },
+      [this] { return session_.LastExchange().array_bytes > 0 && Press("CLOSE"); });
   EXPECT_TRUE(session_.LastExchange().read_back->AsSent());
   EXPECT_EQ(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
   EXPECT_NE(Events().find("Verified 225 blocks.\n"), std::string::npos);
 
   ASSERT_EQ(BackupFiles().size(), 1);
-  const WhenShown name([this] { return Name(BackupFiles().front()); });
-  const WhenShown finish([] { return Press("OK"); });
-  Click("Restore file");
+  Restore(BackupFiles().front());
   EXPECT_EQ(session_.ReadZones(0), zones);
   EXPECT_EQ(Cell(86), "Block 86, changed");
   EXPECT_TRUE(Button("Upload all").isDefault()) << "a file's blocks are not listed";
@@ -125,39 +137,29 @@ TEST_F(MuxhostWindow, ReturnGoesOnAfterEachTransfer) {
   window_.findChildren<QComboBox*>().at(2)->setCurrentText("Combined array");
   Click("Connect");
   session_.Configure({.sync = true});  // the array is there before the receive dialog
+  /// Presses Return in a dialog, where it strikes this button.
   const auto press_return = [](const char* name) {
-    return [name] {
-      QWidget* const modal = QApplication::activeModalWidget();
-      if (modal == nullptr || modal->objectName() != "frm_ULFrMux") return false;
-      EXPECT_EQ(modal->focusWidget()->objectName(), name);
-      QTest::keyClick(modal->focusWidget(), Qt::Key_Return);
-      return true;
-    };
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (modal == nullptr) return false;
+    EXPECT_EQ(modal->focusWidget()->objectName(), name);
+    QTest::keyClick(modal->focusWidget(), Qt::Key_Return);
+    return true;
   };
-  {
-    const WhenShown finish(press_return("cmdOK"));
-    Click("Download");
-  }
-  EXPECT_TRUE(QTest::qWaitFor([this] { return window_.focusWidget() == &Button("Menu"); }));
+  const auto menu_is_next = [this] { return window_.focusWidget() == &Button("Menu"); };
+  Click("Download", [&] { return press_return("cmdOK"); });
+  EXPECT_TRUE(QTest::qWaitFor(menu_is_next));
   ChangeZones();
   EXPECT_TRUE(QTest::qWaitFor([this] { return Button("Upload modified").isDefault(); }));
   session_.Configure({});
-  const WhenShown send([] { return StartSending("Select modified blocks"); });
-  const WhenShown finish([this] {
-    QWidget* const modal = QApplication::activeModalWidget();
-    if (!session_.LastExchange().end_written || modal == nullptr) return false;
-    EXPECT_EQ(modal->focusWidget()->objectName(), "cmdCancel");
-    QTest::keyClick(modal->focusWidget(), Qt::Key_Return);
-    return true;
-  });
-  Click("Upload modified");
-  EXPECT_TRUE(QTest::qWaitFor([this] { return window_.focusWidget() == &Button("Menu"); }));
+  Click("Upload modified", SendListed,
+        [&] { return session_.LastExchange().end_written && press_return("cmdCancel"); });
+  EXPECT_TRUE(QTest::qWaitFor(menu_is_next));
 }
 
 TEST_F(MuxhostWindow, ADoubleClickOnStartDoesNotStop) {
   Download();
   Arm("silent", 1);
-  const WhenShown start([] {
+  const auto start = [] {
     QWidget* const dialog = QApplication::activeModalWidget();
     QPushButton* const button = dialog == nullptr ? nullptr : Find(dialog, "START");
     if (button == nullptr) return false;
@@ -167,13 +169,10 @@ TEST_F(MuxhostWindow, ADoubleClickOnStartDoesNotStop) {
     EXPECT_TRUE(Find(dialog, "STOP")->isVisible());
     EXPECT_EQ(dialog->childAt(place), button);
     return true;
-  });
-  const WhenShown close([this] { return session_.LastExchange().unanswered && Press("CLOSE"); });
-  const WhenShown question([] {
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr &&
-           Press("Close");
-  });
-  Click("Upload all");
+  };
+  Click(
+      "Upload all", start, [this] { return session_.LastExchange().unanswered && Press("CLOSE"); },
+      Answering("Close"));
 }
 
 TEST_F(MuxhostWindow, NamesInTheStatusBarAreNoMarkup) {
@@ -189,28 +188,25 @@ TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
   ChangeZones();
   Arm("drop", 2);
   EXPECT_NE(Find<QToolButton>(&window_, "Link: armed, drop at 2"), nullptr);
-  QString told;
   int starts = 0;
   bool again = false;
-  const WhenShown question([&] {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return false;
-    told = box->text();
+  const auto question = [&, answer = Answering("Send again")] {
+    if (qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr) return false;
     EXPECT_EQ(Cell(85) + ", " + Cell(86), "Block 85, verified, Block 86, failed");
     EXPECT_NE(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
     again = true;
-    return Press("Send again");
-  });
-  const WhenShown send([&] {
-    if (StartSending("Select modified blocks")) ++starts;
+    return answer();
+  };
+  const auto send = [&starts] {
+    if (SendListed()) ++starts;
     return starts == 2;
-  });
-  const WhenShown finish([&] {
+  };
+  const auto finish = [&] {
     const bool closed = session_.LastExchange().end_written && Press("CLOSE");
     return closed && again;
-  });
-  Click("Upload modified");
-  EXPECT_EQ(told, "The device does not hold block 86 as sent.");
+  };
+  Click("Upload modified", question, send, finish);
+  EXPECT_EQ(told_, "The device does not hold block 86 as sent.");
   EXPECT_TRUE(DeviceIsAsEdited());
   EXPECT_EQ(Cell(86), "Block 86, verified");
   EXPECT_EQ(Enabled(), "CDoMZUmUaSRDe");
@@ -236,12 +232,12 @@ TEST_F(MuxhostWindow, WindowStaysUsableAfterWhateverTheLinkDoes) {
   };
   for (const auto& it : cases) {
     Arm(it.fault, 3);
-    const WhenShown act([&it, this] {
+    const auto act = [&it, this] {
       QWidget* const dialog = QApplication::activeModalWidget();
       if (it.pressed != nullptr) return *it.pressed == '\0' || Press(it.pressed);
       return dialog != nullptr && session_.LastExchange().blocks_read == 2 && dialog->close();
-    });
-    Click("Download");
+    };
+    Click("Download", act);
     EXPECT_EQ(Enabled(), it.left) << it.fault;
     EXPECT_NE(Events().find(it.event), std::string::npos) << it.event;
   }
@@ -251,32 +247,27 @@ TEST_F(MuxhostWindow, StopIsPressedByTheLink) {
   Download();
   ChangeZones();
   Arm("stop", 1);
-  const WhenShown send([] { return StartSending("Select modified blocks"); });
-  const WhenShown finish([this] {
+  Click("Upload modified", SendListed, [this] {
     return Events().find("Somebody pressed STOP of the send dialog.\n") != std::string::npos &&
            Press("CLOSE");
   });
-  Click("Upload modified");
   EXPECT_EQ(session_.LastExchange().blocks_written, (std::vector<Byte>{85}));
   EXPECT_EQ(Enabled(), "CDoMZUmUaSRDe");
   EXPECT_NE(Events().find("The upload has not come to its end.\n"), std::string::npos);
 }
 
 TEST_F(MuxhostWindow, HeadlineTellsWhereTheConfigurationComesFrom) {
-  const auto is_hint = [this](const QString& text) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Hint() == text; })) << Hint().toStdString();
-  };
   const auto fail_to_download = [this] {
     Arm("close", 3);
     Click("Download");
   };
   fail_to_download();
-  is_hint(
+  ExpectHint(
       "The download has not come to its end: the control holds no configuration. Next: Download.");
   Download();
-  is_hint("Next: Menu opens the editors, such as those of the cameras.");
+  ExpectHint("Next: Menu opens the editors, such as those of the cameras.");
   fail_to_download();
-  is_hint(
+  ExpectHint(
       "The download has not come to its end: the control keeps the configuration that it had. "
       "Next: Download.");
 
@@ -285,39 +276,20 @@ TEST_F(MuxhostWindow, HeadlineTellsWhereTheConfigurationComesFrom) {
   image.resize(200 * 16);
   image.at(15) = 200;
   image.at(0) = 'F';
-  const QString path = backups_.filePath("short.bin");
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(reinterpret_cast<const char*>(image.data()), static_cast<qsizetype>(image.size()));
-  file.close();
-  {
-    const WhenShown cancel([] {
-      auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      return dialog != nullptr && QMetaObject::invokeMethod(dialog, "reject");
-    });
-    Click("Restore file");
-  }
-  is_hint("No file was restored: the control keeps the configuration that it had.");
-  {
-    const WhenShown name([&] { return Name(path); });
-    const WhenShown finish([] { return Press("OK"); });
-    Click("Restore file");
-  }
+  const QString path = NewFile("short.bin", image);
+  Click("Restore file", [] {
+    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    return dialog != nullptr && QMetaObject::invokeMethod(dialog, "reject");
+  });
+  ExpectHint("No file was restored: the control keeps the configuration that it had.");
+  Restore(path);
   EXPECT_TRUE(Hint().startsWith("The control holds a file's configuration: "))
       << Hint().toStdString();
   EXPECT_TRUE(
       Hint().endsWith(" not in the device yet. It has nothing for blocks 201-225 of the device. "
                       "Next: Upload all."));
-  QString told;
-  {
-    const WhenShown question([&told] {
-      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box != nullptr) told = box->text();
-      return box != nullptr && Press("Cancel");
-    });
-    Click("Upload all");
-  }
-  EXPECT_EQ(told, "The configuration has nothing for blocks 201-225 of the device.");
+  Click("Upload all", Answering("Cancel"));
+  EXPECT_EQ(told_, "The configuration has nothing for blocks 201-225 of the device.");
   EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
 }
 
@@ -326,12 +298,9 @@ TEST_F(MuxhostWindow, KeyboardLockOfTheMenuIsNotToBeUploaded) {
   Click("Connect");
   Download();
   Click("Menu");
-  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-  QApplication::activePopupWidget()->close();
+  DismissMenu();
   EXPECT_EQ(session_.Control().Settings("LockKeyBoard").at(0).value, "1");
-  EXPECT_TRUE(QTest::qWaitFor([this] {
-    return Hint() == "Next: Menu opens the editors, such as those of the cameras.";
-  })) << Hint().toStdString();
+  ExpectHint("Next: Menu opens the editors, such as those of the cameras.");
   EXPECT_EQ(Cell(60), "Block 60, untouched");
 }
 
@@ -340,25 +309,17 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
   const QString file = folder.filePath("gate.bin");
   Download();
   ChangeZones();
-  {
-    const WhenShown save([&] { return Name(file); });
-    Click("Save file");
-  }
+  Click("Save file", [&] { return Name(file); });
   ASSERT_EQ(QFileInfo(file).size(), 225 * 16);
 
   // Both ask first, as what was edited is not in the device.
   for (const char* const command : {"Defaults", "Restore file"}) {
-    const WhenShown question([] { return Press("Cancel"); });
-    Click(command);
+    Click(command, Pressing("Cancel"));
     EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5)) << command;
   }
   {
-    const WhenShown question([] { return Press("Discard"); });
-    const WhenShown told([] {
-      return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr &&
-             Press("OK");
-    });
-    Click("Defaults");
+    const WhenShown told(Answering("OK"));
+    Click("Defaults", Pressing("Discard"));
     ASSERT_TRUE(QTest::qWaitFor([this] { return session_.LastExchange().arrived; }));
   }
   EXPECT_NE(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
@@ -366,12 +327,7 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
     QTimer discard;  // in case that defaults differ from the device
     QObject::connect(&discard, &QTimer::timeout, [] { Press("Discard"); });
     discard.start(1);
-    const WhenShown name([&] { return Name(file); });
-    const WhenShown finish([] {
-      QWidget* const modal = QApplication::activeModalWidget();
-      return modal != nullptr && modal->objectName() == "frm_ULFrMux" && Press("OK");
-    });
-    Click("Restore file");
+    Restore(file);
   }
   EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));
   EXPECT_EQ(Enabled(), "CDoMZUaSRDe");
@@ -387,10 +343,10 @@ TEST_F(MuxhostWindow, NothingCanBeEditedUntilTheAnswerIsThere) {
   EXPECT_EQ(Enabled(), "CMZSR");
   EXPECT_EQ(Button("Download").toolTip(), "The link to the device is off");
   link->click();
-  const WhenShown told([] { return Press("OK"); });
+  const WhenShown told(Pressing("OK"));
   Click("Defaults");
   EXPECT_EQ(Enabled(), "");
-  EXPECT_EQ(window_.findChild<QLabel*>("Hint")->text(), "Waiting for the device.");
+  EXPECT_EQ(Hint(), "Waiting for the device.");
   EXPECT_TRUE(QTest::qWaitFor([this] { return session_.LastExchange().arrived; }));
   EXPECT_EQ(Enabled(), "CDoMZUaSRDe");
 }
@@ -417,7 +373,7 @@ TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
   Download();
   ChangeZones();
   for (const char* const answer : {"Cancel", "Discard"}) {
-    const WhenShown question([answer] { return Press(answer); });
+    const WhenShown question(Pressing(answer));
     window_.close();
     EXPECT_EQ(window_.isVisible(), std::string(answer) == "Cancel");
   }
@@ -440,7 +396,7 @@ TEST_F(MuxhostWindow, ClosedInTheMiddleOfATransferItEndsTheTransfer) {
     }
     window_.show();
     Arm("silent", 2);
-    const WhenShown send([upload] { return !upload || StartSending("Select modified blocks"); });
+    const WhenShown send([upload] { return !upload || SendListed(); });
     QStringList answers{"Cancel", "Discard"};
     const WhenShown close([&] {
       const Exchange& exchange = session_.LastExchange();

@@ -5,14 +5,19 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <functional>
+#include <list>
 #include <string>
 #include <utility>
 
@@ -20,10 +25,13 @@
 
 namespace quorvel::muxhost {
 
+/// What the user does to a window that comes up; false as long as it has not come.
+using Act = std::function<bool()>;
+
 /// Acts on the first window of a kind that comes on screen, from within the loop.
 class WhenShown : public QObject {
  public:
-  explicit WhenShown(std::function<bool()> act) : act_(std::move(act)) {
+  explicit WhenShown(Act act) : act_(std::move(act)) {
     QObject::connect(&timer_, &QTimer::timeout, this, [this] {
       if (act_()) timer_.stop();
     });
@@ -32,7 +40,7 @@ class WhenShown : public QObject {
   ~WhenShown() override { EXPECT_FALSE(timer_.isActive()) << "the window did not come"; }
 
  private:
-  std::function<bool()> act_;
+  Act act_;
   QTimer timer_;
 };
 
@@ -59,9 +67,20 @@ class MuxhostOnScreen : public testing::Test {
   }
   [[nodiscard]] QPushButton& Button(const char* text) { return *Find(&window_, text); }
   /// Clicks a button of the window once it can be: the window looks for changes from time to time.
-  void Click(const char* text) {
+  /// Then acts on the windows that come up.
+  template <class... Acts>
+  void Click(const char* text, Acts... acts) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return Button(text).isEnabled(); })) << text;
+    std::list<WhenShown> waiting;
+    (waiting.emplace_back(acts), ...);
     QTest::mouseClick(&Button(text), Qt::LeftButton);
+  }
+  [[nodiscard]] QString Hint() { return window_.findChild<QLabel*>("Hint")->text(); }
+  void ExpectHint(const QString& text) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Hint() == text; })) << Hint().toStdString();
+  }
+  [[nodiscard]] std::string Contents() {
+    return Find<QPlainTextEdit>(&window_, "What the block holds")->toPlainText().toStdString();
   }
   [[nodiscard]] std::string Events() {
     auto* const log = Find<QListWidget>(&window_, "Events");
@@ -77,6 +96,17 @@ class MuxhostOnScreen : public testing::Test {
     if (button == nullptr || !button->isEnabled() || !button->isVisible()) return false;
     QTest::mouseClick(button, Qt::LeftButton);
     return true;
+  }
+  static Act Pressing(const char* text) {
+    return [text] { return Press(text); };
+  }
+  /// Answers a message box, and keeps what it told.
+  Act Answering(const char* with) {
+    return [this, with] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box != nullptr) told_ = box->text();
+      return box != nullptr && Press(with);
+    };
   }
   /// What a screen reader is told of a block's cell in the map.
   [[nodiscard]] std::string Cell(int block) {
@@ -100,10 +130,19 @@ class MuxhostOnScreen : public testing::Test {
     dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
     return QMetaObject::invokeMethod(dialog, "accept");
   }
-  void Download() {
-    const WhenShown finish([] { return Press("OK"); });
-    Click("Download");
+  /// Writes a file that is not the device's own.
+  QString NewFile(const char* name, const std::vector<Byte>& bytes) {
+    QFile file(backups_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
+    return file.fileName();
   }
+  template <class... Acts>
+  void Restore(const QString& path, Acts... acts) {
+    Click(
+        "Restore file", [path] { return Name(path); }, acts..., Pressing("OK"));
+  }
+  void Download() { Click("Download", Pressing("OK")); }
   /// Chooses what to send in the send dialog, and presses START.
   static bool StartSending(const QString& choice) {
     QWidget* const dialog = QApplication::activeModalWidget();
@@ -112,11 +151,14 @@ class MuxhostOnScreen : public testing::Test {
     option->click();
     return Press("START");
   }
+  static bool SendListed() { return StartSending("Select modified blocks"); }
   void SendModified() {
-    const WhenShown send([] { return StartSending("Select modified blocks"); });
-    const WhenShown finish(
-        [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
-    Click("Upload modified");
+    Click("Upload modified", SendListed,
+          [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
+  }
+  static void DismissMenu() {
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    QApplication::activePopupWidget()->close();
   }
   void Choose(const char* item) {
     Click("Menu");
@@ -144,6 +186,7 @@ class MuxhostOnScreen : public testing::Test {
     return window;
   }
 
+  QString told_;  ///< by the last message box that was answered
   QTemporaryDir backups_;
   QtPlatform platform_;
   QObject turns_;

@@ -1,8 +1,6 @@
 #include "apps/muxhost/window/zone_editor.h"
 
 #include <QAccessible>
-#include <QLabel>
-#include <QMessageBox>
 
 #include "tests/qt/muxhost_on_screen.h"
 
@@ -155,20 +153,15 @@ TEST_F(MuxhostZones, ChangesAreLostOnlyWhenTheUserSaysSo) {
   cameras_->setCurrentRow(3);
   Press("All");
   {
-    QString asked;
-    const WhenShown question([&] {
-      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box != nullptr) asked = box->text();
-      return MuxhostOnScreen::Press("Cancel");
-    });
+    const WhenShown question(Answering("Cancel"));
     QTest::keyClick(grid_, Qt::Key_Escape);
-    EXPECT_EQ(asked,
+    EXPECT_EQ(told_,
               "The changed zones of cameras 1, 4 have not been handed to the control. "
               "Closing loses them.");
   }
   ASSERT_TRUE(editor_->isVisible());
   {
-    const WhenShown question([] { return MuxhostOnScreen::Press("Discard"); });
+    const WhenShown question(Pressing("Discard"));
     editor_->close();
   }
   EXPECT_TRUE(QTest::qWaitFor([this] { return editor_.isNull(); }));
@@ -211,7 +204,7 @@ TEST_F(MuxhostZones, CamerasWithoutMotionDetectionAreMarkedAndItsEditorOpensTheZ
 TEST_F(MuxhostZones, CloseOfTheHostTakesTheEditorAlong) {
   Open();
   Press("All");
-  const WhenShown question([] { return MuxhostOnScreen::Press("Discard"); });
+  const WhenShown question(Pressing("Discard"));
   window_.close();
   EXPECT_FALSE(window_.isVisible());
   EXPECT_TRUE(editor_.isNull() || !editor_->isVisible());
