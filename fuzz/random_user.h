@@ -7,9 +7,6 @@
 
 namespace quorvel::fuzz {
 
-/// Does to a control what a person could do, with rows, items and texts from the input.
-Answer Use(Widget& widget, ByteSource& in);
-
 /// Uses one of a dialog's controls by name; at the end of the input, none.
 void UseOneOf(Dialog& dialog, std::initializer_list<const char*> names, ByteSource& in);
 
