@@ -1,4 +1,3 @@
-#include <vector>
 
 #include "tests/core/codec_fixture.h"
 
@@ -86,15 +85,6 @@ TEST_F(Codec, WhatAnImageLeavesOutOfAnEarlierOne) {
   image_.Block(47)[7] = 0x50;
   Decode();
   EXPECT_EQ(rec_->CamInfo(15)->SignalGain(), 5);
-}
-
-TEST_F(Codec, IdentityBits) {
-  Make(0x86, 0);
-  EXPECT_EQ(env_.identity.ModelCode, 6);
-  EXPECT_TRUE(env_.identity.ExtendedImage);
-  Make(19, 16, 224);
-  EXPECT_FALSE(env_.identity.ExtendedImage);
-  EXPECT_TRUE(env_.identity.PlexarProModel && env_.identity.LumacastModel);
 }
 
 }  // namespace

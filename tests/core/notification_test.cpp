@@ -1,5 +1,3 @@
-#include <functional>
-
 #include "tests/core/codec_fixture.h"
 
 namespace quorvel {
@@ -25,47 +23,6 @@ class Notification : public Codec {
     return texts;
   }
 };
-
-TEST_F(Notification, ServerOctetsMarkTheirServerInTheBlock) {
-  const struct {
-    int block;
-    Byte mask;
-    CommitFlag flag;
-    std::function<void(MuxData&)> change;
-  } cases[] = {
-      {213, 1, CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.SMTPServer(2, 9); }},
-      {213, 2, CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.TCPHost(0, 9); }},
-      {213, 4, CommitAlarm, [](MuxData& r) { r.AlmEmailNotify.TCPBkUpHost(3, 9); }},
-      {217, 1, CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPPrimServer(1, 9); }},
-      {217, 2, CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPBkupServer(2, 9); }},
-      {217, 0, CommitTimeDate, [](MuxData& r) { r.TDInfo.NTPUpdate(1); }},
-      {213, 5, CommitAlarm,
-       [](MuxData& r) {
-         r.AlmEmailNotify.TCPBkUpHost(0, 1);
-         r.AlmEmailNotify.SMTPServer(0, 1);
-       }},
-  };
-  for (const auto& it : cases) {
-    SCOPED_TRACE("block " + std::to_string(it.block) + " mask " + std::to_string(it.mask));
-    Make(6);
-    it.change(*rec_);  // nobody commits
-    Encode(it.block);
-    EXPECT_EQ(image_.Block(it.block)[0], 0);
-    Make(6);
-    const auto change = [&] {
-      const CommitScope scope(env_.commit, it.flag);
-      it.change(*rec_);
-    };
-    change();
-    EXPECT_EQ(TakeListed(), std::vector<int>{it.block});
-    Encode(it.block);
-    EXPECT_EQ(image_.Block(it.block)[0], it.mask);
-    change();  // to the value that it has
-    EXPECT_EQ(TakeListed(), std::vector<int>{});
-    Encode(it.block);  // again: encoding is not sending
-    EXPECT_EQ(image_.Block(it.block)[0], it.mask);
-  }
-}
 
 TEST_F(Notification, AddressesAreSplitIntoTextBlocks) {
   const std::string a = "abcdefghijklmnop", b = "ABCDEFGHIJKLMNOP", c = "0123456789.-_+=/";

@@ -13,13 +13,13 @@ constexpr int kTimeServers = 217;
 /// A control over a device of 225 blocks, whose servers and clock are edited in the record.
 class ChangeMarks : public ::testing::Test, public MainMenuEvents {
  protected:
-  void SetUp() override { Arrive(6); }
+  void SetUp() override { Arrive(); }
 
-  void Arrive(Byte code) {
+  void Arrive() {
     BlockImage image = LoadDefaultImage(401);
     image.ResizeBlocks(225);
     image.Block(1)[15] = 225;
-    WriteIdentityBlock(image, 16, code, "UNIT 1");
+    WriteIdentityBlock(image, 16, 6, "UNIT 1");
     It().Adopt(std::move(image), ImageSource::kDevice);
     packets_.clear();
   }
@@ -76,8 +76,6 @@ class ChangeMarks : public ::testing::Test, public MainMenuEvents {
       return ends && dialog.CloseWindow() == Answer::kDone;
     });
   }
-  /// The packet of a block that was sent last, one byte of it.
-  Byte Sent(int block, std::size_t at) { return packets_.at(block).at(at + 1); }
 
   void DownLoadData(std::span<std::uint8_t> bdata) override {
     packets_[bdata[0]].assign(bdata.begin(), bdata.end());
@@ -96,35 +94,6 @@ class ChangeMarks : public ::testing::Test, public MainMenuEvents {
   bool acknowledge_ = true;
   bool fails_ = false;
 };
-
-TEST_F(ChangeMarks, AreWrittenUntilAPacketThatCarriedThemIsAcknowledged) {
-  EditAll();
-  EXPECT_EQ(Marks(), "0 1 2, image 1 0 0");
-  platform_.AnswerNextFile("saved.bin");
-  component_->Custom(14, 0, 0);
-  EXPECT_EQ(platform_.files["saved.bin"].at((kServers - 1) * 16), 1);
-  Host().HostType = 16;  // the family does not fit
-  component_->Custom(11, 0, 0);
-  EXPECT_EQ(platform_.TakeMessages().size(), 1U);
-  Host().HostType = 48;
-  acknowledge_ = false;
-  Send();  // one packet, and the dialog is closed
-  EXPECT_EQ(packets_.size(), 1U);
-  EXPECT_EQ(Sent(kServers, 0), 1);
-  EXPECT_EQ(Marks(), "0 1 2, image 0 1 2");
-  acknowledge_ = true;
-  Send();
-  EXPECT_EQ(Sent(kClock, 15), 0);
-  EXPECT_EQ(Sent(kServers, 0), 1);
-  EXPECT_EQ(Sent(kTimeServers, 0), 2);
-  EXPECT_EQ(Marks(), "1 0 0, image 1 0 0");
-  for (const bool all : {true, false}) {  // the list is as it was
-    Send(all);
-    EXPECT_EQ(Sent(kClock, 15), 1);
-    EXPECT_EQ(Sent(kServers, 0), 0);
-    EXPECT_EQ(Sent(kTimeServers, 0), 0);
-  }
-}
 
 TEST_F(ChangeMarks, FollowWhatHappensBeforeTheAcknowledgement) {
   const struct {
@@ -145,7 +114,7 @@ TEST_F(ChangeMarks, FollowWhatHappensBeforeTheAcknowledgement) {
        0},
       {"another image, edited as well",
        [this](Dialog&) {
-         Arrive(6);
+         Arrive();
          EditServer(10);
        },
        1},
@@ -154,7 +123,7 @@ TEST_F(ChangeMarks, FollowWhatHappensBeforeTheAcknowledgement) {
   for (const auto& it : cases) {
     SCOPED_TRACE(it.what);
     component_ = Component::Create(platform_, *this);
-    Arrive(6);
+    Arrive();
     EditServer(10);
     acknowledge_ = false;
     bool acknowledged = false;
@@ -201,7 +170,7 @@ TEST_F(ChangeMarks, AreTakenWithACombinedArray) {
   Host().combo_sizes = {4, 2, 225, 5, 6};
   for (const auto& it : cases) {
     SCOPED_TRACE(it.what);
-    Arrive(6);
+    Arrive();
     EditAll();
     sent_array_.clear();
     fails_ = it.fails;
@@ -212,28 +181,6 @@ TEST_F(ChangeMarks, AreTakenWithACombinedArray) {
   }
 }
 
-/// Whether the device is to take the clock: byte 15 of block 61 in a send of all blocks. Below code
-/// 6 it is a setting.
-TEST_F(ChangeMarks, TellWhoseClockItIs) {
-  const struct {
-    Byte code;
-    bool pc_time;
-    int dwell;
-    int sent;
-  } cases[] = {{6, false, 1, 1}, {6, false, 0, 0}, {6, true, 1, 0},
-               {5, false, 9, 9}, {5, true, 9, 9},  {0, false, 9, 9}};
-  Host().ComboMode = true;
-  for (const auto& it : cases) {
-    Arrive(it.code);
-    It().Record().PlayDwell(static_cast<Byte>(it.dwell));
-    It().env.blocks.AddBlk(kClock);
-    It().UsePcTime = it.pc_time;
-    Send(true);
-    EXPECT_EQ(sent_array_.substr(0, 1), std::to_string(it.sent)) << int{it.code} << it.pc_time;
-    EXPECT_EQ(It().Record().PlayDwell(), it.code < 6 ? it.dwell : 1);
-  }
-}
-
 TEST_F(ChangeMarks, TheClockOfTheComputerIsThatOfTheMomentOfSending) {
   platform_.SetNow({{2024, 2, 28}, {23, 59, 58}});
   It().UsePcTime = true;
@@ -241,9 +188,8 @@ TEST_F(ChangeMarks, TheClockOfTheComputerIsThatOfTheMomentOfSending) {
   platform_.Advance(3000);
   EXPECT_TRUE((platform_.Now() == LocalTime{{2024, 2, 29}, {0, 0, 1}}));
   Send();
-  EXPECT_EQ(Sent(kClock, 0), 0);
-  EXPECT_EQ(Sent(kClock, 1), 0);
-  EXPECT_EQ(Sent(kClock, 2), 1);
+  const auto& clock = packets_.at(kClock);
+  EXPECT_EQ(std::vector<Byte>(clock.begin() + 1, clock.begin() + 4), (std::vector<Byte>{0, 0, 1}));
 }
 
 }  // namespace

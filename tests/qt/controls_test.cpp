@@ -14,33 +14,6 @@ class QtControls : public OnScreen {
   }
 };
 
-TEST_F(QtControls, TypingReachesTheModelUpToItsLimit) {
-  auto& edit = Body<QLineEdit>("text");
-  QTest::keyClicks(&edit, "Lobby one two three");
-  EXPECT_EQ(dialog_->text.Text(), "Lobby one tw");
-  edit.setCursorPosition(2);
-  QTest::keyClicks(&edit, "X");
-  EXPECT_EQ(dialog_->text.Text(), "Lobby one tw");
-  EXPECT_TRUE(dialog_->text.Edited());
-}
-
-TEST_F(QtControls, TextThatTheProgramSetIsShownAndNotWrittenBack) {
-  TextBox& box = dialog_->text;
-  auto& edit = Body<QLineEdit>("text");
-  for (const std::string& text :
-       {std::string("Longer than twelve characters"), std::string("Stra\xC3\x9F"), std::string(),
-        std::string("A\0B", 3)}) {
-    box.SetText(text);
-    EXPECT_EQ(edit.text().toStdString(), text);
-    EXPECT_EQ(box.Text(), text);
-    EXPECT_FALSE(box.Edited());
-  }
-  EXPECT_EQ(TakeNotes(), "");
-  QTest::keyClick(&edit, Qt::Key_End);
-  QTest::keyClicks(&edit, "C");
-  EXPECT_EQ(box.Text(), std::string("A\0BC", 4));
-}
-
 TEST_F(QtControls, RewrittenTextKeepsTheCursorWhereTheTypistIs) {
   TextBox& box = dialog_->text;
   box.on_change = [&box] {

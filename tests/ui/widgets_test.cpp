@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "apps/muxhost/script/commands.h"
 #include "quorvel/headless_platform.h"
 #include "ui/editing/octet_boxes.h"
 
@@ -248,39 +245,6 @@ TEST_F(Widgets, SpokenNamesComeFromTheNearestWords) {
     widget->AttachView(nullptr);
   }
   dialog_->days.AttachView(nullptr);
-}
-
-TEST(ScriptVerbs, SlideAndPick) {
-  std::ostringstream out;
-  muxhost::Desk desk(out);
-  const auto dialog = std::make_shared<AllKinds>(desk.platform);
-  dialog->days.SetItems({"Mon-Fri", "Sat"});
-  dialog->Show();
-  const std::pair<std::vector<std::string>, const char*> cases[] = {
-      {{"tab", "SSTab1", "1"}, ""},
-      {{"select", "cbRTDays", "1"}, ""},
-      {{"slide", "slLnkAlm", "9"}, ""},
-      {{"slide", "slLnkAlm", "101"}, "slLnkAlm has no such place"},
-      {{"slide", "cbRTDays", "1"}, "cbRTDays is nothing to slide"},
-      {{"tab", "SSTab1", "2"}, ""},
-      {{"pick", "DTPicker1", "7:45:30"}, ""},
-      {{"pick", "Calendar", "2024-02-29"}, ""},
-      {{"pick", "Calendar", "07:45"}, "a date is told as 2024-02-29, not 07:45"},
-      {{"pick", "DTPicker1", "24:00"}, "a time is told as 07:45 or 07:45:30, not 24:00"},
-      {{"pick", "slLnkAlm", "07:45"}, "slLnkAlm is nothing to pick in"},
-  };
-  for (const auto& [words, refusal] : cases) {
-    std::string told;
-    try {
-      muxhost::Execute(desk, words);
-    } catch (const std::exception& reason) {
-      told = reason.what();
-    }
-    EXPECT_EQ(told, refusal);
-  }
-  EXPECT_EQ(dialog->days.CurrentText() + " " + dialog->slider.ValueText() + " " +
-                dialog->time.ValueText() + " " + dialog->date.ValueText(),
-            "Sat 9 of 0..100 07:45 2024-02-29");
 }
 
 }  // namespace
