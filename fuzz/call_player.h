@@ -71,8 +71,6 @@ class CallPlayer : public MainMenuEvents {
   void DblClick() override;
 
  private:
-  class TextSource;
-
   /// False at the end of the sequence, and when calls are nested too deep already.
   [[nodiscard]] bool CanStep() const;
   /// The next call of the sequence. The control's calls throw nothing, so neither does it.

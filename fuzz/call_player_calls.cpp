@@ -6,6 +6,7 @@
 #include "fuzz/check.h"
 #include "fuzz/material.h"
 #include "fuzz/random_user.h"
+#include "tests/host/text_source.h"
 
 namespace quorvel::fuzz {
 
@@ -21,17 +22,6 @@ void CheckZero(std::int32_t result) { Check(result == 0, "every call returns 0")
 }  // namespace
 
 /// Texts from the host: odd ones, none, and some during which the host goes on.
-class CallPlayer::TextSource : public AutomationObject {
- public:
-  explicit TextSource(CallPlayer& player) : player_(player) {}
-  std::string Call(std::string_view /*method*/, std::int32_t argument) override {
-    return player_.AnswerText(argument);
-  }
-
- private:
-  CallPlayer& player_;
-};
-
 std::string CallPlayer::AnswerText(std::int32_t id) {
   // Tables of texts are made at once; the sequence must not be spent on them.
   if (id % 8 == 3) InEvent();
@@ -232,8 +222,8 @@ void CallPlayer::UseTexts() {
 }
 
 void CallPlayer::Create() {
-  desk_.Classes().Register(std::string(kTextClass),
-                           [this] { return std::make_shared<TextSource>(*this); });
+  RegisterTexts(desk_.Classes(), std::string(kTextClass),
+                [this](std::int32_t id) { return AnswerText(id); });
   outstanding_ = 0;
   list_was_emptied_ = false;
   control_ = std::make_unique<MainMenuCtrl>(desk_, *this);

@@ -69,18 +69,13 @@ class Desk : public HeadlessPlatform, public MainMenuEvents {
 
   // What is put to the test.
 
-  void Download() {
-    Call([this] { control_->Custom(10, 0, 0); });
+  template <int kCommand>
+  void Command() {
+    Call([this] { control_->Custom(kCommand, 0, 0); });
   }
   void Upload() {
     started_ = false;
-    Call([this] { control_->Custom(11, 0, 0); });
-  }
-  void Restore() {
-    Call([this] { control_->Custom(12, 0, 0); });
-  }
-  void Save() {
-    Call([this] { control_->Custom(14, 0, 0); });
+    Command<11>();
   }
   void OpenEditor() {
     Call([this] { control_->Custom(15, 1, 0); });
@@ -235,26 +230,23 @@ struct Operation {
 bool EditorIsOpen(const Desk& desk) { return desk.Editor() != nullptr; }
 bool EditorIsClosed(const Desk& desk) { return desk.Editor() == nullptr; }
 bool NothingIsModified(const Desk& desk) { return desk.Present().modified.empty(); }
-bool HasZones(std::span<const std::uint8_t> image) {
-  return image.size() > 88 * kBlockSize && image[88 * kBlockSize - 1] == Desk::kZones;
+/// The edit is in an image, or behind the header of an array.
+bool HasZones(std::span<const std::uint8_t> bytes, std::size_t header = 0) {
+  const std::size_t at = header + 88 * kBlockSize - 1;
+  return bytes.size() > at && bytes[at] == Desk::kZones;
 }
 bool ZonesAreInFile(const Desk& desk) { return HasZones(desk.File()); }
-bool ZonesAreInArrayFile(const Desk& desk) {
-  const Bytes file = desk.File();
-  return file.size() > 13 && HasZones(std::span<const std::uint8_t>(file).subspan(13));
-}
+bool ZonesAreInArrayFile(const Desk& desk) { return HasZones(desk.File(), 13); }
 bool ZonesAreInDevice(const Desk& desk) { return HasZones(desk.Device().Bytes()); }
-bool ZonesAreInArray(const Desk& desk) {
-  return desk.SentArray().size() > 13 && HasZones(std::span(desk.SentArray()).subspan(13));
-}
+bool ZonesAreInArray(const Desk& desk) { return HasZones(desk.SentArray(), 13); }
 
 const Operation kOperations[] = {
-    {"DownloadOfBlocks", &Desk::HaveFewBlocks, &Desk::Download, NothingIsModified},
-    {"DownloadOfAnArray", &Desk::BeCombined, &Desk::Download, NothingIsModified},
-    {"RestoreOfAnImage", &Desk::PutDeviceIntoFile, &Desk::Restore, NothingIsModified},
-    {"RestoreOfAnArray", &Desk::PutArrayIntoFile, &Desk::Restore, NothingIsModified},
-    {"SaveOfAnImage", nullptr, &Desk::Save, ZonesAreInFile},
-    {"SaveOfAnArray", &Desk::BeCombined, &Desk::Save, ZonesAreInArrayFile},
+    {"DownloadOfBlocks", &Desk::HaveFewBlocks, &Desk::Command<10>, NothingIsModified},
+    {"DownloadOfAnArray", &Desk::BeCombined, &Desk::Command<10>, NothingIsModified},
+    {"RestoreOfAnImage", &Desk::PutDeviceIntoFile, &Desk::Command<12>, NothingIsModified},
+    {"RestoreOfAnArray", &Desk::PutArrayIntoFile, &Desk::Command<12>, NothingIsModified},
+    {"SaveOfAnImage", nullptr, &Desk::Command<14>, ZonesAreInFile},
+    {"SaveOfAnArray", &Desk::BeCombined, &Desk::Command<14>, ZonesAreInArrayFile},
     {"UploadOfBlocks", nullptr, &Desk::Upload, ZonesAreInDevice},
     {"UploadOfAnArray", &Desk::BeCombined, &Desk::Upload, ZonesAreInArray},
     {"OpeningAnEditor", nullptr, &Desk::OpenEditor, EditorIsOpen},

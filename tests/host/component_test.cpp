@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/host/test_host.h"
+#include "tests/host/text_source.h"
 
 namespace quorvel {
 namespace {
@@ -161,19 +162,6 @@ TEST(Control, AHostThatFailsInAnEventIsToldAndTheSequenceCanBeRepeated) {
   EXPECT_EQ(host.Count("UploadSucceeded"), 3);
 }
 
-/// A source of texts that does something each time it is asked.
-class MeddlingSource : public AutomationObject {
- public:
-  explicit MeddlingSource(std::function<void(int)> act) : act_(std::move(act)) {}
-  std::string Call(std::string_view, std::int32_t id) override {
-    act_(id);
-    return "X";
-  }
-
- private:
-  std::function<void(int)> act_;
-};
-
 /// For the text asked for as the `at`th; 0 is the destruction.
 TEST(Control, ATextSourceMayGiveCommandsOrDestroyTheControl) {
   for (const std::int16_t meddling : {0, 10, 11, 12, 16}) {
@@ -184,13 +172,12 @@ TEST(Control, ATextSourceMayGiveCommandsOrDestroyTheControl) {
         host.Download();
         host.platform.AnswerNextFile("x");
         int asked = 0;
-        const auto meddle = [&](int) {
-          if (host.control == nullptr || ++asked != at) return;
+        RegisterTexts(host.platform.Classes(), "Source", [&](int) {
+          if (host.control == nullptr || ++asked != at) return "X";
           if (meddling != 0) host.control->Custom(meddling, 0, 0);
           if (meddling == 0) host.control.reset();
-        };
-        host.platform.Classes().Register(
-            "Source", [meddle] { return std::make_shared<MeddlingSource>(meddle); });
+          return "X";
+        });
         host.control->CustomWithString(191, 0, 0, "Source");
         if (host.control) host.CommandWithOk(command);
         host.platform.RunUntilIdle();
@@ -206,10 +193,10 @@ TEST(Control, AnEditorOpensForOneDeviceWhateverATextSourceDoes) {
     for (const auto& [before, after] : {std::pair{16, 4}, std::pair{4, 16}}) {
       TestHost host;
       bool meddles = false;
-      const auto source = std::make_shared<MeddlingSource>([&](int id) {
+      RegisterTexts(host.platform.Classes(), "Texts", [&](int id) {
         if (meddles && id == asked_for) host.GiveWholeImage();
+        return "X";
       });
-      host.platform.Classes().Register("Texts", [source] { return source; });
       host.Identify(static_cast<Byte>(before), 6, '2');
       host.Download();
       host.control->HostCommId(1);

@@ -13,6 +13,7 @@
 #include "quorvel/qt_platform.h"
 #include "resources/default_images.h"
 #include "resources/text_table.h"
+#include "tests/host/text_source.h"
 #include "tests/ui/editor_items.h"
 
 namespace quorvel {
@@ -34,7 +35,8 @@ class Installer : public QtPlatform, private MainMenuEvents {
   explicit Installer(const Device& device, Lengthen texts = nullptr) : control_(*this, *this) {
     constexpr Byte kBlocks = 225;  // with which a device has all that its model can have
     constexpr std::int16_t kTextSource = 191;
-    Classes().Register("Texts", [texts] { return std::make_shared<Texts>(texts); });
+    RegisterTexts(Classes(), "Texts",
+                  [texts](int id) { return texts(std::string(BuiltInText(id))); });
     if (texts != nullptr) control_.CustomWithString(kTextSource, 0, 0, "Texts");
     BlockImage image = LoadDefaultImage(401);
     image.ResizeBlocks(kBlocks);
@@ -67,17 +69,6 @@ class Installer : public QtPlatform, private MainMenuEvents {
   }
 
  private:
-  class Texts : public AutomationObject {
-   public:
-    explicit Texts(Lengthen lengthen) : lengthen_(lengthen) {}
-    std::string Call(std::string_view /*method*/, std::int32_t id) override {
-      return lengthen_(std::string(BuiltInText(id)));
-    }
-
-   private:
-    Lengthen lengthen_;
-  };
-
   std::shared_ptr<PopupMenu> menu_;
   Dialog* opened_ = nullptr;
   MainMenuCtrl control_;

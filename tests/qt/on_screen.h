@@ -3,14 +3,27 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <memory>
 #include <string>
 #include <utility>
 
 #include "quorvel/qt_platform.h"
-#include "tests/qt/every_kind.h"
+#include "tests/ui/every_kind.h"
 
 namespace quorvel {
 

@@ -7,9 +7,9 @@
 #include <QScrollBar>
 #include <memory>
 
-#include "tests/qt/every_kind.h"
 #include "tests/qt/installer.h"
 #include "tests/qt/keyboard_walk.h"
+#include "tests/qt/on_screen.h"
 
 namespace quorvel {
 namespace {

@@ -3,22 +3,20 @@
 #include <gtest/gtest.h>
 
 #include "tests/host/test_host.h"
+#include "tests/host/text_source.h"
 
 namespace quorvel {
 namespace {
 
-/// A text source that says "X" for every id but one, for which it fails.
-class Source : public AutomationObject {
- public:
-  std::string Call(std::string_view method, std::int32_t id) override {
-    if (method != "getresourcestring" || id == 271) throw std::runtime_error("no such text");
-    return "X";
-  }
-};
+/// Says "X" for every id but one, for which it fails.
+std::string MostlyX(std::int32_t id) {
+  if (id == 271) throw std::runtime_error("no such text");
+  return "X";
+}
 
 TEST(TextCatalogue, ASourceReplacesTextsAndItsFailureDoesNot) {
   TestHost host;
-  host.platform.Classes().Register("Texts.X", [] { return std::make_shared<Source>(); });
+  RegisterTexts(host.platform.Classes(), "Texts.X", MostlyX);
   host.platform.Classes().Register("Texts.None", [] { return nullptr; });
   host.control->CustomWithString(191, 0, 0, "Texts.X");
   host.control->CustomWithString(191, 0, 0, "Texts.Unknown");
@@ -38,7 +36,7 @@ TEST(TextCatalogue, ASourceReplacesTextsAndItsFailureDoesNot) {
 
 TEST(TextCatalogue, ReadyMadeTextsKeepTheirFirstValues) {
   ClassFactory classes;
-  classes.Register("Texts.X", [] { return std::make_shared<Source>(); });
+  RegisterTexts(classes, "Texts.X", MostlyX);
   TextCatalogue texts;
   texts.CreateCatalogues();
   texts.CreateTextSource(classes, "Texts.X");

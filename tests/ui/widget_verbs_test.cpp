@@ -3,42 +3,17 @@
 #include <set>
 
 #include "quorvel/headless_platform.h"
+#include "tests/ui/every_kind.h"
 
 namespace quorvel {
 namespace {
 
-class OneOfEach : public Dialog {
- public:
-  explicit OneOfEach(Platform& platform) : Dialog(platform, "frm_OneOfEach") {
-    tabs.SetPages({Page{"First", Column(frame)}, Page{"Second", {}}});
-    grid.SetSize(4, 3);
-    items.SetItems({"1", "2"});
-    SetLayout(Column(tabs, label, text, button, tick, options, items, drop, slider, time, date,
-                     grid, bar, status));
-    Show();
-  }
-  TabStrip tabs{*this, "tabs"};
-  Frame frame{*this, "frame"};
-  Label label{*this, "label"};
-  TextBox text{*this, "text"};
-  Button button{*this, "button"};
-  CheckBox tick{*this, "tick"};
-  ControlArray<OptionButton> options{*this, "options", 2};
-  ListBox items{*this, "items"};
-  ComboBox drop{*this, "drop"};
-  Slider slider{*this, "slider"};
-  TimePicker time{*this, "time"};
-  DatePicker date{*this, "date"};
-  Grid grid{*this, "grid"};
-  ProgressBar bar{*this, "bar"};
-  StatusBar status{*this, "status", 2};
-};
-
 class WidgetVerbs : public ::testing::Test {
  protected:
+  WidgetVerbs() { d.Show(); }
   HeadlessPlatform platform;
-  std::shared_ptr<OneOfEach> dialog = std::make_shared<OneOfEach>(platform);
-  OneOfEach& d = *dialog;
+  std::shared_ptr<EveryKind> dialog = std::make_shared<EveryKind>(platform);
+  EveryKind& d = *dialog;
 };
 
 struct Recorder : WidgetView {
@@ -65,7 +40,7 @@ TEST_F(WidgetVerbs, AreToldToTheView) {
       {d.button, [&] { d.button.SetVisible(false); }, {kState}},
       {d.text, [&] { d.text.SetLabel(d.label); }, {kState}},
       {d.text, [&] { d.label.SetCaption("Title"); }, {kState}},
-      {d.frame, [&] { d.tabs.SetCaption("Around"); }, {kState}},
+      {d.grid, [&] { d.tabs.SetCaption("Around"); }, {kState}},
       {d.text, [&] { d.text.SetMaxLength(9); }, {kState}},
       {d.text, [&] { d.text.SetShownLength(20); }, {kState}},
       {d.text, [&] { d.text.SetTakenWhenLeft(true); }, {kState}},
@@ -73,15 +48,15 @@ TEST_F(WidgetVerbs, AreToldToTheView) {
       {d.text, [&] { d.text.RewriteText("b"); }, {kSelection}},
       {d.text, [&] { d.text.Type("c"); }, {kSelection}},
       {d.text, [&] { d.text.Focus(); }, {kSelection}},
-      {d.tick, [&] { d.tick.SetChecked(true); }, {kSelection}},
-      {d.tick, [&] { d.tick.Click(); }, {kSelection}},
-      {d.options(0), [&] { d.options(0).Select(); }, {kSelection}},
-      {d.options(0), [&] { d.options(1).Click(); }, {kSelection}},
-      {d.options(0), [&] { d.options(1).Deselect(); }, {kSelection}},
-      {d.items, [&] { d.items.Select(0); }, {kSelection}},
-      {d.items, [&] { d.items.Choose(1); }, {kSelection}},
-      {d.items, [&] { d.items.SetRows(3); }, {kState}},
-      {d.drop, [&] { d.drop.SetItems({"a"}); }, {kContent}},
+      {d.check, [&] { d.check.SetChecked(true); }, {kSelection}},
+      {d.check, [&] { d.check.Click(); }, {kSelection}},
+      {d.option(0), [&] { d.option(1).Select(); }, {kSelection}},
+      {d.option(0), [&] { d.option(0).Click(); }, {kSelection}},
+      {d.option(0), [&] { d.option(0).Deselect(); }, {kSelection}},
+      {d.list, [&] { d.list.Select(0); }, {kSelection}},
+      {d.list, [&] { d.list.Choose(1); }, {kSelection}},
+      {d.list, [&] { d.list.SetRows(3); }, {kState}},
+      {d.combo, [&] { d.combo.SetItems({"a"}); }, {kContent}},
       {d.slider, [&] { d.slider.SetRange(0, 5); }, {kState}},
       {d.slider, [&] { d.slider.SetSteps(1, 2); }, {kState}},
       {d.slider, [&] { d.slider.SetValue(4); }, {kSelection}},
@@ -113,8 +88,8 @@ TEST_F(WidgetVerbs, AreToldToTheView) {
          d.tabs.SetPages(std::vector(1, Page{"Only", {}}));
        },
        {kContent}},
-      {d.bar, [&] { d.bar.SetMaximum(9); }, {kState}},
-      {d.bar, [&] { d.bar.SetValue(5); }, {kSelection}},
+      {d.progress, [&] { d.progress.SetMaximum(9); }, {kState}},
+      {d.progress, [&] { d.progress.SetValue(5); }, {kSelection}},
       {d.status, [&] { d.status.SetPanel(2, "x"); }, {kSelection}},
   };
   Recorder others;  // a caption is told to those that are called by it where it is drawn itself
@@ -150,9 +125,12 @@ std::function<Answer()> Program(Verb verb) {
 }
 
 TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
-  d.items.SetItems({"a", "b", "b"});
+  d.grid.SetSize(4, 3);
+  d.list.SetItems({"a", "b", "b"});
   d.text.SetMaxLength(3);
   d.slider.SetRange(2, 5);
+  constexpr const char* kPages[] = {"*0 \"Titles & texts\", 1 \"Spare page\", 2 \"Last\"",
+                                    "0 \"Titles & texts\", *1 \"Spare page\", 2 \"Last\""};
   constexpr Answer kDone = Answer::kDone, kNoSuchPlace = Answer::kNoSuchPlace;
   const auto at = [this](int row, int column) {
     return [this, row, column] { return d.grid.Press(row, column); };
@@ -166,34 +144,31 @@ TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
     Answer answer;
     const char* value;  ///< of the grid: its beginning
   } cases[] = {
-      {d.items, [&] { return d.items.Choose(2); }, kDone, "2 \"b\" of 3"},
-      {d.items, [&] { return d.items.Choose(3); }, kNoSuchPlace, "2 \"b\" of 3"},
-      {d.items, [&] { return d.items.Choose(-1); }, kNoSuchPlace, "2 \"b\" of 3"},
-      {d.items, [&] { return d.items.Choose(0); }, kDone, "0 \"a\" of 3"},
-      {d.items, Program([&] { d.items.Select(d.items.IndexOf("b")); }), kDone, "1 \"b\" of 3"},
-      {d.items, Program([&] { d.items.Select(3); }), kDone, "none of 3"},
-      {d.items, Program([&] { d.items.Select(0); }), kDone, "0 \"a\" of 3"},
-      {d.items, Program([&] { d.items.Select(-1); }), kDone, "none of 3"},
-      {d.items, Program([&] { d.items.Select(d.items.IndexOf("c")); }), kDone, "none of 3"},
+      {d.list, [&] { return d.list.Choose(2); }, kDone, "2 \"b\" of 3"},
+      {d.list, [&] { return d.list.Choose(3); }, kNoSuchPlace, "2 \"b\" of 3"},
+      {d.list, [&] { return d.list.Choose(-1); }, kNoSuchPlace, "2 \"b\" of 3"},
+      {d.list, [&] { return d.list.Choose(0); }, kDone, "0 \"a\" of 3"},
+      {d.list, Program([&] { d.list.Select(d.list.IndexOf("b")); }), kDone, "1 \"b\" of 3"},
+      {d.list, Program([&] { d.list.Select(3); }), kDone, "none of 3"},
+      {d.list, Program([&] { d.list.Select(0); }), kDone, "0 \"a\" of 3"},
+      {d.list, Program([&] { d.list.Select(-1); }), kDone, "none of 3"},
+      {d.list, Program([&] { d.list.Select(d.list.IndexOf("c")); }), kDone, "none of 3"},
       {d.text, [&] { return d.text.Type("abc"); }, kDone, "abc"},
       {d.text, [&] { return d.text.Type("äbcd"); }, kDone, "äbc"},
       {d.text, Program([&] { d.text.SetText("abcd"); }), kDone, "abcd"},
-      {d.tick, [&] { return d.tick.Click(); }, kDone, "on"},
-      {d.tick, [&] { return d.tick.Click(); }, kDone, "off"},
+      {d.check, [&] { return d.check.Click(); }, kDone, "on"},
+      {d.check, [&] { return d.check.Click(); }, kDone, "off"},
       {d.slider, [&] { return d.slider.Slide(1); }, kNoSuchPlace, "0 of 2..5"},
       {d.slider, [&] { return d.slider.Slide(2); }, kDone, "2 of 2..5"},
       {d.slider, [&] { return d.slider.Slide(5); }, kDone, "5 of 2..5"},
       {d.slider, [&] { return d.slider.Slide(6); }, kNoSuchPlace, "5 of 2..5"},
       {d.slider, Program([&] { d.slider.SetRange(7, 6); }), kDone, "5 of 7..7"},
-      {d.bar, Program([&] { d.bar.SetValue(101); }), kDone, "100 of 100"},
-      {d.bar, Program([&] { d.bar.SetMaximum(9); }), kDone, "9 of 9"},
-      {d.bar, Program([&] { d.bar.SetValue(-1); }), kDone, "0 of 9"},
-      {d.bar, Program([&] { d.bar.SetMaximum(-1); }), kDone, "0 of 0"},
+      {d.progress, Program([&] { d.progress.SetValue(101); }), kDone, "100 of 100"},
+      {d.progress, Program([&] { d.progress.SetMaximum(9); }), kDone, "9 of 9"},
+      {d.progress, Program([&] { d.progress.SetValue(-1); }), kDone, "0 of 9"},
+      {d.progress, Program([&] { d.progress.SetMaximum(-1); }), kDone, "0 of 0"},
       {d.status, Program([&] { d.status.SetPanel(1, "a"); }), kDone, "\"a\" | \"\""},
       {d.status, Program([&] { d.status.SetPanel(2, "b"); }), kDone, "\"a\" | \"b\""},
-      {d.tabs, [&] { return d.tabs.Choose(2); }, kNoSuchPlace, "*0 \"First\", 1 \"Second\""},
-      {d.tabs, [&] { return d.tabs.Choose(1); }, kDone, "0 \"First\", *1 \"Second\""},
-      {d.tabs, [&] { return d.tabs.Choose(-1); }, kNoSuchPlace, "0 \"First\", *1 \"Second\""},
       {d.grid, at(1, 0), kDone, "4 x 3, at 1,0"},
       {d.grid, at(3, 2), kDone, "4 x 3, at 3,2"},
       {d.grid, at(0, 1), kNoSuchPlace, "4 x 3, at 3,2"},
@@ -207,6 +182,9 @@ TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
       {d.grid, Program([&] { d.grid.SetCurrent(-1, -1); }), kDone, "4 x 3, at 0,0"},
       {d.grid, Program([&] { d.grid.AddColumns(-1); }), kDone, "4 x 3, at 0,0"},
       {d.grid, Program([&] { d.grid.SetSize(0, 0); }), kDone, "1 x 1, at 0,0"},
+      {d.tabs, [&] { return d.tabs.Choose(3); }, kNoSuchPlace, kPages[0]},
+      {d.tabs, [&] { return d.tabs.Choose(1); }, kDone, kPages[1]},
+      {d.tabs, [&] { return d.tabs.Choose(-1); }, kNoSuchPlace, kPages[1]},
   };
   int number = 0;
   for (const auto& it : cases) {
@@ -217,8 +195,8 @@ TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
   }
   EXPECT_THROW(static_cast<void>(d.grid.Cell(1, 0)), std::out_of_range);
   EXPECT_THROW(static_cast<void>(d.grid.Cell(0, 1)), std::out_of_range);
-  d.items.SetRows(-1);
-  EXPECT_EQ(d.items.Rows(), 0);
+  d.list.SetRows(-1);
+  EXPECT_EQ(d.list.Rows(), 0);
 }
 
 TEST_F(WidgetVerbs, OfAPersonAreEditsAndThoseOfTheProgramAreNot) {
@@ -253,19 +231,19 @@ TEST_F(WidgetVerbs, OfAPersonAreEditsAndThoseOfTheProgramAreNot) {
 TEST_F(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
   int calls = 0;
   const Handler count = [&calls] { ++calls; };
-  d.text.on_change = d.button.on_click = d.tick.on_click = d.options(0).on_click = count;
-  d.items.on_click = d.slider.on_change = d.time.on_change = d.date.on_change = count;
+  d.text.on_change = d.button.on_click = d.check.on_click = d.option(0).on_click = count;
+  d.list.on_click = d.slider.on_change = d.time.on_change = d.date.on_change = count;
   d.grid.on_press = d.grid.on_release = d.tabs.on_change = count;
   d.grid.takes_paste = [](int, int, const std::string&) { return true; };
   d.grid.on_paste = [&calls](int, int, const std::string&) { ++calls; };
   const std::function<Answer()> verbs[] = {
-      [&] { return d.text.Type("a"); },   [&] { return d.button.Click(); },
-      [&] { return d.tick.Click(); },     [&] { return d.options(0).Click(); },
-      [&] { return d.items.Choose(1); },  [&] { return d.slider.Slide(3); },
-      [&] { return d.time.Pick(kOne); },  [&] { return d.date.Pick(kNewYear); },
-      [&] { return d.grid.Press(2, 1); }, [&] { return d.grid.Release(1, 2); },
-      [&] { return d.grid.Paste("a"); },  [&] { return d.tabs.Choose(1); },
-      [&] { return d.text.Focus(); }};
+      [&] { return d.text.Type("a"); },      [&] { return d.text.Focus(); },
+      [&] { return d.button.Click(); },      [&] { return d.check.Click(); },
+      [&] { return d.option(0).Click(); },   [&] { return d.list.Choose(1); },
+      [&] { return d.slider.Slide(3); },     [&] { return d.time.Pick(kOne); },
+      [&] { return d.date.Pick(kNewYear); }, [&] { return d.grid.Press(2, 1); },
+      [&] { return d.grid.Release(1, 2); },  [&] { return d.grid.Paste("a"); },
+      [&] { return d.tabs.Choose(1); }};
   const auto all_answer = [&](Answer expected) {
     int number = 0;
     for (const auto& verb : verbs) EXPECT_EQ(verb(), expected) << "verb " << number++;
@@ -273,7 +251,7 @@ TEST_F(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
   const auto set_all = [this](void (Widget::*set)(bool), bool value) {
     for (Widget* const widget : d.Widgets()) (widget->*set)(value);
   };
-  const std::string before = d.items.ValueText() + d.grid.ValueText() + d.tabs.ValueText();
+  const std::string before = d.list.ValueText() + d.grid.ValueText() + d.tabs.ValueText();
   set_all(&Widget::SetVisible, false);
   all_answer(Answer::kHidden);
   set_all(&Widget::SetVisible, true);
@@ -290,10 +268,10 @@ TEST_F(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
     modal.Close();
     return true;
   };
-  std::make_shared<OneOfEach>(platform)->ShowModal();
+  std::make_shared<EveryKind>(platform)->ShowModal();
   EXPECT_EQ(calls, 0);
-  EXPECT_EQ(d.items.ValueText() + d.grid.ValueText() + d.tabs.ValueText(), before);
-  EXPECT_EQ(d.text.Text() + d.slider.ValueText() + d.tick.ValueText(), "0 of 0..100off");
+  EXPECT_EQ(d.list.ValueText() + d.grid.ValueText() + d.tabs.ValueText(), before);
+  EXPECT_EQ(d.text.Text() + d.slider.ValueText() + d.check.ValueText(), "0 of 0..20off");
   all_answer(Answer::kDone);
   EXPECT_EQ(calls, 13);
 }

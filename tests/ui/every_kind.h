@@ -1,26 +1,10 @@
 #pragma once
 
-#include <QAbstractSpinBox>
-#include <QApplication>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSlider>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTest>
 #include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "quorvel/qt_platform.h"
 #include "quorvel/widgets.h"
 
 namespace quorvel {
