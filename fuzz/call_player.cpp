@@ -133,15 +133,10 @@ void CallPlayer::UploadSucceeded() {
 
 void CallPlayer::DownLoadData(std::span<std::uint8_t> bdata) {
   Check(control_ != nullptr, "a destroyed control raises no event");
-  Check(bdata.size() == 18 && bdata[17] == 0, "a packet has 18 bytes, the last 0");
+  CheckPacket(bdata, *control_);
   Check(Is(HostManner::kAcknowledgesAny) || outstanding_ == 0 ||
             desk_.Elapsed() - packet_time_ >= kPatience,
         "one packet is outstanding at most");
-  if (bdata[0] != 255) {
-    const BlockImage image(control_->Image());
-    Check(image.Holds(bdata[0]) && std::ranges::equal(image.Block(bdata[0]), bdata.subspan(1, 16)),
-          "a packet carries its block");
-  }
   outstanding_ = 1;
   packet_time_ = desk_.Elapsed();
   std::ranges::fill(bdata, Byte{0xDD});  // the bytes are the host's

@@ -74,17 +74,18 @@ void DeviceHost::RequestBlk(std::uint8_t blknum) {
 }
 
 void DeviceHost::DownLoadData(std::span<std::uint8_t> bdata) {
-  Check(bdata.size() == 18 && bdata[17] == 0, "a packet has 18 bytes, the last 0");
+  CheckPacket(bdata, *control);
   Check(bdata[0] != 0 && bdata[0] != 194 && bdata[0] != 218, "only blocks that may be are sent");
   ++packets;
-  const auto image = control->Image();
-  const auto end = std::size_t{bdata[0]} * kBlockSize;
-  if (bdata[0] != 255) {
-    Check(end <= image.size() && std::equal(bdata.begin() + 1, bdata.begin() + 17,
-                                            image.begin() + static_cast<int>(end) - kBlockSize),
-          "a packet carries its block");
-  }
   Check(control->TriggerUploadTimer() == 0, "TriggerUploadTimer returns 0");
+}
+
+void CheckPacket(std::span<const Byte> packet, const MainMenuCtrl& control) {
+  Check(packet.size() == 18 && packet[17] == 0, "a packet has 18 bytes, the last 0");
+  if (packet[0] == 255) return;
+  const BlockImage image(control.Image());
+  Check(image.Holds(packet[0]) && std::ranges::equal(image.Block(packet[0]), packet.subspan(1, 16)),
+        "a packet carries its block");
 }
 
 void CheckModifiedBlocks(const MainMenuCtrl& control) {

@@ -45,6 +45,9 @@ class DeviceHost : public MainMenuEvents {
   std::unique_ptr<MainMenuCtrl> control;  ///< last: its end still uses the desk
 };
 
+/// A packet is whole, and holds what the control's image has.
+void CheckPacket(std::span<const Byte> packet, const MainMenuCtrl& control);
+
 /// Numbers of the blocks that hold changes are blocks, and each is told once.
 void CheckModifiedBlocks(const MainMenuCtrl& control);
 

@@ -64,15 +64,13 @@ TEST(Control, EachPropertyMarksTheChangeAndEachVerbDrawsTheSurface) {
   MainMenuCtrl& control = *host.control;
   control.Surface().AttachView(&view);
   MemoryPropertyBag bag;
+  const Font mono{"Mono", 24.0, false, false};
   const struct {
     std::function<void()> verb;
     bool changes;
     bool draws;
   } cases[] = {{[&] { control.Enabled(true); }, true, true},
-               {[&] {
-                  control.Font({"Mono", 24.0, false, false});
-                },
-                true, true},
+               {[&] { control.Font(mono); }, true, true},
                {[&] { control.HostCommId(0); }, true, false},
                {[&] { control.InitProperties(); }, true, true},
                {[&] { control.Refresh(); }, false, true},
@@ -214,6 +212,16 @@ TEST(Control, AnEditorOpensForOneDeviceWhateverATextSourceDoes) {
       EXPECT_TRUE(host.Modified().empty());
     }
   }
+}
+
+TEST(Control, TheMenuComesUpAShortWhileAfterEachAction) {
+  TestHost host;
+  host.OpenMenu();
+  EXPECT_EQ(host.platform.ChooseMenu("mnu_LockKB"), Answer::kDone);
+  host.platform.Advance(2);
+  EXPECT_FALSE(host.platform.MenuIsUp());
+  host.platform.Advance(1);
+  EXPECT_TRUE(host.platform.MenuIsUp());
 }
 
 TEST(Control, TwoControlsEditTwoDevices) {

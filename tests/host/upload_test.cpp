@@ -28,21 +28,15 @@ TEST(SendPlan, HoldsBlocksThatThereAreInListOrder) {
 
 /// What command 11 has compared must still hold at START and at every packet.
 TEST(Send, AnotherDeviceIsGivenNoBlock) {
+  static constexpr Byte kOther[] = {0, 4, 9, 'O'};
+  static constexpr Byte kSizes[] = {0, 4, 2, 0, 200, 5, 6};
   const struct {
     const char* name;
     std::function<void(MainMenuCtrl&)> change;
     bool ends;
   } cases[] = {
-      {"another identity",
-       [](auto& it) {
-         it.SaveConnectedInfo(std::vector<Byte>{0, 4, 9, 'O'});
-       },
-       true},
-      {"another exchange",
-       [](auto& it) {
-         it.FillComboInfo(std::vector<Byte>{0, 4, 2, 0, 200, 5, 6});
-       },
-       true},
+      {"another identity", [](auto& it) { it.SaveConnectedInfo(kOther); }, true},
+      {"another exchange", [](auto& it) { it.FillComboInfo(kSizes); }, true},
       {"another family", [](auto& it) { it.Custom(18, 16, 0); }, true},
       {"the defaults", [](auto& it) { it.Custom(16, 0, 0); }, true},
       {"a file that was not chosen", [](auto& it) { it.Custom(12, 0, 0); }, false},

@@ -60,18 +60,12 @@ TEST_F(QtEveryKind, MouseAndKeyboardChangeTheModelUnlessItIsDisabled) {
          ClickAt(*combo.view()->viewport(), item.center());
        },
        "combo 1 \"Colour\" of 2; "},
-      {"slider",
-       [](QWidget& it) {
-         ClickAt(it, {it.width() - 2, it.height() / 2});
-       },
+      {"slider", [](QWidget& it) { ClickAt(it, QPoint(it.width() - 2, it.height() / 2)); },
        "slider 5 of 0..20; "},
       {"slider", Key(Qt::Key_Left), "slider 4 of 0..20; "},
       {"slider", Key(Qt::Key_Space), "slider 4 of 0..20; "},
       {"time", Key(Qt::Key_Up), "time 08:45:00 AM; "},
-      {"time",
-       [](QWidget& it) {
-         ClickAt(it, {it.width() - 6, it.height() - 5});
-       },
+      {"time", [](QWidget& it) { ClickAt(it, QPoint(it.width() - 6, it.height() - 5)); },
        "time 07:45:00 AM; "},
       {"date", Key(Qt::Key_Down), "date 2023-02-28; "},
       {"date",
@@ -100,6 +94,7 @@ TEST_F(QtEveryKind, MouseAndKeyboardChangeTheModelUnlessItIsDisabled) {
 }
 
 TEST_F(QtEveryKind, DrawingFollowsTheProgramWhichCallsNoHandler) {
+  static constexpr ClockTime kAfternoon{13, 5, 9}, kNoTime{25, 0, 0};
   const struct {
     const char* control;
     void (*say)(EveryKind&);
@@ -118,16 +113,8 @@ TEST_F(QtEveryKind, DrawingFollowsTheProgramWhichCallsNoHandler) {
       {"combo", [](EveryKind& it) { it.combo.SetItems({"1"}); }, "currentText", ""},
       {"slider", [](EveryKind& it) { it.slider.SetValue(200); }, "value", "20"},
       {"slider", [](EveryKind& it) { it.slider.SetRange(5, 300); }, "value", "200"},
-      {"time",
-       [](EveryKind& it) {
-         it.time.SetTime({13, 5, 9});
-       },
-       "text", "01:05:09 PM"},
-      {"time",
-       [](EveryKind& it) {
-         it.time.SetTime({25, 0, 0});
-       },
-       "text", ""},
+      {"time", [](EveryKind& it) { it.time.SetTime(kAfternoon); }, "text", "01:05:09 PM"},
+      {"time", [](EveryKind& it) { it.time.SetTime(kNoTime); }, "text", ""},
       {"date", [](EveryKind& it) { it.date.Clear(); }, "text", ""},
       {"grid", [](EveryKind& it) { it.grid.SetSize(1, 2); }},
       {"grid", [](EveryKind& it) { it.grid.SetSize(65, 2); }},
@@ -189,9 +176,7 @@ TEST_F(QtEveryKind, WheelChangesNothingWithoutTheFocus) {
   for (QWidget* const body : Window().findChildren<QWidget*>()) {
     if (body->inherits("QTabBar")) continue;
     Body("button").setFocus();
-    QWheelEvent turn({5, 5}, body->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(body, &turn);
+    TurnWheel(*body, {5, 5}, {0, -120});
     EXPECT_EQ(TakeNotes(), "") << body->objectName().toStdString();
   }
 }

@@ -2,10 +2,10 @@
 
 #include <QAbstractItemView>
 #include <QToolButton>
-#include <QWheelEvent>
 
 #include "apps/muxhost/window/event_log.h"
 #include "tests/qt/muxhost_on_screen.h"
+#include "tests/qt/on_screen.h"
 
 namespace quorvel::muxhost {
 namespace {
@@ -362,9 +362,7 @@ TEST_F(MuxhostWindow, BoxesKeepTheirListsAndPassTheWheelOn) {
     if (focus) box->setFocus();
     if (focus) window_.activateWindow();
     ASSERT_TRUE(QTest::qWaitFor([&] { return box->hasFocus() == focus; }));
-    QWheelEvent turn(QPointF(5, 5), box->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(box, &turn);
+    TurnWheel(*box, {5, 5}, {0, -120});
     EXPECT_EQ(box->currentIndex(), focus ? 1 : 0);
   }
 }

@@ -18,6 +18,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
+#include <QWheelEvent>
 #include <memory>
 #include <string>
 #include <utility>
@@ -32,6 +33,13 @@ inline void ClickAt(QWidget& body, QPoint place) {
 }
 /// A click near the left end, where ticks are.
 inline void Click(QWidget& body) { ClickAt(body, {8, body.height() / 2}); }
+
+/// Turns the wheel over a place; a notch is 120 wide.
+inline void TurnWheel(QWidget& body, QPoint place, QPoint by) {
+  QWheelEvent turn(place, body.mapToGlobal(place), {}, by, Qt::NoButton, Qt::NoModifier,
+                   Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&body, &turn);
+}
 
 /// The middle of a cell, counted below the header.
 inline QPoint CellPlace(const QAbstractItemView& view, int row, int column) {

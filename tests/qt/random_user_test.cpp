@@ -4,7 +4,6 @@
 #include <QEventLoop>
 #include <QTest>
 #include <QTimer>
-#include <QWheelEvent>
 #include <QWindow>
 #include <functional>
 #include <iostream>
@@ -15,6 +14,7 @@
 #include "apps/muxhost/widget_page/widget_page.h"
 #include "quorvel/qt_platform.h"
 #include "tests/qt/drawn_as_told.h"
+#include "tests/qt/on_screen.h"
 #include "tests/qt/random_changes.h"
 
 namespace quorvel::muxhost {
@@ -156,10 +156,7 @@ class RandomUser {
     const QPoint place = AnyPlace(window);
     QWidget* const child = window.childAt(place);
     QWidget& on = child == nullptr ? window : *child;
-    QWheelEvent event(on.mapFrom(&window, place), window.mapToGlobal(place), {},
-                      {0, random_.OneIn(2) ? 120 : -120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&on, &event);
+    TurnWheel(on, on.mapFrom(&window, place), {0, random_.OneIn(2) ? 120 : -120});
   }
 
   void UseKeys(QWindow& window) {

@@ -3,6 +3,7 @@
 #include <QAccessible>
 
 #include "tests/qt/muxhost_on_screen.h"
+#include "tests/qt/on_screen.h"
 
 namespace quorvel::muxhost {
 namespace {
@@ -26,16 +27,12 @@ class MuxhostZones : public MuxhostOnScreen {
     cameras_ = Find<QListWidget>(editor_, "Cameras");
   }
   void Press(const char* text) { QTest::mouseClick(Find(editor_.data(), text), Qt::LeftButton); }
-  [[nodiscard]] QPoint PlaceOf(int row, int column) {
-    return grid_->visualRect(grid_->model()->index(row, column)).center();
-  }
-  void Click(int row, int column) {
-    QTest::mouseClick(grid_->viewport(), Qt::LeftButton, {}, PlaceOf(row, column));
-  }
+  void Click(int row, int column) { ClickCell(*grid_, row, column); }
   void Drag(int row, int column, int to_row, int to_column) {
-    QTest::mousePress(grid_->viewport(), Qt::LeftButton, {}, PlaceOf(row, column));
-    QTest::mouseMove(grid_->viewport(), PlaceOf(to_row, to_column));
-    QTest::mouseRelease(grid_->viewport(), Qt::LeftButton, {}, PlaceOf(to_row, to_column));
+    QTest::mousePress(grid_->viewport(), Qt::LeftButton, {}, CellPlace(*grid_, row, column));
+    QTest::mouseMove(grid_->viewport(), CellPlace(*grid_, to_row, to_column));
+    QTest::mouseRelease(grid_->viewport(), Qt::LeftButton, {},
+                        CellPlace(*grid_, to_row, to_column));
   }
   /// The bytes that are not 0, as "place=value".
   [[nodiscard]] std::string Bytes() const {
@@ -95,7 +92,8 @@ TEST_F(MuxhostZones, DragPaintsWithTheStateOfItsFirstCell) {
   Press("Undo");
   EXPECT_EQ(Bytes(), "4=1f 5=c0 8=08 10=08 12=08");
   Click(2, 3);
-  QTest::mouseDClick(grid_->viewport(), Qt::LeftButton, {}, PlaceOf(2, 3));  // counts as a click
+  QTest::mouseDClick(grid_->viewport(), Qt::LeftButton, {},
+                     CellPlace(*grid_, 2, 3));  // counts as a click
   EXPECT_EQ(Bytes(), "4=1f 5=c0 8=08 10=08 12=08");
   Click(2, 3);
   EXPECT_EQ(Bytes(), "4=0f 5=c0 8=08 10=08 12=08");

@@ -21,13 +21,14 @@ struct Recorder : WidgetView {
   std::set<Aspect> told;
 };
 
-constexpr ClockTime kOne{1, 2, 3}, kTwo{2, 3, 4};
-constexpr CalendarDate kNewYear{2024, 1, 1}, kLeapDay{2024, 2, 29};
+constexpr ClockTime kOne{1, 2, 3}, kTwo{2, 3, 4}, kAfternoon{13, 5, 9}, kNoTime{24, 0, 0};
+constexpr CalendarDate kNewYear{2024, 1, 1}, kLeapDay{2024, 2, 29}, kNoDay{2023, 2, 29};
 constexpr Aspect kState = Aspect::kState;
 constexpr Aspect kContent = Aspect::kContent;
 constexpr Aspect kSelection = Aspect::kSelection;
 
 TEST_F(WidgetVerbs, AreToldToTheView) {
+  const std::vector<Page> only(1, Page{"Only", {}});
   const struct {
     Widget& widget;
     Handler verb;
@@ -83,11 +84,7 @@ TEST_F(WidgetVerbs, AreToldToTheView) {
       {d.tabs, [&] { d.tabs.Choose(1); }, {kSelection}},
       {d.tabs, [&] { d.tabs.SetCurrent(0); }, {kSelection}},
       {d.tabs, [&] { d.tabs.SetPageVisible(0, false); }, {kState, kSelection}},
-      {d.tabs,
-       [&] {
-         d.tabs.SetPages(std::vector(1, Page{"Only", {}}));
-       },
-       {kContent}},
+      {d.tabs, [&] { d.tabs.SetPages(only); }, {kContent}},
       {d.progress, [&] { d.progress.SetMaximum(9); }, {kState}},
       {d.progress, [&] { d.progress.SetValue(5); }, {kSelection}},
       {d.status, [&] { d.status.SetPanel(2, "x"); }, {kSelection}},
@@ -132,6 +129,7 @@ TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
   constexpr const char* kPages[] = {"*0 \"Titles & texts\", 1 \"Spare page\", 2 \"Last\"",
                                     "0 \"Titles & texts\", *1 \"Spare page\", 2 \"Last\""};
   constexpr Answer kDone = Answer::kDone, kNoSuchPlace = Answer::kNoSuchPlace;
+  constexpr Answer kNotAChoice = Answer::kNotAChoice;
   const auto at = [this](int row, int column) {
     return [this, row, column] { return d.grid.Press(row, column); };
   };
@@ -163,6 +161,15 @@ TEST_F(WidgetVerbs, KeepToTheRangeOfTheirWidget) {
       {d.slider, [&] { return d.slider.Slide(5); }, kDone, "5 of 2..5"},
       {d.slider, [&] { return d.slider.Slide(6); }, kNoSuchPlace, "5 of 2..5"},
       {d.slider, Program([&] { d.slider.SetRange(7, 6); }), kDone, "5 of 7..7"},
+      {d.slider, Program([&] { d.slider.SetRange(0, 100), d.slider.SetValue(200); }), kDone,
+       "200 of 0..100"},
+      {d.slider, [&] { return d.slider.Slide(101); }, kNoSuchPlace, "200 of 0..100"},
+      {d.time, Program([&] { d.time.SetTime(kNoTime); }), kDone, ""},
+      {d.time, [&] { return d.time.Pick(kNoTime); }, kNotAChoice, ""},
+      {d.time, [&] { return d.time.Pick(kAfternoon); }, kDone, "01:05:09 PM"},
+      {d.time, Program([&] { d.time.SetFormat(ClockFormat::kHoursMinutes); }), kDone, "13:05"},
+      {d.date, [&] { return d.date.Pick(kNoDay); }, kNotAChoice, "2024-02-29"},
+      {d.date, [&] { return d.date.Pick(kNewYear); }, kDone, "2024-01-01"},
       {d.progress, Program([&] { d.progress.SetValue(101); }), kDone, "100 of 100"},
       {d.progress, Program([&] { d.progress.SetMaximum(9); }), kDone, "9 of 9"},
       {d.progress, Program([&] { d.progress.SetValue(-1); }), kDone, "0 of 9"},

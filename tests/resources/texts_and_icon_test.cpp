@@ -1,9 +1,10 @@
-#include "resources/text_table.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
 #include <utility>
+
+#include "resources/icon.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 namespace {
@@ -35,6 +36,23 @@ TEST(TextTable, NumbersTapeFormatsInOrder) {
   int number = 0;
   for (const int id : {274, 275, 277, 278, 279, 283, 284, 285, 291, 292, 293}) {
     EXPECT_EQ(BuiltInText(id), "Format " + std::to_string(++number)) << id;
+  }
+}
+
+TEST(Icon, IsAnOpaqueMonitorOnATransparentGround) {
+  const Picture& icon = Icon101();
+  ASSERT_EQ(icon.width, 32);
+  ASSERT_EQ(icon.height, 32);
+  ASSERT_EQ(icon.rgba.size(), 4096U);
+  const auto opacity = [&](int x, int y) {
+    return icon.rgba[static_cast<std::size_t>((y * 32 + x) * 4 + 3)];
+  };
+  for (const int corner : {0, 31}) {
+    EXPECT_EQ(opacity(corner, 0), 0);
+    EXPECT_EQ(opacity(corner, 31), 0);
+  }
+  for (int x = 3; x < 29; ++x) {
+    for (int y = 4; y < 24; ++y) EXPECT_EQ(opacity(x, y), 255) << x << ", " << y;
   }
 }
 
