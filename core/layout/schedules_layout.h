@@ -34,10 +34,17 @@ template <class Pass>
 void SubMacro(Pass& block, int camera, MuxData& rec, const Identity& id) {
   auto& macro = rec.AllSubMacros().at(static_cast<std::size_t>(camera));
   block.Byte(0, macro.SMacroLen);
-  int bytes = clsSubMacro::kLongest;
-  // A script reaches up to the byte after its end. What is behind stays as the device holds it.
-  if constexpr (Pass::kHasImage) bytes = std::min(macro.SMacroLen() + 1, bytes);
-  block.Bytes(1, bytes, Each(macro.SMacroByte));
+  // A script is read up to the byte after its end. What a device holds behind it stays there, but
+  // for what was set since.
+  const auto bytes = Each(macro.SMacroByte);
+  const int script = Pass::kHasImage ? std::min(macro.SMacroLen() + 1, clsSubMacro::kLongest)
+                                     : clsSubMacro::kLongest;
+  block.Bytes(1, script, bytes);
+  if constexpr (Pass::kWriting) {
+    for (int k = script; k < clsSubMacro::kLongest; ++k) {
+      if (macro.SMacroByte(k) != 0) block.Byte(1 + k, bytes[k]);
+    }
+  }
   if (!Pass::kWriting && id.IsMultiplexer() && camera == 0) {
     block.Byte(11, rec.MacroEditDL1);
     block.Byte(12, rec.MacroEditDL2);

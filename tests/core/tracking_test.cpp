@@ -39,6 +39,7 @@ class SettingPass {
  public:
   static constexpr bool kReading = false;
   static constexpr bool kWriting = true;
+  static constexpr bool kHasImage = false;
 
   SettingPass(Visitor& visitor, int block) : visitor_(visitor), block_(block) {}
 

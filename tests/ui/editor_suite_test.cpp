@@ -275,8 +275,8 @@ TEST(EditorSuite, AnUntouchedOkLeavesFactorySettingsAsTheyAre) {
 bool TimersMove(const std::map<std::string, std::string>& values,
                 const std::map<std::string, int>& chosen) {
   const auto is_status = [](const auto& it) { return it.first.find("RTstatus") != it.first.npos; };
-  return std::ranges::any_of(
-             chosen, [&](const auto& it) { return is_status(it) && it.second == 2; }) ||
+  return std::ranges::any_of(chosen,
+                             [&](const auto& it) { return is_status(it) && it.second == 2; }) ||
          std::ranges::any_of(values,
                              [&](const auto& it) { return is_status(it) && it.second == "2"; });
 }
