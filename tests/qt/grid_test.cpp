@@ -117,6 +117,15 @@ TEST_F(QtGrid, NumbersOfTheRowsStayInSight) {
   EXPECT_EQ(Table().visualRect(Table().model()->index(4, 0)).left(), 0);
 }
 
+TEST_F(QtGrid, HandlersMayRebuildOrCloseUnderThePress) {
+  dialog_->grid.on_press = [this] { dialog_->grid.SetSize(3, 2); };
+  ClickCell(Table(), 8, 3);
+  EXPECT_EQ(Table().model()->rowCount(), 2);
+  dialog_->grid.on_press = [this] { dialog_->Close(); };
+  QTest::mousePress(Table().viewport(), Qt::LeftButton, {}, Place(1, 1));
+  EXPECT_EQ(platform_.WindowOf(*dialog_), nullptr);
+}
+
 /// A grid with two header rows, of which two columns share the first.
 class GridDialog : public Dialog {
  public:

@@ -1,6 +1,7 @@
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -58,6 +59,31 @@ TEST_F(QtWindows, ModalDialogReturnsWhenItIsHiddenAndLocksTheOthers) {
   EXPECT_FALSE(dialog_->Shown());
   EXPECT_EQ(answer_behind, Answer::kDisabled);
   EXPECT_EQ(behind->button.Click(), Answer::kDone);
+}
+
+TEST_F(QtWindows, DialogMayGoInItsOwnHandler) {
+  dialog_->button.on_click = [this] { dialog_.reset(); };
+  Show();
+  const QPointer<QWidget> window = &Window();
+  Click(Body("button"));
+  EXPECT_EQ(dialog_, nullptr);
+  Settle();
+  EXPECT_EQ(window, nullptr);
+}
+
+TEST_F(QtWindows, WindowMayGoInANestedLoopUnderItsHandler) {
+  auto inner = std::make_shared<EveryKind>(platform_);
+  dialog_->grid.on_press = [&] {
+    WhileModal([&] {
+      dialog_->Close();
+      Settle();
+      inner->Close();
+    });
+    inner->ShowModal();
+  };
+  Show();
+  ClickCell(Body("grid"), 1, 1);
+  EXPECT_EQ(platform_.WindowOf(*dialog_), nullptr);
 }
 
 TEST_F(QtWindows, LayoutMayBeReplacedWhileItIsOnScreen) {
