@@ -1,5 +1,6 @@
 // Opening a window of 16 rows and 13 columns beside ten lists, on a screen that is not there and
-// without a toolkit. Takes the options of the benchmark library.
+// without a toolkit, and the largest editors on that screen. Takes the options of the benchmark
+// library.
 
 #include <benchmark/benchmark.h>
 
@@ -10,10 +11,14 @@
 #include <vector>
 
 #include "bench/ratio_reporter.h"
+#include "bench/sample_images.h"
 #include "quorvel/headless_platform.h"
 #include "quorvel/qt_platform.h"
 #include "quorvel/widgets.h"
+#include "ui/context.h"
+#include "ui/editing/editor.h"
 #include "ui/editing/grid_editing.h"
+#include "ui/menu/menu_editors.h"
 
 namespace quorvel::bench {
 namespace {
@@ -75,6 +80,26 @@ void OpenInQt(benchmark::State& state) {
   }
 }
 
+/// The editor of a 16-camera triplex recorder, until everything is drawn.
+void OpenEditorInQt(benchmark::State& state, const char* item) {
+  QtPlatform platform;
+  Context context(platform);
+  context.InitGlobals();
+  context.device.Adopt(TriplexImage(), ImageSource::kDevice);
+  const MenuEditor& editor = *EditorOf(item, context.device.env.identity);
+  for (auto _ : state) {
+    auto window = editor.create(context);
+    window->Show();
+    QApplication::processEvents();
+    state.PauseTiming();
+    window.reset();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    state.ResumeTiming();
+  }
+}
+void OpenAlarmsInQt(benchmark::State& state) { OpenEditorInQt(state, "mnu_Alarm"); }
+void OpenRecordInQt(benchmark::State& state) { OpenEditorInQt(state, "mnu_Record"); }
+
 /// All cells and items anew in a window that is open, until everything is drawn.
 void RefillInQt(benchmark::State& state) {
   QtPlatform platform;
@@ -104,7 +129,9 @@ int Run(int argc, char** argv) {
     double goal_microseconds;
   } all[] = {{"open_headless", OpenHeadless, 1000},
              {"open_in_qt", OpenInQt, 50000},
-             {"refill_in_qt", RefillInQt, 50000}};
+             {"refill_in_qt", RefillInQt, 50000},
+             {"open_alarms_in_qt", OpenAlarmsInQt, 22000},
+             {"open_record_in_qt", OpenRecordInQt, 25000}};
   for (const auto& it : all) {
     auto* const added = benchmark::RegisterBenchmark(it.name, it.run);
     RatioReporter::Keep(added->Repetitions(5)->ReportAggregatesOnly()->MinTime(0.1));
