@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <stdexcept>
+#include <utility>
 
 #include "bench/ratio_reporter.h"
 #include "bench/sample_images.h"
@@ -83,13 +84,17 @@ void RegisterTransfers() {
         host.Download();
         for (auto _ : state) host.Upload();
       }));
-  RatioReporter::Keep(
-      benchmark::RegisterBenchmark("open_and_leave_alarms", [](benchmark::State& state) {
-        QuickHost host;
-        host.Download();
-        host.OpenMenu();
-        for (auto _ : state) host.OpenEditor("mnu_Alarm");
-      }));
+  constexpr std::pair<const char*, const char*> kEditors[] = {
+      {"open_and_leave_alarms", "mnu_Alarm"}, {"open_and_leave_record", "mnu_Record"}};
+  for (const auto& editor : kEditors) {
+    const char* const item = editor.second;
+    RatioReporter::Keep(benchmark::RegisterBenchmark(editor.first, [item](benchmark::State& state) {
+      QuickHost host;
+      host.Download();
+      host.OpenMenu();
+      for (auto _ : state) host.OpenEditor(item);
+    }));
+  }
 }
 
 }  // namespace quorvel::bench

@@ -188,7 +188,7 @@ class QtSizes : public ::testing::Test {
     for (const Widget* const widget : editor.Widgets()) {
       const WidgetKind kind = widget->Kind();
       const bool list = kind == WidgetKind::kListBox || kind == WidgetKind::kComboBox;
-      EXPECT_TRUE(!list || widget->NamingLabel() != nullptr) << widget->Name();
+      EXPECT_TRUE(!list || widget->SpokenName() != widget->Name()) << widget->Name();
     }
     EXPECT_EQ(KeyboardWalk(editor, window).Unreached(), "");
   }

@@ -43,6 +43,7 @@ class JoinedAccess final : public SettingAccess<int> {
  private:
   [[nodiscard]] std::vector<int> Values(MuxData& record, int line) const {
     std::vector<int> values;
+    values.reserve(settings_.size());
     for (const SettingRef& setting : settings_) {
       values.push_back(setting.Access().Get(record, line));
     }

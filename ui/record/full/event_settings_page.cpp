@@ -26,6 +26,7 @@ EventSettingsPage::EventSettingsPage(Editor& editor, const RecordFeatures& featu
                                      const RateChoices& rates, const RateToStored& rate_to_stored)
     : EditorPage(editor, features.recorder_pages) {
   MSFG_Events.SetSpokenName(Text(txt::kEventSettings));
+  if (!Exists()) return;
   BindTypes();
   BindDurations();
   BindRates(rates.of_cameras, rate_to_stored);
@@ -54,6 +55,8 @@ void EventSettingsPage::BindDurations() {
   const auto takes = [this](int row) {
     return CameraRecords(Ctx(), LineOf(row)) && HasEvents(cameras_.Editing().ValueAt(row, kType));
   };
+  slPreEvDur.SetLabel(lbPreEvDur);
+  slPostEvDur.SetLabel(lbPostEvDur);
   slPreEvDur.SetRange(0, kLongestPreEvent);
   slPostEvDur.SetRange(0, kLongestPostEvent);
   cameras_.Bind(cameras_.AddColumn(lbPreEvDur.Caption()), slPreEvDur, lbPreEv,

@@ -66,6 +66,7 @@ bool CameraRecords(Context& context, int line) {
 
 RateChoices::RateChoices(Context& context, const Identity& id, const std::string& pps,
                          const std::string& spp, const std::string& turbo) {
+  if (!id.HasEventRecording()) return;
   MuxData& record = context.device.Record();
   RateModel model;
   model.ModelCode = id.ModelCode;

@@ -10,7 +10,8 @@ namespace quorvel {
 struct Context;
 struct Identity;
 
-/// The rates that a recorder offers, as they read with the cameras that it records now.
+/// The rates that a recorder offers, as they read with the cameras that it records now; none on
+/// other models.
 struct RateChoices {
   RateChoices(Context& context, const Identity& id, const std::string& pps, const std::string& spp,
               const std::string& turbo);

@@ -14,7 +14,7 @@ RecordListPage::RecordListPage(Editor& editor, const RecordFeatures& features)
               features.timers) {
   lbCamera.SetVisible(!features.timers);
   lCamera.SetVisible(!features.timers);
-  if (!features.timers) BindList();
+  if (Exists() && !features.timers) BindList();
 }
 
 void RecordListPage::BindList() {

@@ -5,6 +5,7 @@ namespace quorvel {
 RecordQualityPage::RecordQualityPage(Editor& editor, const RecordFeatures& features)
     : EditorPage(editor, features.quality_page) {
   MSFlGrid_RecQuality.SetSpokenName(lbRQuality.Caption());
+  if (!Exists()) return;
   const Choices levels = Levels();
   lRQuality.SetRows(levels.Count());
   cameras_.Column(lbRQuality.Caption(), lRQuality, levels, OfCamera(&Cameras::Compress));

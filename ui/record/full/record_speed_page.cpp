@@ -33,6 +33,7 @@ Speeds OfFreeRange() {
 
 RecordSpeedPage::RecordSpeedPage(Editor& editor, const RecordFeatures& features)
     : EditorPage(editor, features.speed_page) {
+  if (!Exists()) return;
   BindSpeeds(features.speeds_of_modes);
   BindOptions(features);
 }

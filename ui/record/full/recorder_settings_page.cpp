@@ -29,6 +29,7 @@ void ClearTurboRates(MuxData& record) {
 RecorderSettingsPage::RecorderSettingsPage(Editor& editor, const RecordFeatures& features,
                                            const RateChoices& rates, FieldGroup& lock)
     : EditorPage(editor, features.recorder_pages) {
+  if (!Exists()) return;
   lock.Options(optTriplexRLk, OffOn(), At(&MuxData::RecLock).Otherwise(0))
       .When(features.triplex_settings);
   frameRecLock.SetVisible(features.triplex_settings);
