@@ -80,8 +80,8 @@ void RecordSpeedPage::ListBlocks(MuxData& record) const {
 }
 
 Layout RecordSpeedPage::Contents() {
-  return Row(Column(MSFlGd_RecSp, Row(lbRecLock, opt_RecLock, Stretch()), Stretch()),
-             Labelled(lbFields, lstFields), Labelled(lbHours, lstHours), Stretch());
+  return Column(Row(MSFlGd_RecSp, Labelled(lbFields, lstFields), Labelled(lbHours, lstHours)),
+                Row(lbRecLock, opt_RecLock, Stretch()), Stretch());
 }
 
 }  // namespace quorvel

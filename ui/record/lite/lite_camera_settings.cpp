@@ -6,6 +6,7 @@
 
 #include "ui/editing/column_field.h"
 #include "ui/record/record_rates.h"
+#include "ui/widgets/utf8.h"
 
 namespace quorvel {
 
@@ -177,6 +178,7 @@ void LiteCameraSettings::BindForAll() {
   msfgEvTL.SetSize(2, 2);
   msfgEvTL.SetCell(0, 0, Text(txt::kCameras));
   msfgEvTL.SetCell(0, 1, lbEvTL.Caption());
+  msfgEvTL.SetLeastWidth(1, CountCharacters(lbEvTL.Caption()));
   msfgEvTL.SetCell(1, 0, "1-" + std::to_string(Id().MaxCam));
   msfgEvTL.SetSpokenName(Frame1.Caption());
   type_of_all_.Bind(1, lstEvTL, types_,
@@ -289,13 +291,13 @@ void LiteCameraSettings::PutIntoAll(int column, int value) {
   }
 }
 
+/// The table and what stands for it in shared mode have the same place.
 Layout LiteCameraSettings::Contents() {
   return Column(chkIndividual,
-                Row(msfgRecSS,
+                Row(Column(msfgRecSS, Framed(Frame1, Row(msfgEvTL, Labelled(lbEvTL, lstEvTL)))),
                     Column(Labelled(Label2(kQualityOfAll), cbRecQuality),
                            Labelled(Label3(kOfQuality), lstRecQuality),
                            Labelled(Label3(kOfType), lstEvTlSet), Stretch()),
-                    Framed(Frame1, Row(msfgEvTL, Labelled(lbEvTL, lstEvTL))),
                     Column(Label2(kTimeLapseOfAll), Label3(kOfTimeLapse), cbTL, Label2(kEventOfAll),
                            Label3(kOfEvent), cbEvent, Label2(kActivityOfAll), Label3(kOfActivity),
                            cbAct, Labelled(Label2(kAlarmRate), cbAlm), Stretch())));
