@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstring>
 
 #include "bench/flat_record.h"
@@ -176,8 +177,14 @@ void EncodeSchedules(const FlatRecord& rec, Bytes image) {
     at[3] = macro.macro;
   }
   for (int c = 0; c < rec.cameras; ++c) {
-    Block(image, 69 + c)[0] = rec.sub_macro[c].length;
-    Copy(rec.sub_macro[c].bytes, 10, Block(image, 69 + c) + 1);
+    const FlatSubMacro& macro = rec.sub_macro[c];
+    const Bytes at = Block(image, 69 + c);
+    const int script = std::min(macro.length + 1, 10);
+    at[0] = macro.length;
+    Copy(macro.bytes, script, at + 1);
+    for (int k = script; k < 10; ++k) {
+      if (macro.bytes[k] != 0) at[1 + k] = macro.bytes[k];
+    }
   }
   for (int e = 0; e < 10; ++e) {
     const FlatTimer& timer = rec.timer[e];

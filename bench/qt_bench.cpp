@@ -66,11 +66,11 @@ void OpenHeadless(benchmark::State& state) {
   }
 }
 
-/// Until everything is drawn.
-void OpenInQt(benchmark::State& state) {
-  QtPlatform platform;
+/// Opens what `make` makes, until everything is drawn.
+template <class Make>
+void OpenUntilDrawn(benchmark::State& state, Make make) {
   for (auto _ : state) {
-    auto window = std::make_shared<LargeWindow>(platform);
+    auto window = make();
     window->Show();
     QApplication::processEvents();
     state.PauseTiming();
@@ -80,22 +80,19 @@ void OpenInQt(benchmark::State& state) {
   }
 }
 
-/// The editor of a 16-camera triplex recorder, until everything is drawn.
+void OpenInQt(benchmark::State& state) {
+  QtPlatform platform;
+  OpenUntilDrawn(state, [&] { return std::make_shared<LargeWindow>(platform); });
+}
+
+/// The editor of a 16-camera triplex recorder.
 void OpenEditorInQt(benchmark::State& state, const char* item) {
   QtPlatform platform;
   Context context(platform);
   context.InitGlobals();
   context.device.Adopt(TriplexImage(), ImageSource::kDevice);
   const MenuEditor& editor = *EditorOf(item, context.device.env.identity);
-  for (auto _ : state) {
-    auto window = editor.create(context);
-    window->Show();
-    QApplication::processEvents();
-    state.PauseTiming();
-    window.reset();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    state.ResumeTiming();
-  }
+  OpenUntilDrawn(state, [&] { return editor.create(context); });
 }
 void OpenAlarmsInQt(benchmark::State& state) { OpenEditorInQt(state, "mnu_Alarm"); }
 void OpenRecordInQt(benchmark::State& state) { OpenEditorInQt(state, "mnu_Record"); }

@@ -136,6 +136,8 @@ int Run(int argc, char** argv) {
   reporter.PrintRatio("round_trip", 3.5);
   reporter.PrintTime("download_225_blocks", 50);
   reporter.PrintTime("upload_all_blocks", 100);
+  reporter.PrintTime("open_and_leave_alarms", 88);
+  reporter.PrintTime("open_and_leave_record", 60);
   return ReportAllocations() ? 0 : 1;
 }
 

@@ -45,7 +45,7 @@ std::string WithoutIndex(std::string name) {
 /// A device of a model with random settings, on the bench of an installer who tries everything.
 class Bench {
  public:
-  static constexpr unsigned kFactory = 0xFAC;  ///< the seed of factory settings
+  static constexpr unsigned kFactory = 0xFAC;  ///< instead of a random number: factory settings
 
   Bench(Byte cameras, Byte code, Byte variant, unsigned seed)
       : random_(seed), code_(code), variant_(variant) {
