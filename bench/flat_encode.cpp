@@ -155,7 +155,7 @@ void EncodeClock(FlatRecord& rec, Bytes image) {
   clock[2] = Low(rec.second);
   clock[3] = Low(rec.month);
   clock[4] = Low(rec.day);
-  clock[5] = Low(rec.year - (rec.year < 2000 ? 1900 : 2000));
+  clock[5] = Low(rec.year - (rec.year < 2000 || rec.year >= 2060 ? 1900 : 2000));
   Bits(rec.telemetry_enable, rec.cameras, clock + 6);
   Copy(rec.buzzer, 4, clock + 10);
   clock[14] = rec.archive_cdw;

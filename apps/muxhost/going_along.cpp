@@ -26,10 +26,11 @@ bool Brings(const MainMenuCtrl& control, bool all, std::uint8_t block) {
   return std::find(listed.begin(), listed.end(), block) != listed.end();
 }
 
-/// The clock as the control holds it; nothing when the device has none, or one that no calendar
-/// has.
-std::optional<LocalTime> ClockOf(const MainMenuCtrl& control) {
-  constexpr std::string_view kPrefix = "TDInfo.Current";
+constexpr std::string_view kClockSettings = "TDInfo.Current";
+
+/// The clock that block 61 brings: as edited where the block is listed, else as it came. Nothing
+/// when the device has none, or one that no calendar has.
+std::optional<LocalTime> ClockOf(const MainMenuCtrl& control, bool listed) {
   LocalTime clock;
   const std::array<std::pair<std::string_view, int*>, 6> parts = {{{"Year", &clock.date.year},
                                                                    {"Month", &clock.date.month},
@@ -38,25 +39,44 @@ std::optional<LocalTime> ClockOf(const MainMenuCtrl& control) {
                                                                    {"Min", &clock.time.minute},
                                                                    {"Sec", &clock.time.second}}};
   std::size_t found = 0;
-  for (const SettingLine& line : control.Settings(std::string(kPrefix) + "*")) {
+  const auto take = [&](const std::string& setting, const std::string& value) {
+    if (!setting.starts_with(kClockSettings)) return;
     for (const auto& [name, number] : parts) {
-      if (line.name.substr(kPrefix.size()) != name) continue;
-      *number = ToNumber(line.value);
+      if (setting.substr(kClockSettings.size()) != name) continue;
+      *number = ToNumber(value);
       ++found;
     }
+  };
+  for (const SettingLine& line : control.Settings(std::string(kClockSettings) + "*")) {
+    take(line.name, line.value);
   }
-  if (found != parts.size() || !IsDate(clock.date) || !IsTime(clock.time)) return std::nullopt;
+  if (found != parts.size()) return std::nullopt;
+  const auto edited = control.DifferencesFrom(control.Image());
+  if (!listed && edited) {
+    for (const SettingDifference& it : *edited) take(it.name, it.other);
+  }
+  if (!IsDate(clock.date) || !IsTime(clock.time)) return std::nullopt;
   return clock;
 }
 
-/// Whether a date or a time was set since the configuration came, or is about to be.
-bool ClockIsSet(const MainMenuCtrl& control) {
-  if (control.UsePcTime()) return true;
-  const auto differences = control.DifferencesFrom(control.Image());
-  return differences &&
-         std::any_of(differences->begin(), differences->end(), [](const SettingDifference& it) {
-           return it.name.starts_with("TDInfo.Current");
+/// Whether the control holds another clock than the one that came with the configuration.
+bool ClockIsEdited(const MainMenuCtrl& control) {
+  const auto edited = control.DifferencesFrom(control.Image());
+  return edited && std::any_of(edited->begin(), edited->end(), [](const SettingDifference& it) {
+           return it.name.starts_with(kClockSettings);
          });
+}
+
+void TellClock(const MainMenuCtrl& control, const LocalTime& now, GoingAlong& along) {
+  const bool listed = Brings(control, false, kClockBlock);
+  along.clock = ClockOf(control, listed);
+  if (listed && control.UsePcTime() && along.clock) {
+    // The time is taken when the block is built, the date was taken with the user's choice.
+    along.clock->time = now.time;
+    along.clock_goes = along.clock->date != now.date;
+  } else {
+    along.clock_goes = !listed || !ClockIsEdited(control);
+  }
 }
 
 /// Some models list the four fastest rates of a port, the others begin with the slowest.
@@ -110,12 +130,17 @@ std::int64_t Seconds(const LocalTime& at) {
 
 }  // namespace
 
-GoingAlong WhatGoesAlong(HostSession& session, bool all) {
+GoingAlong WhatGoesAlong(HostSession& session, bool all, bool macros, const LocalTime& now) {
   GoingAlong along;
   const MainMenuCtrl& control = session.Control();
   const int model = session.Device().ModelCode();
-  if (model < kFirstTriplexModel && Brings(control, all, kClockBlock) && !ClockIsSet(control)) {
-    along.clock = ClockOf(control);
+  // The array of the combined exchange brings all blocks.
+  const bool whole_array = session.Device().IsCombined() && (all || macros);
+  all = all || whole_array;
+  const bool takes_clock = model < kFirstTriplexModel || (whole_array && control.UsePcTime());
+  const bool has_clock = control.Settings(std::string(kClockSettings) + "Year").size() == 1;
+  if (takes_clock && has_clock && Brings(control, all, kClockBlock)) {
+    TellClock(control, now, along);
   }
   const auto changes = control.DifferencesFrom(session.Device().Bytes());
   if (!changes) return along;
@@ -128,14 +153,16 @@ GoingAlong WhatGoesAlong(HostSession& session, bool all) {
   return along;
 }
 
-std::string ClockInWords(const LocalTime& clock, const LocalTime& now) {
-  const std::int64_t behind = Seconds(now) - Seconds(clock);
+std::string ClockInWords(const std::optional<LocalTime>& clock, const LocalTime& now) {
+  const std::string goes = "The device's clock goes along: ";
+  if (!clock) return goes + "a time that no clock or calendar has.";
+  const std::int64_t behind = Seconds(now) - Seconds(*clock);
   std::string distance = "as that of";
   if (behind != 0) {
     distance = DurationInWords(std::abs(behind)) + (behind < 0 ? " ahead of" : " behind");
   }
-  return "The device's clock goes along: " + DateText(clock.date) + " " +
-         TimeText(ClockFormat::kHoursMinutesSeconds, clock.time) + ", " + distance +
+  return goes + DateText(clock->date) + " " +
+         TimeText(ClockFormat::kHoursMinutesSeconds, clock->time) + ", " + distance +
          " this computer.";
 }
 

@@ -102,6 +102,12 @@ std::vector<Byte> HostSession::LackingBlocks() const {
   return lacking;
 }
 
+int HostSession::Cameras() const {
+  constexpr std::size_t kCamerasByte = 184 * 16;  // of the identity, block 185
+  const auto image = control_->Image();
+  return image.size() > kCamerasByte ? image[kCamerasByte] : Device().IdentityBytes().at(0);
+}
+
 void HostSession::Upload() {
   BeginExchange();
   const auto lacking = LackingBlocks();

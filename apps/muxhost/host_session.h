@@ -78,6 +78,8 @@ class HostSession final : public MainMenuEvents {
 
   [[nodiscard]] MainMenuCtrl& Control() { return *control_; }
   [[nodiscard]] const SimulatedDevice& Device() const { return link_.Device(); }
+  /// Cameras of the control's configuration; of the device while there is none.
+  [[nodiscard]] int Cameras() const;
   /// Blocks of the device that the control's configuration lacks, so that no upload brings anything
   /// for them: a file, or the factory, may have fewer. None before there is a configuration.
   [[nodiscard]] std::vector<Byte> LackingBlocks() const;

@@ -62,7 +62,8 @@ void VcrOrRecorder(Pass& block, MuxData& rec, const Identity& id) {
   block.Byte(15, rec.RecLock);
 }
 
-/// Block 61: the clock, whose year byte counts from 2000 below 60 and from 1900 above.
+/// Block 61: the clock, whose year byte counts from 2000 below 60 and from 1900 above. Years
+/// behind 2059 are written as they are read, from 1900.
 template <class Pass>
 void Clock(Pass& block, MuxData& rec, const Identity& id) {
   constexpr int kFirstYearOf1900s = 60;
@@ -75,7 +76,9 @@ void Clock(Pass& block, MuxData& rec, const Identity& id) {
   block.Coded(
       5, 0xFF, clock.CurrentYear,
       [](int year) { return year + (year < kFirstYearOf1900s ? 2000 : 1900); },
-      [](int year) { return year - (year < 2000 ? 1900 : 2000); });
+      [](int year) {
+        return year - (year < 2000 || year >= 2000 + kFirstYearOf1900s ? 1900 : 2000);
+      });
   block.CameraBits(6, Each(rec.TelEnable));
   block.Bytes(10, 4, Each(rec.Buzzer));
   if (id.IsTriplex()) {

@@ -32,6 +32,7 @@ inline constexpr Changing kChanging[] = {
     {59, 59, "x.......x......."},
     {60, 60, "......xx........"},
     {61, 61, "......xx........"},
+    {61, 61, ".....x.........."},  // of the bytes 100 to 159 each year has another
     {61, 61, "...............x", 6},
     {149, 149, "xxxx....xxxx...."},
     {184, 184, "xx..xx.........."},
@@ -47,9 +48,8 @@ inline constexpr Changing kChanging[] = {
     {34, 34, "xxxxxxxxxxxxxxxx"},
     {59, 59, ".x.............."},
     {59, 59, ".............x..", 1},
-    {61, 61, ".....x.........."},
     {64, 68, "xxxxxxxxxxxxxxxx"},
-    {69, 84, "xxxxxxxxxxx....."},
+    {69, 84, "x..............."},
     // Rates of 0 that block 219 marks are 99.
     {58, 58, "xxxxxxxxxxxxxxxx", 2},
     {62, 63, "xxxxxxxxxxxxxxxx", 2},
@@ -87,10 +87,7 @@ inline std::string TripFault(const BlockImage& original, bool one_by_one) {
   }
   const auto again = std::make_unique<MuxData>(env);
   DecodeImage(image, env, *again);
-  // What no byte can say: years beyond 2059, and monitors C to E without a matrix.
-  if (rec->TDInfo.CurrentYear() > 2059) {
-    rec->TDInfo.CurrentYear.Load(static_cast<std::int16_t>(rec->TDInfo.CurrentYear() - 100));
-  }
+  // What no byte can say: monitors C to E without a matrix.
   for (int i = env.identity.MatrixModel != 0 ? 5 : 2; i < 5; ++i) {
     rec->TDInfo.TDDisplay(i, 0);
     rec->TitleDisplay(i, 0);

@@ -293,6 +293,32 @@ TEST_F(MuxhostWindow, HeadlineTellsWhereTheConfigurationComesFrom) {
   EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
 }
 
+TEST_F(MuxhostWindow, PortsOfTheLinkAndAnOldClockAreToldBeforeAnUpload) {
+  window_.findChildren<QComboBox*>().at(0)->setCurrentIndex(1);
+  Click("Connect");
+  Download();
+  Choose("mnu_Comm");
+  QWidget* ports = nullptr;
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == "frm_Comm") ports = window;
+  }
+  ASSERT_NE(ports, nullptr);
+  Find<QRadioButton>(ports, "57600")->click();
+  Find(ports, "OK")->click();
+  DismissMenu();
+  Click("Upload modified", Answering("Cancel"));
+  EXPECT_EQ(told_, "Ports change that the link may use: port 1 from 9600 baud to 57600 baud.");
+  EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
+
+  Click(
+      "Upload all", Answering("Upload"), Answering("Use this computer's time"),
+      [] { return StartSending("Select all data blocks"); },
+      [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
+  EXPECT_TRUE(told_.startsWith("The device's clock goes along: 2000-01-01 00:00:00, "))
+      << told_.toStdString();
+  EXPECT_EQ(session_.Device().ReadBlock(61)->at(5), QDate::currentDate().year() - 2000);
+}
+
 TEST_F(MuxhostWindow, KeyboardLockOfTheMenuIsNotToBeUploaded) {
   window_.findChildren<QComboBox*>().at(0)->setCurrentIndex(3);
   Click("Connect");

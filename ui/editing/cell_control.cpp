@@ -70,6 +70,7 @@ class ListPairCells : public CellControl {
   ListPairCells(List one, List other) : lists_{std::move(one), std::move(other)} {}
 
   [[nodiscard]] Widget& Control() const override { return lists_[0].Control(); }
+  [[nodiscard]] bool StandsAtOneValue() const override { return true; }
   [[nodiscard]] Widget* OtherControl() const override { return &lists_[1].Control(); }
   [[nodiscard]] std::string TextOf(int part, int value) const override {
     return At(part).Lines().TextOf(value);

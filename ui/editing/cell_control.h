@@ -26,6 +26,8 @@ class CellControl {
   [[nodiscard]] bool Is(const Widget& widget) const {
     return &Control() == &widget || OtherControl() == &widget;
   }
+  /// True where the second of two columns always stands at the value of the first.
+  [[nodiscard]] virtual bool StandsAtOneValue() const { return false; }
   /// Cell text of a value; empty for one that reads as nothing.
   [[nodiscard]] virtual std::string TextOf(int part, int value) const = 0;
   /// The first value that the user can choose and whose cell reads so, or kNone.

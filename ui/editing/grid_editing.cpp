@@ -32,13 +32,6 @@ int GridEditing::Binding::PartOf(int column) const {
   return found == columns.end() ? kNoPart : static_cast<int>(found - columns.begin());
 }
 
-std::optional<int> GridEditing::Binding::ValueOf(int column, const std::string& text) const {
-  const int part = PartOf(column);
-  const int value = control->ValueOf(part, text);
-  if (value != Grid::kNone) return value;
-  return rules.empty && control->TextOf(part, *rules.empty) == text ? rules.empty : std::nullopt;
-}
-
 std::function<void(const Widget&)> GridEditing::Add(std::unique_ptr<CellControl> control,
                                                     std::vector<int> columns, ColumnRules rules) {
   bindings_.push_back({std::move(control), std::move(columns), std::move(rules)});
@@ -273,21 +266,35 @@ void GridEditing::ChooseInAllRows(int column, int value) {
   ShowRow(*binding);
 }
 
+std::optional<int> GridEditing::PastedValue(const Binding& binding, int column,
+                                            const std::string& text) const {
+  const int part = binding.PartOf(column);
+  const int value = binding.control->ValueOf(part, text);
+  if (value != Grid::kNone) return value;
+  const std::optional<int>& empty = binding.rules.empty;
+  const bool empties = empties_ == Empties::kCells && empty.has_value();
+  return empties && binding.control->TextOf(part, *empty) == text ? empty : std::nullopt;
+}
+
 bool GridEditing::Takes(int row, int column, const std::string& text) const {
   const Binding* const binding = BindingOf(column);
   if (binding == nullptr) return false;
   if (!binding->Has(row)) return text.empty();  // as it is: rows can be copied whole
-  if (!binding->Takes(row)) return false;
   if (text == grid_.Cell(row, column)) return true;
+  if (!binding->Takes(row)) return false;
   const ChoicesOfRow& of_row = binding->rules.of_row;
   if (of_row && of_row(row).ValueOf(text) == Choices::kNone) return false;
-  return binding->ValueOf(column, text).has_value();
+  return PastedValue(*binding, column, text).has_value();
 }
 
 void GridEditing::Paste(int row, int column, const std::string& text) {
   if (text == grid_.Cell(row, column)) return;  // its value, one of several of that text, stays
+  if (!Takes(row, column, text)) return;        // not since a cell at the left was pasted
   const Binding& binding = *BindingOf(column);
-  SetValue(row, column, binding.ValueOf(column, text).value_or(Grid::kNone));
+  const int value = PastedValue(binding, column, text).value_or(Grid::kNone);
+  for (const int part : binding.columns) {
+    if (part == column || binding.control->StandsAtOneValue()) SetValue(row, part, value);
+  }
   FollowUp(binding, row);
   if (binding.rules.chosen) binding.rules.chosen();
   if (row == grid_.Row()) ShowCell();

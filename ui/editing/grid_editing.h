@@ -119,8 +119,6 @@ class GridEditing {
     [[nodiscard]] bool Takes(int row) const {
       return Has(row) && (!rules.takes || rules.takes(row));
     }
-    /// The value that a pasted text puts into a column, if it can be put there.
-    [[nodiscard]] std::optional<int> ValueOf(int column, const std::string& text) const;
   };
   static constexpr int kNoPart = -1;
   /// Adds a binding; returns what the handler of a control has to call.
@@ -149,6 +147,10 @@ class GridEditing {
   /// After a cell of the row was written.
   void FollowUp(const Binding& binding, int row);
   void MoveTo(const Binding& binding);
+  /// The value that a pasted text puts into a column, if it can be put there. Where Delete empties
+  /// whole rows, no cell is emptied alone.
+  [[nodiscard]] std::optional<int> PastedValue(const Binding& binding, int column,
+                                               const std::string& text) const;
   [[nodiscard]] bool Takes(int row, int column, const std::string& text) const;
   void Paste(int row, int column, const std::string& text);
   [[nodiscard]] bool CanEmpty() const;

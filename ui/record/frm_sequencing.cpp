@@ -61,7 +61,9 @@ void frm_Sequencing::BindGroups() {
   groups.Add(no_group, Words().cnstrNone).Reads(no_group, "");
   cameras_.Column(group, lstGrpSetup, groups,
                   Of(&MuxData::MatrixInfo, &clsMatrix::GroupSetup).Otherwise(no_group),
-                  {.empty = no_group});
+                  {.shows = ColumnRules::Reach::kInRow,
+                   .writes = ColumnRules::Reach::kInRow,
+                   .empty = no_group});
 }
 
 void frm_Sequencing::Arrange() {

@@ -38,7 +38,7 @@ class frm_Sequencing : public Editor {
 
   FieldGroup& settings_ = Once();
   LineGrid cameras_{*this, msfgGrSetup, Each(Id().IsTriplexMatrix() ? Id().MaxCam : 0),
-                    Text(txt::kIndex)};
+                    Text(txt::kIndex), GridEditing::Release::kSelects};
 };
 
 }  // namespace quorvel

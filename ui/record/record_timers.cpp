@@ -30,7 +30,7 @@ SettingRef OfValidTimer(SettingRef setting) {
           return;
         }
         values.at(0) = value;
-        if (valid == 0) valid = 1;
+        valid = 1;
       });
 }
 

@@ -25,8 +25,10 @@ frm_Telemetry::frm_Telemetry(Context& context)
                    At(&MuxData::Tel_options).Otherwise(1));
   settings.Options(optPresetMode, of_two(txt::kStandard, txt::kEnhanced),
                    At(&MuxData::PresetMode).Otherwise(1));
-  settings.Options(optPresetPGM, {{0, Text(txt::kEnabledWord)}, {1, Text(txt::kDisabledWord)}},
-                   At(&MuxData::PresetPGM).Otherwise(1));
+  settings
+      .Options(optPresetPGM, {{0, Text(txt::kEnabledWord)}, {1, Text(txt::kDisabledWord)}},
+               At(&MuxData::PresetPGM).Otherwise(1))
+      .WrittenWhen(!current);
   Frame3.SetVisible(!current);
   SetLayout(
       Column(Row(MSFG_Tel, Column(Labelled(Label1, List1), Labelled(Label2, List2), Stretch()),

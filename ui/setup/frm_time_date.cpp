@@ -135,11 +135,10 @@ void frm_TimeDate::UsePcClock() {
 }
 
 void frm_TimeDate::WriteRest(MuxData& record) {
-  if (chkPCTD.Checked()) {
-    Ctx().device.TakePcTime();
-  } else if (Id().IsTriplex() && (Calendar.Edited() || DTPicker1.Edited())) {
-    record.PlayDwell(0);  // lets the device take the clock
-  }
+  if (chkPCTD.Checked()) return Ctx().device.TakePcTime();
+  if (!Calendar.Edited() && !DTPicker1.Edited()) return;
+  Ctx().device.UsePcTime = false;
+  if (Id().IsTriplex()) record.PlayDwell(0);  // lets the device take the clock
 }
 
 void frm_TimeDate::Arrange() {

@@ -47,6 +47,11 @@ frm_VCR::frm_VCR(Context& context) : Editor(context, "frm_VCR", txt::kVcrSetup, 
   Open(cmdOK, cmdCancel);
 }
 
+/// Whatever the older device holds besides 0 stands for the second format, and becomes its code.
+void frm_VCR::WriteRest(MuxData& record) {
+  if (record.PlaybackFormat() == 0 && record.PlaybackOld() > 1) record.PlaybackOld(1);
+}
+
 Choices frm_VCR::PlaybackFormats() const {
   const auto formats = [this](int first, int second, int third) -> Choices {
     return {{0, Text(first)}, {1, Text(second)}, {2, Text(third)}, {3, Text(txt::kFormat6)}};

@@ -11,6 +11,7 @@ class frm_VCR : public Editor {
   explicit frm_VCR(Context& context);
 
  private:
+  void WriteRest(MuxData& record) override;
   /// The tape formats, each by its option: other device variants play other ones.
   [[nodiscard]] Choices PlaybackFormats() const;
 

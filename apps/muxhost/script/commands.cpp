@@ -25,7 +25,7 @@ constexpr Command kCommands[] = {
     {"host [family=N] [dvr=N] [commid=N] [link=N] [sync] [latency=MS]", 0, kAny, commands::Host},
     {"download [hold]", 0, 1, commands::Download},
     {"upload all|modified|none|hold [macros]", 1, 2, commands::Upload},
-    {"goes-along all|modified", 1, 1, commands::GoesAlong},
+    {"goes-along all|modified [macros]", 1, 2, commands::GoesAlong},
     {"pc-time", 0, 0, commands::PcTime},
     {"save FILE", 1, 1, commands::Save},
     {"restore FILE", 1, 1, commands::Restore},

@@ -88,10 +88,12 @@ void Upload(Desk& desk, Words words) {
 }
 
 void GoesAlong(Desk& desk, Words words) {
-  const GoingAlong along = WhatGoesAlong(desk.session, !TakeChoice(words).modified);
-  if (along.clock) desk.out << ClockInWords(*along.clock, desk.platform.Now()) << '\n';
+  const SendChoice choice = TakeChoice(words);
+  const LocalTime now = desk.platform.Now();
+  const GoingAlong along = WhatGoesAlong(desk.session, !choice.modified, choice.macros, now);
+  if (along.clock_goes) desk.out << ClockInWords(along.clock, now) << '\n';
   if (!along.ports.empty()) desk.out << PortsInWords(along.ports) << '\n';
-  if (!along.clock && along.ports.empty()) desk.out << "nothing goes along\n";
+  if (!along.clock_goes && along.ports.empty()) desk.out << "nothing goes along\n";
 }
 
 void PcTime(Desk& desk, Words /*words*/) { desk.session.Control().UsePcTime(true); }

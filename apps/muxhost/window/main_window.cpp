@@ -177,7 +177,7 @@ void MainWindow::Do(Command command) {
   switch (command) {
     case Command::kDownload: return Download();
     case Command::kMenu: return session_.OpenMenu();
-    case Command::kZones: return EditZones(session_.Device().IdentityBytes().at(0));
+    case Command::kZones: return EditZones(session_.Cameras());
     case Command::kUploadModified: return uploader_.Upload(false, commands_->WithMacros());
     case Command::kUploadAll: return uploader_.Upload(true, commands_->WithMacros());
     case Command::kSave: return Run(&HostSession::Save);

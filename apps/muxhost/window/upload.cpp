@@ -11,7 +11,7 @@ namespace quorvel::muxhost {
 
 void Uploader::Upload(bool all, bool macros) {
   if (all && !MayLeaveOut()) return;
-  if (!MayBring(WhatGoesAlong(at_.session, all))) return;
+  if (!MayBring(WhatGoesAlong(at_.session, all, macros, at_.platform.Now()))) return;
   if (at_.backups.Wanted() && !BackUp()) return;
   do {
     const SendChoice choice(all, macros);
@@ -42,10 +42,10 @@ bool Uploader::MayBring(const GoingAlong& along) {
                "Upload")) {
     return false;
   }
-  return !along.clock || MayBringClock(*along.clock);
+  return !along.clock_goes || MayBringClock(along.clock);
 }
 
-bool Uploader::MayBringClock(const LocalTime& clock) {
+bool Uploader::MayBringClock(const std::optional<LocalTime>& clock) {
   if (!at_.window.isVisible()) return false;
   QMessageBox box(QMessageBox::Question, at_.window.windowTitle(),
                   QString::fromStdString(ClockInWords(clock, at_.platform.Now())),

@@ -39,7 +39,7 @@ class Uploader {
   /// Tells of a clock and of ports that go along; false when the user would rather not.
   [[nodiscard]] bool MayBring(const GoingAlong& along);
   /// Offers the computer's time instead.
-  [[nodiscard]] bool MayBringClock(const LocalTime& clock);
+  [[nodiscard]] bool MayBringClock(const std::optional<LocalTime>& clock);
   /// Asks about blocks that an upload of everything brings nothing for.
   [[nodiscard]] bool MayLeaveOut();
   [[nodiscard]] bool MayGoOn(const QString& trouble, const QString& question, const char* go_on);

@@ -96,7 +96,7 @@ class LiteCameraSettings : public EditorPage {
   ComboBox cbAlm{*this, "cbAlm"};
 
   FieldGroup& lines_ = Each(Id().MaxCam);
-  LineGrid table_{*this, msfgRecSS, lines_, Text(txt::kCameras)};
+  LineGrid table_{*this, msfgRecSS, lines_, Text(txt::kCameras), GridEditing::Release::kSelects};
   GridEditing type_of_all_{msfgEvTL, GridEditing::Release::kSelects};
   std::vector<Setting> settings_;
   Choices quality_, types_, time_lapse_, event_;
