@@ -298,11 +298,7 @@ TEST_F(MuxhostWindow, PortsOfTheLinkAndAnOldClockAreToldBeforeAnUpload) {
   Click("Connect");
   Download();
   Choose("mnu_Comm");
-  QWidget* ports = nullptr;
-  for (QWidget* const window : QApplication::topLevelWidgets()) {
-    if (window->objectName() == "frm_Comm") ports = window;
-  }
-  ASSERT_NE(ports, nullptr);
+  QWidget* const ports = OnScreen("frm_Comm");
   Find<QRadioButton>(ports, "57600")->click();
   Find(ports, "OK")->click();
   DismissMenu();
