@@ -23,8 +23,10 @@ struct Device {
 };
 const Device kDevices[] = {{"multiplexer", {.model = 0}},
                            {"multiplexer-basic", {.model = 0, .variant = "A"}},
+                           {"dvr", {.model = 1}},
                            {"duplex", {.model = 2}},
                            {"triplex", {.model = 6}},
+                           {"triplex-turbo", {.model = 18}},
                            {"triplex-lite", {8, 9}},
                            {"triplex-lite-4", {16, 4}},
                            {"triplex-matrix-presets", {.model = 15, .variant = "0"}}};

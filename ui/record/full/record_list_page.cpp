@@ -30,7 +30,7 @@ void RecordListPage::BindList() {
 }
 
 Layout RecordListPage::Contents() {
-  return Row(MSFlGrid_RecList, Labelled(lbCamera, lCamera), timers_.Controls(), Stretch());
+  return Row(MSFlGrid_RecList, Labelled(lbCamera, lCamera), timers_.Controls());
 }
 
 }  // namespace quorvel

@@ -12,7 +12,7 @@ class RecordQualityPage : public EditorPage {
  public:
   RecordQualityPage(Editor& editor, const RecordFeatures& features);
   [[nodiscard]] Layout Contents() {
-    return Row(MSFlGrid_RecQuality, Labelled(lbRQuality, lRQuality), Stretch());
+    return Row(MSFlGrid_RecQuality, Labelled(lbRQuality, lRQuality));
   }
 
  private:
