@@ -306,6 +306,14 @@ TEST_F(MuxhostWindow, PortsOfTheLinkAndAnOldClockAreToldBeforeAnUpload) {
   EXPECT_EQ(told_, "Ports change that the link may use: port 1 from 9600 baud to 57600 baud.");
   EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
 
+  // More is chosen in the send dialog.
+  Click(
+      "Upload modified", Answering("Upload"), [] { return StartSending("Select all data blocks"); },
+      Answering("Cancel"), [this] { return told_.contains("clock") && Press("CLOSE"); });
+  EXPECT_TRUE(told_.contains("\nThe device's clock goes along: 2000-01-01 00:00:00, "))
+      << told_.toStdString();
+  EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
+
   Click(
       "Upload all", Answering("Upload"), Answering("Use this computer's time"),
       [] { return StartSending("Select all data blocks"); },

@@ -2,7 +2,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
+#include <QWidget>
 
 namespace quorvel::muxhost {
 
@@ -13,13 +14,45 @@ void Tick(const QObject& dialog, const char* name) {
   if (button != nullptr && !button->isChecked()) button->click();
 }
 
+bool IsTicked(const QWidget& dialog, const char* name) {
+  const auto* const button = dialog.findChild<QAbstractButton*>(name);
+  return button != nullptr && button->isChecked();
+}
+
+/// A press of START, with the mouse or a key, that it would take.
+bool StartsSending(const QWidget& pressed, const QEvent& event) {
+  const auto* const start = pressed.window()->findChild<QAbstractButton*>("cmdOK");
+  if (start == nullptr || !start->isEnabled() || !start->isVisible()) return false;
+  if (event.type() == QEvent::MouseButtonPress) return &pressed == start;
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  const bool button = qobject_cast<const QAbstractButton*>(&pressed) != nullptr;
+  if (key == Qt::Key_Space) return &pressed == start;
+  return (key == Qt::Key_Return || key == Qt::Key_Enter) && (&pressed == start || !button);
+}
+
 }  // namespace
 
 SendChoice::SendChoice(bool all, bool macros) : all_(all), macros_(macros) {
   qApp->installEventFilter(this);
 }
 
+bool SendChoice::MaySend(const QWidget& dialog) {
+  const bool all = IsTicked(dialog, "optBlk(0)");
+  const bool macros = IsTicked(dialog, "chkMacro(0)");
+  if ((!all || all_) && (!macros || macros_)) return true;
+  if (may_send && !may_send(all, macros)) return false;
+  all_ = all;
+  macros_ = macros;
+  return true;
+}
+
 bool SendChoice::eventFilter(QObject* object, QEvent* event) {
+  const auto* const widget = qobject_cast<QWidget*>(object);
+  if (widget != nullptr && widget->window()->objectName() == "frm_ToMux" &&
+      StartsSending(*widget, *event) && !MaySend(*widget->window())) {
+    return true;
+  }
   if (!made_ && event->type() == QEvent::Show && object->objectName() == "frm_ToMux") {
     made_ = true;
     Tick(*object, all_ ? "optBlk(0)" : "optBlk(1)");

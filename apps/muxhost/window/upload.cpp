@@ -14,7 +14,10 @@ void Uploader::Upload(bool all, bool macros) {
   if (!MayBring(WhatGoesAlong(at_.session, all, macros, at_.platform.Now()))) return;
   if (at_.backups.Wanted() && !BackUp()) return;
   do {
-    const SendChoice choice(all, macros);
+    SendChoice choice(all, macros);
+    choice.may_send = [this](bool now_all, bool now_macros) {
+      return MayBringAfterAll(now_all, now_macros);
+    };
     at_.silence.Begin(
         SilenceWatch::kUsualPatience + at_.session.Settings().latency_ms,
         [this] { return at_.session.LastExchange().unanswered.has_value(); },
@@ -43,6 +46,18 @@ bool Uploader::MayBring(const GoingAlong& along) {
     return false;
   }
   return !along.clock_goes || MayBringClock(along.clock);
+}
+
+/// The blocks are encoded by now: the computer's time cannot be taken any more.
+bool Uploader::MayBringAfterAll(bool all, bool macros) {
+  const LocalTime now = at_.platform.Now();
+  const GoingAlong along = WhatGoesAlong(at_.session, all, macros, now);
+  std::string trouble = along.ports.empty() ? "" : PortsInWords(along.ports);
+  if (along.clock_goes) {
+    trouble += (trouble.empty() ? "" : "\n") + ClockInWords(along.clock, now);
+  }
+  return trouble.empty() ||
+         MayGoOn(QString::fromStdString(trouble), "Send it all the same?", "Send it");
 }
 
 bool Uploader::MayBringClock(const std::optional<LocalTime>& clock) {

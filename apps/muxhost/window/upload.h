@@ -38,6 +38,8 @@ class Uploader {
   [[nodiscard]] bool BackUp();
   /// Tells of a clock and of ports that go along; false when the user would rather not.
   [[nodiscard]] bool MayBring(const GoingAlong& along);
+  /// The same, of more than was chosen before: at START.
+  [[nodiscard]] bool MayBringAfterAll(bool all, bool macros);
   /// Offers the computer's time instead.
   [[nodiscard]] bool MayBringClock(const std::optional<LocalTime>& clock);
   /// Asks about blocks that an upload of everything brings nothing for.
