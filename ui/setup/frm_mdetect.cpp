@@ -149,7 +149,7 @@ void frm_MDetect::BindActivity() {
                 rules);
 }
 
-/// Nobody is asked to choose a link where none can be: on lite models, whose window lacks the list,
+/// No link is asked for where none can be chosen: on lite models, whose window lacks the list,
 /// and for cameras that record no events.
 void frm_MDetect::BindLinkToEvent(const ColumnRules& rules) {
   const auto links = [this](int row) {
