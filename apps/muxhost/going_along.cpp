@@ -28,9 +28,17 @@ bool Brings(const MainMenuCtrl& control, bool all, std::uint8_t block) {
 
 constexpr std::string_view kClockSettings = "TDInfo.Current";
 
-/// The clock that block 61 brings: as edited where the block is listed, else as it came. Nothing
-/// when the device has none, or one that no calendar has.
-std::optional<LocalTime> ClockOf(const MainMenuCtrl& control, bool listed) {
+/// What of the clock was set since the configuration came.
+std::vector<SettingDifference> EditsOfClock(const MainMenuCtrl& control) {
+  auto edits = control.DifferencesFrom(control.Image()).value_or(std::vector<SettingDifference>());
+  std::erase_if(edits, [](const auto& it) { return !it.name.starts_with(kClockSettings); });
+  return edits;
+}
+
+/// The clock of the configuration, without what was set since it came unless `edited`. Nothing for
+/// one that no calendar has.
+std::optional<LocalTime> ClockOf(const MainMenuCtrl& control,
+                                 const std::vector<SettingDifference>& edits, bool edited) {
   LocalTime clock;
   const std::array<std::pair<std::string_view, int*>, 6> parts = {{{"Year", &clock.date.year},
                                                                    {"Month", &clock.date.month},
@@ -38,44 +46,31 @@ std::optional<LocalTime> ClockOf(const MainMenuCtrl& control, bool listed) {
                                                                    {"Hour", &clock.time.hour},
                                                                    {"Min", &clock.time.minute},
                                                                    {"Sec", &clock.time.second}}};
-  std::size_t found = 0;
   const auto take = [&](const std::string& setting, const std::string& value) {
-    if (!setting.starts_with(kClockSettings)) return;
     for (const auto& [name, number] : parts) {
-      if (setting.substr(kClockSettings.size()) != name) continue;
-      *number = ToNumber(value);
-      ++found;
+      if (setting.substr(kClockSettings.size()) == name) *number = ToNumber(value);
     }
   };
   for (const SettingLine& line : control.Settings(std::string(kClockSettings) + "*")) {
     take(line.name, line.value);
   }
-  if (found != parts.size()) return std::nullopt;
-  const auto edited = control.DifferencesFrom(control.Image());
-  if (!listed && edited) {
-    for (const SettingDifference& it : *edited) take(it.name, it.other);
+  if (!edited) {
+    for (const SettingDifference& it : edits) take(it.name, it.other);
   }
   if (!IsDate(clock.date) || !IsTime(clock.time)) return std::nullopt;
   return clock;
 }
 
-/// Whether the control holds another clock than the one that came with the configuration.
-bool ClockIsEdited(const MainMenuCtrl& control) {
-  const auto edited = control.DifferencesFrom(control.Image());
-  return edited && std::any_of(edited->begin(), edited->end(), [](const SettingDifference& it) {
-           return it.name.starts_with(kClockSettings);
-         });
-}
-
 void TellClock(const MainMenuCtrl& control, const LocalTime& now, GoingAlong& along) {
   const bool listed = Brings(control, false, kClockBlock);
-  along.clock = ClockOf(control, listed);
+  const auto edits = EditsOfClock(control);
+  along.clock = ClockOf(control, edits, listed);
   if (listed && control.UsePcTime() && along.clock) {
     // The time is taken when the block is built, the date was taken with the user's choice.
     along.clock->time = now.time;
     along.clock_goes = along.clock->date != now.date;
   } else {
-    along.clock_goes = !listed || !ClockIsEdited(control);
+    along.clock_goes = !listed || edits.empty();
   }
 }
 

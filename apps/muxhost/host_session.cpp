@@ -103,7 +103,7 @@ std::vector<Byte> HostSession::LackingBlocks() const {
 }
 
 int HostSession::Cameras() const {
-  constexpr std::size_t kCamerasByte = 184 * 16;  // of the identity, block 185
+  constexpr std::size_t kCamerasByte = (kIdentityBlock - 1) * kBlockSize;
   const auto image = control_->Image();
   return image.size() > kCamerasByte ? image[kCamerasByte] : Device().IdentityBytes().at(0);
 }
