@@ -136,6 +136,11 @@ int Run(int argc, char** argv) {
   reporter.PrintRatio("round_trip", 3.5);
   reporter.PrintTime("download_225_blocks", 50);
   reporter.PrintTime("upload_all_blocks", 100);
+  reporter.PrintTime("list_all_settings", 300);
+  for (const char* name : {"look_up_first", "look_up_last", "look_up_in_grid"}) {
+    reporter.PrintTime(name, 2);
+  }
+  reporter.PrintTime("find_unallowed", 20);
   reporter.PrintTime("open_and_leave_alarms", 88);
   reporter.PrintTime("open_and_leave_record", 60);
   return ReportAllocations() ? 0 : 1;

@@ -41,6 +41,7 @@ class QuickHost : public MainMenuEvents {
     if (packets_ != 225 - 32 - 2 + 1) throw std::logic_error("the upload did not end");
   }
 
+  [[nodiscard]] MainMenuCtrl& Control() { return control_; }
   void OpenMenu() { control_.Custom(15, 1, 0); }
   /// Opens an editor from the menu that has popped up, and leaves it with Cancel.
   void OpenEditor(const char* item) {
@@ -84,6 +85,25 @@ void RegisterTransfers() {
         host.Download();
         for (auto _ : state) host.Upload();
       }));
+  const auto on_control = [](const char* name, void (*step)(MainMenuCtrl&)) {
+    RatioReporter::Keep(benchmark::RegisterBenchmark(name, [step](benchmark::State& state) {
+      QuickHost host;
+      host.Download();
+      for (auto _ : state) step(host.Control());
+    }));
+  };
+  on_control("list_all_settings",
+             [](MainMenuCtrl& it) { benchmark::DoNotOptimize(it.Settings()); });
+  on_control("look_up_first",
+             [](MainMenuCtrl& it) { benchmark::DoNotOptimize(it.GetSetting("CamInfo(0).title")); });
+  on_control("look_up_last", [](MainMenuCtrl& it) {
+    benchmark::DoNotOptimize(it.GetSetting("AlmEmailNotify.BlkStrInit(225)"));
+  });
+  on_control("look_up_in_grid", [](MainMenuCtrl& it) {
+    benchmark::DoNotOptimize(it.GetSetting("CamInfo(15).ActGrid(31)"));
+  });
+  on_control("find_unallowed",
+             [](MainMenuCtrl& it) { benchmark::DoNotOptimize(it.SettingFindings()); });
   constexpr std::pair<const char*, const char*> kEditors[] = {
       {"open_and_leave_alarms", "mnu_Alarm"}, {"open_and_leave_record", "mnu_Record"}};
   for (const auto& editor : kEditors) {

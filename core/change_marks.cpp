@@ -61,6 +61,11 @@ void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockI
   if (IsTold(*mark, sent, image, env, rec)) Rest(*mark, image, array, rec);
 }
 
+void RaiseChangeMark(int number, int at, const Identity& id, MuxData& rec) {
+  constexpr int kClockEnd = 6;
+  if (number == kClockBlock && at < kClockEnd && id.IsTriplex()) rec.PlayDwell(0);
+}
+
 void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
                       MuxData& rec) {
   for (const ChangeMark& mark : kMarks) {

@@ -23,6 +23,10 @@ class MuxData;
 void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockImage& image,
                       CombinedArray& array, RecordEnvironment& env, MuxData& rec);
 
+/// Byte `at` of block `number` has been set. Servers mark themselves; the clock has its mark set
+/// here, which lets the device take it.
+void RaiseChangeMark(int number, int at, const Identity& id, MuxData& rec);
+
 /// The list of modified blocks has been cleared: all marks go to rest.
 void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
                       MuxData& rec);

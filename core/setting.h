@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "core/bit_fields.h"
+#include "core/meaning.h"
 #include "core/record_environment.h"
 
 namespace quorvel {
@@ -85,22 +86,6 @@ void RecordInMask(SettingOwner& owner, CommitFlag flag, int block, Mask& mask, i
   mask.Load(bits);
 }
 
-/// How an installer reads a setting's number: the unit behind it, and what counts from 1 on screen
-/// and from 0 in the device.
-struct NoUnit {
-  static constexpr const char* kUnit = "";
-  static constexpr int kFirst = 0;
-};
-struct Seconds : NoUnit {
-  static constexpr const char* kUnit = " s";
-};
-struct SecondsFromOne : Seconds {
-  static constexpr int kFirst = 1;
-};
-struct Minutes : NoUnit {
-  static constexpr const char* kUnit = " min";
-};
-
 namespace setting_detail {
 
 /// Finds a setting's owner by its distance, at 2 bytes a setting. A record has some 900 settings,
@@ -158,11 +143,12 @@ struct Filler<true> {
 /// the value lists what the rule says (a block, while the commit flag of its editor is raised);
 /// then the value is stored. What is special about a setting is its rule's: a class derived from it
 /// could let a setter in that its own was to replace.
-template <SettingName name, class T, class Rule = Untracked, class Unit = NoUnit>
+template <SettingName name, class T, class Rule = Untracked, class TheMeaning = NoUnit>
 class Setting final {
  public:
   using Value = T;
-  using UnitType = Unit;
+  using Meaning = TheMeaning;
+  static constexpr bool kReadOnly = std::same_as<Rule, ReadOnly>;
 
   explicit Setting(const SettingOwner& owner) : owner_(this, owner) {}
   Setting(const Setting&) = delete;
@@ -206,7 +192,8 @@ class Setting final {
 
 /// `N` settings under one name: `rec.TelEnable(3)` reads entry 3, `rec.TelEnable(3, 1)` and
 /// `rec.TelEnable.Set(3, 1)` set it. A bad index reads as zero and is ignored when set.
-template <SettingName name, class T, std::size_t N, class Rule = Untracked>
+template <SettingName name, class T, std::size_t N, class Rule = Untracked,
+          class TheMeaning = NoUnit>
 class SettingArray final {
  public:
   using Value = T;
@@ -234,11 +221,13 @@ class SettingArray final {
   /// One entry with the shape of a single setting, for the block layouts, which know their bounds.
   struct Entry {
     using Value = T;
-    using UnitType = NoUnit;
+    using Meaning = TheMeaning;
+    static constexpr bool kReadOnly = std::same_as<Rule, ReadOnly>;
     SettingArray* array;
     int index;
     [[nodiscard]] const T& operator()() const { return array->At(index); }
     void Load(T value) const { array->At(index) = std::move(value); }
+    void Set(T value) const requires(!kReadOnly) { array->Set(index, std::move(value)); }
     [[nodiscard]] static const char* Name() { return name.text; }
     [[nodiscard]] const SettingOwner& Owner() const { return array->Owner(); }
     [[nodiscard]] int EntryIndex() const { return index; }

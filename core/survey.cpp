@@ -1,80 +1,34 @@
 #include "core/survey.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
-#include <cstdio>
 #include <map>
 #include <set>
 #include <utility>
 
 #include "core/layout/blocks.h"
+#include "core/layout/setting_pass.h"
 
 namespace quorvel {
 
-namespace layout {
-
-std::string QuotedText(std::string_view text) {
-  std::string quoted = "\"";
-  for (const char raw : text) {
-    const auto character = static_cast<unsigned char>(raw);
-    if (character >= 0x20 && character < 0x7F && raw != '"' && raw != '\\') {
-      quoted += raw;
-      continue;
-    }
-    std::array<char, 8> code{};
-    std::snprintf(code.data(), code.size(), "\\x%02X", static_cast<unsigned>(character));
-    quoted += code.data();
-  }
-  return quoted + "\"";
-}
-
-std::string FullName(const SettingOwner& owner, std::string_view name, int entry) {
-  std::string full = owner.Collection();
-  if (!full.empty()) {
-    if (owner.Index() >= 0) full += "(" + std::to_string(owner.Index()) + ")";
-    full += ".";
-  }
-  full += name;
-  if (entry >= 0) full += "(" + std::to_string(entry) + ")";
-  return full;
-}
-
-}  // namespace layout
-
 namespace {
 
+using layout::AnySetting;
 using layout::Place;
+using layout::Slot;
 
-template <bool writing>
-class SurveyWalk {
- public:
-  SurveyWalk(std::vector<Place>& places, int cameras, int blocks)
-      : places_(places), cameras_(cameras), blocks_(blocks) {}
-
-  template <class Visit>
-  void Block(int number, const Visit& visit) {
-    if (number > blocks_) return;
-    layout::SurveyPass<writing> pass(places_, word_, number, cameras_);
-    visit(pass);
+/// Collects all places.
+struct PlaceCollector {
+  static bool Wants(std::string_view /*name*/) { return true; }
+  void Setting(const Slot& slot, AnySetting& setting) {
+    places.push_back({slot, layout::FullName(setting.Owner(), setting.Name(), setting.Entry()),
+                      setting.Value()});
   }
-  template <class Visit>
-  void Blocks(int first, int count, const Visit& visit) {
-    for (int i = 0; i < count; ++i) {
-      Block(first + i, [&](layout::SurveyPass<writing>& pass) { visit(pass, i); });
-    }
+  void Device(const Slot& slot, const char* name, Byte value) {
+    places.push_back({slot, name, std::to_string(value)});
   }
-
- private:
-  std::vector<Place>& places_;
-  int cameras_;
-  int blocks_;
-  int word_ = 0;
+  std::vector<Place> places;
 };
-
-bool IsSetting(const Place& place) {
-  return place.role == Place::Role::kSetting || place.role == Place::Role::kElsewhere;
-}
 
 char Lower(char letter) {
   return static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
@@ -112,15 +66,15 @@ std::string WholePattern(std::string_view pattern) {
 }  // namespace
 
 std::vector<Place> SurveyRecord(MuxData& rec, Identity id, int blocks, Direction direction) {
-  std::vector<Place> places;
+  PlaceCollector collector;
   if (direction == Direction::kWritten) {
-    SurveyWalk<true> walk(places, id.MaxCam, blocks);
+    layout::SettingWalk<true, PlaceCollector> walk(collector, id.MaxCam, blocks);
     layout::DescribeBlocks(walk, rec, id);
   } else {
-    SurveyWalk<false> walk(places, id.MaxCam, blocks);
+    layout::SettingWalk<false, PlaceCollector> walk(collector, id.MaxCam, blocks);
     layout::DescribeBlocks(walk, rec, id);
   }
-  return places;
+  return std::move(collector.places);
 }
 
 std::vector<std::string> FindOverlaps(const std::vector<Place>& places) {
@@ -143,16 +97,41 @@ std::vector<std::string> FindOverlaps(const std::vector<Place>& places) {
   return overlaps;
 }
 
+namespace {
+
+/// Collects the settings whose name fits a pattern.
+class LineCollector {
+ public:
+  explicit LineCollector(std::string_view pattern)
+      : all_(pattern.empty()), pattern_(WholePattern(pattern)) {
+    if (all_) lines.reserve(kUsualCount);
+  }
+  static bool Wants(std::string_view /*name*/) { return true; }
+  void Setting(const Slot& slot, AnySetting& setting) {
+    if (!slot.IsSetting()) return;
+    layout::PutFullName(name_, setting.Owner(), setting.Name(), setting.Entry());
+    if (all_ || Fits(name_, pattern_)) lines.push_back({name_, setting.Value()});
+  }
+  void Device(const Slot& /*slot*/, const char* /*name*/, Byte /*value*/) {}
+
+  std::vector<SettingLine> lines;
+
+ private:
+  static constexpr std::size_t kUsualCount = 2048;
+  bool all_;
+  std::string pattern_;
+  std::string name_;
+};
+
+}  // namespace
+
 std::vector<SettingLine> ListSettings(MuxData& rec, const Identity& id, int blocks,
                                       std::string_view pattern) {
-  const std::string whole = WholePattern(pattern);
-  std::vector<SettingLine> lines;
-  for (Place& place : SurveyRecord(rec, id, blocks)) {
-    if (IsSetting(place) && Fits(place.name, whole)) {
-      lines.push_back({std::move(place.name), std::move(place.value)});
-    }
-  }
-  return lines;
+  LineCollector collector(pattern);
+  Identity identity = id;
+  layout::SettingWalk<false, LineCollector> walk(collector, id.MaxCam, blocks);
+  layout::DescribeBlocks(walk, rec, identity);
+  return std::move(collector.lines);
 }
 
 std::vector<Place> Locate(MuxData& rec, const Identity& id, int blocks, std::string_view name) {
@@ -173,7 +152,7 @@ std::map<std::string, Holding> HoldingsOf(const Configuration& configuration) {
   std::map<std::string, Holding> holdings;
   for (const Place& place :
        SurveyRecord(configuration.rec, configuration.id, configuration.blocks)) {
-    if (!IsSetting(place) && place.role != Place::Role::kMark) continue;
+    if (!place.IsSetting() && place.role != Place::Role::kMark) continue;
     Holding& holding = holdings[place.name];
     holding.value = place.value;
     holding.blocks.insert(static_cast<Byte>(place.block));

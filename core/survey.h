@@ -3,11 +3,21 @@
 #include <string_view>
 #include <vector>
 
-#include "core/layout/survey_pass.h"
+#include "core/layout/any_setting.h"
 #include "core/record/mux_data.h"
 #include "quorvel/settings.h"
 
 namespace quorvel {
+
+namespace layout {
+
+/// Where a setting is kept, and what it holds.
+struct Place : Slot {
+  std::string name;
+  std::string value;
+};
+
+}  // namespace layout
 
 /// Which direction a survey looks: not every setting that is read is also written.
 enum class Direction { kRead, kWritten };

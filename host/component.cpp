@@ -4,7 +4,7 @@
 
 #include "core/byte_order.h"
 #include "core/codec.h"
-#include "core/survey.h"
+#include "core/settings_by_name.h"
 #include "host/model_catalogue.h"
 #include "host/settings_file.h"
 
@@ -136,15 +136,21 @@ std::vector<Byte> Component::EditedImage() {
   return {bytes.begin(), bytes.end()};
 }
 
-std::vector<SettingLine> Component::Settings(std::string_view pattern) {
-  if (!context.device.HasImage()) return {};
-  return ListSettings(context.device.Record(), context.device.env.identity,
-                      context.device.BlkImage.BlkCount(), pattern);
+Configuration Component::Present() {
+  return {context.device.Record(), context.device.env.identity, context.device.BlkImage.BlkCount()};
+}
+
+SetAnswer Component::SetSetting(std::string_view name, std::string_view value) {
+  if (!HasImage()) return SetAnswer::kNoImage;
+  const std::string bytes = context.platform.FromUtf8(value);
+  // A character that the device does not know would become another.
+  if (context.platform.ToUtf8(bytes) != value) return SetAnswer::kNotAValue;
+  return quorvel::SetSetting(Present(), context.device.env, name, bytes);
 }
 
 std::optional<std::vector<SettingDifference>> Component::DifferencesFrom(
     std::span<const Byte> image) {
-  if (!context.device.HasImage()) return std::nullopt;
+  if (!HasImage()) return std::nullopt;
   BlockImage other({image.begin(), image.end()});
   RecordEnvironment other_env;
   MuxData other_record(other_env);
@@ -153,9 +159,7 @@ std::optional<std::vector<SettingDifference>> Component::DifferencesFrom(
   } catch (const ImageError&) {
     return std::nullopt;
   }
-  return CompareConfigurations(
-      {context.device.Record(), context.device.env.identity, context.device.BlkImage.BlkCount()},
-      {other_record, other_env.identity, other.BlkCount()});
+  return CompareConfigurations(Present(), {other_record, other_env.identity, other.BlkCount()});
 }
 
 }  // namespace quorvel

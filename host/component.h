@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/survey.h"
 #include "host/activity_grid.h"
 #include "host/download.h"
 #include "host/host_events.h"
@@ -43,7 +44,10 @@ class Component : public std::enable_shared_from_this<Component> {
   void FillComboInfo(std::span<const Byte> data);
   void FillDataBlk(std::span<const Byte> data) { download_.TakeReply(data); }
   void FillComboBlk(std::span<const Byte> data) { download_.TakeComboArray(data); }
-  [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern);
+  [[nodiscard]] bool HasImage() const { return context.device.HasImage(); }
+  /// What the control holds; only where there is an image.
+  [[nodiscard]] Configuration Present();
+  SetAnswer SetSetting(std::string_view name, std::string_view value);
   [[nodiscard]] std::vector<Byte> EditedImage();
   [[nodiscard]] std::optional<std::vector<SettingDifference>> DifferencesFrom(
       std::span<const Byte> image);

@@ -1,5 +1,6 @@
 #include "quorvel/main_menu_ctrl.h"
 
+#include "core/settings_by_name.h"
 #include "host/component.h"
 #include "host/model_catalogue.h"
 
@@ -118,10 +119,54 @@ std::vector<std::uint8_t> MainMenuCtrl::ModifiedBlocks() const {
   return numbers;
 }
 
+namespace {
+
+/// What `ask` says of the present configuration; an empty answer where there is none, or where the
+/// asking fails.
+template <class Result, class Ask>
+Result OfPresent(Component& component, std::string_view routine, const Ask& ask) {
+  Result result;
+  component.Call(routine, [&] {
+    if (component.HasImage()) result = ask(component.Present());
+  });
+  return result;
+}
+
+}  // namespace
+
 std::vector<SettingLine> MainMenuCtrl::Settings(std::string_view pattern) const {
-  std::vector<SettingLine> lines;
-  component_->Call("Settings", [&] { lines = component_->Settings(pattern); });
-  return lines;
+  return OfPresent<std::vector<SettingLine>>(*component_, "Settings", [=](const Configuration& it) {
+    return ListSettings(it.rec, it.id, it.blocks, pattern);
+  });
+}
+
+std::optional<SettingDescription> MainMenuCtrl::DescribeSetting(std::string_view name) const {
+  return OfPresent<std::optional<SettingDescription>>(
+      *component_, "DescribeSetting",
+      [=](const Configuration& it) { return quorvel::DescribeSetting(it, name); });
+}
+
+std::vector<SettingDescription> MainMenuCtrl::DescribeSettings(std::string_view pattern) const {
+  return OfPresent<std::vector<SettingDescription>>(
+      *component_, "DescribeSettings",
+      [=](const Configuration& it) { return quorvel::DescribeSettings(it, pattern); });
+}
+
+std::optional<std::string> MainMenuCtrl::GetSetting(std::string_view name) const {
+  return OfPresent<std::optional<std::string>>(
+      *component_, "GetSetting",
+      [=](const Configuration& it) { return quorvel::GetSetting(it, name); });
+}
+
+SetAnswer MainMenuCtrl::SetSetting(std::string_view name, std::string_view value) {
+  SetAnswer answer = SetAnswer::kNotAValue;
+  component_->Call("SetSetting", [&] { answer = component_->SetSetting(name, value); });
+  return answer;
+}
+
+std::vector<SettingFinding> MainMenuCtrl::SettingFindings() const {
+  return OfPresent<std::vector<SettingFinding>>(
+      *component_, "SettingFindings", [](const Configuration& it) { return FindUnallowed(it); });
 }
 
 std::optional<std::vector<SettingDifference>> MainMenuCtrl::DifferencesFrom(

@@ -10,9 +10,9 @@
 
 namespace quorvel::layout {
 
-/// Takes the settings of one block out of its 16 bytes; WritingPass is its mirror image, SurveyPass
-/// tells where they are. Byte numbers count within the block. Camera words cover the cameras of the
-/// model; other loops say how many entries there are.
+/// Takes the settings of one block out of its 16 bytes; WritingPass is its mirror image,
+/// SettingPass tells where they are. Byte numbers count within the block. Camera words cover the
+/// cameras of the model; other loops say how many entries there are.
 class ReadingPass {
  public:
   static constexpr bool kReading = true;

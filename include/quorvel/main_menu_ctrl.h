@@ -104,6 +104,20 @@ class MainMenuCtrl {
   /// pattern may hold "*" and "?"; one without them is looked for anywhere in the name, case aside;
   /// an empty one gives all. Nothing before an image has arrived.
   [[nodiscard]] std::vector<SettingLine> Settings(std::string_view pattern = {}) const;
+  /// What can be said of a setting, or of every one whose name fits a pattern; nothing where the
+  /// device has none of that name.
+  [[nodiscard]] std::optional<SettingDescription> DescribeSetting(std::string_view name) const;
+  [[nodiscard]] std::vector<SettingDescription> DescribeSettings(
+      std::string_view pattern = {}) const;
+  /// The value of a setting as Settings() lists it; nothing where the device has none of that name.
+  [[nodiscard]] std::optional<std::string> GetSetting(std::string_view name) const;
+  /// Sets a setting as its editor would: the blocks that carry it are listed as modified, and what
+  /// tells the device of a change is set. `value` is UTF-8: "yes" or "no" for a flag, a number as
+  /// an installer sees it with its unit or without, a code's text, or a text, also in quotes as
+  /// Settings() lists it.
+  SetAnswer SetSetting(std::string_view name, std::string_view value);
+  /// The settings that hold what they cannot have.
+  [[nodiscard]] std::vector<SettingFinding> SettingFindings() const;
   /// The settings that differ from those of `image`, with the blocks that carry them; `value` is
   /// the control's, `other` the image's. No answer when there is nothing to compare: no image has
   /// arrived in the control, or `image` is not one that can be decoded.

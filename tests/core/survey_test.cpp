@@ -41,7 +41,7 @@ TEST(Survey, NoLayoutOverlapsOrLeavesItsBlock) {
 }
 
 TEST(Survey, FindsOverlaps) {
-  const Place whole{5, 3, 2, 0xFF, Place::Role::kSetting, false, 1, "A", ""};
+  const Place whole{{5, 3, 2, 0xFF, Place::Role::kSetting, false, 1}, "A", ""};
   Place bit = whole;
   bit.at = 4;
   bit.length = 1;

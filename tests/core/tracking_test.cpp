@@ -3,8 +3,8 @@
 #include <map>
 #include <set>
 
+#include "core/layout/any_setting.h"
 #include "core/layout/blocks.h"
-#include "core/layout/survey_pass.h"
 #include "tests/core/codec_fixture.h"
 
 namespace quorvel {

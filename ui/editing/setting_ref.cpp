@@ -1,6 +1,6 @@
 #include "ui/editing/setting_ref.h"
 
-#include "core/layout/survey_pass.h"
+#include "core/layout/any_setting.h"
 
 namespace quorvel {
 

@@ -63,6 +63,30 @@ void Settings(Desk& desk, Words words) {
   for (const SettingLine& line : lines) desk.out << line.name << " = " << line.value << '\n';
 }
 
+void SetSetting(Desk& desk, Words words) {
+  const SetAnswer answer = desk.session.Control().SetSetting(words[1], words[2]);
+  if (answer != SetAnswer::kSet) desk.out << words[1] << ": " << Describe(answer) << '\n';
+}
+
+void DescribeThem(Desk& desk, Words words) {
+  const auto found = desk.session.Control().DescribeSettings(words.size() > 1 ? words[1] : "");
+  if (found.empty()) desk.out << "settings: none\n";
+  for (const SettingDescription& it : found) {
+    desk.out << it.name << ": " << AllowedInWords(it) << (it.writable ? "" : ", read only")
+             << (it.blocks.size() > 1 ? ", blocks" : ", block");
+    for (const int block : it.blocks) desk.out << ' ' << block;
+    desk.out << '\n';
+  }
+}
+
+void Check(Desk& desk, Words /*words*/) {
+  const auto findings = desk.session.Control().SettingFindings();
+  if (findings.empty()) desk.out << "check: nothing found\n";
+  for (const SettingFinding& it : findings) {
+    desk.out << it.name << " is " << it.value << ", " << it.reason << '\n';
+  }
+}
+
 /// The control's settings against the device's, or against those of an image in a file.
 void Diff(Desk& desk, Words words) {
   const auto device = desk.session.Device().Bytes();

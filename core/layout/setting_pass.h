@@ -1,0 +1,224 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <string_view>
+#include <type_traits>
+
+#include "core/layout/any_setting.h"
+#include "core/layout/items.h"
+
+namespace quorvel::layout {
+
+/// Shows the settings of one block to a visitor, without an image. As `writing`, it sees what the
+/// encoder writes, else what the decoder reads. The words are those of ReadingPass. A visitor has
+///
+///     visitor.Wants(name)          false: no setting of that name is shown to it
+///     visitor.Setting(slot, it)    a setting, as an AnySetting
+///     visitor.Device(slot, name, value)   a byte about the device itself
+///
+/// A visitor that looks for one name passes over most words by one comparison.
+template <bool writing, class Visitor>
+class SettingPass {
+ public:
+  static constexpr bool kReading = false;
+  static constexpr bool kWriting = writing;
+  static constexpr bool kHasImage = false;
+
+  SettingPass(Visitor& visitor, int& word, int block, int cameras)
+      : visitor_(visitor), word_(word), block_(block), cameras_(cameras) {}
+
+  template <class Item>
+  void Byte(int at, Item&& item) {
+    Single(SlotAt(at), item);
+  }
+  template <class Item>
+  void ByteBelow(int limit, int at, Item&& item) {
+    Slot slot = SlotAt(at);
+    slot.storable = {0, limit - 1};
+    Single(slot, item);
+  }
+  template <class Item, class Decode, class Encode>
+  void Coded(int at, std::uint8_t mask, Item& item, Decode /*decode*/, Encode /*encode*/) {
+    Single(Masked(at, mask), item);
+  }
+  template <class Items, class Decode, class Encode>
+  void CodedBytes(int at, int count, std::uint8_t mask, Items items, Decode /*decode*/,
+                  Encode /*encode*/) {
+    Many(count, items, [&](int k) { return Masked(at + k, mask); });
+  }
+  template <class Item>
+  void Elsewhere(int block, int at, Item& item) {
+    Slot slot = SlotAt(at, Slot::Role::kElsewhere);
+    slot.block = block;
+    Single(slot, item);
+  }
+  void Device(int at, std::uint8_t& value, const char* name) {
+    NextWord();
+    CheckInBlock(at, 1);
+    Slot slot = SlotAt(at, Slot::Role::kDevice);
+    slot.word = word_;
+    visitor_.Device(slot, name, value);
+  }
+  template <class Item>
+  void ChangeMask(int at, Item& item) {
+    Single(SlotAt(at, Slot::Role::kChangeMask), item);
+  }
+  void Rebuilt(int at, int length) { CheckInBlock(at, length); }
+  template <class Item>
+  void Flag(int at, Item& item) {
+    Byte(at, item);
+  }
+  template <class... Items>
+  void BitFlags(int at, Items&... items) {
+    int bit = 0;
+    (Single(Masked(at, Bit(bit++)), items), ...);
+  }
+  template <class Array>
+  void Bits(int at, Array& array, int written = Array::kSize) {
+    Many(writing ? written : Array::kSize, array, [&](int i) { return Masked(at, Bit(i)); });
+  }
+  template <class Items>
+  void CameraBits(int at, Items items, Sense sense = Sense::kDirect) {
+    Many(cameras_, items, [&](int k) {
+      Slot slot = Masked(at + k / 8, Bit(k % 8));
+      slot.inverted = sense == Sense::kInverted;
+      return slot;
+    });
+  }
+  template <class Items>
+  void CameraPairs(int at, Items items) {
+    Many(cameras_, items, [&](int k) { return Masked(at + k / 4, Shifted(3, k % 4 * 2)); });
+  }
+  template <class Items>
+  void CameraNibbles(int at, Items items) {
+    Many(cameras_, items, [&](int k) { return Masked(at + k / 2, Shifted(15, k % 2 * 4)); });
+  }
+  template <class Items>
+  void CameraBytes(Items items) {
+    Bytes(0, cameras_, items);
+  }
+  template <class Items>
+  void Bytes(int at, int count, Items items) {
+    Many(count, items, [&](int k) { return SlotAt(at + k); });
+  }
+  template <class Item>
+  void Word(int at, Item& item) {
+    Slot slot = Long(at, 2);
+    slot.storable = {0, 0xFFFF};
+    Single(slot, item);
+  }
+  template <class Item>
+  void PaddedText(int at, int length, Item& item) {
+    Single(Long(at, length), item);
+  }
+  template <class Item>
+  void ZeroEndedText(int at, int length, Item&& item) {
+    Slot slot = Long(at, length);
+    slot.zero_ended = true;
+    // Text blocks are named by their block.
+    Single(slot, item, item.EntryIndex() >= 0 ? block_ : item.EntryIndex());
+  }
+  template <class Items>
+  void CameraMarks(int at, Items items, std::uint8_t /*marked*/) {
+    Many(cameras_, items, [&](int k) {
+      Slot slot = Masked(at + k / 8, Bit(k % 8));
+      slot.role = Slot::Role::kMark;
+      return slot;
+    });
+  }
+  template <class Item>
+  void Mark(int at, Item& item, std::uint8_t /*marked*/) {
+    Single(SlotAt(at, Slot::Role::kMark), item);
+  }
+
+ private:
+  static std::uint8_t Shifted(unsigned bits, int by) {
+    return static_cast<std::uint8_t>(bits << static_cast<unsigned>(by));
+  }
+  static std::uint8_t Bit(int number) { return Shifted(1, number); }
+  void NextWord() { ++word_; }
+
+  [[nodiscard]] Slot SlotAt(int at, Slot::Role role = Slot::Role::kSetting) const {
+    return {block_, at, 1, 0xFF, role, false, word_, {0, 0xFF}, false};
+  }
+  [[nodiscard]] Slot Masked(int at, std::uint8_t mask) const {
+    Slot slot = SlotAt(at);
+    slot.mask = mask;
+    slot.storable = {0, (1 << std::popcount(mask)) - 1};
+    return slot;
+  }
+  [[nodiscard]] Slot Long(int at, int length) const {
+    Slot slot = SlotAt(at);
+    slot.length = length;
+    slot.storable = {0, length};
+    return slot;
+  }
+
+  template <class Item>
+  void Single(const Slot& slot, Item& item) {
+    Single(slot, item, item.EntryIndex());
+  }
+  template <class Item>
+  void Single(Slot slot, Item& item, int entry) {
+    NextWord();
+    CheckInBlock(slot.at, slot.length);
+    if (visitor_.Wants(std::remove_cvref_t<Item>::Name())) {
+      slot.word = word_;
+      Show(slot, item, entry);
+    }
+  }
+  /// The items of one word; `slot_of` tells where item k is.
+  template <class Items, class SlotOf>
+  void Many(int count, Items&& items, SlotOf slot_of) {
+    using Item = std::remove_cvref_t<decltype(items[0])>;
+    NextWord();
+    if (count == 0) return;
+    CheckInBlock(slot_of(0).at, 1);
+    CheckInBlock(slot_of(count - 1).at, 1);
+    if (!visitor_.Wants(Item::Name())) return;
+    for (int k = 0; k < count; ++k) {
+      auto&& item = items[k];
+      Show(slot_of(k), item, item.EntryIndex());
+    }
+  }
+  template <class Item>
+  void Show(const Slot& slot, Item& item, int entry) {
+    TypedSetting<Item> setting(item, entry);
+    visitor_.Setting(slot, setting);
+  }
+
+  Visitor& visitor_;
+  int& word_;
+  int block_;
+  int cameras_;
+};
+
+/// Walks the blocks up to a number with a SettingPass.
+template <bool writing, class Visitor>
+class SettingWalk {
+ public:
+  SettingWalk(Visitor& visitor, int cameras, int blocks)
+      : visitor_(visitor), cameras_(cameras), blocks_(blocks) {}
+
+  template <class Visit>
+  void Block(int number, const Visit& visit) {
+    if (number > blocks_) return;
+    SettingPass<writing, Visitor> pass(visitor_, word_, number, cameras_);
+    visit(pass);
+  }
+  template <class Visit>
+  void Blocks(int first, int count, const Visit& visit) {
+    for (int i = 0; i < count; ++i) {
+      Block(first + i, [&](SettingPass<writing, Visitor>& pass) { visit(pass, i); });
+    }
+  }
+
+ private:
+  Visitor& visitor_;
+  int cameras_;
+  int blocks_;
+  int word_ = 0;
+};
+
+}  // namespace quorvel::layout

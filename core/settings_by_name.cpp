@@ -1,0 +1,277 @@
+#include "core/settings_by_name.h"
+
+#include <algorithm>
+#include <charconv>
+#include <functional>
+#include <tuple>
+#include <utility>
+
+#include "core/change_marks.h"
+#include "core/layout/blocks.h"
+#include "core/layout/setting_pass.h"
+#include "core/setting_value.h"
+
+namespace quorvel {
+
+namespace {
+
+using layout::AnySetting;
+using layout::Slot;
+
+/// A setting's name in its parts: "CamInfo", 3, "ActGrid", 12 of "CamInfo(3).ActGrid(12)".
+class NameParts {
+ public:
+  explicit NameParts(std::string_view full) {
+    const auto dot = full.find('.');
+    std::string_view last = full;
+    if (dot != std::string_view::npos) {
+      std::tie(collection_, index_) = Split(full.substr(0, dot));
+      last = full.substr(dot + 1);
+    }
+    std::tie(name_, entry_) = Split(last);
+  }
+  [[nodiscard]] std::string_view Name() const { return name_; }
+  [[nodiscard]] bool Is(const AnySetting& setting) const {
+    return setting.Entry() == entry_ && setting.Owner().Index() == index_ &&
+           setting.Name() == name_ && setting.Owner().Collection() == collection_;
+  }
+
+ private:
+  static constexpr int kNone = -1;
+  static constexpr int kNoNumber = -2;  // no setting has it
+
+  static std::pair<std::string_view, int> Split(std::string_view part) {
+    const auto bracket = part.find('(');
+    if (bracket == std::string_view::npos) return {part, kNone};
+    const std::string_view inside = part.substr(bracket + 1);
+    int number = kNoNumber;
+    const char* const last = inside.data() + inside.size();
+    const auto [end, error] = std::from_chars(inside.data(), last, number);
+    const bool closed = error == std::errc() && end + 1 == last && *end == ')';
+    // "03" and "-1" are written otherwise.
+    const bool plain = closed && number >= 0 && (inside.front() != '0' || inside.size() == 2);
+    return {part.substr(0, bracket), plain ? number : kNoNumber};
+  }
+
+  std::string_view collection_;
+  int index_ = kNone;
+  std::string_view name_;
+  int entry_ = kNone;
+};
+
+/// Shows the places of the settings of one name to `see(slot, setting)`.
+template <class See>
+class Seeker {
+ public:
+  Seeker(std::string_view name, See see) : parts_(name), see_(std::move(see)) {}
+  [[nodiscard]] bool Wants(std::string_view name) const { return name == parts_.Name(); }
+  void Setting(const Slot& slot, AnySetting& setting) {
+    if (parts_.Is(setting)) see_(slot, setting);
+  }
+  void Device(const Slot& /*slot*/, const char* /*name*/, Byte /*value*/) {}
+
+ private:
+  NameParts parts_;
+  See see_;
+};
+
+/// Shows all places to `see(slot, setting)`.
+template <class See>
+class Onlooker {
+ public:
+  explicit Onlooker(See see) : see_(std::move(see)) {}
+  static bool Wants(std::string_view /*name*/) { return true; }
+  void Setting(const Slot& slot, AnySetting& setting) { see_(slot, setting); }
+  void Device(const Slot& /*slot*/, const char* /*name*/, Byte /*value*/) {}
+
+ private:
+  See see_;
+};
+
+template <bool writing, class Visitor>
+void Show(const Configuration& of, Visitor& visitor) {
+  Identity id = of.id;
+  layout::SettingWalk<writing, Visitor> walk(visitor, id.MaxCam, of.blocks);
+  layout::DescribeBlocks(walk, of.rec, id);
+}
+
+/// Takes the wrapper of a function type, so that every search is the same code.
+using SeeSlot = std::function<void(const Slot&, AnySetting&)>;
+
+void Seek(const Configuration& of, std::string_view name, SeeSlot see) {
+  Seeker<SeeSlot> seeker(name, std::move(see));
+  Show<false>(of, seeker);
+}
+
+/// The same of what the encoder writes.
+void SeekWritten(const Configuration& of, std::string_view name, SeeSlot see) {
+  Seeker<SeeSlot> seeker(name, [see = std::move(see)](const Slot& slot, AnySetting& setting) {
+    if (slot.role == Slot::Role::kSetting && !IsDeviceBlock(slot.block) && setting.CanBeSet()) {
+      see(slot, setting);
+    }
+  });
+  Show<true>(of, seeker);
+}
+
+bool IsDescribed(const Slot& slot) { return slot.IsSetting() || slot.role == Slot::Role::kMark; }
+
+std::string_view Bare(std::string_view unit) {
+  if (!unit.empty() && unit.front() == ' ') unit.remove_prefix(1);
+  return unit;
+}
+
+/// Adds a place to the description of its setting.
+void AddPlace(SettingDescription& description, const Slot& slot) {
+  description.places.push_back({static_cast<Byte>(slot.block), slot.at, slot.length, slot.mask,
+                                slot.role == Slot::Role::kMark});
+  const auto block = static_cast<Byte>(slot.block);
+  const auto at = std::ranges::lower_bound(description.blocks, block);
+  if (at == description.blocks.end() || *at != block) description.blocks.insert(at, block);
+}
+
+SettingDescription DescriptionOf(const Slot& slot, const AnySetting& setting, const Identity& id) {
+  SettingDescription description;
+  description.name = layout::FullName(setting.Owner(), setting.Name(), setting.Entry());
+  description.type = setting.Type();
+  description.unit = Bare(setting.Unit());
+  if (setting.Type() == SettingType::kText) {
+    description.most = slot.length;
+    return description;
+  }
+  const AllowedNumbers allowed = setting.Allowed(id, slot.storable);
+  description.least = allowed.range.least + setting.First();
+  description.most = allowed.range.most + setting.First();
+  for (const Code& code : allowed.codes) {
+    description.codes.push_back({code.value + setting.First(), code.text});
+  }
+  description.codes_only = allowed.codes_only;
+  return description;
+}
+
+/// Raises all commit flags, so that every rule tracks what is set.
+class AllFlagsRaised {
+ public:
+  explicit AllFlagsRaised(CommitFlags& flags) : flags_(flags), before_(flags) {
+    for (int flag = 0; flag < kCommitFlagCount; ++flag) {
+      flags_.Set(static_cast<CommitFlag>(flag), true);
+    }
+  }
+  ~AllFlagsRaised() { flags_ = before_; }
+  AllFlagsRaised(const AllFlagsRaised&) = delete;
+  AllFlagsRaised& operator=(const AllFlagsRaised&) = delete;
+
+ private:
+  CommitFlags& flags_;
+  CommitFlags before_;
+};
+
+/// Sets what is at `slot`, without a list.
+SetAnswer Store(const Slot& slot, AnySetting& setting, const Identity& id, std::string_view value) {
+  if (setting.Type() == SettingType::kText) {
+    const auto text = ReadText(value);
+    if (!text || text->size() > static_cast<std::size_t>(slot.length)) return SetAnswer::kNotAValue;
+    if (slot.zero_ended && text->find('\0') != std::string::npos) return SetAnswer::kNotAValue;
+    if (*text == setting.Text()) return SetAnswer::kUnchanged;
+    setting.SetText(*text);
+    return SetAnswer::kSet;
+  }
+  const auto number = ReadNumber(value, setting, setting.Allowed(id, slot.storable));
+  if (!number) return SetAnswer::kNotAValue;
+  if (*number == setting.Number()) return SetAnswer::kUnchanged;
+  setting.SetNumber(*number);
+  return SetAnswer::kSet;
+}
+
+}  // namespace
+
+const char* Describe(SetAnswer answer) {
+  switch (answer) {
+    case SetAnswer::kSet: return "set";
+    case SetAnswer::kUnchanged: return "unchanged";
+    case SetAnswer::kNoSuchSetting: return "no such setting";
+    case SetAnswer::kReadOnly: return "read-only";
+    case SetAnswer::kNotAValue: return "not a value of this setting";
+    case SetAnswer::kNoImage: return "no configuration has arrived";
+  }
+  return "";
+}
+
+std::string AllowedInWords(const SettingDescription& setting) {
+  switch (setting.type) {
+    case SettingType::kFlag: return "yes or no";
+    case SettingType::kText: return "up to " + std::to_string(setting.most) + " characters";
+    case SettingType::kNumber: break;
+  }
+  std::string words;
+  if (!setting.codes_only) {
+    words = std::to_string(setting.least) + " to " + std::to_string(setting.most);
+    if (!setting.unit.empty()) words += ' ' + setting.unit;
+  }
+  const char* separator = setting.codes_only ? ", " : " or ";
+  for (const SettingCode& code : setting.codes) {
+    words += (words.empty() ? "" : separator) + std::to_string(code.value) + ' ' + code.text;
+  }
+  return words;
+}
+
+std::optional<SettingDescription> DescribeSetting(const Configuration& of, std::string_view name) {
+  std::optional<SettingDescription> description;
+  Seek(of, name, [&](const Slot& slot, AnySetting& setting) {
+    if (!IsDescribed(slot)) return;
+    if (!description) description = DescriptionOf(slot, setting, of.id);
+    AddPlace(*description, slot);
+  });
+  if (description) {
+    SeekWritten(of, name, [&](const Slot&, AnySetting&) { description->writable = true; });
+  }
+  return description;
+}
+
+std::vector<SettingDescription> DescribeSettings(const Configuration& of,
+                                                 std::string_view pattern) {
+  std::vector<SettingDescription> descriptions;
+  for (const SettingLine& line : ListSettings(of.rec, of.id, of.blocks, pattern)) {
+    if (auto description = DescribeSetting(of, line.name)) {
+      descriptions.push_back(*std::move(description));
+    }
+  }
+  return descriptions;
+}
+
+std::optional<std::string> GetSetting(const Configuration& of, std::string_view name) {
+  std::optional<std::string> value;
+  Seek(of, name, [&value](const Slot& slot, AnySetting& setting) {
+    if (slot.IsSetting()) value = setting.Value();
+  });
+  return value;
+}
+
+SetAnswer SetSetting(const Configuration& of, RecordEnvironment& env, std::string_view name,
+                     std::string_view value) {
+  std::optional<SetAnswer> answer;
+  SeekWritten(of, name, [&](const Slot& slot, AnySetting& setting) {
+    const AllFlagsRaised tracked(env.commit);
+    if (!answer) answer = Store(slot, setting, of.id, value);
+    if (answer != SetAnswer::kSet) return;
+    of.rec.MarkModified(slot.block);
+    RaiseChangeMark(slot.block, slot.at, of.id, of.rec);
+  });
+  if (answer) return *answer;
+  return GetSetting(of, name) ? SetAnswer::kReadOnly : SetAnswer::kNoSuchSetting;
+}
+
+std::vector<SettingFinding> FindUnallowed(const Configuration& of) {
+  std::vector<SettingFinding> findings;
+  const auto see = [&](const Slot& slot, const AnySetting& setting) {
+    if (slot.role != Slot::Role::kSetting || setting.Type() == SettingType::kText) return;
+    if (setting.Allowed(of.id, slot.storable).Holds(setting.Number())) return;
+    SettingDescription description = DescriptionOf(slot, setting, of.id);
+    findings.push_back(
+        {std::move(description.name), setting.Value(), "not " + AllowedInWords(description)});
+  };
+  Onlooker onlooker(see);
+  Show<false>(of, onlooker);
+  return findings;
+}
+
+}  // namespace quorvel
