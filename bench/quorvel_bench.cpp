@@ -141,6 +141,7 @@ int Run(int argc, char** argv) {
     reporter.PrintTime(name, 2);
   }
   reporter.PrintTime("find_unallowed", 20);
+  reporter.PrintTime("compare_alike", 50);
   reporter.PrintTime("open_and_leave_alarms", 88);
   reporter.PrintTime("open_and_leave_record", 60);
   return ReportAllocations() ? 0 : 1;

@@ -104,6 +104,10 @@ void RegisterTransfers() {
   });
   on_control("find_unallowed",
              [](MainMenuCtrl& it) { benchmark::DoNotOptimize(it.SettingFindings()); });
+  on_control("compare_alike", [](MainMenuCtrl& it) {
+    static const BlockImage image = TriplexImage();
+    benchmark::DoNotOptimize(it.DifferencesFrom(image.Bytes()));
+  });
   constexpr std::pair<const char*, const char*> kEditors[] = {
       {"open_and_leave_alarms", "mnu_Alarm"}, {"open_and_leave_record", "mnu_Record"}};
   for (const auto& editor : kEditors) {

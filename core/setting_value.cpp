@@ -68,11 +68,12 @@ std::optional<int> ReadNumber(std::string_view text, const AnySetting& setting,
     if (code != allowed.codes.end()) number = code->value;
   }
   if (!number) {
-    number = ReadWhole(word, setting.Unit());
+    const layout::SettingValue held = setting.Holds();
+    number = ReadWhole(word, held.unit);
     // A number far out of range must not become one within it.
     constexpr int kFarAway = 1'000'000;
     if (number && (*number > kFarAway || *number < -kFarAway)) return std::nullopt;
-    if (number) *number -= setting.First();
+    if (number) *number -= held.first;
   }
   if (!number || !allowed.Holds(*number)) return std::nullopt;
   return number;

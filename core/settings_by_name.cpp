@@ -31,6 +31,7 @@ class NameParts {
     std::tie(name_, entry_) = Split(last);
   }
   [[nodiscard]] std::string_view Name() const { return name_; }
+  [[nodiscard]] int Index() const { return index_; }
   [[nodiscard]] bool Is(const AnySetting& setting) const {
     return setting.Entry() == entry_ && setting.Owner().Index() == index_ &&
            setting.Name() == name_ && setting.Owner().Collection() == collection_;
@@ -59,33 +60,27 @@ class NameParts {
   int entry_ = kNone;
 };
 
-/// Shows the places of the settings of one name to `see(slot, setting)`.
-template <class See>
-class Seeker {
+/// Takes the wrapper of a function type, so that every search is the same code.
+using SeeSlot = std::function<void(const Slot&, AnySetting&)>;
+
+/// Shows the places of the setting of one name.
+class Seeker : public layout::SettingVisitor<Seeker> {
  public:
-  Seeker(std::string_view name, See see) : parts_(name), see_(std::move(see)) {}
-  [[nodiscard]] bool Wants(std::string_view name) const { return name == parts_.Name(); }
-  void Setting(const Slot& slot, AnySetting& setting) {
+  Seeker(std::string_view name, SeeSlot see) : parts_(name), see_(std::move(see)) {}
+  template <class Item>
+  [[nodiscard]] bool Wants() const {
+    return std::string_view(Item::Name()) == parts_.Name();
+  }
+  [[nodiscard]] bool WantsOf(const SettingOwner& owner) const {
+    return owner.Index() == parts_.Index();
+  }
+  void See(const Slot& slot, AnySetting& setting) {
     if (parts_.Is(setting)) see_(slot, setting);
   }
-  void Device(const Slot& /*slot*/, const char* /*name*/, Byte /*value*/) {}
 
  private:
   NameParts parts_;
-  See see_;
-};
-
-/// Shows all places to `see(slot, setting)`.
-template <class See>
-class Onlooker {
- public:
-  explicit Onlooker(See see) : see_(std::move(see)) {}
-  static bool Wants(std::string_view /*name*/) { return true; }
-  void Setting(const Slot& slot, AnySetting& setting) { see_(slot, setting); }
-  void Device(const Slot& /*slot*/, const char* /*name*/, Byte /*value*/) {}
-
- private:
-  See see_;
+  SeeSlot see_;
 };
 
 template <bool writing, class Visitor>
@@ -95,17 +90,14 @@ void Show(const Configuration& of, Visitor& visitor) {
   layout::DescribeBlocks(walk, of.rec, id);
 }
 
-/// Takes the wrapper of a function type, so that every search is the same code.
-using SeeSlot = std::function<void(const Slot&, AnySetting&)>;
-
 void Seek(const Configuration& of, std::string_view name, SeeSlot see) {
-  Seeker<SeeSlot> seeker(name, std::move(see));
+  Seeker seeker(name, std::move(see));
   Show<false>(of, seeker);
 }
 
 /// The same of what the encoder writes.
 void SeekWritten(const Configuration& of, std::string_view name, SeeSlot see) {
-  Seeker<SeeSlot> seeker(name, [see = std::move(see)](const Slot& slot, AnySetting& setting) {
+  Seeker seeker(name, [see = std::move(see)](const Slot& slot, AnySetting& setting) {
     if (slot.role == Slot::Role::kSetting && !IsDeviceBlock(slot.block) && setting.CanBeSet()) {
       see(slot, setting);
     }
@@ -133,16 +125,17 @@ SettingDescription DescriptionOf(const Slot& slot, const AnySetting& setting, co
   SettingDescription description;
   description.name = layout::FullName(setting.Owner(), setting.Name(), setting.Entry());
   description.type = setting.Type();
-  description.unit = Bare(setting.Unit());
+  const layout::SettingValue held = setting.Holds();
+  description.unit = Bare(held.unit);
   if (setting.Type() == SettingType::kText) {
     description.most = slot.length;
     return description;
   }
   const AllowedNumbers allowed = setting.Allowed(id, slot.storable);
-  description.least = allowed.range.least + setting.First();
-  description.most = allowed.range.most + setting.First();
+  description.least = allowed.range.least + held.first;
+  description.most = allowed.range.most + held.first;
   for (const Code& code : allowed.codes) {
-    description.codes.push_back({code.value + setting.First(), code.text});
+    description.codes.push_back({code.value + held.first, code.text});
   }
   description.codes_only = allowed.codes_only;
   return description;
@@ -171,13 +164,13 @@ SetAnswer Store(const Slot& slot, AnySetting& setting, const Identity& id, std::
     const auto text = ReadText(value);
     if (!text || text->size() > static_cast<std::size_t>(slot.length)) return SetAnswer::kNotAValue;
     if (slot.zero_ended && text->find('\0') != std::string::npos) return SetAnswer::kNotAValue;
-    if (*text == setting.Text()) return SetAnswer::kUnchanged;
+    if (*text == setting.Holds().text) return SetAnswer::kUnchanged;
     setting.SetText(*text);
     return SetAnswer::kSet;
   }
   const auto number = ReadNumber(value, setting, setting.Allowed(id, slot.storable));
   if (!number) return SetAnswer::kNotAValue;
-  if (*number == setting.Number()) return SetAnswer::kUnchanged;
+  if (*number == setting.Holds().number) return SetAnswer::kUnchanged;
   setting.SetNumber(*number);
   return SetAnswer::kSet;
 }
@@ -260,18 +253,42 @@ SetAnswer SetSetting(const Configuration& of, RecordEnvironment& env, std::strin
   return GetSetting(of, name) ? SetAnswer::kReadOnly : SetAnswer::kNoSuchSetting;
 }
 
-std::vector<SettingFinding> FindUnallowed(const Configuration& of) {
+namespace {
+
+/// Collects the settings that hold what they cannot have. Those that can have whatever their place
+/// holds are not looked at.
+class UnallowedCollector : public layout::SettingVisitor<UnallowedCollector> {
+ public:
+  explicit UnallowedCollector(const Identity& id) : id_(id) {}
+  template <class Item>
+  static constexpr bool Wants() {
+    using Meaning = typename Item::Meaning;
+    return HasLimits<Meaning> || HasCodes<Meaning>;
+  }
+  template <class Item>
+  void Setting(const Slot& slot, Item& item, int entry) {
+    if constexpr (Wants<Item>() && std::integral<layout::ValueOf<Item>>) {
+      if (slot.role != Slot::Role::kSetting) return;
+      if (layout::AllowedOf<Item>(id_, slot.storable).Holds(static_cast<int>(item()))) return;
+      SettingDescription description =
+          DescriptionOf(slot, layout::TypedSetting<Item>(item, entry), id_);
+      findings.push_back({std::move(description.name), layout::ValueHeldBy(item).InWords(),
+                          "not " + AllowedInWords(description)});
+    }
+  }
+
   std::vector<SettingFinding> findings;
-  const auto see = [&](const Slot& slot, const AnySetting& setting) {
-    if (slot.role != Slot::Role::kSetting || setting.Type() == SettingType::kText) return;
-    if (setting.Allowed(of.id, slot.storable).Holds(setting.Number())) return;
-    SettingDescription description = DescriptionOf(slot, setting, of.id);
-    findings.push_back(
-        {std::move(description.name), setting.Value(), "not " + AllowedInWords(description)});
-  };
-  Onlooker onlooker(see);
-  Show<false>(of, onlooker);
-  return findings;
+
+ private:
+  const Identity& id_;
+};
+
+}  // namespace
+
+std::vector<SettingFinding> FindUnallowed(const Configuration& of) {
+  UnallowedCollector collector(of.id);
+  Show<false>(of, collector);
+  return std::move(collector.findings);
 }
 
 }  // namespace quorvel

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <map>
-#include <set>
 #include <utility>
 
 #include "core/layout/blocks.h"
@@ -18,9 +16,8 @@ using layout::Place;
 using layout::Slot;
 
 /// Collects all places.
-struct PlaceCollector {
-  static bool Wants(std::string_view /*name*/) { return true; }
-  void Setting(const Slot& slot, AnySetting& setting) {
+struct PlaceCollector : layout::SettingVisitor<PlaceCollector> {
+  void See(const Slot& slot, const AnySetting& setting) {
     places.push_back({slot, layout::FullName(setting.Owner(), setting.Name(), setting.Entry()),
                       setting.Value()});
   }
@@ -100,19 +97,17 @@ std::vector<std::string> FindOverlaps(const std::vector<Place>& places) {
 namespace {
 
 /// Collects the settings whose name fits a pattern.
-class LineCollector {
+class LineCollector : public layout::SettingVisitor<LineCollector> {
  public:
   explicit LineCollector(std::string_view pattern)
       : all_(pattern.empty()), pattern_(WholePattern(pattern)) {
     if (all_) lines.reserve(kUsualCount);
   }
-  static bool Wants(std::string_view /*name*/) { return true; }
-  void Setting(const Slot& slot, AnySetting& setting) {
+  void See(const Slot& slot, const AnySetting& setting) {
     if (!slot.IsSetting()) return;
     layout::PutFullName(name_, setting.Owner(), setting.Name(), setting.Entry());
     if (all_ || Fits(name_, pattern_)) lines.push_back({name_, setting.Value()});
   }
-  void Device(const Slot& /*slot*/, const char* /*name*/, Byte /*value*/) {}
 
   std::vector<SettingLine> lines;
 
@@ -138,51 +133,6 @@ std::vector<Place> Locate(MuxData& rec, const Identity& id, int blocks, std::str
   std::vector<Place> places = SurveyRecord(rec, id, blocks);
   std::erase_if(places, [name](const Place& place) { return place.name != name; });
   return places;
-}
-
-namespace {
-
-/// What a configuration holds under one name, and every block that has a part in it.
-struct Holding {
-  std::string value;
-  std::set<Byte> blocks;
-};
-
-std::map<std::string, Holding> HoldingsOf(const Configuration& configuration) {
-  std::map<std::string, Holding> holdings;
-  for (const Place& place :
-       SurveyRecord(configuration.rec, configuration.id, configuration.blocks)) {
-    if (!place.IsSetting() && place.role != Place::Role::kMark) continue;
-    Holding& holding = holdings[place.name];
-    holding.value = place.value;
-    holding.blocks.insert(static_cast<Byte>(place.block));
-  }
-  return holdings;
-}
-
-}  // namespace
-
-std::vector<SettingDifference> CompareConfigurations(const Configuration& one,
-                                                     const Configuration& other) {
-  auto others = HoldingsOf(other);
-  std::multimap<Byte, SettingDifference> by_block;
-  const auto add = [&by_block](const std::string& name, const Holding& mine,
-                               const Holding& theirs) {
-    std::set<Byte> blocks = mine.blocks;
-    blocks.insert(theirs.blocks.begin(), theirs.blocks.end());
-    by_block.insert(
-        {*blocks.begin(), {name, mine.value, theirs.value, {blocks.begin(), blocks.end()}}});
-  };
-  for (const auto& [name, mine] : HoldingsOf(one)) {
-    const auto theirs = others.extract(name);
-    const Holding none;
-    const Holding& it = theirs.empty() ? none : theirs.mapped();
-    if (it.value != mine.value) add(name, mine, it);
-  }
-  for (const auto& [name, theirs] : others) add(name, {}, theirs);
-  std::vector<SettingDifference> differences;
-  for (auto& [block, difference] : by_block) differences.push_back(std::move(difference));
-  return differences;
 }
 
 }  // namespace quorvel

@@ -50,8 +50,4 @@ struct Configuration {
   int blocks;
 };
 
-/// The settings that two configurations hold differently, in block order.
-[[nodiscard]] std::vector<SettingDifference> CompareConfigurations(const Configuration& one,
-                                                                   const Configuration& other);
-
 }  // namespace quorvel

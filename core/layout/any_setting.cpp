@@ -54,15 +54,15 @@ std::string FullName(const SettingOwner& owner, std::string_view name, int entry
   return full;
 }
 
-std::string AnySetting::Value() const {
-  switch (Type()) {
-    case SettingType::kFlag: return Number() != 0 ? "yes" : "no";
-    case SettingType::kText: return QuotedText(Text());
+std::string SettingValue::InWords() const {
+  switch (type) {
+    case SettingType::kFlag: return number != 0 ? "yes" : "no";
+    case SettingType::kText: return QuotedText(text);
     case SettingType::kNumber: break;
   }
   std::string value;
-  PutNumber(value, Number() + First());
-  return value + Unit();
+  PutNumber(value, number + first);
+  return value + unit;
 }
 
 }  // namespace quorvel::layout

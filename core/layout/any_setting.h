@@ -42,6 +42,48 @@ struct Slot {
 void PutFullName(std::string& full, const SettingOwner& owner, std::string_view name, int entry);
 [[nodiscard]] std::string FullName(const SettingOwner& owner, std::string_view name, int entry);
 
+/// What a setting holds. The text is that of the record.
+struct SettingValue {
+  SettingType type = SettingType::kNumber;
+  int number = 0;  ///< 0 and 1 of a flag, 0 of a text
+  std::string_view text;
+  const char* unit = "";
+  int first = 0;  ///< added to the number where an installer sees it
+
+  /// In an installer's terms.
+  [[nodiscard]] std::string InWords() const;
+  bool operator==(const SettingValue& other) const {
+    return number == other.number && text == other.text;
+  }
+};
+
+template <class Value>
+constexpr SettingType TypeOf() {
+  if (std::same_as<Value, bool>) return SettingType::kFlag;
+  return std::integral<Value> ? SettingType::kNumber : SettingType::kText;
+}
+
+/// `Item` is a setting, or an entry of an array of them.
+template <class Item>
+[[nodiscard]] SettingValue ValueHeldBy(const Item& item) {
+  using Stored = ValueOf<Item>;
+  using Meaning = typename Item::Meaning;
+  SettingValue value{TypeOf<Stored>(), 0, {}, Meaning::kUnit, Meaning::kFirst};
+  if constexpr (std::integral<Stored>) {
+    value.number = static_cast<int>(item());
+  } else {
+    value.text = item();
+  }
+  return value;
+}
+
+/// The numbers that an item can have on a device, where its place can hold those of `storable`.
+template <class Item>
+[[nodiscard]] AllowedNumbers AllowedOf(const Identity& id, Range storable) {
+  return AllowedBy<typename Item::Meaning>(
+      id, std::same_as<ValueOf<Item>, bool> ? Range{0, 1} : storable);
+}
+
 /// A setting of a record, whatever its type.
 class AnySetting {
  public:
@@ -55,31 +97,21 @@ class AnySetting {
   [[nodiscard]] SettingType Type() const { return type_; }
   /// False where only the decoder fills it.
   [[nodiscard]] bool CanBeSet() const { return can_be_set_; }
-  [[nodiscard]] const char* Unit() const { return unit_; }
-  /// What is added to the number where an installer sees it.
-  [[nodiscard]] int First() const { return first_; }
 
   /// The numbers that it can have on a device, where its place can hold those of `storable`.
   [[nodiscard]] virtual AllowedNumbers Allowed(const Identity& id, Range storable) const = 0;
-  [[nodiscard]] virtual int Number() const = 0;             ///< 0 and 1 of a flag, 0 of a text
-  [[nodiscard]] virtual std::string_view Text() const = 0;  ///< empty of a number
+  [[nodiscard]] virtual SettingValue Holds() const = 0;
   /// Set it as its editor would; nothing for one that cannot be set, or of the other type.
   virtual void SetNumber(int number) = 0;
   virtual void SetText(std::string_view text) = 0;
 
   /// The value in an installer's terms.
-  [[nodiscard]] std::string Value() const;
+  [[nodiscard]] std::string Value() const { return Holds().InWords(); }
 
  protected:
   AnySetting(const SettingOwner& owner, std::string_view name, int entry, SettingType type,
-             bool can_be_set, const char* unit, int first)
-      : owner_(owner),
-        name_(name),
-        entry_(entry),
-        type_(type),
-        can_be_set_(can_be_set),
-        unit_(unit),
-        first_(first) {}
+             bool can_be_set)
+      : owner_(owner), name_(name), entry_(entry), type_(type), can_be_set_(can_be_set) {}
   ~AnySetting() = default;
 
  private:
@@ -88,45 +120,21 @@ class AnySetting {
   int entry_;
   SettingType type_;
   bool can_be_set_;
-  const char* unit_;
-  int first_;
 };
 
-template <class Value>
-constexpr SettingType TypeOf() {
-  if (std::same_as<Value, bool>) return SettingType::kFlag;
-  return std::integral<Value> ? SettingType::kNumber : SettingType::kText;
-}
-
-/// `Item` is a setting, or an entry of an array of them.
 template <class Item>
 class TypedSetting final : public AnySetting {
   using Stored = ValueOf<Item>;
-  using Meaning = typename Item::Meaning;
 
  public:
   TypedSetting(Item& item, int entry)
-      : AnySetting(item.Owner(), Item::Name(), entry, TypeOf<Stored>(), !Item::kReadOnly,
-                   Meaning::kUnit, Meaning::kFirst),
+      : AnySetting(item.Owner(), Item::Name(), entry, TypeOf<Stored>(), !Item::kReadOnly),
         item_(item) {}
 
   [[nodiscard]] AllowedNumbers Allowed(const Identity& id, Range storable) const override {
-    return AllowedBy<Meaning>(id, std::same_as<Stored, bool> ? Range{0, 1} : storable);
+    return AllowedOf<Item>(id, storable);
   }
-  [[nodiscard]] int Number() const override {
-    if constexpr (std::integral<Stored>) {
-      return static_cast<int>(item_());
-    } else {
-      return 0;
-    }
-  }
-  [[nodiscard]] std::string_view Text() const override {
-    if constexpr (std::integral<Stored>) {
-      return {};
-    } else {
-      return item_();
-    }
-  }
+  [[nodiscard]] SettingValue Holds() const override { return ValueHeldBy(item_); }
   void SetNumber(int number) override {
     if constexpr (std::integral<Stored> && !Item::kReadOnly) {
       item_.Set(static_cast<Stored>(number));

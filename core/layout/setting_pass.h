@@ -13,11 +13,13 @@ namespace quorvel::layout {
 /// Shows the settings of one block to a visitor, without an image. As `writing`, it sees what the
 /// encoder writes, else what the decoder reads. The words are those of ReadingPass. A visitor has
 ///
-///     visitor.Wants(name)          false: no setting of that name is shown to it
-///     visitor.Setting(slot, it)    a setting, as an AnySetting
+///     visitor.Wants<Item>()               false: no item of that type is shown to it
+///     visitor.WantsOf(owner)              false: none of the run of entries of this owner
+///     visitor.Setting(slot, item, entry)  an item, and its index in an array or its block
 ///     visitor.Device(slot, name, value)   a byte about the device itself
 ///
-/// A visitor that looks for one name passes over most words by one comparison.
+/// A visitor that looks for one name passes over most words by one comparison. SettingVisitor is
+/// the base of visitors that take each item as an AnySetting.
 template <bool writing, class Visitor>
 class SettingPass {
  public:
@@ -162,36 +164,49 @@ class SettingPass {
   template <class Item>
   void Single(Slot slot, Item& item, int entry) {
     NextWord();
+    if (!visitor_.template Wants<Item>()) return;
     CheckInBlock(slot.at, slot.length);
-    if (visitor_.Wants(std::remove_cvref_t<Item>::Name())) {
-      slot.word = word_;
-      Show(slot, item, entry);
-    }
+    slot.word = word_;
+    visitor_.Setting(slot, item, entry);
   }
   /// The items of one word; `slot_of` tells where item k is.
   template <class Items, class SlotOf>
   void Many(int count, Items&& items, SlotOf slot_of) {
     using Item = std::remove_cvref_t<decltype(items[0])>;
     NextWord();
-    if (count == 0) return;
+    if (count == 0 || !visitor_.template Wants<Item>()) return;
+    if constexpr (requires { items.array; }) {
+      if (!visitor_.WantsOf(items.array.Owner())) return;
+    }
     CheckInBlock(slot_of(0).at, 1);
     CheckInBlock(slot_of(count - 1).at, 1);
-    if (!visitor_.Wants(Item::Name())) return;
     for (int k = 0; k < count; ++k) {
       auto&& item = items[k];
-      Show(slot_of(k), item, item.EntryIndex());
+      visitor_.Setting(slot_of(k), item, item.EntryIndex());
     }
-  }
-  template <class Item>
-  void Show(const Slot& slot, Item& item, int entry) {
-    TypedSetting<Item> setting(item, entry);
-    visitor_.Setting(slot, setting);
   }
 
   Visitor& visitor_;
   int& word_;
   int block_;
   int cameras_;
+};
+
+/// Base of a visitor that takes each item as an AnySetting: Derived has See(slot, setting).
+template <class Derived>
+class SettingVisitor {
+ public:
+  template <class Item>
+  static bool Wants() {
+    return true;
+  }
+  static bool WantsOf(const SettingOwner& /*owner*/) { return true; }
+  template <class Item>
+  void Setting(const Slot& slot, Item& item, int entry) {
+    TypedSetting<std::remove_const_t<Item>> setting(item, entry);
+    static_cast<Derived*>(this)->See(slot, setting);
+  }
+  void Device(const Slot& /*slot*/, const char* /*name*/, std::uint8_t /*value*/) {}
 };
 
 /// Walks the blocks up to a number with a SettingPass.
