@@ -27,7 +27,8 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   record_ = std::move(fresh);
   BlkImage = std::move(image);
   ComboArray = std::move(array);
-  LoadedFromFile = source == ImageSource::kSettingsFile;
+  LoadedFromFile =
+      source == ImageSource::kSettingsFile || source == ImageSource::kFactoryForAnother;
   env.blocks.SetMaxBlk(BlkImage.BlkCount());
   ++generation_;
 }

@@ -12,7 +12,12 @@
 namespace quorvel {
 
 /// Where an image comes from.
-enum class ImageSource { kDevice, kSettingsFile, kFactory };
+enum class ImageSource {
+  kDevice,
+  kSettingsFile,
+  kFactory,            ///< factory defaults for the device that is connected, as it says itself
+  kFactoryForAnother,  ///< for a device that the host has only named
+};
 
 /// The record and what is listed of it as modified.
 struct Edits {

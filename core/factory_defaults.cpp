@@ -197,6 +197,18 @@ bool IsTriplex(Byte model_code) { return model_code >= 6; }
 
 }  // namespace
 
+DefaultsDevice NamedDevice(Byte cameras, Byte model_code, std::string_view name, char variant) {
+  constexpr Byte kModelCodeMask = 0x7F;
+  DefaultsDevice device{
+      static_cast<Byte>(variant), cameras, static_cast<Byte>(model_code & kModelCodeMask), {}};
+  if (name.size() > device.DefModelName.size()) {
+    throw ImageError("the model name has " + std::to_string(name.size()) + " characters; " +
+                     std::to_string(device.DefModelName.size()) + " are the most");
+  }
+  std::ranges::copy(name, device.DefModelName.begin());
+  return device;
+}
+
 int FactoryImageOf(Byte model_code) { return IsTriplex(model_code) ? 401 : 301; }
 
 void AdaptToDevice(BlockImage& image, const DefaultsDevice& device, int combo_blocks) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "core/block_image.h"
 
@@ -13,6 +14,11 @@ struct DefaultsDevice {
   Byte DefModelCode = 0;                ///< without bit 7
   std::array<Byte, 14> DefModelName{};  ///< as the device holds it, zero bytes included
 };
+
+/// The device of these statements; bit 7 of the code is not read. Throws ImageError when the name
+/// does not fit.
+[[nodiscard]] DefaultsDevice NamedDevice(Byte cameras, Byte model_code, std::string_view name,
+                                         char variant);
 
 /// Resource number of the factory image that fits a model: 301 below code 6, 401 from there on.
 [[nodiscard]] int FactoryImageOf(Byte model_code);

@@ -6,6 +6,7 @@
 #include "core/codec.h"
 #include "core/comparison.h"
 #include "core/settings_by_name.h"
+#include "core/factory_defaults.h"
 #include "host/model_catalogue.h"
 #include "host/settings_file.h"
 
@@ -21,6 +22,16 @@ Value Property(const PropertyBag& bag, std::string_view name, Value otherwise) {
   if (!stored) return otherwise;
   const Value* const value = std::get_if<Value>(&*stored);
   return value != nullptr ? *value : otherwise;
+}
+
+/// Runs a body that loads a configuration; it throws when it refuses.
+template <class Body>
+LoadAnswer Loaded(Body&& body) {
+  try {
+    return {true, body()};
+  } catch (...) {
+    return {false, FailureReason()};
+  }
 }
 
 }  // namespace
@@ -124,6 +135,18 @@ void Component::UsePcTime(bool use) {
   } else {
     context.device.UsePcTime = false;
   }
+}
+
+LoadAnswer Component::LoadSettings(std::span<const Byte> file) {
+  return Loaded([&] { return download_.LoadSettings(file); });
+}
+
+LoadAnswer Component::LoadDefaults(Byte cameras, Byte model_code, std::string_view model_name,
+                                   char variant) {
+  return Loaded([&] {
+    download_.LoadDefaults(NamedDevice(cameras, model_code, model_name, variant));
+    return std::string();
+  });
 }
 
 /// Works on copies: the image itself is encoded when it is sent.

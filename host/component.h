@@ -14,6 +14,7 @@
 #include "quorvel/control_surface.h"
 #include "quorvel/property_bag.h"
 #include "quorvel/settings.h"
+#include "quorvel/transfer.h"
 #include "ui/context.h"
 #include "ui/menu/frm_menu.h"
 #include "ui/widgets/failure.h"
@@ -51,6 +52,9 @@ class Component : public std::enable_shared_from_this<Component> {
   [[nodiscard]] std::vector<Byte> EditedImage();
   [[nodiscard]] std::optional<std::vector<SettingDifference>> DifferencesFrom(
       std::span<const Byte> image);
+  [[nodiscard]] LoadAnswer LoadSettings(std::span<const Byte> file);
+  [[nodiscard]] LoadAnswer LoadDefaults(Byte cameras, Byte model_code, std::string_view model_name,
+                                        char variant);
   void UsePcTime(bool use);
   void TriggerUploadTimer() { upload_.TriggerTimer(); }
 

@@ -1,7 +1,5 @@
 #include "host/download.h"
 
-#include <algorithm>
-#include <string>
 #include <utility>
 
 #include "host/combined_exchange.h"
@@ -17,7 +15,6 @@ namespace {
 constexpr int kVariantBlock = 183;
 constexpr std::size_t kVariantAt = 8;  // in a reply, behind the block number
 constexpr std::size_t kReplyLength = 1 + kBlockSize;
-constexpr Byte kModelCodeMask = 0x7F;
 
 }  // namespace
 
@@ -224,17 +221,31 @@ void Download::RestoreImageFromFile() {
   const auto bytes = AskForSettings(context_);
   FetchTexts();
   if (!bytes || context_.edges.terminated) return;
-  SettingsFile file = ReadSettingsFile(context_.host, *bytes);
-  const bool lacks_macros = file.combined && !file.array.HoldsMacros();
-  const std::int32_t length =
-      file.combined ? file.array.Header().TotalLength() : static_cast<std::int32_t>(bytes->size());
+  const Restored restored = AdoptFile(*bytes);
+  const int round = BeginAnew();
+  FinishReception(restored.bytes);
+  if (restored.lacks_macros) TellFlaw(macros_missing_text_);
+  OpenDialog(round, true);
+}
+
+Download::Restored Download::AdoptFile(std::span<const Byte> bytes) {
+  SettingsFile file = ReadSettingsFile(context_.host, bytes);
+  const Restored restored{
+      file.combined ? file.array.Header().TotalLength() : static_cast<std::int32_t>(bytes.size()),
+      file.combined && !file.array.HoldsMacros()};
   Adopt(std::move(file.image), ImageSource::kSettingsFile, std::move(file.array));
   if (file.combined) context_.host.ComboMode = true;
   received_combined_ = file.combined;
-  const int round = BeginAnew();
-  FinishReception(length);
-  if (lacks_macros) TellFlaw(macros_missing_text_);
-  OpenDialog(round, true);
+  return restored;
+}
+
+std::string Download::LoadSettings(std::span<const Byte> bytes) {
+  std::string macros_missing(BuiltInText(kTextMacrosMissing));
+  const Restored restored = AdoptFile(bytes);
+  context_.device.ImageByteCount = restored.bytes;
+  context_.device.UsePcTime = false;
+  BeginAnew();
+  return restored.lacks_macros ? std::move(macros_missing) : std::string();
 }
 
 void Download::BuildDefaults() {
@@ -254,9 +265,9 @@ void Download::TakeIdentity(std::span<const Byte> reply) {
   if (reply[0] != awaited_) return;
   expecting_ = Expecting::kNothing;
   if (reply.size() < kReplyLength) throw ImageError("block 185 has come without the identity");
-  defaults_.DefChannels = reply[1];
-  defaults_.DefModelCode = reply[2] & kModelCodeMask;
-  std::copy_n(reply.begin() + 3, defaults_.DefModelName.size(), defaults_.DefModelName.begin());
+  const auto name_bytes = reply.subspan<3, 14>();
+  defaults_ = NamedDevice(reply[1], reply[2], std::string(name_bytes.begin(), name_bytes.end()),
+                          static_cast<char>(defaults_.DefProbeByte));
   context_.edges.Guard("LoadDefaultData", [this] { LoadDefaultData(); });
 }
 
@@ -265,17 +276,27 @@ void Download::LoadDefaultData() {
   const std::string loaded = context_.GetText(txt::kDefaultsLoadedForModel);
   const std::string title = context_.GetText(txt::kMessage);
   if (!GoesOn(round)) return;
-  const ComboSizes& sizes = context_.host.combo_sizes;
-  BlockImage image = LoadDefaultImage(FactoryImageOf(defaults_.DefModelCode));
-  // The sizes belong to the device only while it is one of the combined exchange.
-  AdaptToDevice(image, defaults_, context_.host.ComboMode ? sizes.ComboBlockCount : 0);
-  const auto bytes = static_cast<std::int32_t>(image.Size());
-  CombinedArray array = context_.host.ComboMode ? BuildComboArray(sizes, image) : CombinedArray();
-  Adopt(std::move(image), ImageSource::kFactory, std::move(array));
-  context_.device.ImageByteCount = bytes;
+  AdoptDefaults(defaults_, ImageSource::kFactory);
   const std::string name = context_.platform.ToUtf8(context_.device.Record().MuxModelName());
   context_.platform.Ask({loaded + name, title, Message::Buttons::kOk});
   if (GoesOn(round)) host_->UploadSucceeded();
+}
+
+void Download::AdoptDefaults(const DefaultsDevice& device, ImageSource source) {
+  const ComboSizes& sizes = context_.host.combo_sizes;
+  BlockImage image = LoadDefaultImage(FactoryImageOf(device.DefModelCode));
+  // The sizes belong to the device only while it is one of the combined exchange.
+  AdaptToDevice(image, device, context_.host.ComboMode ? sizes.ComboBlockCount : 0);
+  const auto bytes = static_cast<std::int32_t>(image.Size());
+  CombinedArray array = context_.host.ComboMode ? BuildComboArray(sizes, image) : CombinedArray();
+  Adopt(std::move(image), source, std::move(array));
+  context_.device.ImageByteCount = bytes;
+}
+
+void Download::LoadDefaults(const DefaultsDevice& device) {
+  AdoptDefaults(device, ImageSource::kFactoryForAnother);
+  context_.device.UsePcTime = false;
+  BeginAnew();
 }
 
 }  // namespace quorvel

@@ -36,6 +36,12 @@ class Download {
   /// are loaded when they are here.
   void BuildDefaults();
 
+  /// The same without a user: nothing is asked, shown or raised. What they refuse they throw, and
+  /// then nothing has changed, nor ended. LoadSettings returns what is missing from the file, in
+  /// words.
+  [[nodiscard]] std::string LoadSettings(std::span<const Byte> bytes);
+  void LoadDefaults(const DefaultsDevice& device);
+
   /// FillDataBlk: the reply to what was asked for last, or the whole image of a host that moves it
   /// in one call.
   void TakeReply(std::span<const Byte> data);
@@ -60,6 +66,13 @@ class Download {
   void TakeProbe(std::span<const Byte> reply);
   void TakeIdentity(std::span<const Byte> reply);
   void LoadDefaultData();
+  /// What a settings file has brought.
+  struct Restored {
+    std::int32_t bytes;
+    bool lacks_macros;
+  };
+  [[nodiscard]] Restored AdoptFile(std::span<const Byte> bytes);
+  void AdoptDefaults(const DefaultsDevice& device, ImageSource source);
   [[nodiscard]] bool ExpectsDevice() const;
   [[nodiscard]] bool MayTakeUnasked() const;
   void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});

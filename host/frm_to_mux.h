@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "host/send_choice.h"
+#include "quorvel/transfer.h"
 #include "quorvel/widgets.h"
 
 namespace quorvel {

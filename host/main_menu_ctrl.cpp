@@ -3,6 +3,7 @@
 #include "core/settings_by_name.h"
 #include "host/component.h"
 #include "host/model_catalogue.h"
+#include "host/settings_file.h"
 
 namespace quorvel {
 
@@ -71,6 +72,27 @@ std::int32_t MainMenuCtrl::UpdateActGrid(std::span<const std::uint8_t> bdata) {
 std::int32_t MainMenuCtrl::TriggerUploadTimer() {
   component_->Call("TriggerUploadTimer", [&it = *component_] { it.TriggerUploadTimer(); });
   return 0;
+}
+
+LoadAnswer MainMenuCtrl::LoadSettings(std::span<const std::uint8_t> file) {
+  LoadAnswer answer;
+  component_->Call("LoadSettings", [&, &it = *component_] { answer = it.LoadSettings(file); });
+  return answer;
+}
+
+std::vector<std::uint8_t> MainMenuCtrl::SaveSettings() {
+  std::vector<std::uint8_t> bytes;
+  component_->Call("SaveSettings", [&, &it = *component_] { bytes = SettingsToSave(it.context); });
+  return bytes;
+}
+
+LoadAnswer MainMenuCtrl::LoadDefaults(std::uint8_t cameras, std::uint8_t model_code,
+                                      std::string_view model_name, char variant) {
+  LoadAnswer answer;
+  component_->Call("LoadDefaults", [&, &it = *component_] {
+    answer = it.LoadDefaults(cameras, model_code, model_name, variant);
+  });
+  return answer;
 }
 
 bool MainMenuCtrl::UsePcTime() const { return component_->context.device.UsePcTime; }

@@ -110,15 +110,24 @@ void SaveBytes(Context& context, const std::string& default_name, std::span<cons
   if (path) Write(context, *path, bytes);
 }
 
+std::vector<Byte> SettingsToSave(Context& context) {
+  DeviceState& device = context.device;
+  if (!device.HasImage()) return {};
+  context.EncodeListedBlocks();
+  auto bytes = device.BlkImage.Bytes();
+  if (context.host.ComboMode) {
+    ProvideComboArray(device, context.host.combo_sizes);
+    device.ComboArray.PutImage(device.BlkImage);
+    bytes = device.ComboArray.Bytes();
+  }
+  return {bytes.begin(), bytes.end()};
+}
+
 void SaveImageToFile(Context& context) {
   if (!context.device.HasImage()) return;
   const auto path = context.platform.AskFile(SaveRequest(kFileName));
   if (!path || context.edges.terminated) return;
-  context.EncodeListedBlocks();
-  if (!context.host.ComboMode) return Write(context, *path, context.device.BlkImage.Bytes());
-  ProvideComboArray(context.device, context.host.combo_sizes);
-  context.device.ComboArray.PutImage(context.device.BlkImage);
-  Write(context, *path, context.device.ComboArray.Bytes());
+  Write(context, *path, SettingsToSave(context));
 }
 
 }  // namespace quorvel

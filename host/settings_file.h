@@ -37,9 +37,12 @@ inline constexpr std::size_t kRestoreLimit = 32768;
 /// user when they are too many to be restored. Cancel ends it.
 void SaveBytes(Context& context, const std::string& default_name, std::span<const Byte> bytes);
 
-/// Command 14. Asks for a name, encodes what is listed as modified, and writes the image or the
-/// combined array; tells the user when that is too long to be restored. Nothing happens before
-/// there is an image.
+/// The bytes of a settings file of the present configuration: encodes what is listed as modified
+/// into the image, and gives that or the combined array. Empty without an image.
+[[nodiscard]] std::vector<Byte> SettingsToSave(Context& context);
+
+/// Command 14. Asks for a name and writes SettingsToSave; tells the user when that is too long to
+/// be restored. Nothing happens before there is an image.
 void SaveImageToFile(Context& context);
 
 }  // namespace quorvel

@@ -10,8 +10,8 @@
 #include "core/block_image.h"
 #include "host/frm_to_mux.h"
 #include "host/host_events.h"
-#include "host/send_choice.h"
 #include "quorvel/platform.h"
+#include "quorvel/transfer.h"
 #include "ui/connected_identity.h"
 
 namespace quorvel {

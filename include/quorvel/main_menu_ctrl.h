@@ -12,6 +12,7 @@
 #include "quorvel/platform.h"
 #include "quorvel/property_bag.h"
 #include "quorvel/settings.h"
+#include "quorvel/transfer.h"
 
 namespace quorvel {
 
@@ -23,8 +24,8 @@ inline constexpr std::string_view kMainMenuCtrlClassId = "Quorvel.MainMenuCtrl";
 /// The configuration menu of a video multiplexer or multiplexer-recorder, as a control that a host
 /// application embeds. The host owns the link to the device: the control asks for blocks and hands
 /// blocks back through MainMenuEvents, the host answers through the calls below. Results travel in
-/// events; every call returns 0 and none throws. All calls are made on one thread. Each control
-/// edits a device of its own.
+/// events; every call of that contract returns 0, and no call throws. All calls are made on one
+/// thread. Each control edits a device of its own.
 class MainMenuCtrl {
  public:
   /// Both must outlive the control. A new control has no font and no record yet: call
@@ -75,6 +76,22 @@ class MainMenuCtrl {
   std::int32_t UpdateActGrid(std::span<const std::uint8_t> bdata);
   /// The host has written the last packet of DownLoadData and is ready for the next.
   std::int32_t TriggerUploadTimer();
+
+  /// Loads the bytes of a settings file as command 12 does, but shows, asks and raises nothing: the
+  /// host asked for it and has the answer. As there, a receive that is under way is stopped, a send
+  /// ends before its next packet, and what was loaded is compared with the connected device before
+  /// it is sent.
+  [[nodiscard]] LoadAnswer LoadSettings(std::span<const std::uint8_t> file);
+  /// The bytes that command 14 would write: the image, or in the combined exchange the array, with
+  /// everything that was edited. As there, the image holds it from now on. Empty without an image.
+  [[nodiscard]] std::vector<std::uint8_t> SaveSettings();
+  /// Loads the factory defaults of a device that need not be connected, as command 16 builds them:
+  /// number of cameras, 16 at most; model code, whose bit 7 is not read; name as the device holds
+  /// it, 14 characters at most; variant character. In the combined exchange they have as many
+  /// blocks as FillComboInfo has stated. For the rest it is like LoadSettings: the connected device
+  /// may be another one.
+  [[nodiscard]] LoadAnswer LoadDefaults(std::uint8_t cameras, std::uint8_t model_code,
+                                        std::string_view model_name, char variant);
 
   /// Whether the device's clock takes the computer's time when its block, 61, is built for a send:
   /// because the user has ticked it in the time and date editor, which then has OK set it and

@@ -17,9 +17,9 @@ std::string AsSentence(std::string words) {
   return words;
 }
 
-/// What the exception that is being handled says. Errors of images, files and hosts say it in
-/// words. What other exceptions say is shown as well, since it may help.
-std::string Reason() {
+}  // namespace
+
+std::string FailureReason() {
   try {
     throw;
   } catch (const std::bad_alloc&) {
@@ -31,21 +31,19 @@ std::string Reason() {
   }
 }
 
-}  // namespace
-
 void ReportFailure(Platform& platform, std::string_view routine, std::string_view place) noexcept {
   try {
     std::string text = "Error found in ";
     text.append(routine);
     if (!place.empty()) text.append(".").append(place);
-    platform.Ask({text + '\r' + Reason(), kComponentName, Message::Buttons::kOk});
+    platform.Ask({text + '\r' + FailureReason(), kComponentName, Message::Buttons::kOk});
   } catch (...) {  // a platform that cannot even show a message leaves nothing else to do
   }
 }
 
 void TellFailure(Platform& platform, std::string_view beginning) noexcept {
   try {
-    platform.Ask({std::string(beginning) + Reason(), kComponentName, Message::Buttons::kOk});
+    platform.Ask({std::string(beginning) + FailureReason(), kComponentName, Message::Buttons::kOk});
   } catch (...) {  // as above
   }
 }

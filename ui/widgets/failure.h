@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace quorvel {
@@ -8,6 +9,10 @@ class Platform;
 
 /// The component's name: the title of message boxes that have none of their own.
 inline constexpr const char* kComponentName = "Quorvel";
+
+/// What the exception that is being handled says, as a sentence. Errors of images, files and hosts
+/// say it in words. What other exceptions say is shown as well, since it may help.
+[[nodiscard]] std::string FailureReason();
 
 /// Tells of the failure that is being handled: "Error found in " and the routine's name, or the
 /// name of a dialog and, behind a dot, the place in it; in a second line the reason as a sentence.
