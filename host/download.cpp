@@ -177,7 +177,7 @@ void Download::TakeComboArray(std::span<const Byte> data) {
 
 void Download::TellFlaw(const std::string& flaw) {
   if (flaw.empty() || context_.edges.terminated) return;
-  context_.platform.Ask({flaw, message_title_, Message::Buttons::kOk});
+  context_.platform.Ask({flaw, message_title_, Message::Buttons::kOk, Message::Kind::kWarning});
 }
 
 void Download::Adopt(BlockImage image, ImageSource source, CombinedArray array) {

@@ -127,13 +127,13 @@ bool CheckLoadedIdentity(Context& context) {
   const auto shown = [&context](const std::string& bytes) {
     return context.platform.ToUtf8(bytes);
   };
-  context.platform.Ask({context.GetText(txt::kDataDoesNotMatch) + "\r" +
-                            context.GetText(txt::kConnectedToModel) + "  " +
-                            shown(context.host.connected.ConnModelName) +
-                            ModelDescription(context, kOfConnected) + "\r" +
-                            context.GetText(txt::kLoadingFromModel) + "  " + shown(identity.name) +
-                            ModelDescription(context, kOfImage),
-                        context.GetText(txt::kErrorMessage), Message::Buttons::kOk});
+  context.platform.Ask(
+      {context.GetText(txt::kDataDoesNotMatch) + "\r" + context.GetText(txt::kConnectedToModel) +
+           "  " + shown(context.host.connected.ConnModelName) +
+           ModelDescription(context, kOfConnected) + "\r" +
+           context.GetText(txt::kLoadingFromModel) + "  " + shown(identity.name) +
+           ModelDescription(context, kOfImage),
+       context.GetText(txt::kErrorMessage), Message::Buttons::kOk, Message::Kind::kError});
   return false;
 }
 

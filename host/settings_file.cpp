@@ -61,7 +61,8 @@ FileRequest SaveRequest(const std::string& default_name) {
 void Write(Context& context, const std::string& path, std::span<const Byte> bytes) {
   context.platform.StoreFile(path, bytes);
   if (bytes.size() < kRestoreLimit) return;
-  const Message message{context.GetText(kTextTooLongToRestore), context.GetText(txt::kMessage)};
+  const Message message{context.GetText(kTextTooLongToRestore), context.GetText(txt::kMessage),
+                        Message::Buttons::kOk, Message::Kind::kWarning};
   if (!context.edges.terminated) context.platform.Ask(message);
 }
 

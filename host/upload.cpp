@@ -45,7 +45,8 @@ bool Upload::FamilyFits() const {
 
 void Upload::RefuseData() {
   context_.platform.Ask({context_.GetText(txt::kDataDoesNotMatch),
-                         context_.GetText(txt::kErrorMessage), Message::Buttons::kOk});
+                         context_.GetText(txt::kErrorMessage), Message::Buttons::kOk,
+                         Message::Kind::kError});
 }
 
 Upload::Basis Upload::PresentBasis() const {
@@ -166,7 +167,8 @@ bool Upload::MacrosFit() {
     return true;
   return context_.platform.Ask({context_.GetText(txt::kMacroSizeDifference) + "\r" +
                                     context_.GetText(txt::kSomeVariablesNotUpdated),
-                                context_.GetText(txt::kMessage), Message::Buttons::kOkCancel});
+                                context_.GetText(txt::kMessage), Message::Buttons::kOkCancel,
+                                Message::Kind::kQuestion});
 }
 
 std::vector<Byte> Upload::Plan(bool all_blocks, bool macros) const {

@@ -21,6 +21,11 @@ struct Edges {
   /// Alive as long as the control; handlers of dialogs hold on to it.
   std::weak_ptr<const void> life;
 
+  /// Writes a line of the log, unless the control is gone.
+  void Log(LogLevel level, std::string_view text) const noexcept {
+    if (!terminated) WriteLog(platform, level, text);
+  }
+
   /// Runs `body` as an edge of the component, which stays alive meanwhile: a host call, a timer
   /// tick, a menu choice. A failure is reported unless the host has destroyed the control.
   template <class Body>

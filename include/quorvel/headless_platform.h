@@ -10,6 +10,13 @@
 
 namespace quorvel {
 
+/// A line of the log.
+struct LogLine {
+  LogLevel level;
+  std::string text;
+  bool operator==(const LogLine&) const = default;
+};
+
 /// A platform without a screen, for tests and automation: a virtual clock, the dialogs that would
 /// be on screen by name, and a user who answers as told.
 class HeadlessPlatform : public Platform {
@@ -63,6 +70,9 @@ class HeadlessPlatform : public Platform {
   /// Modal dialogs that were left open and closed by the platform, since last asked.
   std::vector<std::string> TakeStalled() { return std::exchange(stalled_, {}); }
 
+  /// The log since last asked, its last thousand lines at most.
+  std::deque<LogLine> TakeLog() { return std::exchange(log_, {}); }
+
   // Platform.
 
   void Show(Dialog& dialog) override;
@@ -73,6 +83,7 @@ class HeadlessPlatform : public Platform {
   void TakeDown(const PopupMenu& menu) noexcept override;
   bool Ask(const Message& message) override;
   std::optional<std::string> AskFile(const FileRequest& request) override;
+  void Log(LogLevel level, std::string_view text) override;
   std::unique_ptr<Timer> NewTimer(std::function<void()> tick) override;
   [[nodiscard]] LocalTime Now() const override;
   std::vector<std::uint8_t> ReadFile(const std::string& path) override;
@@ -107,6 +118,7 @@ class HeadlessPlatform : public Platform {
   std::vector<Message> messages_;
   std::vector<FileRequest> requests_;
   std::vector<std::string> stalled_;
+  std::deque<LogLine> log_;
   ClassFactory classes_;
 };
 

@@ -30,9 +30,24 @@ class PlatformError : public std::runtime_error {
 /// A message box.
 struct Message {
   enum class Buttons { kOk, kOkCancel };
+  enum class Kind {
+    kInformation,
+    kWarning,   ///< something is missing, or is not as the user may expect it
+    kQuestion,  ///< OK goes on, Cancel does not
+    kError,     ///< something was refused or has failed
+  };
   std::string text;  ///< lines are separated by '\r'
   std::string title;
   Buttons buttons = Buttons::kOk;
+  Kind kind = Kind::kInformation;
+};
+
+/// How much a line of the log matters.
+enum class LogLevel {
+  kDebug,
+  kInformation,  ///< a transfer begins or ends, another image is there
+  kWarning,      ///< something that the host has given is ignored or refused
+  kError,        ///< something has failed
 };
 
 /// What a file dialog asks for.
@@ -96,6 +111,11 @@ class Platform {
   virtual bool Ask(const Message& message) = 0;
   /// Asks for a file name; nothing when the dialog was cancelled.
   virtual std::optional<std::string> AskFile(const FileRequest& request) = 0;
+
+  /// Takes a line of what an integrator may want to know, in English: what has failed, what of the
+  /// host's was ignored and why, transfers that begin and end. It holds no value of a setting. It
+  /// must not call the control; what it throws is dropped.
+  virtual void Log(LogLevel /*level*/, std::string_view /*text*/) {}
 
   [[nodiscard]] virtual std::unique_ptr<Timer> NewTimer(std::function<void()> tick) = 0;
   [[nodiscard]] virtual LocalTime Now() const = 0;

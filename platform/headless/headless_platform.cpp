@@ -12,6 +12,7 @@ namespace quorvel {
 namespace {
 
 constexpr int kTooManyTurns = 1'000'000;
+constexpr std::size_t kMostLogLines = 1000;  // a host may run for years and never take them
 constexpr std::int64_t kEndOfTime = std::numeric_limits<std::int64_t>::max();
 
 }  // namespace
@@ -178,6 +179,11 @@ std::optional<std::string> HeadlessPlatform::AskFile(const FileRequest& request)
   auto path = std::move(files_.front());
   files_.pop_front();
   return path;
+}
+
+void HeadlessPlatform::Log(LogLevel level, std::string_view text) {
+  if (log_.size() == kMostLogLines) log_.pop_front();
+  log_.push_back({level, std::string(text)});
 }
 
 std::unique_ptr<Timer> HeadlessPlatform::NewTimer(std::function<void()> tick) {

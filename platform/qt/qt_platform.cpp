@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QFontMetrics>
+#include <QLoggingCategory>
 
 #include "platform/common/code_page.h"
 #include "platform/common/whole_files.h"
@@ -14,6 +15,10 @@
 #include "platform/qt/texts.h"
 
 namespace quorvel {
+
+namespace {
+Q_LOGGING_CATEGORY(lcQuorvel, "quorvel", QtWarningMsg)
+}
 
 QtPlatform::QtPlatform() : desktop_(std::make_unique<Desktop>()) {}
 QtPlatform::~QtPlatform() = default;
@@ -57,6 +62,16 @@ bool QtPlatform::Ask(const Message& message) {
 
 std::optional<std::string> QtPlatform::AskFile(const FileRequest& request) {
   return qt::AskForFile(request, desktop_->folder, QApplication::activeWindow());
+}
+
+void QtPlatform::Log(LogLevel level, std::string_view text) {
+  const QString line = qt::Shown(text);
+  switch (level) {
+    case LogLevel::kDebug: qCDebug(lcQuorvel).noquote() << line; return;
+    case LogLevel::kInformation: qCInfo(lcQuorvel).noquote() << line; return;
+    case LogLevel::kWarning: qCWarning(lcQuorvel).noquote() << line; return;
+    case LogLevel::kError: qCCritical(lcQuorvel).noquote() << line; return;
+  }
 }
 
 std::unique_ptr<Timer> QtPlatform::NewTimer(std::function<void()> tick) {

@@ -33,6 +33,16 @@ void AddReadOnlyBox(QFileDialog& dialog) {
   if (grid != nullptr) grid->addWidget(box, grid->rowCount(), 0, 1, -1);
 }
 
+QMessageBox::Icon IconOf(Message::Kind kind) {
+  switch (kind) {
+    case Message::Kind::kInformation: return QMessageBox::Information;
+    case Message::Kind::kWarning: return QMessageBox::Warning;
+    case Message::Kind::kQuestion: return QMessageBox::Question;
+    case Message::Kind::kError: return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
 /// A filter in the place of a name would become a file that is called so.
 bool IsPattern(const QString& name) { return name.contains('*') || name.contains('?'); }
 
@@ -41,13 +51,13 @@ bool IsPattern(const QString& name) { return name.contains('*') || name.contains
 bool AskMessage(const Message& message, const QWidget* over) {
   QString text = Shown(message.text);
   text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace('\r', '\n');
-  const bool question = message.buttons == Message::Buttons::kOkCancel;
+  const bool may_cancel = message.buttons == Message::Buttons::kOkCancel;
   QMessageBox box;
-  box.setIcon(question ? QMessageBox::Question : QMessageBox::Information);
+  box.setIcon(IconOf(message.kind));
   box.setWindowTitle(Shown(message.title));
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
-  box.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
+  box.setStandardButtons(may_cancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
   KeepInFrontOf(box, over);
   return box.exec() == QMessageBox::Ok;
 }

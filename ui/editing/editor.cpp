@@ -77,8 +77,8 @@ bool Editor::CellsAreFilled() {
   for (LineGrid* const grid : grids_) {
     const std::string cell = grid->GoToWaitingCell();
     if (cell.empty()) continue;
-    context_.platform.Ask(
-        {cell + '\r' + choose_a_value_, context_.texts.Objects().objstWarn, Message::Buttons::kOk});
+    context_.platform.Ask({cell + '\r' + choose_a_value_, context_.texts.Objects().objstWarn,
+                           Message::Buttons::kOk, Message::Kind::kWarning});
     if (Shown()) MoveFocus(grid->Cells());
     return false;
   }
@@ -96,7 +96,7 @@ bool Editor::DoubtsAreSettled() {
   }
   if (first == nullptr) return true;
   const Message question{lines + store_like_this_, context_.texts.Objects().objstWarn,
-                         Message::Buttons::kOkCancel};
+                         Message::Buttons::kOkCancel, Message::Kind::kQuestion};
   const bool goes_on = context_.platform.Ask(question);
   if (!goes_on && Shown()) MoveFocus(*first);
   return goes_on;
@@ -109,7 +109,7 @@ void Editor::Ok() {
   if (!Shown() || context_.edges.terminated) return;
   if (!BelongsToImage()) {
     const Message refusal{Text(kTextEditorOutdated), Text(txt::kErrorMessage),
-                          Message::Buttons::kOk};
+                          Message::Buttons::kOk, Message::Kind::kError};
     if (!context_.edges.terminated) context_.platform.Ask(refusal);
     return;
   }

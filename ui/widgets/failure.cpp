@@ -4,8 +4,6 @@
 #include <new>
 #include <string>
 
-#include "quorvel/platform.h"
-
 namespace quorvel {
 
 namespace {
@@ -31,19 +29,31 @@ std::string FailureReason() {
   }
 }
 
+void WriteLog(Platform& platform, LogLevel level, std::string_view text) noexcept {
+  try {
+    platform.Log(level, text);
+  } catch (...) {  // what is logged has happened; that nobody hears of it changes nothing
+  }
+}
+
 void ReportFailure(Platform& platform, std::string_view routine, std::string_view place) noexcept {
   try {
     std::string text = "Error found in ";
     text.append(routine);
     if (!place.empty()) text.append(".").append(place);
-    platform.Ask({text + '\r' + FailureReason(), kComponentName, Message::Buttons::kOk});
+    const std::string reason = FailureReason();
+    WriteLog(platform, LogLevel::kError, text + ": " + reason);
+    platform.Ask(
+        {text + '\r' + reason, kComponentName, Message::Buttons::kOk, Message::Kind::kError});
   } catch (...) {  // a platform that cannot even show a message leaves nothing else to do
   }
 }
 
 void TellFailure(Platform& platform, std::string_view beginning) noexcept {
   try {
-    platform.Ask({std::string(beginning) + FailureReason(), kComponentName, Message::Buttons::kOk});
+    const std::string text = std::string(beginning) + FailureReason();
+    WriteLog(platform, LogLevel::kError, text);
+    platform.Ask({text, kComponentName, Message::Buttons::kOk, Message::Kind::kError});
   } catch (...) {  // as above
   }
 }

@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-namespace quorvel {
+#include "quorvel/platform.h"
 
-class Platform;
+namespace quorvel {
 
 /// The component's name: the title of message boxes that have none of their own.
 inline constexpr const char* kComponentName = "Quorvel";
@@ -14,9 +14,12 @@ inline constexpr const char* kComponentName = "Quorvel";
 /// say it in words. What other exceptions say is shown as well, since it may help.
 [[nodiscard]] std::string FailureReason();
 
+/// Writes a line of the log. Throws nothing.
+void WriteLog(Platform& platform, LogLevel level, std::string_view text) noexcept;
+
 /// Tells of the failure that is being handled: "Error found in " and the routine's name, or the
 /// name of a dialog and, behind a dot, the place in it; in a second line the reason as a sentence.
-/// Throws nothing.
+/// The log hears it, too. Throws nothing.
 void ReportFailure(Platform& platform, std::string_view routine,
                    std::string_view place = {}) noexcept;
 

@@ -35,6 +35,9 @@ class QtPlatform : public Platform {
   void TakeDown(const PopupMenu& menu) noexcept override;
   bool Ask(const Message& message) override;
   std::optional<std::string> AskFile(const FileRequest& request) override;
+  /// Goes to Qt's logging category "quorvel", which shows warnings and errors unless told
+  /// otherwise.
+  void Log(LogLevel level, std::string_view text) override;
   std::unique_ptr<Timer> NewTimer(std::function<void()> tick) override;
   [[nodiscard]] LocalTime Now() const override;
   std::vector<std::uint8_t> ReadFile(const std::string& path) override;
