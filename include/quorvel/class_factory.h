@@ -8,10 +8,12 @@
 #include <string>
 #include <string_view>
 
+#include "quorvel/export.h"
+
 namespace quorvel {
 
 /// An object made from a class identifier, whose methods are called by name.
-class AutomationObject {
+class QUORVEL_API AutomationObject {
  public:
   virtual ~AutomationObject() = default;
   /// Calls a method that takes a 32-bit integer and returns a text. Throws std::exception when the
@@ -20,7 +22,7 @@ class AutomationObject {
 };
 
 /// Makes objects from class identifiers. A host registers the classes that it offers.
-class ClassFactory {
+class QUORVEL_API ClassFactory {
  public:
   using Maker = std::function<std::shared_ptr<AutomationObject>()>;
 

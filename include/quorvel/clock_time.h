@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "quorvel/export.h"
+
 namespace quorvel {
 
 /// A time of day.
@@ -37,21 +39,21 @@ enum class ClockFormat {
 };
 
 /// True for a time that a clock shows, and for a date that a calendar has, of the years 1 to 9999.
-[[nodiscard]] bool IsTime(const ClockTime& time);
-[[nodiscard]] bool IsDate(const CalendarDate& date);
+[[nodiscard]] QUORVEL_API bool IsTime(const ClockTime& time);
+[[nodiscard]] QUORVEL_API bool IsDate(const CalendarDate& date);
 /// The date itself, or the nearest that a calendar has with its year and month: of a February 31
 /// its last day. Those are brought into range before it.
-[[nodiscard]] CalendarDate NearestDate(const CalendarDate& date);
+[[nodiscard]] QUORVEL_API CalendarDate NearestDate(const CalendarDate& date);
 
 /// A time in a format, as "07:45", "13:05:09" or "01:05:09 PM"; empty for what is no time.
-[[nodiscard]] std::string TimeText(ClockFormat format, const ClockTime& time);
+[[nodiscard]] QUORVEL_API std::string TimeText(ClockFormat format, const ClockTime& time);
 /// A date as "2024-02-29"; empty for what is no date.
-[[nodiscard]] std::string DateText(const CalendarDate& date);
+[[nodiscard]] QUORVEL_API std::string DateText(const CalendarDate& date);
 
 /// The time that a text in any of the formats tells, the hour of one digit or two; "7:45 PM" is
 /// read as well. Nothing for other texts.
-[[nodiscard]] std::optional<ClockTime> ReadTime(std::string_view text);
+[[nodiscard]] QUORVEL_API std::optional<ClockTime> ReadTime(std::string_view text);
 /// The date that a text such as "2024-02-29" tells. Nothing for other texts.
-[[nodiscard]] std::optional<CalendarDate> ReadDate(std::string_view text);
+[[nodiscard]] QUORVEL_API std::optional<CalendarDate> ReadDate(std::string_view text);
 
 }  // namespace quorvel

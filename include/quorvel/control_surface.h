@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "quorvel/export.h"
 #include "quorvel/platform.h"
 #include "quorvel/widgets/widget.h"
 
@@ -9,7 +10,7 @@ namespace quorvel {
 
 /// What a host sees of the control inside its own window: a label with the component's name, which
 /// can be clicked.
-class ControlSurface {
+class QUORVEL_API ControlSurface {
  public:
   [[nodiscard]] const std::string& Label1() const { return label_; }
   [[nodiscard]] const Font& LabelFont() const { return font_; }

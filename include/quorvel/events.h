@@ -4,12 +4,14 @@
 #include <span>
 #include <string_view>
 
+#include "quorvel/export.h"
+
 namespace quorvel {
 
 /// What the control asks of its host and tells it. Events are numbered as hosts know them. A host
 /// overrides those that it handles. It may call back into the control, give any command, or destroy
 /// the control from inside any of them. Data is valid during the call only.
-class MainMenuEvents {
+class QUORVEL_API MainMenuEvents {
  public:
   virtual ~MainMenuEvents() = default;
 

@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "quorvel/export.h"
 #include "quorvel/platform.h"
 #include "quorvel/widgets.h"
 
@@ -19,7 +20,7 @@ struct LogLine {
 
 /// A platform without a screen, for tests and automation: a virtual clock, the dialogs that would
 /// be on screen by name, and a user who answers as told.
-class HeadlessPlatform : public Platform {
+class QUORVEL_HEADLESS_API HeadlessPlatform : public Platform {
  public:
   HeadlessPlatform();
   ~HeadlessPlatform() override;

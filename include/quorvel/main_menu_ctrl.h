@@ -9,6 +9,7 @@
 
 #include "quorvel/control_surface.h"
 #include "quorvel/events.h"
+#include "quorvel/export.h"
 #include "quorvel/platform.h"
 #include "quorvel/property_bag.h"
 #include "quorvel/settings.h"
@@ -27,6 +28,9 @@ inline constexpr std::string_view kMainMenuCtrlClassId = "Quorvel.MainMenuCtrl";
 /// events; every call of that contract returns 0, and no call throws. All calls are made on one
 /// thread. Each control edits a device of its own.
 class MainMenuCtrl {
+/// events; every call returns 0 and none throws. All calls are made on one thread. Each control
+/// edits a device of its own.
+class QUORVEL_API MainMenuCtrl {
  public:
   /// Both must outlive the control. A new control has no font and no record yet: call
   /// InitProperties, or ReadProperties for one that was saved.
@@ -151,7 +155,8 @@ class MainMenuCtrl {
 
 /// Creates a control by class identifier, with its properties initialised; nothing for an unknown
 /// identifier.
-[[nodiscard]] std::unique_ptr<MainMenuCtrl> CreateControl(std::string_view class_id,
-                                                          Platform& platform, MainMenuEvents& host);
+[[nodiscard]] QUORVEL_API std::unique_ptr<MainMenuCtrl> CreateControl(std::string_view class_id,
+                                                                      Platform& platform,
+                                                                      MainMenuEvents& host);
 
 }  // namespace quorvel

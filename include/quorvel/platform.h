@@ -12,6 +12,7 @@
 
 #include "quorvel/class_factory.h"
 #include "quorvel/clock_time.h"
+#include "quorvel/export.h"
 #include "quorvel/property_bag.h"
 
 namespace quorvel {
@@ -22,7 +23,7 @@ class PopupMenu;
 
 /// A call to the outside world has failed: a file cannot be read or written. The text says what
 /// failed and why; the user sees it in the second line of a message.
-class PlatformError : public std::runtime_error {
+class QUORVEL_API PlatformError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
@@ -72,7 +73,7 @@ struct Size {
 
 /// A repeating timer. It ticks each `interval` milliseconds while it runs; with interval 0 it never
 /// ticks. A tick handler may stop, restart or destroy its timer.
-class Timer {
+class QUORVEL_API Timer {
  public:
   virtual ~Timer() = default;
   virtual void SetInterval(int milliseconds) = 0;
@@ -84,7 +85,7 @@ class Timer {
 
 /// The seam to the outside world. Everything that the component shows, times or stores goes through
 /// it, on one thread.
-class Platform {
+class QUORVEL_API Platform {
  public:
   virtual ~Platform() = default;
 

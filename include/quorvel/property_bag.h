@@ -7,6 +7,8 @@
 #include <string_view>
 #include <variant>
 
+#include "quorvel/export.h"
+
 namespace quorvel {
 
 /// A font as hosts name it.
@@ -22,7 +24,7 @@ struct Font {
 using PropertyValue = std::variant<bool, std::uint8_t, Font>;
 
 /// Where a host keeps a control's persisted properties between runs.
-class PropertyBag {
+class QUORVEL_API PropertyBag {
  public:
   virtual ~PropertyBag() = default;
   /// The stored value of that name; nothing when it was never written.
@@ -31,7 +33,7 @@ class PropertyBag {
 };
 
 /// A property bag in memory.
-class MemoryPropertyBag : public PropertyBag {
+class QUORVEL_API MemoryPropertyBag : public PropertyBag {
  public:
   [[nodiscard]] std::optional<PropertyValue> Read(std::string_view name) const override {
     const auto found = values_.find(name);

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "quorvel/export.h"
+
 /// The version of these headers. A change of the first number may need changes in a host's sources;
 /// before 1.0 the second number does the same.
 #define QUORVEL_VERSION_MAJOR 0
@@ -11,6 +13,6 @@
 namespace quorvel {
 
 /// The version of the library that is linked, as "0.1.0".
-[[nodiscard]] std::string_view Version();
+[[nodiscard]] QUORVEL_API std::string_view Version();
 
 }  // namespace quorvel

@@ -1,4 +1,4 @@
-#include "platform/common/code_page.h"
+#include "quorvel/code_page.h"
 
 #include <algorithm>
 #include <array>

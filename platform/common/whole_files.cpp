@@ -1,4 +1,4 @@
-#include "platform/common/whole_files.h"
+#include "quorvel/whole_files.h"
 
 #include <cerrno>
 #include <filesystem>

@@ -4,8 +4,8 @@
 #include <chrono>
 #include <limits>
 
-#include "platform/common/code_page.h"
-#include "platform/common/whole_files.h"
+#include "quorvel/code_page.h"
+#include "quorvel/whole_files.h"
 
 namespace quorvel {
 

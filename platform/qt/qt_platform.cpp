@@ -5,14 +5,14 @@
 #include <QFontMetrics>
 #include <QLoggingCategory>
 
-#include "platform/common/code_page.h"
-#include "platform/common/whole_files.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/in_front.h"
 #include "platform/qt/looks.h"
 #include "platform/qt/qt_timer.h"
 #include "platform/qt/questions.h"
 #include "platform/qt/texts.h"
+#include "quorvel/code_page.h"
+#include "quorvel/whole_files.h"
 
 namespace quorvel {
 

@@ -11,9 +11,9 @@
 
 #include "core/block_image.h"
 #include "core/identity.h"
-#include "platform/common/whole_files.h"
 #include "quorvel/headless_platform.h"
 #include "quorvel/main_menu_ctrl.h"
+#include "quorvel/whole_files.h"
 #include "resources/default_images.h"
 #include "tests/allocation/failing_allocation.h"
 

@@ -23,4 +23,5 @@ execute_process(
 separate_arguments(options UNIX_COMMAND "${options}")
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")
 run(${CXX} -std=c++20 ${flags} ${EXAMPLES}/tiny_host.cpp ${options} -o ${FOLDER}/by_pkg_config)
-run(${FOLDER}/by_pkg_config)
+get_filename_component(libraries ${pc_folder} DIRECTORY)
+run(${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${libraries} ${FOLDER}/by_pkg_config)

@@ -4,12 +4,13 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
 
 /// Items of which one, or none, is current: what a list and a drop-down list have in common.
-class ChoiceWidget : public Widget {
+class QUORVEL_API ChoiceWidget : public Widget {
  public:
   static constexpr int kNone = -1;
   [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
@@ -40,7 +41,7 @@ class ChoiceWidget : public Widget {
 };
 
 /// A list that stands open.
-class ListBox : public ChoiceWidget {
+class QUORVEL_API ListBox : public ChoiceWidget {
  public:
   ListBox(Dialog& dialog, std::string name);
   /// Lines that the list would like to show; 0: as many as it has items, within the view's limits.
@@ -52,7 +53,7 @@ class ListBox : public ChoiceWidget {
 };
 
 /// A list that drops down. Without a current item it is blank.
-class ComboBox : public ChoiceWidget {
+class QUORVEL_API ComboBox : public ChoiceWidget {
  public:
   ComboBox(Dialog& dialog, std::string name);
 };

@@ -4,12 +4,13 @@
 #include <string>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
 
 /// A text that the user reads and cannot edit.
-class Label : public Widget {
+class QUORVEL_API Label : public Widget {
  public:
   Label(Dialog& dialog, std::string name, std::string caption = {});
   /// Captions that the label may come to have: it is as wide as the widest of them from the start,
@@ -22,7 +23,7 @@ class Label : public Widget {
 };
 
 /// A push button.
-class Button : public Widget {
+class QUORVEL_API Button : public Widget {
  public:
   Button(Dialog& dialog, std::string name, std::string caption = {});
   Answer Click();
@@ -30,7 +31,7 @@ class Button : public Widget {
 };
 
 /// A box with a tick.
-class CheckBox : public Widget {
+class QUORVEL_API CheckBox : public Widget {
  public:
   CheckBox(Dialog& dialog, std::string name, std::string caption = {});
   [[nodiscard]] bool Checked() const { return checked_; }
@@ -46,7 +47,7 @@ class CheckBox : public Widget {
 
 /// One of a group of options of which at most one is selected. The group is the control array that
 /// holds the button.
-class OptionButton : public Widget {
+class QUORVEL_API OptionButton : public Widget {
  public:
   using Group = std::deque<OptionButton>;
   OptionButton(Dialog& dialog, std::string name, std::string caption = {});
@@ -69,7 +70,7 @@ class OptionButton : public Widget {
 };
 
 /// Progress from 0 to a maximum.
-class ProgressBar : public Widget {
+class QUORVEL_API ProgressBar : public Widget {
  public:
   ProgressBar(Dialog& dialog, std::string name);
   [[nodiscard]] int Maximum() const { return maximum_; }
@@ -85,7 +86,7 @@ class ProgressBar : public Widget {
 };
 
 /// A line of text panels, numbered from 1.
-class StatusBar : public Widget {
+class QUORVEL_API StatusBar : public Widget {
  public:
   StatusBar(Dialog& dialog, std::string name, int panels);
   [[nodiscard]] int Panels() const { return static_cast<int>(texts_.size()); }

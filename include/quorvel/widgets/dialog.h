@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/controls.h"
 #include "quorvel/widgets/layout.h"
 #include "quorvel/widgets/widget.h"
@@ -17,7 +18,7 @@ struct Picture;
 /// A window as a value: its controls, their layout, and whether it is on screen. Editors derive
 /// from it and hold their controls as members. A dialog lives in a std::shared_ptr; while one of
 /// its handlers runs it stays alive, even when its owner lets go of it.
-class Dialog : public std::enable_shared_from_this<Dialog> {
+class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
  public:
   /// `name` is the window's name in the code, as "frm_CameraSetup".
   Dialog(Platform& platform, std::string name);

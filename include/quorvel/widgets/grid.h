@@ -6,13 +6,14 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
 
 /// A table of texts: one or two header rows, then rows of data; column 0 names the row. One cell is
 /// current, and a range of rows around it may be selected. Rows are counted with the header.
-class Grid : public Widget {
+class QUORVEL_API Grid : public Widget {
  public:
   enum class Align { kLeft, kCentre };
   enum class Range { kRows, kOneRow };

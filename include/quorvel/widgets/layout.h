@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/control_array.h"
 #include "quorvel/widgets/widget.h"
 
@@ -77,7 +78,7 @@ Layout LabelledRow(Label& label, Control& control) {
 }
 
 /// A captioned border around a group of controls.
-class Frame : public Widget {
+class QUORVEL_API Frame : public Widget {
  public:
   Frame(Dialog& dialog, std::string name, std::string caption = {});
   [[nodiscard]] const Layout& Content() const { return content_; }
@@ -104,7 +105,7 @@ struct Page {
 };
 
 /// Pages behind one another, numbered from 0; one is in front.
-class TabStrip : public Widget {
+class QUORVEL_API TabStrip : public Widget {
  public:
   TabStrip(Dialog& dialog, std::string name);
   [[nodiscard]] const std::vector<Page>& Pages() const { return pages_; }

@@ -4,12 +4,13 @@
 #include <string>
 
 #include "quorvel/clock_time.h"
+#include "quorvel/export.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
 
 /// A box that holds a time of day, or is blank.
-class TimePicker : public Widget {
+class QUORVEL_API TimePicker : public Widget {
  public:
   TimePicker(Dialog& dialog, std::string name);
   /// The time, as set; nothing when blank.
@@ -44,7 +45,7 @@ class TimePicker : public Widget {
 };
 
 /// A box that holds a date, or is blank.
-class DatePicker : public Widget {
+class QUORVEL_API DatePicker : public Widget {
  public:
   DatePicker(Dialog& dialog, std::string name);
   /// The date, as set; nothing when blank.

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/layout.h"
 
 namespace quorvel {
@@ -30,11 +31,12 @@ struct Placement {
 };
 
 /// The placements of the parts of a row, a column or lines, in their order.
-[[nodiscard]] std::vector<Placement> PlacementsIn(const Layout& layout);
+[[nodiscard]] QUORVEL_API std::vector<Placement> PlacementsIn(const Layout& layout);
 
 /// The parts of a column that are rows and begin alike, with a label, a check box or an option, in
 /// groups: the first controls of a group are equally wide, so that the others go on below one
 /// another.
-[[nodiscard]] std::vector<std::vector<std::size_t>> RowsThatBeginAlike(const Layout& column);
+[[nodiscard]] QUORVEL_API std::vector<std::vector<std::size_t>> RowsThatBeginAlike(
+    const Layout& column);
 
 }  // namespace quorvel

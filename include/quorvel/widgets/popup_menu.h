@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
@@ -23,7 +24,7 @@ struct MenuItem {
 };
 
 /// A menu that pops up over the host. Its items are told apart by name.
-class PopupMenu {
+class QUORVEL_API PopupMenu {
  public:
   explicit PopupMenu(MenuItem root) : root_(std::move(root)) {}
 

@@ -2,12 +2,13 @@
 
 #include <string>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
 
 /// A handle on a scale of whole numbers.
-class Slider : public Widget {
+class QUORVEL_API Slider : public Widget {
  public:
   Slider(Dialog& dialog, std::string name);
   [[nodiscard]] int Minimum() const { return minimum_; }

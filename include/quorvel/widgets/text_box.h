@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel {
@@ -11,7 +12,7 @@ namespace quorvel {
 class TextSeries;
 
 /// One line of editable text.
-class TextBox : public Widget {
+class QUORVEL_API TextBox : public Widget {
  public:
   /// Selects a text of any length.
   static constexpr int kWhole = INT_MAX;

@@ -3,13 +3,14 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/control_array.h"
 #include "quorvel/widgets/text_box.h"
 
 namespace quorvel {
 
 /// Text boxes that are typed through as one. Boxes that are hidden or disabled are passed over.
-class TextSeries {
+class QUORVEL_API TextSeries {
  public:
   enum class Kind {
     /// The numbers of a dotted address. "." goes on to the next box, and erases nothing. An address

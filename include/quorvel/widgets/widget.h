@@ -3,6 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "quorvel/export.h"
+
 namespace quorvel {
 
 class Dialog;
@@ -19,7 +21,7 @@ enum class Answer {
 };
 
 /// The answer in words, for scripts and messages.
-[[nodiscard]] const char* Describe(Answer answer);
+[[nodiscard]] QUORVEL_API const char* Describe(Answer answer);
 
 /// What of a widget changed, so that a view redraws no more than needed.
 enum class Aspect {
@@ -29,7 +31,7 @@ enum class Aspect {
 };
 
 /// A toolkit's drawing of one widget or dialog. The model calls it after every change.
-class WidgetView {
+class QUORVEL_API WidgetView {
  public:
   virtual ~WidgetView() = default;
   virtual void Refresh(Aspect what) = 0;
@@ -63,7 +65,7 @@ using Handler = std::function<void()>;
 /// A user verb may end with the dialog destroyed; its caller must not touch the widget afterwards.
 ///
 /// All texts are UTF-8.
-class Widget {
+class QUORVEL_API Widget {
  public:
   /// Registers the widget with its dialog. `name` is the control's name in the code; an element of
   /// an array is named with its index, as in "opt_AlLatch(2)".

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "quorvel/control_surface.h"
+#include "quorvel/export.h"
 
 namespace quorvel {
 
@@ -11,7 +12,7 @@ namespace quorvel {
 ///
 /// A host may destroy the control from one of them; it calls Detach before, and deletes the widget
 /// with deleteLater.
-class ControlSurfaceWidget : public QWidget, private WidgetView {
+class QUORVEL_QT_API ControlSurfaceWidget : public QWidget, private WidgetView {
  public:
   explicit ControlSurfaceWidget(ControlSurface& surface, QWidget* parent = nullptr);
   /// Detaches itself.

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "quorvel/export.h"
 #include "quorvel/platform.h"
 
 class QWidget;
@@ -11,7 +12,7 @@ namespace quorvel {
 /// The platform of hosts with Qt 6 Widgets: dialogs, menus, timers and files of a desktop. It needs
 /// a QApplication, which must outlive it, and is used on the application's thread. It must outlive
 /// the controls that it was given to.
-class QtPlatform : public Platform {
+class QUORVEL_QT_API QtPlatform : public Platform {
  public:
   QtPlatform();
   ~QtPlatform() override;
