@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::bench {
 

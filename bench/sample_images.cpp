@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string_view>
 
-#include "core/identity.h"
 #include "core/record/cls_email_notify.h"
-#include "resources/default_images.h"
+#include "quorvel/default_images.h"
+#include "quorvel/identity.h"
 
 namespace quorvel::bench {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::bench {
 

@@ -1,4 +1,4 @@
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
 
 #include <string>
 

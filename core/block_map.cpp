@@ -1,4 +1,4 @@
-#include "core/block_map.h"
+#include "quorvel/block_map.h"
 
 #include <algorithm>
 #include <array>
@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/model_flags.h"
 #include "core/survey.h"
 
 namespace quorvel {

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 
 namespace quorvel {
 

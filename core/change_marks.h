@@ -2,9 +2,9 @@
 
 #include <span>
 
-#include "core/block_image.h"
-#include "core/combined_array.h"
 #include "core/record_environment.h"
+#include "quorvel/block_image.h"
+#include "quorvel/combined_array.h"
 
 namespace quorvel {
 

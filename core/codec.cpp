@@ -5,6 +5,7 @@
 #include "core/layout/blocks.h"
 #include "core/layout/reading_pass.h"
 #include "core/layout/writing_pass.h"
+#include "core/model_flags.h"
 
 namespace quorvel {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/block_image.h"
 #include "core/record/mux_data.h"
 #include "core/record_environment.h"
+#include "quorvel/block_image.h"
 #include "quorvel/clock_time.h"
 
 namespace quorvel {

@@ -1,4 +1,4 @@
-#include "core/combined_array.h"
+#include "quorvel/combined_array.h"
 
 #include <algorithm>
 #include <array>

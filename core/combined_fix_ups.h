@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/block_image.h"
 #include "core/record_environment.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel {
 

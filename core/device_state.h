@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <memory>
 
-#include "core/block_image.h"
-#include "core/combined_array.h"
 #include "core/record/mux_data.h"
 #include "core/record_environment.h"
+#include "quorvel/block_image.h"
 #include "quorvel/clock_time.h"
+#include "quorvel/combined_array.h"
 
 namespace quorvel {
 

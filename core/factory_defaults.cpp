@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/identity.h"
+#include "quorvel/identity.h"
 
 namespace quorvel {
 

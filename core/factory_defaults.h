@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel {
 

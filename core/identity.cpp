@@ -1,7 +1,9 @@
-#include "core/identity.h"
+#include "quorvel/identity.h"
 
 #include <algorithm>
 #include <string>
+
+#include "core/model_flags.h"
 
 namespace quorvel {
 

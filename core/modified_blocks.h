@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 
 namespace quorvel {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/commit.h"
-#include "core/identity.h"
 #include "core/modified_blocks.h"
+#include "quorvel/identity.h"
 
 namespace quorvel {
 

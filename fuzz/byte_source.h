@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 
 namespace quorvel::fuzz {
 

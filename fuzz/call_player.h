@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "core/block_image.h"
 #include "fuzz/byte_source.h"
 #include "fuzz/desk.h"
+#include "quorvel/block_image.h"
 #include "quorvel/main_menu_ctrl.h"
 
 namespace quorvel::fuzz {

@@ -1,11 +1,11 @@
 #include <array>
 #include <limits>
 
-#include "core/identity.h"
 #include "fuzz/call_player.h"
 #include "fuzz/check.h"
 #include "fuzz/material.h"
 #include "fuzz/random_user.h"
+#include "quorvel/identity.h"
 #include "tests/host/text_source.h"
 
 namespace quorvel::fuzz {

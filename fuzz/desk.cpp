@@ -6,8 +6,8 @@
 #include <string_view>
 #include <typeinfo>
 
-#include "core/block_image.h"
 #include "fuzz/check.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::fuzz {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 #include "quorvel/headless_platform.h"
 
 namespace quorvel::fuzz {

@@ -3,9 +3,9 @@
 #include <memory>
 #include <vector>
 
-#include "core/block_image.h"
 #include "fuzz/byte_source.h"
 #include "fuzz/desk.h"
+#include "quorvel/block_image.h"
 #include "quorvel/main_menu_ctrl.h"
 
 namespace quorvel::fuzz {

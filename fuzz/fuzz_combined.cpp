@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "core/combined_array.h"
 #include "fuzz/check.h"
 #include "fuzz/device_host.h"
 #include "fuzz/material.h"
+#include "quorvel/combined_array.h"
 
 namespace quorvel::fuzz {
 namespace {

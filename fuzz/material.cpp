@@ -4,8 +4,8 @@
 #include <memory>
 
 #include "core/codec.h"
-#include "core/combined_array.h"
-#include "resources/default_images.h"
+#include "quorvel/combined_array.h"
+#include "quorvel/default_images.h"
 
 namespace quorvel::fuzz {
 

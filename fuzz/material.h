@@ -3,8 +3,8 @@
 #include <span>
 #include <vector>
 
-#include "core/block_image.h"
 #include "fuzz/byte_source.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::fuzz {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/combined_array.h"
 #include "core/device_state.h"
+#include "quorvel/combined_array.h"
 #include "ui/combo_sizes.h"
 
 namespace quorvel {

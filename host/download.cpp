@@ -4,7 +4,7 @@
 
 #include "host/combined_exchange.h"
 #include "host/settings_file.h"
-#include "resources/default_images.h"
+#include "quorvel/default_images.h"
 #include "resources/text_table.h"
 #include "ui/context.h"
 

@@ -1,38 +1,11 @@
 #include "host/model_catalogue.h"
 
-#include <algorithm>
-#include <array>
-
 #include "resources/text_table.h"
 #include "ui/context.h"
 
 namespace quorvel {
 
 namespace {
-
-constexpr std::array<std::string_view, 21> kModelTexts = {
-    "Mux model",
-    "DVR model",
-    "Duplex NTSC",
-    "Duplex PAL",
-    "Duplex NTSC, Lite/EZ",
-    "Duplex PAL, Lite/EZ",
-    "Triplex NTSC",
-    "Triplex PAL",
-    "Triplex NTSC, Lite/EZ",
-    "Triplex PAL, Lite/EZ",
-    "Triplex NTSC, Vaultline",
-    "Triplex PAL, Vaultline",
-    "Triplex NTSC, Advance Vaultline",
-    "Triplex PAL, Advance Vaultline",
-    "Triplex NTSC, Matrix",
-    "Triplex PAL, Matrix",
-    "Triplex NTSC, 4L",
-    "Triplex PAL, 4L",
-    "Triplex NTSC, Plexar Pro",
-    "Triplex PAL, Plexar Pro",
-    "Triplex PAL, Brevmoor Airport",
-};
 
 constexpr Byte kModelCodeMask = 0x7F;
 constexpr int kOfConnected = 0;
@@ -86,11 +59,6 @@ bool IdentityFits(const ConnectedIdentity& connected, const ImageIdentity& image
 }
 
 }  // namespace
-
-std::string_view ModelText(int code) {
-  const bool known = code >= 0 && code < static_cast<int>(kModelTexts.size());
-  return known ? kModelTexts[static_cast<std::size_t>(code)] : std::string_view();
-}
 
 void SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data) {
   if (data.size() < 4) return;

@@ -4,15 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 #include "ui/host_statements.h"
 
 namespace quorvel {
 
 struct Context;
-
-/// Display text of a model code; empty for an unknown code.
-[[nodiscard]] std::string_view ModelText(int code);
 
 /// Stores the connected device's identity: [1] cameras, [2] model code, from [3] the name. Data of
 /// fewer than 4 bytes is not an identity and changes nothing.

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "core/block_image.h"
-#include "core/combined_array.h"
+#include "quorvel/block_image.h"
+#include "quorvel/combined_array.h"
+#include "quorvel/settings_file.h"
 #include "ui/host_statements.h"
 
 namespace quorvel {
@@ -21,9 +22,6 @@ struct SettingsFile {
   CombinedArray array;
   bool combined = false;  ///< it was a combined file
 };
-
-/// A file of so many bytes or more can be saved, but not restored.
-inline constexpr std::size_t kRestoreLimit = 32768;
 
 /// What the bytes of a file hold. Throws ImageError for kRestoreLimit bytes or more, and for bytes
 /// that contradict themselves. The image is not decoded here.

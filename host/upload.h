@@ -7,9 +7,9 @@
 #include <span>
 #include <vector>
 
-#include "core/block_image.h"
 #include "host/frm_to_mux.h"
 #include "host/host_events.h"
+#include "quorvel/block_image.h"
 #include "quorvel/platform.h"
 #include "quorvel/transfer.h"
 #include "ui/connected_identity.h"

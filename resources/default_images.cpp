@@ -1,4 +1,4 @@
-#include "resources/default_images.h"
+#include "quorvel/default_images.h"
 
 #include <array>
 #include <memory>

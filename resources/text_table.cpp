@@ -7,32 +7,25 @@ namespace quorvel {
 
 namespace {
 
-#define QUORVEL_TEXT(id, name, english) english,
-constexpr std::string_view kTexts[] = {
-#include "resources/text_table.inc"
-};
-#undef QUORVEL_TEXT
-
-struct AddedText {
-  int id;
-  std::string_view english;
-};
+constexpr BuiltInEntry kTexts[] = {
 #define QUORVEL_TEXT(id, name, english) {id, english},
-constexpr AddedText kAddedTexts[] = {
+#include "resources/text_table.inc"
+// Behind the table.
 #include "resources/added_texts.inc"
-};
 #undef QUORVEL_TEXT
+};
 
-static_assert(std::size(kTexts) == kTextCount);
+static_assert(std::ranges::is_sorted(kTexts, {}, &BuiltInEntry::id));
+static_assert(kTexts[kTextCount - 1].id == kTextCount - 1);
+static_assert(kTexts[kTextCount].id >= kFirstAddedText);
 
 }  // namespace
 
+std::span<const BuiltInEntry> BuiltInTexts() { return kTexts; }
+
 std::string_view BuiltInText(int id) {
-  if (id >= 0 && id < kTextCount) return kTexts[id];
-  // Numbers may be left out among them.
-  const auto* const added = std::find_if(std::begin(kAddedTexts), std::end(kAddedTexts),
-                                         [id](const AddedText& it) { return it.id == id; });
-  return added == std::end(kAddedTexts) ? std::string_view() : added->english;
+  const auto* const found = std::ranges::lower_bound(kTexts, id, {}, &BuiltInEntry::id);
+  return found == std::end(kTexts) || found->id != id ? std::string_view() : found->english;
 }
 
 }  // namespace quorvel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string_view>
+#include "quorvel/texts.h"
 
 namespace quorvel {
 
@@ -13,16 +13,9 @@ enum Id : int {
 };
 }  // namespace txt
 
-inline constexpr int kTextCount = 333;
-
-/// Texts beyond the table, for what a host's own vocabulary need not know. They are numbered apart,
-/// so that the table can grow.
-inline constexpr int kFirstAddedText = 1000;
+/// The texts beyond the table.
 #define QUORVEL_TEXT(id, name, english) inline constexpr int name = id;
 #include "resources/added_texts.inc"
 #undef QUORVEL_TEXT
-
-/// The built-in English text of id 0 to 332 or of an added text, in UTF-8; empty for other ids.
-[[nodiscard]] std::string_view BuiltInText(int id);
 
 }  // namespace quorvel

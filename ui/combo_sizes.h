@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 
 namespace quorvel {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 
 namespace quorvel {
 

@@ -1,17 +1,13 @@
 #include "apps/muxhost/block_contents.h"
 
-#include <algorithm>
 #include <map>
 
 #include "apps/muxhost/script/report.h"
-#include "core/codec.h"
-#include "core/survey.h"
+#include "quorvel/image_settings.h"
 
 namespace quorvel::muxhost {
 
 namespace {
-
-using layout::Place;
 
 std::vector<Byte> BytesOf(std::span<const Byte> image, int n) {
   const auto end = static_cast<std::size_t>(n) * kBlockSize;
@@ -20,22 +16,12 @@ std::vector<Byte> BytesOf(std::span<const Byte> image, int n) {
   return {block.begin(), block.end()};
 }
 
-/// What the block layouts put into block `n` of the image.
-std::vector<Place> PlacesIn(const std::vector<Byte>& bytes, int n) {
-  BlockImage image(bytes);
-  RecordEnvironment env;
-  MuxData record(env);
+std::vector<BlockSetting> SettingsOf(const std::vector<Byte>& image) {
   try {
-    DecodeImage(image, env, record);
+    return SettingsByBlock(BlockImage(image));
   } catch (const ImageError&) {
     return {};
   }
-  std::vector<Place> places = SurveyRecord(record, env.identity, image.BlkCount());
-  std::erase_if(places, [n](const Place& place) {
-    return place.block != n || place.role == Place::Role::kMark ||
-           place.role == Place::Role::kChangeMask;
-  });
-  return places;
 }
 
 std::string Line(const char* where, std::span<const Byte> bytes) {
@@ -51,10 +37,11 @@ BlockContents ContentsOf(const MainMenuCtrl& control, std::span<const Byte> devi
   // A change that is not listed is not in the image; the list of settings has it.
   std::map<std::string, std::string> values;
   for (SettingLine& line : control.Settings()) values[line.name] = std::move(line.value);
-  for (Place& place : PlacesIn(image, n)) {
-    const auto edited = values.find(place.name);
+  for (BlockSetting& setting : SettingsOf(image)) {
+    if (setting.block != n) continue;
+    const auto edited = values.find(setting.name);
     contents.settings.push_back(
-        {place.name, edited == values.end() ? std::move(place.value) : edited->second});
+        {setting.name, edited == values.end() ? std::move(setting.value) : edited->second});
   }
   return contents;
 }

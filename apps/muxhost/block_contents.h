@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 #include "quorvel/main_menu_ctrl.h"
 
 namespace quorvel::muxhost {

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "apps/muxhost/device/combined_parts.h"
-#include "core/codec.h"
+#include "quorvel/identity.h"
 
 namespace quorvel::muxhost {
 
@@ -11,11 +11,8 @@ namespace {
 
 /// Why the bytes are no configuration; empty when they are one.
 std::string ReasonAgainst(const std::vector<Byte>& image) {
-  BlockImage blocks(image);
-  RecordEnvironment env;
-  MuxData record(env);
   try {
-    DecodeImage(blocks, env, record);
+    static_cast<void>(ReadIdentity(BlockImage(image)));
   } catch (const ImageError& error) {
     return error.what();
   }

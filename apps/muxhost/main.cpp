@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "apps/muxhost/script/runner.h"
-#include "core/block_map.h"
+#include "quorvel/block_map.h"
 #include "quorvel/version.h"
 
 #ifdef MUXHOST_WITH_QT

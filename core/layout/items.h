@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "core/block_image.h"
 #include "core/setting.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::layout {
 

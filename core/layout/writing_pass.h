@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "core/bit_fields.h"
-#include "core/block_image.h"
 #include "core/layout/items.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::layout {
 

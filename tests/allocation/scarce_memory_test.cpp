@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
-#include "core/block_image.h"
-#include "core/identity.h"
+#include "quorvel/block_image.h"
+#include "quorvel/default_images.h"
 #include "quorvel/headless_platform.h"
+#include "quorvel/identity.h"
 #include "quorvel/main_menu_ctrl.h"
 #include "quorvel/whole_files.h"
-#include "resources/default_images.h"
 #include "tests/allocation/failing_allocation.h"
 
 namespace quorvel {

@@ -1,6 +1,8 @@
-#include "core/identity.h"
+#include "quorvel/identity.h"
 
 #include <gtest/gtest.h>
+
+#include "core/model_flags.h"
 
 namespace quorvel {
 namespace {

@@ -6,9 +6,10 @@
 #include <iterator>
 #include <memory>
 
-#include "core/block_map.h"
 #include "core/codec.h"
-#include "resources/default_images.h"
+#include "core/model_flags.h"
+#include "quorvel/block_map.h"
+#include "quorvel/default_images.h"
 #include "tests/host/test_host.h"
 
 namespace quorvel {

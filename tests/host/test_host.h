@@ -11,11 +11,11 @@
 #include <utility>
 #include <vector>
 
-#include "core/block_image.h"
-#include "core/identity.h"
+#include "quorvel/block_image.h"
+#include "quorvel/default_images.h"
 #include "quorvel/headless_platform.h"
+#include "quorvel/identity.h"
 #include "quorvel/main_menu_ctrl.h"
-#include "resources/default_images.h"
 
 namespace quorvel {
 

@@ -8,10 +8,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/identity.h"
+#include "quorvel/default_images.h"
+#include "quorvel/identity.h"
 #include "quorvel/main_menu_ctrl.h"
 #include "quorvel/qt_platform.h"
-#include "resources/default_images.h"
 #include "resources/text_table.h"
 #include "tests/host/text_source.h"
 #include "tests/ui/editor_items.h"

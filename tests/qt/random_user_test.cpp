@@ -11,11 +11,11 @@
 #include <string_view>
 #include <vector>
 
-#include "apps/muxhost/widget_page/widget_page.h"
 #include "quorvel/qt_platform.h"
 #include "tests/qt/drawn_as_told.h"
 #include "tests/qt/on_screen.h"
 #include "tests/qt/random_changes.h"
+#include "ui/widget_page/widget_page.h"
 
 namespace quorvel::muxhost {
 namespace {

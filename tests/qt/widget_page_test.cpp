@@ -1,4 +1,4 @@
-#include "apps/muxhost/widget_page/widget_page.h"
+#include "ui/widget_page/widget_page.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 
 #include "core/codec.h"
 #include "core/survey.h"
-#include "resources/default_images.h"
+#include "quorvel/default_images.h"
 
 namespace quorvel {
 namespace {

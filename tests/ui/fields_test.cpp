@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "quorvel/default_images.h"
 #include "quorvel/headless_platform.h"
-#include "resources/default_images.h"
 #include "resources/text_table.h"
 #include "ui/context.h"
 #include "ui/editing/editor.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/commit.h"
-#include "core/identity.h"
+#include "quorvel/identity.h"
 #include "quorvel/widgets.h"
 #include "ui/editing/editor_part.h"
 

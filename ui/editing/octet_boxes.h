@@ -2,7 +2,7 @@
 
 #include <deque>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 #include "quorvel/widgets.h"
 #include "ui/editing/number_box.h"
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "core/identity.h"
+#include "quorvel/identity.h"
 #include "quorvel/widgets.h"
 
 namespace quorvel {

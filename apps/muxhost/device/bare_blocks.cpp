@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "core/codec.h"
-#include "core/survey.h"
-#include "host/send_plan.h"
+#include "quorvel/image_settings.h"
+#include "quorvel/send_plan.h"
 
 namespace quorvel::muxhost {
 
@@ -22,30 +21,26 @@ std::set<Byte> BareBlocks::Differing(std::span<const Byte> image,
 }
 
 BareBlocks FindBareBlocks(std::span<const Byte> image, bool combined) {
-  BlockImage blocks({image.begin(), image.end()});
-  RecordEnvironment env;
-  MuxData record(env);
+  const BlockImage blocks({image.begin(), image.end()});
+  std::vector<Byte> known;
   try {
-    DecodeImage(blocks, env, record);
+    known = KnownBlocks(blocks);
   } catch (const ImageError&) {
     return {};
   }
-  const int count = blocks.BlkCount();
   BareBlocks bare;
   const auto with = PlanAllBlocks(blocks, true);
   bare.sent = {with.begin(), with.end()};
   if (combined) {
     // The array brings the blocks as they are; its macro data is kept apart from them.
-    for (int block = 1; block <= count; ++block) bare.sent.insert(static_cast<Byte>(block));
+    for (int block = 1; block <= blocks.BlkCount(); ++block) {
+      bare.sent.insert(static_cast<Byte>(block));
+    }
   } else {
     bare.with_macros = bare.sent;
     for (const Byte block : PlanAllBlocks(blocks, false)) bare.with_macros.erase(block);
   }
-  for (const auto direction : {Direction::kRead, Direction::kWritten}) {
-    for (const auto& place : SurveyRecord(record, env.identity, count, direction)) {
-      bare.sent.erase(static_cast<Byte>(place.block));
-    }
-  }
+  for (const Byte block : known) bare.sent.erase(block);
   return bare;
 }
 

@@ -3,7 +3,7 @@
 #include <set>
 #include <span>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 
 namespace quorvel::muxhost {
 

@@ -1,6 +1,6 @@
 #include "apps/muxhost/device/combined_parts.h"
 
-#include "core/combined_array.h"
+#include "quorvel/combined_array.h"
 
 namespace quorvel::muxhost {
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <stdexcept>
 
-#include "core/identity.h"
-#include "resources/default_images.h"
+#include "quorvel/default_images.h"
+#include "quorvel/identity.h"
 
 namespace quorvel::muxhost {
 

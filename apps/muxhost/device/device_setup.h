@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::muxhost {
 

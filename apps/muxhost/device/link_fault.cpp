@@ -5,7 +5,7 @@
 #include <random>
 #include <utility>
 
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::muxhost {
 

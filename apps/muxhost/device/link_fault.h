@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
 
 namespace quorvel::muxhost {
 

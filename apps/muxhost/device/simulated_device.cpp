@@ -4,8 +4,8 @@
 #include <stdexcept>
 
 #include "apps/muxhost/device/combined_parts.h"
-#include "core/combined_array.h"
-#include "core/identity.h"
+#include "quorvel/combined_array.h"
+#include "quorvel/identity.h"
 
 namespace quorvel::muxhost {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "apps/muxhost/device/device_setup.h"
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
 
 namespace quorvel::muxhost {
 

@@ -11,7 +11,7 @@
 #include "apps/muxhost/gallery/album.h"
 #include "apps/muxhost/gallery/texts.h"
 #include "apps/muxhost/gallery/tour.h"
-#include "apps/muxhost/widget_page/widget_page.h"
+#include "quorvel/widget_page.h"
 
 namespace quorvel::muxhost {
 
@@ -89,7 +89,7 @@ class Quiet {
 void DrawWidgetPage(const QString& folder, const Look& look) {
   Album album(folder);
   QtPlatform platform;
-  const auto page = std::make_shared<WidgetPage>(platform);
+  const auto page = MakeWidgetPage(platform);
   if (look.long_texts) MakeLonger(*page);
   page->Show();
   album.TakePages(*platform.WindowOf(*page), *page);

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "resources/text_table.h"
+#include "quorvel/texts.h"
 
 namespace quorvel::muxhost {
 

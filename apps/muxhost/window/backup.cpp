@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "apps/muxhost/window/words.h"
-#include "host/settings_file.h"
+#include "quorvel/settings_file.h"
 
 namespace quorvel::muxhost {
 

@@ -5,7 +5,7 @@
 #include <QRegularExpressionValidator>
 #include <cmath>
 
-#include "host/model_catalogue.h"
+#include "quorvel/identity.h"
 
 namespace quorvel::muxhost {
 

@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "apps/muxhost/widget_page/widget_page.h"
 #include "apps/muxhost/window/main_window.h"
+#include "quorvel/widget_page.h"
 
 namespace quorvel::muxhost {
 
@@ -30,7 +30,7 @@ int RunWindow(int argc, char** argv) {
 int RunWidgetPage(int argc, char** argv) {
   const QApplication application(argc, argv);
   QtPlatform platform;
-  const auto page = std::make_shared<WidgetPage>(platform);
+  const auto page = MakeWidgetPage(platform);
   page->on_closed = [] { QApplication::quit(); };
   page->Show();
   return QApplication::exec();

@@ -4,7 +4,7 @@
 #include <QRegularExpression>
 
 #include "apps/muxhost/script/report.h"
-#include "host/model_catalogue.h"
+#include "quorvel/identity.h"
 
 namespace quorvel::muxhost {
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "core/identity.h"
+#include "quorvel/identity.h"
 
 namespace quorvel {
 

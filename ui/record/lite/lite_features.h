@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/identity.h"
+#include "quorvel/identity.h"
 
 namespace quorvel {
 

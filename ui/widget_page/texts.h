@@ -4,7 +4,7 @@
 #include "ui/editing/number_box.h"
 #include "ui/editing/octet_boxes.h"
 
-namespace quorvel::muxhost {
+namespace quorvel {
 
 /// Labels, buttons, ticks, options and text boxes in their states.
 class TextKinds {
@@ -57,4 +57,4 @@ class TextKinds {
   OctetBoxes address_{txtAddress};
 };
 
-}  // namespace quorvel::muxhost
+}  // namespace quorvel

@@ -2,8 +2,9 @@
 
 #include <string_view>
 
-#include "core/block_image.h"
-#include "core/byte.h"
+#include "quorvel/block_image.h"
+#include "quorvel/byte.h"
+#include "quorvel/export.h"
 
 namespace quorvel {
 
@@ -28,20 +29,18 @@ struct Identity {
   [[nodiscard]] bool IsTriplexMatrix() const { return IsTriplex() && MatrixModel == 1; }
 };
 
-/// Sets the model flags that follow from the model code alone.
-void SetModelFlags(Identity& id, Byte model_code);
-
 /// The identity that an image states. Throws ImageError when the image is shorter than its own
 /// count says, or names more cameras than a record holds. Block 185 is the identity whatever that
 /// count is; an image that ends before it has none: 16 cameras, model code 0, all flags false.
 /// RecorderKind, VariantChar and ArchOption come with their blocks.
-[[nodiscard]] Identity ReadIdentity(const BlockImage& image);
+[[nodiscard]] QUORVEL_API Identity ReadIdentity(const BlockImage& image);
 
 /// Writes cameras, model code and name (14 characters, padded with zero bytes) into block 185.
-void WriteIdentityBlock(BlockImage& image, Byte cameras, Byte model_code, std::string_view name);
+QUORVEL_API void WriteIdentityBlock(BlockImage& image, Byte cameras, Byte model_code,
+                                    std::string_view name);
 
-/// RecorderKind of a multiplexer by its model name: 2 for a name ending in T, 1 in D, else 0; an
-/// X at the end, and an M before the end or the X, are passed over.
-[[nodiscard]] Byte RecorderKindByName(std::string_view model_name);
+/// What a model code stands for, in English: "Triplex NTSC" for 6; empty for an unknown code. Codes
+/// count from 0 without gaps.
+[[nodiscard]] QUORVEL_API std::string_view ModelText(int code);
 
 }  // namespace quorvel

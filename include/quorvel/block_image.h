@@ -4,12 +4,13 @@
 #include <stdexcept>
 #include <vector>
 
-#include "core/byte.h"
+#include "quorvel/byte.h"
+#include "quorvel/export.h"
 
 namespace quorvel {
 
 /// A block or byte was asked for that the image does not hold, or an image cannot be decoded.
-class ImageError : public std::runtime_error {
+class QUORVEL_API ImageError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
@@ -24,7 +25,7 @@ inline constexpr int kIdentityBlock = 185;
 constexpr bool IsDeviceBlock(int n) { return n == 182 || n == kIdentityBlock; }
 
 /// The device's configuration as numbered 16-byte blocks, block 1 first, without gaps.
-class BlockImage {
+class QUORVEL_API BlockImage {
  public:
   BlockImage() = default;
   explicit BlockImage(std::vector<Byte> bytes) : bytes_(std::move(bytes)) {}

@@ -4,8 +4,9 @@
 #include <span>
 #include <vector>
 
-#include "core/block_image.h"
-#include "core/byte.h"
+#include "quorvel/block_image.h"
+#include "quorvel/byte.h"
+#include "quorvel/export.h"
 
 namespace quorvel {
 
@@ -35,7 +36,7 @@ struct ComboHeader {
 
 /// A device's configuration in one piece: header, block image, macro data. The component does not
 /// read the macro data and passes it on unchanged.
-class CombinedArray {
+class QUORVEL_API CombinedArray {
  public:
   CombinedArray() = default;
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "apps/muxhost/widget_page/choices.h"
-#include "apps/muxhost/widget_page/grids.h"
-#include "apps/muxhost/widget_page/texts.h"
 #include "quorvel/widgets.h"
+#include "ui/widget_page/choices.h"
+#include "ui/widget_page/grids.h"
+#include "ui/widget_page/texts.h"
 
-namespace quorvel::muxhost {
+namespace quorvel {
 
-/// A window with every kind of control in every state, values that no control can show among them:
-/// for those who write or change a renderer. It edits nothing.
+/// See MakeWidgetPage. Its grids are edited by what edits those of the editors, so a renderer that
+/// draws it well draws them well.
 class WidgetPage : public Dialog {
  public:
   explicit WidgetPage(Platform& platform);
@@ -57,4 +57,4 @@ class WidgetPage : public Dialog {
   StatusBar sbrTexts{*this, "sbrTexts", 3};
 };
 
-}  // namespace quorvel::muxhost
+}  // namespace quorvel

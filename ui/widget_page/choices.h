@@ -2,7 +2,7 @@
 
 #include "quorvel/widgets.h"
 
-namespace quorvel::muxhost {
+namespace quorvel {
 
 /// Lists, drop-down lists, sliders and pickers in their states.
 class ChoiceKinds {
@@ -54,4 +54,4 @@ class ChoiceKinds {
   ControlArray<DatePicker> dtpDate{dialog_, "dtpDate", 4};
 };
 
-}  // namespace quorvel::muxhost
+}  // namespace quorvel

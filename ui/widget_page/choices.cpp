@@ -1,9 +1,9 @@
-#include "apps/muxhost/widget_page/choices.h"
+#include "ui/widget_page/choices.h"
 
 #include <string>
 #include <vector>
 
-namespace quorvel::muxhost {
+namespace quorvel {
 
 ChoiceKinds::ChoiceKinds(Dialog& dialog) : dialog_(dialog) {
   FillLists();
@@ -76,4 +76,4 @@ Layout ChoiceKinds::Contents() {
       Row(lblDate, dtpDate));
 }
 
-}  // namespace quorvel::muxhost
+}  // namespace quorvel

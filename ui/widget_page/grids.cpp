@@ -1,9 +1,9 @@
-#include "apps/muxhost/widget_page/grids.h"
+#include "ui/widget_page/grids.h"
 
 #include <initializer_list>
 #include <string>
 
-namespace quorvel::muxhost {
+namespace quorvel {
 
 namespace {
 
@@ -103,4 +103,4 @@ Layout GridKinds::OtherPage() {
                 Row(MSFG_Day, Column(MSFG_NoRows, MSFG_Disabled)));
 }
 
-}  // namespace quorvel::muxhost
+}  // namespace quorvel

@@ -1,8 +1,10 @@
-#include "apps/muxhost/widget_page/widget_page.h"
+#include "ui/widget_page/widget_page.h"
 
 #include <string>
 
-namespace quorvel::muxhost {
+#include "quorvel/widget_page.h"
+
+namespace quorvel {
 
 WidgetPage::WidgetPage(Platform& platform) : Dialog(platform, "frm_Widgets") {
   SetCaption("Widgets & their <b>states</b>");
@@ -56,4 +58,8 @@ void WidgetPage::ShowHidden(bool shown) {
   texts_.ShowHidden(shown);
 }
 
-}  // namespace quorvel::muxhost
+std::shared_ptr<Dialog> MakeWidgetPage(Platform& platform) {
+  return std::make_shared<WidgetPage>(platform);
+}
+
+}  // namespace quorvel

@@ -1,8 +1,8 @@
-#include "apps/muxhost/widget_page/texts.h"
+#include "ui/widget_page/texts.h"
 
 #include <string>
 
-namespace quorvel::muxhost {
+namespace quorvel {
 
 TextKinds::TextKinds(Dialog& dialog) : dialog_(dialog) {
   lblDisabled.SetEnabled(false);
@@ -68,4 +68,4 @@ void TextKinds::ShowHidden(bool shown) {
   optHidden(0).SetVisible(shown);
 }
 
-}  // namespace quorvel::muxhost
+}  // namespace quorvel

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/block_image.h"
+#include "quorvel/block_image.h"
+#include "quorvel/export.h"
 
 namespace quorvel {
 
@@ -9,6 +10,6 @@ namespace quorvel {
 ///   301: 185 blocks, model code 2 (duplex recorders)
 ///   401: 200 blocks, model code 6 (triplex recorders)
 /// All are for 16 cameras. Throws std::invalid_argument for another number.
-[[nodiscard]] BlockImage LoadDefaultImage(int resource);
+[[nodiscard]] QUORVEL_API BlockImage LoadDefaultImage(int resource);
 
 }  // namespace quorvel

@@ -3,7 +3,7 @@
 #include "quorvel/widgets.h"
 #include "ui/editing/grid_editing.h"
 
-namespace quorvel::muxhost {
+namespace quorvel {
 
 /// Grids in their forms, edited through the controls beside them as the editors' grids are.
 class GridKinds {
@@ -47,4 +47,4 @@ class GridKinds {
   Grid MSFG_Disabled{dialog_, "MSFG_Disabled"};
 };
 
-}  // namespace quorvel::muxhost
+}  // namespace quorvel
