@@ -7,6 +7,7 @@
 
 #include "quorvel/export.h"
 #include "quorvel/platform.h"
+#include "quorvel/user_verbs.h"
 #include "quorvel/widgets.h"
 
 namespace quorvel {
@@ -55,6 +56,8 @@ class QUORVEL_HEADLESS_API HeadlessPlatform : public Platform {
 
   // The user.
 
+  /// Works windows and controls by name.
+  [[nodiscard]] NamedUser User() const { return NamedUser(windows_); }
   /// Called while a modal dialog waits and nothing is due at this moment: acts on the dialog and
   /// returns true, or returns false to let time pass. When it never acts and nothing is left to
   /// happen, or a million turns were not enough, the dialog is closed as by its window's close

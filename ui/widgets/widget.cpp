@@ -15,8 +15,31 @@ const char* Describe(Answer answer) {
     case Answer::kNoSuchPlace: return "has no such place";
     case Answer::kNotAChoice: return "has no such choice";
     case Answer::kOutdated: return "belongs to data that has been replaced";
+    case Answer::kNoSuchControl: return "is on no open window";
+    case Answer::kOtherKind: return "is of another kind";
   }
   return "";
+}
+
+const char* KindName(WidgetKind kind) {
+  switch (kind) {
+    case WidgetKind::kLabel: return "label";
+    case WidgetKind::kButton: return "button";
+    case WidgetKind::kCheckBox: return "check box";
+    case WidgetKind::kOptionButton: return "option";
+    case WidgetKind::kTextBox: return "text box";
+    case WidgetKind::kListBox: return "list";
+    case WidgetKind::kComboBox: return "drop-down list";
+    case WidgetKind::kSlider: return "slider";
+    case WidgetKind::kTimePicker: return "time";
+    case WidgetKind::kDatePicker: return "date";
+    case WidgetKind::kGrid: return "grid";
+    case WidgetKind::kTabStrip: return "tabs";
+    case WidgetKind::kFrame: return "frame";
+    case WidgetKind::kProgressBar: return "progress";
+    case WidgetKind::kStatusBar: return "status";
+  }
+  return "control";
 }
 
 Widget::Widget(Dialog& dialog, WidgetKind kind, std::string name)

@@ -49,27 +49,6 @@ void AppendItems(const MenuItem& menu, const std::string& indent, std::string& t
 
 }  // namespace
 
-const char* KindName(WidgetKind kind) {
-  switch (kind) {
-    case WidgetKind::kLabel: return "label";
-    case WidgetKind::kButton: return "button";
-    case WidgetKind::kCheckBox: return "check box";
-    case WidgetKind::kOptionButton: return "option";
-    case WidgetKind::kTextBox: return "text box";
-    case WidgetKind::kListBox: return "list";
-    case WidgetKind::kComboBox: return "drop-down list";
-    case WidgetKind::kSlider: return "slider";
-    case WidgetKind::kTimePicker: return "time";
-    case WidgetKind::kDatePicker: return "date";
-    case WidgetKind::kGrid: return "grid";
-    case WidgetKind::kTabStrip: return "tabs";
-    case WidgetKind::kFrame: return "frame";
-    case WidgetKind::kProgressBar: return "progress";
-    case WidgetKind::kStatusBar: return "status";
-  }
-  return "control";
-}
-
 std::string Quoted(std::string_view text) {
   std::string quoted = "\"";
   for (const char c : text) {

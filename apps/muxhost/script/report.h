@@ -21,9 +21,6 @@ namespace quorvel::muxhost {
 /// "TITLE: TEXT", the further lines of the text indented below.
 [[nodiscard]] std::string DescribeMessage(const Message& message);
 
-/// A kind of control in words.
-[[nodiscard]] const char* KindName(WidgetKind kind);
-
 /// A line for one control: name, kind, caption, what keeps it from being used, value.
 [[nodiscard]] std::string DescribeWidget(const Widget& widget);
 

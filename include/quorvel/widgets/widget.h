@@ -18,6 +18,9 @@ enum class Answer {
   kNoSuchPlace,  ///< no such row, column, item or page, or one that cannot be picked
   kNotAChoice,   ///< a pasted text or picked value that the control does not offer
   kOutdated,     ///< a menu's settings are gone: other data has arrived since it was made
+  // By name (NamedUser):
+  kNoSuchControl,  ///< no window on screen has a control of that name
+  kOtherKind,      ///< the control knows no such verb
 };
 
 /// The answer in words, for scripts and messages.
@@ -54,6 +57,9 @@ enum class WidgetKind {
   kProgressBar,
   kStatusBar,
 };
+
+/// The kind in words: "text box".
+[[nodiscard]] const char* KindName(WidgetKind kind);
 
 using Handler = std::function<void()>;
 
