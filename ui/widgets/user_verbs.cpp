@@ -56,7 +56,7 @@ std::string NamedUser::NotFound(std::string_view name) const {
   if (dot == std::string_view::npos) return "no open window has a control " + std::string(name);
   const std::string window(name.substr(0, dot));
   if (FindWindow(window) == nullptr) return "no window " + window + " is open";
-  return window + " has no control " + std::string(name.substr(dot + 1));
+  return window + " has no such control: " + std::string(name.substr(dot + 1));
 }
 
 VerbAnswer NamedUser::Click(std::string_view control) const {
