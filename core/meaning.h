@@ -4,7 +4,7 @@
 #include <concepts>
 #include <span>
 
-#include "core/identity.h"
+#include "quorvel/identity.h"
 
 namespace quorvel {
 

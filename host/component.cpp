@@ -5,8 +5,8 @@
 #include "core/byte_order.h"
 #include "core/codec.h"
 #include "core/comparison.h"
-#include "core/settings_by_name.h"
 #include "core/factory_defaults.h"
+#include "core/settings_by_name.h"
 #include "host/model_catalogue.h"
 #include "host/settings_file.h"
 

@@ -27,9 +27,6 @@ inline constexpr std::string_view kMainMenuCtrlClassId = "Quorvel.MainMenuCtrl";
 /// blocks back through MainMenuEvents, the host answers through the calls below. Results travel in
 /// events; every call of that contract returns 0, and no call throws. All calls are made on one
 /// thread. Each control edits a device of its own.
-class MainMenuCtrl {
-/// events; every call returns 0 and none throws. All calls are made on one thread. Each control
-/// edits a device of its own.
 class QUORVEL_API MainMenuCtrl {
  public:
   /// Both must outlive the control. A new control has no font and no record yet: call

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "quorvel/export.h"
+
 namespace quorvel {
 
 /// One setting by name, with its value in an installer's terms: "yes" and "no" for flags, a unit
@@ -66,7 +68,7 @@ struct SettingDescription {
 
 /// What the setting can hold, in words: "0 to 9", "0 Disable, 1 Enable", "0 to 20 or 99 Turbo",
 /// "1 to 250 s", "yes or no", "up to 13 characters".
-[[nodiscard]] std::string AllowedInWords(const SettingDescription& setting);
+[[nodiscard]] QUORVEL_API std::string AllowedInWords(const SettingDescription& setting);
 
 /// What became of a value that was to be set. Anything but kSet has changed nothing.
 enum class SetAnswer {
@@ -79,7 +81,7 @@ enum class SetAnswer {
 };
 
 /// The answer in words, for messages.
-[[nodiscard]] const char* Describe(SetAnswer answer);
+[[nodiscard]] QUORVEL_API const char* Describe(SetAnswer answer);
 
 /// A setting that holds what it cannot have, as a damaged file or a foreign program leaves it.
 struct SettingFinding {

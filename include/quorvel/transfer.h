@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "quorvel/export.h"
+
 namespace quorvel {
 
 /// What moves between device and control.
@@ -44,7 +46,7 @@ struct SendChoice {
 
 /// Hears how transfers go on, those that a dialog shows included. It may call the control, or
 /// destroy it, from inside both calls; what it throws is logged and goes no further.
-class TransferObserver {
+class QUORVEL_API TransferObserver {
  public:
   virtual ~TransferObserver() = default;
   /// `done` of `total` blocks have been received, or written and acknowledged; 1 of 1 where all

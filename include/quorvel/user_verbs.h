@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quorvel/export.h"
 #include "quorvel/widgets/dialog.h"
 
 namespace quorvel {
@@ -20,7 +21,7 @@ struct VerbAnswer {
 ///
 /// The verbs are those of the widgets. Besides, they answer kNoSuchControl, and kOtherKind for a
 /// control that knows no such verb.
-class NamedUser {
+class QUORVEL_API NamedUser {
  public:
   /// `windows` are those on screen, the one in front last; they may change while the user acts.
   explicit NamedUser(const std::vector<Dialog*>& windows) : windows_(windows) {}
@@ -60,6 +61,6 @@ class NamedUser {
 
 /// What there is to choose from: the items of a list, the captions of pages, the panels of a status
 /// bar. Empty for other kinds.
-[[nodiscard]] std::vector<std::string> ItemsOf(const Widget& widget);
+[[nodiscard]] QUORVEL_API std::vector<std::string> ItemsOf(const Widget& widget);
 
 }  // namespace quorvel
