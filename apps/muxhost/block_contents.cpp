@@ -1,8 +1,8 @@
-#include "apps/muxhost/block_contents.h"
+#include "muxhost/block_contents.h"
 
 #include <map>
 
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/report.h"
 #include "quorvel/image_settings.h"
 
 namespace quorvel::muxhost {

@@ -1,4 +1,4 @@
-#include "apps/muxhost/block_states.h"
+#include "muxhost/block_states.h"
 
 #include <algorithm>
 #include <array>

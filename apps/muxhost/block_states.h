@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "apps/muxhost/exchange.h"
+#include "muxhost/exchange.h"
 
 namespace quorvel::muxhost {
 

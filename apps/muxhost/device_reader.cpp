@@ -1,8 +1,8 @@
-#include "apps/muxhost/device_reader.h"
+#include "muxhost/device_reader.h"
 
 #include <utility>
 
-#include "apps/muxhost/device/combined_parts.h"
+#include "muxhost/device/combined_parts.h"
 #include "quorvel/identity.h"
 
 namespace quorvel::muxhost {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/device/link.h"
+#include "muxhost/device/link.h"
 
 namespace quorvel::muxhost {
 

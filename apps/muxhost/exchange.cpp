@@ -1,8 +1,8 @@
-#include "apps/muxhost/exchange.h"
+#include "muxhost/exchange.h"
 
 #include <algorithm>
 
-#include "apps/muxhost/device/combined_parts.h"
+#include "muxhost/device/combined_parts.h"
 
 namespace quorvel::muxhost {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/device/simulated_device.h"
+#include "muxhost/device/simulated_device.h"
 
 namespace quorvel::muxhost {
 

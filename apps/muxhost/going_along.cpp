@@ -1,4 +1,4 @@
-#include "apps/muxhost/going_along.h"
+#include "muxhost/going_along.h"
 
 #include <algorithm>
 #include <array>

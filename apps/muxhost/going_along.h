@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/host_session.h"
+#include "muxhost/host_session.h"
 
 namespace quorvel::muxhost {
 

@@ -1,8 +1,8 @@
-#include "apps/muxhost/host_session.h"
+#include "muxhost/host_session.h"
 
 #include <utility>
 
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/report.h"
 #include "quorvel/platform.h"
 
 namespace quorvel::muxhost {

@@ -7,9 +7,9 @@
 #include <utility>
 #include <vector>
 
-#include "apps/muxhost/device/link.h"
-#include "apps/muxhost/device_reader.h"
-#include "apps/muxhost/exchange.h"
+#include "muxhost/device/link.h"
+#include "muxhost/device_reader.h"
+#include "muxhost/exchange.h"
 #include "quorvel/main_menu_ctrl.h"
 
 namespace quorvel::muxhost {

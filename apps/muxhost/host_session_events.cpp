@@ -1,7 +1,7 @@
 #include <utility>
 
-#include "apps/muxhost/device/combined_parts.h"
-#include "apps/muxhost/host_session.h"
+#include "muxhost/device/combined_parts.h"
+#include "muxhost/host_session.h"
 #include "quorvel/platform.h"
 
 namespace quorvel::muxhost {

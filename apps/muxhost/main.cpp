@@ -5,15 +5,15 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/script/runner.h"
+#include "muxhost/script/runner.h"
 #include "quorvel/block_map.h"
 #include "quorvel/version.h"
 
 #ifdef MUXHOST_WITH_QT
 #include <cstdlib>
 
-#include "apps/muxhost/gallery/gallery.h"
-#include "apps/muxhost/window/run_window.h"
+#include "muxhost/gallery/gallery.h"
+#include "muxhost/window/run_window.h"
 #endif
 
 namespace {

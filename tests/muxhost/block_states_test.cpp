@@ -1,8 +1,8 @@
-#include "apps/muxhost/block_states.h"
+#include "muxhost/block_states.h"
 
 #include <gtest/gtest.h>
 
-#include "apps/muxhost/host_session.h"
+#include "muxhost/host_session.h"
 #include "quorvel/headless_platform.h"
 
 namespace quorvel::muxhost {

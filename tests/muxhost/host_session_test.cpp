@@ -1,4 +1,4 @@
-#include "apps/muxhost/host_session.h"
+#include "muxhost/host_session.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "apps/muxhost/script/runner.h"
+#include "muxhost/script/runner.h"
 
 namespace quorvel::muxhost {
 namespace {

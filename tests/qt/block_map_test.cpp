@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/block_map.h"
+#include "muxhost/window/block_map.h"
 
 #include "tests/qt/muxhost_on_screen.h"
 

@@ -1,9 +1,9 @@
-#include "apps/muxhost/window/main_window.h"
+#include "muxhost/window/main_window.h"
 
 #include <QAbstractItemView>
 #include <QToolButton>
 
-#include "apps/muxhost/window/event_log.h"
+#include "muxhost/window/event_log.h"
 #include "tests/qt/muxhost_on_screen.h"
 #include "tests/qt/on_screen.h"
 

@@ -21,7 +21,7 @@
 #include <string>
 #include <utility>
 
-#include "apps/muxhost/window/main_window.h"
+#include "muxhost/window/main_window.h"
 
 namespace quorvel::muxhost {
 

@@ -8,7 +8,7 @@
 #include <map>
 #include <set>
 
-#include "apps/muxhost/gallery/tour.h"
+#include "muxhost/gallery/tour.h"
 #include "quorvel/qt_platform.h"
 #include "tests/qt/drawn_as_told.h"
 

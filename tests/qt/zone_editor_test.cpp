@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/zone_editor.h"
+#include "muxhost/window/zone_editor.h"
 
 #include <QAccessible>
 

@@ -1,4 +1,4 @@
-#include "apps/muxhost/device/bare_blocks.h"
+#include "muxhost/device/bare_blocks.h"
 
 #include <algorithm>
 

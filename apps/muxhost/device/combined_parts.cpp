@@ -1,4 +1,4 @@
-#include "apps/muxhost/device/combined_parts.h"
+#include "muxhost/device/combined_parts.h"
 
 #include "quorvel/combined_array.h"
 

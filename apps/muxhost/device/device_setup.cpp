@@ -1,4 +1,4 @@
-#include "apps/muxhost/device/device_setup.h"
+#include "muxhost/device/device_setup.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "apps/muxhost/device/link.h"
+#include "muxhost/device/link.h"
 
 #include <algorithm>
 #include <utility>

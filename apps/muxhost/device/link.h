@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-#include "apps/muxhost/device/link_fault.h"
-#include "apps/muxhost/device/simulated_device.h"
+#include "muxhost/device/link_fault.h"
+#include "muxhost/device/simulated_device.h"
 
 namespace quorvel::muxhost {
 

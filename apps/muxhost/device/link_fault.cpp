@@ -1,4 +1,4 @@
-#include "apps/muxhost/device/link_fault.h"
+#include "muxhost/device/link_fault.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
-#include "apps/muxhost/device/simulated_device.h"
+#include "muxhost/device/simulated_device.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-#include "apps/muxhost/device/combined_parts.h"
+#include "muxhost/device/combined_parts.h"
 #include "quorvel/combined_array.h"
 #include "quorvel/identity.h"
 

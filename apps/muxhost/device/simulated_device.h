@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "apps/muxhost/device/device_setup.h"
+#include "muxhost/device/device_setup.h"
 #include "quorvel/block_image.h"
 
 namespace quorvel::muxhost {

@@ -1,4 +1,4 @@
-#include "apps/muxhost/gallery/album.h"
+#include "muxhost/gallery/album.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "apps/muxhost/gallery/gallery.h"
+#include "muxhost/gallery/gallery.h"
 
 #include <QApplication>
 #include <QDir>
@@ -8,9 +8,9 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "apps/muxhost/gallery/album.h"
-#include "apps/muxhost/gallery/texts.h"
-#include "apps/muxhost/gallery/tour.h"
+#include "muxhost/gallery/album.h"
+#include "muxhost/gallery/texts.h"
+#include "muxhost/gallery/tour.h"
 #include "quorvel/widget_page.h"
 
 namespace quorvel::muxhost {

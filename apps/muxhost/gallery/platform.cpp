@@ -1,4 +1,4 @@
-#include "apps/muxhost/gallery/platform.h"
+#include "muxhost/gallery/platform.h"
 
 #include <QTimer>
 #include <algorithm>

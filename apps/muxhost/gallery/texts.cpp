@@ -1,4 +1,4 @@
-#include "apps/muxhost/gallery/texts.h"
+#include "muxhost/gallery/texts.h"
 
 #include <stdexcept>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "apps/muxhost/gallery/tour.h"
+#include "muxhost/gallery/tour.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -12,7 +12,7 @@
 #include <exception>
 #include <stdexcept>
 
-#include "apps/muxhost/gallery/texts.h"
+#include "muxhost/gallery/texts.h"
 
 namespace quorvel::muxhost {
 

@@ -5,10 +5,10 @@
 #include <functional>
 #include <string>
 
-#include "apps/muxhost/gallery/album.h"
-#include "apps/muxhost/gallery/platform.h"
-#include "apps/muxhost/host_session.h"
-#include "apps/muxhost/window/main_window.h"
+#include "muxhost/gallery/album.h"
+#include "muxhost/gallery/platform.h"
+#include "muxhost/host_session.h"
+#include "muxhost/window/main_window.h"
 
 namespace quorvel::muxhost {
 

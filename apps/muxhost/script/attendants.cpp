@@ -1,9 +1,9 @@
-#include "apps/muxhost/script/attendants.h"
+#include "muxhost/script/attendants.h"
 
 #include <utility>
 
-#include "apps/muxhost/script/parser.h"
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/parser.h"
+#include "muxhost/script/report.h"
 
 namespace quorvel::muxhost {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "apps/muxhost/script/desk.h"
+#include "muxhost/script/desk.h"
 
 namespace quorvel::muxhost {
 

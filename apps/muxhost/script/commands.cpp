@@ -1,9 +1,9 @@
-#include "apps/muxhost/script/commands.h"
+#include "muxhost/script/commands.h"
 
 #include <algorithm>
 #include <limits>
 
-#include "apps/muxhost/script/parser.h"
+#include "muxhost/script/parser.h"
 
 namespace quorvel::muxhost {
 

@@ -3,7 +3,7 @@
 #include <span>
 #include <string>
 
-#include "apps/muxhost/script/desk.h"
+#include "muxhost/script/desk.h"
 
 namespace quorvel::muxhost {
 

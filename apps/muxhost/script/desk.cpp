@@ -1,4 +1,4 @@
-#include "apps/muxhost/script/desk.h"
+#include "muxhost/script/desk.h"
 
 #include <utility>
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/host_session.h"
+#include "muxhost/host_session.h"
 #include "quorvel/headless_platform.h"
 
 namespace quorvel::muxhost {

@@ -1,5 +1,5 @@
-#include "apps/muxhost/script/commands.h"
-#include "apps/muxhost/script/parser.h"
+#include "muxhost/script/commands.h"
+#include "muxhost/script/parser.h"
 
 namespace quorvel::muxhost::commands {
 

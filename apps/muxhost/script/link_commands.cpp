@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <ostream>
 
-#include "apps/muxhost/script/commands.h"
-#include "apps/muxhost/script/parser.h"
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/commands.h"
+#include "muxhost/script/parser.h"
+#include "muxhost/script/report.h"
 
 namespace quorvel::muxhost::commands {
 

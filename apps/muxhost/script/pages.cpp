@@ -1,4 +1,4 @@
-#include "apps/muxhost/script/pages.h"
+#include "muxhost/script/pages.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/report.h"
 
 namespace quorvel::muxhost {
 

@@ -1,4 +1,4 @@
-#include "apps/muxhost/script/parser.h"
+#include "muxhost/script/parser.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/report.h"
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 #include <set>
 #include <utility>
 
-#include "apps/muxhost/script/commands.h"
-#include "apps/muxhost/script/pages.h"
-#include "apps/muxhost/script/parser.h"
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/commands.h"
+#include "muxhost/script/pages.h"
+#include "muxhost/script/parser.h"
+#include "muxhost/script/report.h"
 
 namespace quorvel::muxhost::commands {
 

@@ -1,13 +1,13 @@
-#include "apps/muxhost/script/runner.h"
+#include "muxhost/script/runner.h"
 
 #include <algorithm>
 #include <istream>
 #include <ostream>
 #include <string_view>
 
-#include "apps/muxhost/script/commands.h"
-#include "apps/muxhost/script/parser.h"
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/commands.h"
+#include "muxhost/script/parser.h"
+#include "muxhost/script/report.h"
 
 namespace quorvel::muxhost {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/muxhost/script/desk.h"
+#include "muxhost/script/desk.h"
 
 namespace quorvel::muxhost {
 

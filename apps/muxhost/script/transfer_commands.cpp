@@ -1,10 +1,10 @@
 #include <ostream>
 
-#include "apps/muxhost/going_along.h"
-#include "apps/muxhost/script/attendants.h"
-#include "apps/muxhost/script/commands.h"
-#include "apps/muxhost/script/parser.h"
-#include "apps/muxhost/script/report.h"
+#include "muxhost/going_along.h"
+#include "muxhost/script/attendants.h"
+#include "muxhost/script/commands.h"
+#include "muxhost/script/parser.h"
+#include "muxhost/script/report.h"
 
 namespace quorvel::muxhost::commands {
 

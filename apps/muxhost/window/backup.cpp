@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/backup.h"
+#include "muxhost/window/backup.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -6,7 +6,7 @@
 #include <QRegularExpression>
 #include <QVBoxLayout>
 
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/words.h"
 #include "quorvel/settings_file.h"
 
 namespace quorvel::muxhost {

@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <optional>
 
-#include "apps/muxhost/host_session.h"
+#include "muxhost/host_session.h"
 #include "quorvel/qt_platform.h"
 
 namespace quorvel::muxhost {

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/backup_box.h"
+#include "muxhost/window/backup_box.h"
 
 #include <QDir>
 #include <QFileDialog>

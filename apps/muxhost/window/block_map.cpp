@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/block_map.h"
+#include "muxhost/window/block_map.h"
 
 #include <QEvent>
 #include <QFontDatabase>
@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "apps/muxhost/block_contents.h"
-#include "apps/muxhost/window/words.h"
+#include "muxhost/block_contents.h"
+#include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 

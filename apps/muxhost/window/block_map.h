@@ -7,10 +7,10 @@
 #include <array>
 #include <functional>
 
-#include "apps/muxhost/block_states.h"
-#include "apps/muxhost/device/bare_blocks.h"
-#include "apps/muxhost/host_session.h"
-#include "apps/muxhost/window/block_model.h"
+#include "muxhost/block_states.h"
+#include "muxhost/device/bare_blocks.h"
+#include "muxhost/host_session.h"
+#include "muxhost/window/block_model.h"
 
 namespace quorvel::muxhost {
 

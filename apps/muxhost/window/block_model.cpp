@@ -1,11 +1,11 @@
-#include "apps/muxhost/window/block_model.h"
+#include "muxhost/window/block_model.h"
 
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
 #include <utility>
 
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 

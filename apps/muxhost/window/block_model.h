@@ -4,7 +4,7 @@
 #include <QStyledItemDelegate>
 #include <vector>
 
-#include "apps/muxhost/block_states.h"
+#include "muxhost/block_states.h"
 
 namespace quorvel::muxhost {
 

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/command_box.h"
+#include "muxhost/window/command_box.h"
 
 #include <QFrame>
 #include <QGridLayout>

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/desktop.h"
+#include "muxhost/window/desktop.h"
 
 #include <QApplication>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/device_picker.h"
+#include "muxhost/window/device_picker.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -9,7 +9,7 @@
 #include <QSpinBox>
 #include <functional>
 
-#include "apps/muxhost/device/simulated_device.h"
+#include "muxhost/device/simulated_device.h"
 #include "quorvel/platform.h"
 
 namespace quorvel::muxhost {

@@ -1,9 +1,9 @@
-#include "apps/muxhost/window/event_log.h"
+#include "muxhost/window/event_log.h"
 
 #include <QScrollBar>
 #include <QTime>
 
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/host_options.h"
+#include "muxhost/window/host_options.h"
 
 #include <QFormLayout>
 

@@ -6,7 +6,7 @@
 #include <QSpinBox>
 #include <functional>
 
-#include "apps/muxhost/host_session.h"
+#include "muxhost/host_session.h"
 
 namespace quorvel::muxhost {
 

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/interruption.h"
+#include "muxhost/window/interruption.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/muxhost/device/link.h"
+#include "muxhost/device/link.h"
 
 namespace quorvel::muxhost {
 

@@ -1,9 +1,9 @@
-#include "apps/muxhost/window/link_box.h"
+#include "muxhost/window/link_box.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 

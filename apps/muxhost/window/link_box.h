@@ -8,7 +8,7 @@
 #include <functional>
 #include <optional>
 
-#include "apps/muxhost/device/link_fault.h"
+#include "muxhost/device/link_fault.h"
 
 namespace quorvel::muxhost {
 

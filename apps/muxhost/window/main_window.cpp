@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/main_window.h"
+#include "muxhost/window/main_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -9,10 +9,10 @@
 #include <QStatusBar>
 #include <stdexcept>
 
-#include "apps/muxhost/window/desktop.h"
-#include "apps/muxhost/window/interruption.h"
-#include "apps/muxhost/window/side_area.h"
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/desktop.h"
+#include "muxhost/window/interruption.h"
+#include "muxhost/window/side_area.h"
+#include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 

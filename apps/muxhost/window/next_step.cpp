@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/next_step.h"
+#include "muxhost/window/next_step.h"
 
 namespace quorvel::muxhost {
 

@@ -3,7 +3,7 @@
 #include <QString>
 #include <cstddef>
 
-#include "apps/muxhost/window/command_box.h"
+#include "muxhost/window/command_box.h"
 
 namespace quorvel::muxhost {
 

@@ -1,9 +1,9 @@
-#include "apps/muxhost/window/run_window.h"
+#include "muxhost/window/run_window.h"
 
 #include <QApplication>
 #include <QTimer>
 
-#include "apps/muxhost/window/main_window.h"
+#include "muxhost/window/main_window.h"
 #include "quorvel/widget_page.h"
 
 namespace quorvel::muxhost {

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/send_choice.h"
+#include "muxhost/window/send_choice.h"
 
 #include <QAbstractButton>
 #include <QApplication>

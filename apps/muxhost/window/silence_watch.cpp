@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/silence_watch.h"
+#include "muxhost/window/silence_watch.h"
 
 #include <utility>
 

@@ -1,11 +1,11 @@
-#include "apps/muxhost/window/upload.h"
+#include "muxhost/window/upload.h"
 
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "apps/muxhost/window/backup.h"
-#include "apps/muxhost/window/send_choice.h"
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/backup.h"
+#include "muxhost/window/send_choice.h"
+#include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 

@@ -2,11 +2,11 @@
 
 #include <functional>
 
-#include "apps/muxhost/going_along.h"
-#include "apps/muxhost/host_session.h"
-#include "apps/muxhost/window/backup_box.h"
-#include "apps/muxhost/window/event_log.h"
-#include "apps/muxhost/window/silence_watch.h"
+#include "muxhost/going_along.h"
+#include "muxhost/host_session.h"
+#include "muxhost/window/backup_box.h"
+#include "muxhost/window/event_log.h"
+#include "muxhost/window/silence_watch.h"
 #include "quorvel/qt_platform.h"
 
 namespace quorvel::muxhost {

@@ -1,9 +1,9 @@
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/words.h"
 
 #include <QMap>
 #include <QRegularExpression>
 
-#include "apps/muxhost/script/report.h"
+#include "muxhost/script/report.h"
 #include "quorvel/identity.h"
 
 namespace quorvel::muxhost {

@@ -3,10 +3,10 @@
 #include <QString>
 #include <span>
 
-#include "apps/muxhost/block_states.h"
-#include "apps/muxhost/device/link_fault.h"
-#include "apps/muxhost/exchange.h"
-#include "apps/muxhost/host_session.h"
+#include "muxhost/block_states.h"
+#include "muxhost/device/link_fault.h"
+#include "muxhost/exchange.h"
+#include "muxhost/host_session.h"
 #include "quorvel/platform.h"
 
 namespace quorvel::muxhost {

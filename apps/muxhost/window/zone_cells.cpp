@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/zone_cells.h"
+#include "muxhost/window/zone_cells.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/zone_editor.h"
+#include "muxhost/window/zone_editor.h"
 
 #include <QHBoxLayout>
 #include <QMessageBox>
@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "apps/muxhost/window/words.h"
+#include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 

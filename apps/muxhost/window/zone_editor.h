@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-#include "apps/muxhost/host_session.h"
-#include "apps/muxhost/window/zone_grid.h"
+#include "muxhost/host_session.h"
+#include "muxhost/window/zone_grid.h"
 
 namespace quorvel::muxhost {
 

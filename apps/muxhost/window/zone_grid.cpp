@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/zone_grid.h"
+#include "muxhost/window/zone_grid.h"
 
 #include <QFontMetrics>
 #include <QHeaderView>
@@ -8,7 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "apps/muxhost/window/zone_model.h"
+#include "muxhost/window/zone_model.h"
 
 namespace quorvel::muxhost {
 

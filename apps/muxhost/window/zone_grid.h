@@ -3,7 +3,7 @@
 #include <QTableView>
 #include <functional>
 
-#include "apps/muxhost/window/zone_cells.h"
+#include "muxhost/window/zone_cells.h"
 
 namespace quorvel::muxhost {
 

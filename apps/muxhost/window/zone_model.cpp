@@ -1,4 +1,4 @@
-#include "apps/muxhost/window/zone_model.h"
+#include "muxhost/window/zone_model.h"
 
 #include <QPainter>
 

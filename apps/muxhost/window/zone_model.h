@@ -4,7 +4,7 @@
 #include <QColor>
 #include <QStyledItemDelegate>
 
-#include "apps/muxhost/window/zone_cells.h"
+#include "muxhost/window/zone_cells.h"
 
 namespace quorvel::muxhost {
 

@@ -1,4 +1,4 @@
-#include "apps/muxhost/device/link_fault.h"
+#include "muxhost/device/link_fault.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <functional>
 #include <sstream>
 
-#include "apps/muxhost/script/runner.h"
+#include "muxhost/script/runner.h"
 
 namespace quorvel::muxhost {
 namespace {

@@ -1,4 +1,4 @@
-#include "apps/muxhost/device/simulated_device.h"
+#include "muxhost/device/simulated_device.h"
 
 #include <gtest/gtest.h>
 
