@@ -1,0 +1,3 @@
+#pragma once
+
+constexpr int kOfTheHost = 0;

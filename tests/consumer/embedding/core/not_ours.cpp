@@ -1,0 +1,1 @@
+#error "the host does not compile this, nor does the library"

@@ -1,0 +1,43 @@
+# Builds and runs a host's project and the examples against the libraries installed in PREFIX: with
+# find_package, and by the compiler with what pkg-config says; starts the installed tools.
+# Takes PREFIX, PROJECT (this repository), FOLDER (to work in), CXX, FLAGS; QT: the libraries for Qt
+# are there; NO_RPATH: programs find the libraries only where the system looks for them.
+function(run)
+  execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+file(GLOB pc_file ${PREFIX}/lib*/pkgconfig/quorvel.pc ${PREFIX}/lib*/*/pkgconfig/quorvel.pc)
+get_filename_component(pc_folder ${pc_file} DIRECTORY)
+get_filename_component(libraries ${pc_folder} DIRECTORY)
+if(NO_RPATH)
+  set(ENV{LD_LIBRARY_PATH} ${libraries})
+endif()
+set(ENV{PKG_CONFIG_PATH} ${pc_folder})
+set(ENV{QT_QPA_PLATFORM} offscreen)
+
+foreach(source tests/consumer examples)
+  run(${CMAKE_COMMAND} -S ${PROJECT}/${source} -B ${FOLDER}/${source} -G Ninja
+    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${FLAGS} -DCMAKE_PREFIX_PATH=${PREFIX}
+    -DWITH_QT=${QT} --no-warn-unused-cli)
+  run(${CMAKE_COMMAND} --build ${FOLDER}/${source})
+endforeach()
+run(${FOLDER}/tests/consumer/consumer)
+if(QT)
+  run(${FOLDER}/tests/consumer/consumer_qt)
+endif()
+run(${FOLDER}/examples/tiny_host)
+foreach(tool muxhost quorvel)
+  if(EXISTS ${PREFIX}/bin/${tool})
+    run(${PREFIX}/bin/${tool} --version)
+  endif()
+endforeach()
+
+execute_process(COMMAND pkg-config --cflags --libs quorvel-headless
+  OUTPUT_VARIABLE options OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(options UNIX_COMMAND "${FLAGS} ${options}")
+run(${CXX} -std=c++20 ${PROJECT}/tests/consumer/consumer.cpp ${options} -o ${FOLDER}/by_pkg_config)
+set(ENV{LD_LIBRARY_PATH} ${libraries})  # no option says where the libraries are when it runs
+run(${FOLDER}/by_pkg_config)
+if(QT)
+  run(pkg-config --exists --print-errors quorvel-qt)
+endif()
