@@ -3,12 +3,16 @@
 include(CMakePackageConfigHelpers)
 set(quorvel_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/quorvel)
 
-# EXPORT is a set of targets, a file of the package; what it holds may be installed alone.
-function(quorvel_install_targets export)
+# EXPORT is a set of targets, a file of the package; what it holds may be installed alone. COMPONENT
+# has what programs run with; what they are built with is "development".
+function(quorvel_install_targets export component)
   install(TARGETS ${ARGN} EXPORT ${export}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-  install(EXPORT ${export} NAMESPACE Quorvel:: DESTINATION ${quorvel_package_folder})
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${component}
+    NAMELINK_COMPONENT development
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${component})
+  install(EXPORT ${export} NAMESPACE Quorvel:: DESTINATION ${quorvel_package_folder}
+    COMPONENT development)
 endfunction()
 
 # The prefix is found from where the file lies: the folder may be moved.
@@ -16,21 +20,23 @@ function(quorvel_install_pkg_config name)
   set(folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
   file(RELATIVE_PATH quorvel_up /${folder} /)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${folder})
+  install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${folder} COMPONENT development)
 endfunction()
 
 if(NOT BUILD_SHARED_LIBS)
   set(quorvel_static_flag " -DQUORVEL_STATIC")
 endif()
 
-quorvel_install_targets(quorvel-targets quorvel quorvel_platform_common quorvel_headless)
-install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+quorvel_install_targets(quorvel-targets libraries
+  quorvel quorvel_platform_common quorvel_headless)
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 quorvel_install_pkg_config(quorvel)
 quorvel_install_pkg_config(quorvel-platform-common)
 quorvel_install_pkg_config(quorvel-headless)
 if(QUORVEL_QT)
-  quorvel_install_targets(quorvel-qt-targets quorvel_qt)
-  install(DIRECTORY platform/qt/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  quorvel_install_targets(quorvel-qt-targets qt quorvel_qt)
+  install(DIRECTORY platform/qt/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+    COMPONENT development)
   quorvel_install_pkg_config(quorvel-qt)
 endif()
 
@@ -41,4 +47,7 @@ write_basic_package_version_file(quorvel-config-version.cmake COMPATIBILITY Same
 install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/quorvel-config.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/quorvel-config-version.cmake
-  DESTINATION ${quorvel_package_folder})
+  DESTINATION ${quorvel_package_folder} COMPONENT development)
+install(FILES CHANGELOG.md docs/hosting.md docs/block-map.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  COMPONENT development)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)

@@ -31,3 +31,5 @@ BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
 RUN_PACKAGES=(fonts-dejavu-core)
 TEST_PACKAGES=(libgtest-dev clang clang-format pkg-config)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)
+# What Debian packages are made with, and the bare system in which they are tried out.
+PACKAGE_PACKAGES=(dpkg-dev file debootstrap pkg-config)
