@@ -38,8 +38,10 @@ class QUORVEL_HEADLESS_API HeadlessPlatform : public Platform {
   void Advance(int milliseconds);
   /// Milliseconds since the platform was made.
   [[nodiscard]] std::int64_t Elapsed() const { return now_; }
-  /// The wall clock at the start.
-  void SetNow(const LocalTime& now) { wall_clock_ = now; }
+  /// When the next event is due, on the clock of Elapsed; nothing when none is to come.
+  [[nodiscard]] std::optional<std::int64_t> NextDue() const;
+  /// Sets the wall clock. A new platform's shows the first second of 2000.
+  void SetNow(const LocalTime& now);
 
   // The screen.
 
@@ -108,11 +110,14 @@ class QUORVEL_HEADLESS_API HeadlessPlatform : public Platform {
   void RunUntil(std::int64_t limit);
 
   std::int64_t now_ = 0;
-  LocalTime wall_clock_;
+  LocalTime wall_clock_;  ///< as it was set
+  std::int64_t wall_clock_set_ = 0;
   std::uint64_t turns_ = 0;
   std::map<Turn, std::function<void()>> tasks_;
   /// Shared with the timers' owners; starting one needs no memory.
   struct TimerState;
+  /// The timer that is due first, or a null pointer.
+  [[nodiscard]] std::shared_ptr<TimerState> FirstTimer() const;
   std::vector<std::shared_ptr<TimerState>> timers_;
   std::vector<Dialog*> windows_;
   std::vector<Dialog*> modal_;

@@ -1,14 +1,15 @@
 #pragma once
 
-#include <string_view>
-
-#include "quorvel/export.h"
-
 /// The version of these headers. A change of the first number may need changes in a host's sources;
 /// before 1.0 the second number does the same.
 #define QUORVEL_VERSION_MAJOR 0
 #define QUORVEL_VERSION_MINOR 1
 #define QUORVEL_VERSION_PATCH 0
+
+#ifdef __cplusplus
+#include <string_view>
+
+#include "quorvel/export.h"
 
 namespace quorvel {
 
@@ -16,3 +17,5 @@ namespace quorvel {
 [[nodiscard]] QUORVEL_API std::string_view Version();
 
 }  // namespace quorvel
+
+#endif  // __cplusplus

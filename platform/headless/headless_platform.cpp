@@ -66,11 +66,24 @@ void HeadlessPlatform::PostIn(int milliseconds, std::function<void()> task) {
   tasks_.emplace(NewTurn(milliseconds), std::move(task));
 }
 
-bool HeadlessPlatform::RunNext(std::int64_t limit) {
+std::shared_ptr<HeadlessPlatform::TimerState> HeadlessPlatform::FirstTimer() const {
   std::shared_ptr<TimerState> timer;
   for (const auto& it : timers_) {
     if (it->due && (timer == nullptr || *it->due < *timer->due)) timer = it;
   }
+  return timer;
+}
+
+std::optional<std::int64_t> HeadlessPlatform::NextDue() const {
+  const auto timer = FirstTimer();
+  if (timer == nullptr && tasks_.empty()) return std::nullopt;
+  if (timer == nullptr) return tasks_.begin()->first.first;
+  if (tasks_.empty()) return timer->due->first;
+  return std::min(tasks_.begin()->first.first, timer->due->first);
+}
+
+bool HeadlessPlatform::RunNext(std::int64_t limit) {
+  const std::shared_ptr<TimerState> timer = FirstTimer();
   const bool is_task = !tasks_.empty() && (timer == nullptr || tasks_.begin()->first < *timer->due);
   if (!is_task && timer == nullptr) return false;
   const std::int64_t due = is_task ? tasks_.begin()->first.first : timer->due->first;
@@ -192,6 +205,11 @@ std::unique_ptr<Timer> HeadlessPlatform::NewTimer(std::function<void()> tick) {
   return std::make_unique<VirtualTimer>(timers_.back());
 }
 
+void HeadlessPlatform::SetNow(const LocalTime& now) {
+  wall_clock_ = now;
+  wall_clock_set_ = now_;
+}
+
 LocalTime HeadlessPlatform::Now() const {
   using std::chrono::days;
   using std::chrono::sys_days;
@@ -202,7 +220,7 @@ LocalTime HeadlessPlatform::Now() const {
       std::chrono::day(static_cast<unsigned>(start_date.day))};
   const auto moment = sys_days(start) + std::chrono::hours(start_time.hour) +
                       std::chrono::minutes(start_time.minute) +
-                      std::chrono::seconds(start_time.second + now_ / 1000);
+                      std::chrono::seconds(start_time.second + (now_ - wall_clock_set_) / 1000);
   const auto midnight = std::chrono::floor<days>(moment);
   const std::chrono::year_month_day date(midnight);
   const std::chrono::hh_mm_ss time(moment - midnight);
