@@ -111,7 +111,7 @@ typedef struct quorvel_platform_events {
   // before.
   void (*message)(void* user, quorvel_platform* platform, const quorvel_message* message);
   void (*file)(void* user, quorvel_platform* platform, const quorvel_file_request* request);
-  // What the control does, for a log of yours.
+  // For a log of yours, in English; no value of a setting is told. It may call nothing.
   void (*log)(void* user, quorvel_platform* platform, int32_t level, const char* text);
 } quorvel_platform_events;
 

@@ -97,7 +97,10 @@ quorvel_result quorvel_control_update_act_grid(quorvel_control* control, const u
 }
 
 quorvel_result quorvel_control_use_pc_time(quorvel_control* control, int32_t* use) {
-  return Run([&] { *Given(use, "use") = Of(control)->UsePcTime() ? 1 : 0; });
+  return Run([&] {
+    const auto held = Of(control);
+    *Given(use, "use") = held->UsePcTime() ? 1 : 0;
+  });
 }
 
 quorvel_result quorvel_control_set_use_pc_time(quorvel_control* control, int32_t use) {

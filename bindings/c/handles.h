@@ -19,6 +19,7 @@ class Platform final : public HeadlessPlatform {
 
   bool Ask(const Message& message) override;
   std::optional<std::string> AskFile(const FileRequest& request) override;
+  void Log(LogLevel level, std::string_view text) override;
 
  private:
   quorvel_platform_events events_;

@@ -43,6 +43,7 @@ quorvel_message Shown(const Message& message, const std::string& lines) {
   shown.size = sizeof shown;
   shown.text = lines.c_str();
   shown.title = message.title.c_str();
+  shown.kind = static_cast<std::int32_t>(message.kind);
   shown.can_cancel = message.buttons == Message::Buttons::kOkCancel ? 1 : 0;
   return shown;
 }
@@ -77,6 +78,11 @@ std::optional<std::string> Platform::AskFile(const FileRequest& request) {
   auto path = HeadlessPlatform::AskFile(request);
   static_cast<void>(TakeFileRequests());
   return path;
+}
+
+void Platform::Log(quorvel::LogLevel level, std::string_view text) {
+  if (handle == nullptr || events_.log == nullptr) return;
+  events_.log(events_.user, handle, static_cast<std::int32_t>(level), std::string(text).c_str());
 }
 
 namespace {
@@ -133,7 +139,10 @@ quorvel_result quorvel_platform_advance(quorvel_platform* platform, int32_t mill
 }
 
 quorvel_result quorvel_platform_elapsed(quorvel_platform* platform, int64_t* milliseconds) {
-  return Run([&] { *Given(milliseconds, "milliseconds") = Of(platform)->Elapsed(); });
+  return Run([&] {
+    const auto held = Of(platform);
+    *Given(milliseconds, "milliseconds") = held->Elapsed();
+  });
 }
 
 quorvel_result quorvel_platform_next_due(quorvel_platform* platform, int64_t* milliseconds) {
@@ -147,8 +156,9 @@ quorvel_result quorvel_platform_next_due(quorvel_platform* platform, int64_t* mi
 quorvel_result quorvel_platform_post(quorvel_platform* platform, int32_t milliseconds,
                                      void (*task)(void* user), void* user) {
   return Run([&] {
+    const auto held = Of(platform);
     static_cast<void>(Given(task, "the task"));
-    Of(platform)->PostIn(milliseconds, [task, user] { task(user); });
+    held->PostIn(milliseconds, [task, user] { task(user); });
   });
 }
 
@@ -176,10 +186,11 @@ quorvel_result quorvel_platform_answer_file(quorvel_platform* platform, const ch
 quorvel_result quorvel_platform_take_messages(quorvel_platform* platform,
                                               quorvel_visit_message visit, void* user) {
   return Run([&] {
-    static_cast<void>(Given(visit, "the visitor"));
+    const auto held = Of(platform);
+    static_cast<void>(Given(visit, "the visitor"));  // what it cannot see is not taken
     std::string lines;
     ShowEach(
-        Of(platform)->TakeMessages(),
+        held->TakeMessages(),
         [&lines](const quorvel::Message& message) {
           lines = Lines(message);
           return Shown(message, lines);
@@ -191,9 +202,10 @@ quorvel_result quorvel_platform_take_messages(quorvel_platform* platform,
 quorvel_result quorvel_platform_take_file_requests(quorvel_platform* platform,
                                                    quorvel_visit_file_request visit, void* user) {
   return Run([&] {
+    const auto held = Of(platform);
     static_cast<void>(Given(visit, "the visitor"));
     ShowEach(
-        Of(platform)->TakeFileRequests(),
+        held->TakeFileRequests(),
         [](const quorvel::FileRequest& request) { return Shown(request); }, visit, user);
   });
 }
@@ -201,8 +213,9 @@ quorvel_result quorvel_platform_take_file_requests(quorvel_platform* platform,
 quorvel_result quorvel_platform_take_stalled(quorvel_platform* platform, quorvel_visit_text visit,
                                              void* user) {
   return Run([&] {
+    const auto held = Of(platform);
     static_cast<void>(Given(visit, "the visitor"));
-    for (const std::string& name : Of(platform)->TakeStalled()) {
+    for (const std::string& name : held->TakeStalled()) {
       if (visit(user, name.c_str()) != 0) return;
     }
   });
@@ -212,9 +225,9 @@ quorvel_result quorvel_platform_offer_texts(quorvel_platform* platform, const ch
                                             const char* (*text)(void* user, int32_t id),
                                             void* user) {
   return Run([&] {
+    const auto held = Of(platform);
     static_cast<void>(Given(text, "text"));
     const std::string id = Given(class_id, "the class identifier");
-    Of(platform)->Classes().Register(id,
-                                     [text, user] { return std::make_shared<Texts>(text, user); });
+    held->Classes().Register(id, [text, user] { return std::make_shared<Texts>(text, user); });
   });
 }

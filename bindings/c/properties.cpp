@@ -56,11 +56,17 @@ quorvel_result quorvel_control_set_properties(quorvel_control* control,
 }
 
 quorvel_result quorvel_control_properties_changed(quorvel_control* control, int32_t* changed) {
-  return Run([&] { *Given(changed, "changed") = Of(control)->PropertiesChanged() ? 1 : 0; });
+  return Run([&] {
+    const auto held = Of(control);
+    *Given(changed, "changed") = held->PropertiesChanged() ? 1 : 0;
+  });
 }
 
 quorvel_result quorvel_control_enabled(quorvel_control* control, int32_t* enabled) {
-  return Run([&] { *Given(enabled, "enabled") = Of(control)->Enabled() ? 1 : 0; });
+  return Run([&] {
+    const auto held = Of(control);
+    *Given(enabled, "enabled") = held->Enabled() ? 1 : 0;
+  });
 }
 
 quorvel_result quorvel_control_set_enabled(quorvel_control* control, int32_t enabled) {
@@ -68,7 +74,10 @@ quorvel_result quorvel_control_set_enabled(quorvel_control* control, int32_t ena
 }
 
 quorvel_result quorvel_control_host_comm_id(quorvel_control* control, uint8_t* id) {
-  return Run([&] { *Given(id, "id") = Of(control)->HostCommId(); });
+  return Run([&] {
+    const auto held = Of(control);
+    *Given(id, "id") = held->HostCommId();
+  });
 }
 
 quorvel_result quorvel_control_set_host_comm_id(quorvel_control* control, uint8_t id) {
