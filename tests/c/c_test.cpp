@@ -211,7 +211,7 @@ TEST(CInterface, ShowsTheScreen) {
   EXPECT_EQ(seen,
             "m_CameraTitle(0) text box T\xC3\xBCr 0,0\n"
             "SSTab1 tabs *0 \"Camera Setup\", 1 \"Camera AGC\", 2 \"Other Settings\" 3,0\n"
-            "lstSnlGain list 0 \"50\" 101,0 off\n");
+            "lstSnlGain list 0 \"50\" of 101 101,0 off\n");
   std::array<char, 40> cell{};
   const auto get = [&](int row) {
     return quorvel_platform_cell(host.platform, "MSFG_SnlGain", row, 0, cell.data(), 40, nullptr);
