@@ -24,12 +24,12 @@ install_missing() {
     apt-get install -q -y --no-install-recommends "${missing[@]}" >&2
 }
 
-# What building needs; what testing needs on top, which is done with two compilers. The fuzz targets
-# need the sanitizers of the second, a package that it only recommends, and llvm, which names the
-# lines of a failure.
+# What building needs; what testing needs on top, which is done with two compilers, and with a third
+# where public headers are concerned. The fuzz targets need the sanitizers of the second, a package
+# that it only recommends, and llvm, which names the lines of a failure.
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
 RUN_PACKAGES=(fonts-dejavu-core)
-TEST_PACKAGES=(libgtest-dev clang clang-format pkg-config)
+TEST_PACKAGES=(libgtest-dev clang clang-19 clang-format pkg-config)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)
 # What Debian packages are made with, and the bare system in which they are tried out.
 PACKAGE_PACKAGES=(dpkg-dev file debootstrap pkg-config)
