@@ -43,7 +43,12 @@ std::shared_ptr<Component> Component::Create(Platform& platform, MainMenuEvents&
 }
 
 Component::Component(Platform& platform, MainMenuEvents& host)
-    : context(platform), host_(host), upload_(context, host_), download_(context, host_) {
+    : context(platform),
+      host_(host),
+      send_dialog_(context, upload_),
+      upload_(context, host_, send_dialog_),
+      receive_dialog_(context, download_),
+      download_(context, host_, receive_dialog_) {
   surface.SetLabel(kComponentName);
   surface.on_click = [this] { Call("Click", [this] { host_->Click(); }); };
   surface.on_double_click = [this] { Call("DblClick", [this] { host_->DblClick(); }); };
@@ -75,18 +80,19 @@ void Component::WriteProperties(PropertyBag& bag) {
 void Component::Terminate() {
   context.edges.terminated = true;
   host_.Detach();
-  upload_.CloseDialog();
-  download_.CloseDialog();
+  send_dialog_.Over();
+  upload_.Stop({});
+  receive_dialog_.Close();
   if (frmMPop != nullptr) frmMPop->Unload();
 }
 
 void Component::Custom(std::int16_t command, std::int32_t param1, std::int32_t param2) {
   switch (command) {
-    case 10: return download_.Receive();
-    case 11: return upload_.Send();
+    case 10: return receive_dialog_.Receive();
+    case 11: return send_dialog_.Send();
     case 12:
       return context.edges.Guard("RestoreImageFromFile",
-                                 [this] { download_.RestoreImageFromFile(); });
+                                 [this] { receive_dialog_.RestoreImageFromFile(); });
     case 14: return context.edges.Guard("SaveImageToFile", [this] { SaveImageToFile(context); });
     case 15: return OpenMenu(static_cast<std::int16_t>(param1));
     case 16: return download_.BuildDefaults();
@@ -147,6 +153,39 @@ LoadAnswer Component::LoadDefaults(Byte cameras, Byte model_code, std::string_vi
     download_.LoadDefaults(NamedDevice(cameras, model_code, model_name, variant));
     return std::string();
   });
+}
+
+bool Component::StartReceive() {
+  if (!upload_.Run().UnderWay()) return download_.Receive();
+  download_.Refuse("A send is under way.");
+  return false;
+}
+
+bool Component::StartSend(const SendChoice& choice) {
+  if (!download_.Run().UnderWay()) return upload_.Send(choice);
+  upload_.Refuse("A receive is under way.");
+  return false;
+}
+
+void Component::CancelTransfer() {
+  if (upload_.Run().UnderWay()) {
+    upload_.Cancel();
+  } else {
+    download_.Cancel();
+  }
+}
+
+ControlState Component::State() const {
+  ControlState state;
+  state.has_image = context.device.HasImage();
+  state.combined = context.host.ComboMode;
+  const bool sends = upload_.Run().UnderWay();
+  const TransferRun& run = sends ? upload_.Run() : download_.Run();
+  if (!run.UnderWay()) return state;
+  state.under_way = sends ? TransferKind::kSend : TransferKind::kReceive;
+  state.done = run.Done();
+  state.total = run.Total();
+  return state;
 }
 
 /// Works on copies: the image itself is encoded when it is sent.

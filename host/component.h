@@ -10,6 +10,8 @@
 #include "host/activity_grid.h"
 #include "host/download.h"
 #include "host/host_events.h"
+#include "host/receive_dialog.h"
+#include "host/send_dialog.h"
 #include "host/upload.h"
 #include "quorvel/control_surface.h"
 #include "quorvel/property_bag.h"
@@ -56,6 +58,11 @@ class Component : public std::enable_shared_from_this<Component> {
   [[nodiscard]] LoadAnswer LoadDefaults(Byte cameras, Byte model_code, std::string_view model_name,
                                         char variant);
   void UsePcTime(bool use);
+  void Observe(TransferObserver* observer) { host_.Observe(observer); }
+  [[nodiscard]] bool StartReceive();
+  [[nodiscard]] bool StartSend(const SendChoice& choice);
+  void CancelTransfer();
+  [[nodiscard]] ControlState State() const;
   void TriggerUploadTimer() { upload_.TriggerTimer(); }
 
   Context context;
@@ -67,7 +74,9 @@ class Component : public std::enable_shared_from_this<Component> {
   void SendActivityGrid(int camera);
 
   HostEvents host_;
+  SendDialog send_dialog_;
   Upload upload_;
+  ReceiveDialog receive_dialog_;
   Download download_;
   std::shared_ptr<frm_Menu> frmMPop;
   ActivityGridBytes ActGridBuf{};

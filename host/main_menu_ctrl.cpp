@@ -95,6 +95,26 @@ LoadAnswer MainMenuCtrl::LoadDefaults(std::uint8_t cameras, std::uint8_t model_c
   return answer;
 }
 
+void MainMenuCtrl::Observe(TransferObserver* observer) { component_->Observe(observer); }
+
+bool MainMenuCtrl::StartReceive() {
+  bool begun = false;
+  component_->Call("StartReceive", [&, &it = *component_] { begun = it.StartReceive(); });
+  return begun;
+}
+
+bool MainMenuCtrl::StartSend(const SendChoice& choice) {
+  bool begun = false;
+  component_->Call("StartSend", [&, &it = *component_, choice] { begun = it.StartSend(choice); });
+  return begun;
+}
+
+void MainMenuCtrl::CancelTransfer() {
+  component_->Call("CancelTransfer", [&it = *component_] { it.CancelTransfer(); });
+}
+
+ControlState MainMenuCtrl::State() const { return component_->State(); }
+
 bool MainMenuCtrl::UsePcTime() const { return component_->context.device.UsePcTime; }
 
 void MainMenuCtrl::UsePcTime(bool use) {

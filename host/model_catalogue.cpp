@@ -88,20 +88,28 @@ bool IsVideoTwin(const ConnectedIdentity& connected, Byte code) {
          code == (connected.ConnModelCode ^ 1);
 }
 
-bool CheckLoadedIdentity(Context& context) {
-  if (!context.device.LoadedFromFile) return true;
+std::optional<IdentityMismatch> FindIdentityMismatch(const Context& context) {
+  if (!context.device.LoadedFromFile) return std::nullopt;
   const ImageIdentity identity = IdentityOf(context.device.BlkImage);
-  if (IdentityFits(context.host.connected, identity)) return true;
-  const auto shown = [&context](const std::string& bytes) {
-    return context.platform.ToUtf8(bytes);
+  if (IdentityFits(context.host.connected, identity)) return std::nullopt;
+  const auto shown = [&context](const std::string& name, int which) {
+    return context.platform.ToUtf8(name) + ModelDescription(context, which);
   };
-  context.platform.Ask(
-      {context.GetText(txt::kDataDoesNotMatch) + "\r" + context.GetText(txt::kConnectedToModel) +
-           "  " + shown(context.host.connected.ConnModelName) +
-           ModelDescription(context, kOfConnected) + "\r" +
-           context.GetText(txt::kLoadingFromModel) + "  " + shown(identity.name) +
-           ModelDescription(context, kOfImage),
-       context.GetText(txt::kErrorMessage), Message::Buttons::kOk, Message::Kind::kError});
+  return IdentityMismatch{shown(context.host.connected.ConnModelName, kOfConnected),
+                          shown(identity.name, kOfImage)};
+}
+
+bool CheckLoadedIdentity(Context& context) {
+  const auto mismatch = FindIdentityMismatch(context);
+  if (!mismatch) return true;
+  const auto line = [&context](int text, const std::string& device) {
+    return "\r" + context.GetText(text) + "  " + device;
+  };
+  const Message message{
+      context.GetText(txt::kDataDoesNotMatch) + line(txt::kConnectedToModel, mismatch->connected) +
+          line(txt::kLoadingFromModel, mismatch->of_image),
+      context.GetText(txt::kErrorMessage), Message::Buttons::kOk, Message::Kind::kError};
+  if (!context.edges.terminated) context.platform.Ask(message);
   return false;
 }
 

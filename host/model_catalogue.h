@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,9 +23,17 @@ void SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data);
 /// True when `code` is the NTSC or PAL twin of the connected model.
 [[nodiscard]] bool IsVideoTwin(const ConnectedIdentity& connected, Byte code);
 
-/// True when the image may be written to the connected device. An image that was restored from a
-/// file must come from a device of the same model, and of the same name where it holds one;
-/// otherwise a message tells both.
+/// The connected device and that of the image, each as "UNIT 1 (16 ch, Triplex NTSC)", UTF-8.
+struct IdentityMismatch {
+  std::string connected;
+  std::string of_image;
+};
+
+/// Nothing when the image may be written to the connected device. An image that was restored from a
+/// file must come from a device of the same model, and of the same name where it holds one.
+[[nodiscard]] std::optional<IdentityMismatch> FindIdentityMismatch(const Context& context);
+
+/// True when there is no mismatch; otherwise a message tells it.
 [[nodiscard]] bool CheckLoadedIdentity(Context& context);
 
 }  // namespace quorvel

@@ -1,12 +1,12 @@
 #include "host/upload.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "core/change_marks.h"
 #include "core/combined_fix_ups.h"
 #include "host/combined_exchange.h"
-#include "host/model_catalogue.h"
 #include "host/send_plan.h"
 #include "resources/text_table.h"
 #include "ui/context.h"
@@ -17,120 +17,163 @@ namespace {
 
 constexpr int kSendingInterval = 50;  // milliseconds
 constexpr int kEndedInterval = 500;
-/// After STOP, START waits for the acknowledgement of the packet that is still on its way. A packet
-/// that has not been acknowledged for this long is lost.
+/// A send waits for the acknowledgement of the packet of a stopped one that is still on its way. A
+/// packet that has not been acknowledged for this long is lost.
 constexpr int kPatience = 2000;
 constexpr Byte kEndPacket = 255;
+constexpr std::string_view kAnother = "Another send has begun.";
 
 }  // namespace
 
-Upload::Upload(Context& context, HostEvents& host) : context_(context), host_(host) {
+Upload::Upload(Context& context, HostEvents& host, UploadListener& dialog)
+    : context_(context), host_(host), dialog_(dialog) {
   Timer1 =
       context_.platform.NewTimer([this] { context_.edges.Guard("Timer1", [this] { Tick(); }); });
-  patience_ = context_.platform.NewTimer([this] {
-    context_.edges.Guard("patience", [this] {
-      patience_->Stop();
-      outstanding_ = false;
-      if (state_ == State::kWaiting) Timer1->Start();
-    });
-  });
+  patience_ = context_.platform.NewTimer(
+      [this] { context_.edges.Guard("patience", [this] { LosePacket(); }); });
   patience_->SetInterval(kPatience);
 }
 
-bool Upload::FamilyFits() const {
-  const auto host = context_.host.HostType;
-  if (context_.host.HostCommId != 0) return true;
-  return context_.device.env.identity.IsTriplex() ? host != 16 : host != 48 && host != 112;
+bool Upload::GoesOn(int round) const { return round == round_ && !context_.edges.terminated; }
+
+template <class Body>
+void Upload::Step(Body&& body) {
+  const int round = round_;
+  const bool quiet = quiet_;
+  try {
+    body();
+  } catch (...) {
+    if (!quiet) throw;
+    const std::string why = FailureReason();
+    if (!GoesOn(round) || !run_.UnderWay()) return context_.edges.Log(LogLevel::kError, why);
+    Halt();
+    run_.End(TransferEnd::kFailed, why);
+  }
 }
 
-void Upload::RefuseData() {
-  context_.platform.Ask({context_.GetText(txt::kDataDoesNotMatch),
-                         context_.GetText(txt::kErrorMessage), Message::Buttons::kOk,
-                         Message::Kind::kError});
+template <class Body>
+void Upload::Finish(Body&& event) {
+  const int round = round_;
+  const bool quiet = quiet_;
+  try {
+    event();
+  } catch (...) {
+    if (!quiet && GoesOn(round)) run_.End(TransferEnd::kFailed, FailureReason());
+    throw;
+  }
+  if (GoesOn(round)) run_.End(TransferEnd::kFinished);
 }
 
-Upload::Basis Upload::PresentBasis() const {
-  return {context_.device.ImageGeneration(), context_.host.ComboMode, context_.host.HostType,
-          context_.host.HostCommId, context_.host.connected};
-}
-
-bool Upload::DataFits() {
-  if (context_.device.HasImage() && FamilyFits()) return CheckLoadedIdentity(context_);
-  RefuseData();
+bool Upload::Send(const SendChoice& choice) {
+  std::string why;
+  try {
+    why = WhyNotBegun(choice);
+    if (why.empty()) {
+      dialog_.Over();
+      context_.EncodeListedBlocks();
+      Start(choice, PresentBasis(context_), true);
+      return true;
+    }
+  } catch (...) {
+    why = FailureReason();
+  }
+  run_.Refuse(why);
   return false;
 }
 
-void Upload::Send() {
-  const Basis basis = PresentBasis();
-  if (context_.device.HasImage()) context_.EncodeListedBlocks();
-  if (!DataFits()) return;
-  CloseDialog();
-  // A text source of the host may do anything while the dialog asks it for texts.
-  const auto dialog = std::make_shared<frm_ToMux>(context_);
-  if (context_.edges.terminated || frmDL != nullptr) return;
-  basis_ = basis;
-  const std::weak_ptr<frm_ToMux> weak = dialog;
-  dialog->StartDL = [this, weak](const SendChoice& choice) {
-    const auto started = weak.lock();
-    if (started == nullptr || started != frmDL) return;
-    context_.edges.Guard("StartDL", [&] { StartDL(started, choice); });
-  };
-  dialog->StopDL = [this, weak] {
-    if (weak.lock() == frmDL) StopDL();
-  };
-  dialog->ClearBlk = [this] { ClearBlocks(); };
-  frmDL = dialog;
-  dialog->ShowModal();
+/// Stops what is under way when this send can follow. What the observer does meanwhile counts, too.
+std::string Upload::WhyNotBegun(const SendChoice& choice) {
+  std::string why = WhyNotSent(context_, choice);
+  if (!why.empty()) return why;
+  const int round = round_ + 1;
+  Stop(kAnother);
+  return GoesOn(round) ? WhyNotSent(context_, choice) : "Something else has begun meanwhile.";
 }
 
-void Upload::CloseDialog() {
-  const auto dialog = std::move(frmDL);
-  if (dialog == nullptr) return;
-  StopDL();
-  dialog->Close();
+void Upload::Start(const SendChoice& choice, const SendBasis& basis, bool quiet) {
+  const int round = round_ + 1;
+  Stop(kAnother);
+  if (!GoesOn(round)) return;
+  basis_ = basis;
+  quiet_ = quiet;
+  end_packet_went_ = false;
+  if (!BasisHolds()) return;
+  Step([&] {
+    if (context_.host.ComboMode) {
+      StartCombined(choice);
+    } else {
+      StartBlocks(choice);
+    }
+  });
+}
+
+void Upload::Stop(std::string_view why) {
+  ++round_;
+  Halt();
+  if (end_packet_went_) return run_.End(TransferEnd::kFinished);  // the host has it all
+  run_.End(TransferEnd::kStopped, why);
+}
+
+void Upload::Cancel() {
+  if (!run_.UnderWay()) return;
+  const bool quiet = quiet_;
+  const int round = round_ + 1;
+  Stop("The host has cancelled it.");
+  if (!quiet && GoesOn(round)) dialog_.Over();
 }
 
 /// An image that has come since, or another device, has not been compared: that image is not sent,
 /// nor mixed into a send of the one before; that device is given no block.
 bool Upload::BasisHolds() {
-  if (basis_ == PresentBasis()) return true;
-  CloseDialog();
-  RefuseData();
+  if (basis_ == PresentBasis(context_)) return true;
+  const bool quiet = quiet_;
+  const int round = ++round_;
+  Halt();
+  const std::string why = std::string(BuiltInText(txt::kDataDoesNotMatch)) + ".";
+  if (run_.UnderWay()) {
+    run_.End(TransferEnd::kRefused, why);
+  } else {
+    run_.Refuse(why);
+  }
+  if (!quiet && GoesOn(round)) dialog_.DoesNotMatch();
   return false;
 }
 
-void Upload::StartDL(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice) {
-  if (!BasisHolds()) return;
-  if (context_.host.ComboMode) {
-    StartCombined(dialog, choice);
-  } else {
-    StartBlocks(*dialog, choice);
-  }
-}
-
-void Upload::StartCombined(const std::shared_ptr<frm_ToMux>& dialog, const SendChoice& choice) {
+void Upload::StartCombined(const SendChoice& choice) {
   const bool listed_only = choice.IncludeData && !choice.all_blocks;
   ProvideComboArray(context_.device, context_.host.combo_sizes);
   if (listed_only) {
     PutListedBlocks();
-    dialog->ShowClearBlocks();
+    if (!quiet_) dialog_.ListedBlocksGo();
     // The device keeps its macros: it is given the listed blocks alone.
-    if (!choice.IncludeMacros) return StartBlocks(*dialog, choice);
+    if (!choice.IncludeMacros) return StartBlocks(choice);
   } else if (choice.IncludeData) {
     FixUpForCombinedSend(context_.device.BlkImage, context_.device.env, context_.device.Record(),
                          context_.device.UsePcTime);
     context_.device.ComboArray.PutImage(context_.device.BlkImage);
   }
-  if (choice.IncludeMacros && !MacrosFit()) return;
-  if (dialog != frmDL || !BasisHolds()) return;  // while the user was asked
+  const int round = round_;
+  // Without a dialog this was decided before.
+  if (choice.IncludeMacros && !quiet_ && MacroSizeDiffers(context_) && !dialog_.AcceptMacroSize())
+    return;
+  if (GoesOn(round) && BasisHolds()) SendArray(choice);  // while the user was asked
+}
+
+void Upload::SendArray(const SendChoice& choice) {
   // What is sent is a copy: the lengths of what is left out are 0 in it, and the host may write
   // into it.
   std::vector<Byte> array =
       context_.device.ComboArray.Outgoing(choice.IncludeData, choice.IncludeMacros);
   const auto included = IncludedBlocks(choice);
-  host_->SendComboBlocks(array);
-  for (const HandedOver& block : included) NoteTaken(block);
-  dialog->ShowFinished();
+  run_.Begin(quiet_, 1);
+  Finish([&] {
+    const int round = round_;
+    const bool quiet = quiet_;
+    host_->SendComboBlocks(array);
+    for (const HandedOver& block : included) NoteTaken(block);
+    if (!quiet && GoesOn(round)) dialog_.AllIsSent();
+    if (GoesOn(round)) run_.Advance(1, 1);
+  });
 }
 
 /// The blocks that a combined send brings up to date. There is no acknowledgement: what was sent
@@ -161,27 +204,20 @@ void Upload::PutListedBlocks() {
   }
 }
 
-/// Macro data of another record size is sent only when the user agrees.
-bool Upload::MacrosFit() {
-  if (context_.host.combo_sizes.ComboMacroSize == context_.device.ComboArray.Header().MacroRecSize)
-    return true;
-  return context_.platform.Ask({context_.GetText(txt::kMacroSizeDifference) + "\r" +
-                                    context_.GetText(txt::kSomeVariablesNotUpdated),
-                                context_.GetText(txt::kMessage), Message::Buttons::kOkCancel,
-                                Message::Kind::kQuestion});
-}
-
 std::vector<Byte> Upload::Plan(bool all_blocks, bool macros) const {
   return all_blocks
              ? PlanAllBlocks(context_.device.BlkImage, macros)
              : PlanListedBlocks(context_.device.env.blocks, context_.device.BlkImage, macros);
 }
 
-void Upload::StartBlocks(frm_ToMux& dialog, const SendChoice& choice) {
+void Upload::StartBlocks(const SendChoice& choice) {
   plan_ = Plan(choice.all_blocks, choice.IncludeMacros);
   next_ = 0;
-  if (plan_.empty()) dialog.ShowFinished();
-  dialog.ShowSending();
+  run_.Begin(quiet_, static_cast<int>(plan_.size()));
+  if (!quiet_) {
+    if (plan_.empty()) dialog_.AllIsSent();
+    dialog_.BlocksGo();
+  }
   Enter(outstanding_ ? State::kWaiting : State::kRunning);
   if (state_ == State::kRunning) Timer1->Start();
 }
@@ -191,48 +227,64 @@ void Upload::Enter(State state) {
   Timer1->SetInterval(state == State::kEnded ? kEndedInterval : kSendingInterval);
 }
 
-void Upload::StopDL() {
+void Upload::Halt() {
   Enter(State::kEnded);
   Timer1->Stop();
 }
 
-/// Empties the list and puts the marks that tell the device what changed to rest.
-void Upload::ClearBlocks() {
-  context_.device.env.blocks.BlkSavIdx(0);
-  ClearChangeMarks(context_.device.BlkImage, context_.device.ComboArray, context_.device.env,
-                   context_.device.Record());
+void Upload::LosePacket() {
+  patience_->Stop();
+  outstanding_ = false;
+  if (unacknowledged_) {
+    context_.edges.Log(LogLevel::kWarning, "block " + std::to_string(unacknowledged_->number) +
+                                               " has not been acknowledged for two seconds");
+  }
+  if (state_ == State::kWaiting) Timer1->Start();
 }
 
 void Upload::TriggerTimer() {
+  if (!outstanding_) {
+    context_.edges.Log(LogLevel::kWarning, "TriggerUploadTimer: no packet is outstanding");
+  }
   outstanding_ = false;
   patience_->Stop();
   if (const auto block = std::exchange(unacknowledged_, std::nullopt)) NoteTaken(*block);
   if (state_ == State::kWaiting || state_ == State::kRunning) Timer1->Start();
+  if (state_ == State::kRunning) {
+    run_.Advance(static_cast<int>(next_), static_cast<int>(plan_.size()));
+  }
 }
 
 void Upload::Tick() {
   Timer1->Stop();
   state_ = State::kRunning;
-  if (frmDL == nullptr || !BasisHolds()) return;
-  if (next_ == plan_.size()) {
-    SendEndPacket();
-    return;
-  }
+  if (!run_.UnderWay() || !BasisHolds()) return;
+  Step([this] {
+    if (next_ == plan_.size()) {
+      SendEndPacket();
+    } else {
+      SendNextBlock();
+    }
+  });
+}
+
+void Upload::SendNextBlock() {
   const Byte number = plan_[next_++];
   const HandedOver block = HandOver(number);
   std::array<Byte, kPacketSize> packet{number};
   std::ranges::copy(block.bytes, packet.begin() + 1);
-  frmDL->ShowBlock(number, next_ == plan_.size());
+  if (!quiet_) dialog_.BlockGoes(number, next_ == plan_.size());
   unacknowledged_ = block;
   SendPacket(packet);
 }
 
 void Upload::SendEndPacket() {
-  StopDL();
-  frmDL->ShowEnded();
+  Halt();
+  if (!quiet_) dialog_.EndPacketGoes();
   std::array<Byte, kPacketSize> packet{kEndPacket};
   unacknowledged_.reset();
-  SendPacket(packet);
+  end_packet_went_ = true;
+  Finish([&] { SendPacket(packet); });
 }
 
 void Upload::SendPacket(std::array<Byte, kPacketSize>& packet) {

@@ -78,6 +78,28 @@ class QUORVEL_API MainMenuCtrl {
   /// The host has written the last packet of DownLoadData and is ready for the next.
   std::int32_t TriggerUploadTimer();
 
+  // Transfers without dialogs. They return at once and go on with the host's answers to the events,
+  // which may come from inside the events already.
+
+  /// Who hears how transfers go on, those of commands 10 and 11 included. It must outlive the
+  /// control, or be taken back with a null pointer.
+  void Observe(TransferObserver* observer);
+  /// Begins to receive the device's image: asks for block 1 or the combined array. The rest is as
+  /// with command 10, but nothing is shown; what goes wrong is told to the observer. A receive that
+  /// is under way begins anew. One that is never answered stays under way until it is cancelled.
+  /// False when it cannot begin: during a send.
+  bool StartReceive();
+  /// Begins to send what was chosen, with the checks, the pace and the rest of command 11, but
+  /// nothing is shown or asked. A send that is under way begins anew. It has finished when every
+  /// block was acknowledged and the end packet was handed over, or SendComboBlocks has returned.
+  /// False when it cannot begin: without an image or anything to send, when the data does not fit
+  /// the device, when macros have another size and accept_macro_size is not set, during a receive.
+  bool StartSend(const SendChoice& choice);
+  /// Stops the transfer that State tells of, and closes its dialog if it has one. Nothing while
+  /// none is under way.
+  void CancelTransfer();
+  [[nodiscard]] ControlState State() const;
+
   /// Loads the bytes of a settings file as command 12 does, but shows, asks and raises nothing: the
   /// host asked for it and has the answer. As there, a receive that is under way is stopped, a send
   /// ends before its next packet, and what was loaded is compared with the connected device before
