@@ -51,13 +51,6 @@ class SettingOwner {
   int index_;
 };
 
-/// A setting's name as a template argument, so that it costs a record nothing.
-template <std::size_t N>
-struct SettingName {
-  char text[N];
-  consteval SettingName(const char (&name)[N]) { std::copy_n(name, N, text); }  // NOLINT: converts
-};
-
 /// What a changed setting lists. The usual rule: one block under one commit flag.
 template <Byte block, CommitFlag flag>
 struct In {
@@ -143,7 +136,7 @@ struct Filler<true> {
 /// the value lists what the rule says (a block, while the commit flag of its editor is raised);
 /// then the value is stored. What is special about a setting is its rule's: a class derived from it
 /// could let a setter in that its own was to replace.
-template <SettingName name, class T, class Rule = Untracked, class TheMeaning = NoUnit>
+template <Literal name, class T, class Rule = Untracked, class TheMeaning = NoUnit>
 class Setting final {
  public:
   using Value = T;
@@ -192,8 +185,7 @@ class Setting final {
 
 /// `N` settings under one name: `rec.TelEnable(3)` reads entry 3, `rec.TelEnable(3, 1)` and
 /// `rec.TelEnable.Set(3, 1)` set it. A bad index reads as zero and is ignored when set.
-template <SettingName name, class T, std::size_t N, class Rule = Untracked,
-          class TheMeaning = NoUnit>
+template <Literal name, class T, std::size_t N, class Rule = Untracked, class TheMeaning = NoUnit>
 class SettingArray final {
  public:
   using Value = T;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/record/meanings/alarms.h"
 #include "core/setting.h"
 
 namespace quorvel {
@@ -12,13 +13,13 @@ class Alarms : public SettingOwner {
   Alarms& operator=(const Alarms&) = default;
   bool operator==(const Alarms&) const = default;
 
-  Setting<"MacroLnk", Byte, In<34, CommitAlarm>> MacroLnk{*this};
-  Setting<"VlBuzzer", bool, In<48, CommitAlarm>> VlBuzzer{*this};
-  Setting<"VlRelay2", bool, In<48, CommitAlarm>> VlRelay2{*this};
-  Setting<"VlRelay1", bool, In<48, CommitAlarm>> VlRelay1{*this};
-  Setting<"ExtAlmAction", Byte, In<45, CommitAlarm>> ExtAlmAction{*this};
-  Setting<"InputConf", Byte, In<33, CommitAlarm>> InputConf{*this};
-  Setting<"Enable", Byte, In<33, CommitAlarm>> Enable{*this};
+  Setting<"MacroLnk", Byte, In<34, CommitAlarm>, MacroLink> MacroLnk{*this};
+  Setting<"VlBuzzer", bool, In<48, CommitAlarm>, DisableEnable> VlBuzzer{*this};
+  Setting<"VlRelay2", bool, In<48, CommitAlarm>, DisableEnable> VlRelay2{*this};
+  Setting<"VlRelay1", bool, In<48, CommitAlarm>, DisableEnable> VlRelay1{*this};
+  Setting<"ExtAlmAction", Byte, In<45, CommitAlarm>, ExternalOutputs> ExtAlmAction{*this};
+  Setting<"InputConf", Byte, In<33, CommitAlarm>, ClosedOpen> InputConf{*this};
+  Setting<"Enable", Byte, In<33, CommitAlarm>, DisableEnable> Enable{*this};
 };
 
 }  // namespace quorvel

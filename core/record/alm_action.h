@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/record/meanings/alarms.h"
 #include "core/setting.h"
 
 namespace quorvel {
@@ -11,18 +12,18 @@ class AlmAction : public SettingOwner {
   AlmAction& operator=(const AlmAction&) = default;
   bool operator==(const AlmAction&) const = default;
 
-  Setting<"GateIntrus", Byte, In<184, CommitAlarm>> GateIntrus{*this};
-  Setting<"Preset3", Byte, In<192, CommitAlarm>> Preset3{*this};
-  Setting<"Preset2", Byte, In<190, CommitAlarm>> Preset2{*this};
-  Setting<"Preset1", Byte, In<188, CommitAlarm>> Preset1{*this};
-  Setting<"Preset0", Byte, In<186, CommitAlarm>> Preset0{*this};
+  Setting<"GateIntrus", Byte, In<184, CommitAlarm>, IntrusionGate> GateIntrus{*this};
+  Setting<"Preset3", Byte, In<192, CommitAlarm>, AlarmPreset> Preset3{*this};
+  Setting<"Preset2", Byte, In<190, CommitAlarm>, AlarmPreset> Preset2{*this};
+  Setting<"Preset1", Byte, In<188, CommitAlarm>, AlarmPreset> Preset1{*this};
+  Setting<"Preset0", Byte, In<186, CommitAlarm>, AlarmPreset> Preset0{*this};
   /// Camera indices, 0-based.
-  Setting<"Display3", Byte, In<42, CommitAlarm>> Display3{*this};
-  Setting<"Display2", Byte, In<40, CommitAlarm>> Display2{*this};
-  Setting<"Display1", Byte, In<38, CommitAlarm>> Display1{*this};
-  Setting<"Display0", Byte, In<36, CommitAlarm>> Display0{*this};
-  Setting<"Relay", Byte, In<44, CommitAlarm>> Relay{*this};
-  Setting<"Freeze", Byte, In<33, CommitAlarm>> Freeze{*this};
+  Setting<"Display3", Byte, In<42, CommitAlarm>, CameraIndex> Display3{*this};
+  Setting<"Display2", Byte, In<40, CommitAlarm>, CameraIndex> Display2{*this};
+  Setting<"Display1", Byte, In<38, CommitAlarm>, CameraIndex> Display1{*this};
+  Setting<"Display0", Byte, In<36, CommitAlarm>, CameraIndex> Display0{*this};
+  Setting<"Relay", Byte, In<44, CommitAlarm>, Relays> Relay{*this};
+  Setting<"Freeze", Byte, In<33, CommitAlarm>, NoYes> Freeze{*this};
 };
 
 }  // namespace quorvel

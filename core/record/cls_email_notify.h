@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/record/meanings/alarms.h"
 #include "core/setting.h"
 
 namespace quorvel {
@@ -47,9 +48,9 @@ class clsEmailNotify : public SettingOwner {
   /// Change mask: bit 0 SMTP server, 1 TCP host, 2 TCP backup host; 0 again once sent.
   Setting<"AlmServerChange", Byte> AlmServerChange{*this};
   SettingArray<"TCPNotify", Byte, 2, In<200, CommitAlarm>> TCPNotify{*this};
-  Setting<"TCPPort", std::int32_t, In<200, CommitAlarm>> TCPPort{*this};
+  Setting<"TCPPort", std::int32_t, In<200, CommitAlarm>, TcpPort> TCPPort{*this};
   /// 0 at once.
-  Setting<"TCPInterval", Byte, In<200, CommitAlarm>, Minutes> TCPInterval{*this};
+  Setting<"TCPInterval", Byte, In<200, CommitAlarm>, TcpInterval> TCPInterval{*this};
   template <int bit>
   struct Host {
     static void Changed(SettingOwner& owner, int) {

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "core/bit_fields.h"
+#include "core/record/meanings/recording.h"
 #include "core/setting.h"
 
 namespace quorvel {
 
-/// Event recording of one camera. Rate indices 0 to 20 name a rate, 99 is the turbo rate.
+/// Event recording of one camera.
 class clsEvents : public SettingOwner {
   /// Associated camera i of every camera is kept in block 214 + i.
   struct AssociationBlock {
@@ -17,15 +18,14 @@ class clsEvents : public SettingOwner {
   clsEvents& operator=(const clsEvents&) = default;
   bool operator==(const clsEvents&) const = default;
 
-  SettingArray<"EvAssociated", Byte, 3, AssociationBlock> EvAssociated{*this};
-  Setting<"PostEvDuration", Byte, In<57, CommitRecord>, Seconds> PostEvDuration{*this};
-  Setting<"PreEvDuration", Byte, In<56, CommitRecord>, Seconds> PreEvDuration{*this};  ///< 0 to 7
-  Setting<"LnkToEvent", Byte, In<56, CommitRecord>> LnkToEvent{*this};                 ///< 0 or 1
-  /// 0 time-lapse, 1 event, 2 event and time-lapse.
-  Setting<"EType", Byte, In<56, CommitRecord>> EType{*this};
-  Setting<"Act_RRIndex", Byte, In<63, CommitRecord>> Act_RRIndex{*this};
-  Setting<"TL_RRIndex", Byte, In<62, CommitRecord>> TL_RRIndex{*this};
-  Setting<"Event_RRIndex", Byte, In<58, CommitRecord>> Event_RRIndex{*this};
+  SettingArray<"EvAssociated", Byte, 3, AssociationBlock, CameraIndexOr<"--">> EvAssociated{*this};
+  Setting<"PostEvDuration", Byte, In<57, CommitRecord>, PostEventTime> PostEvDuration{*this};
+  Setting<"PreEvDuration", Byte, In<56, CommitRecord>, PreEventTime> PreEvDuration{*this};
+  Setting<"LnkToEvent", Byte, In<56, CommitRecord>, NoYes> LnkToEvent{*this};
+  Setting<"EType", Byte, In<56, CommitRecord>, EventType> EType{*this};
+  Setting<"Act_RRIndex", Byte, In<63, CommitRecord>, RecordRate> Act_RRIndex{*this};
+  Setting<"TL_RRIndex", Byte, In<62, CommitRecord>, RecordRate> TL_RRIndex{*this};
+  Setting<"Event_RRIndex", Byte, In<58, CommitRecord>, EventRate> Event_RRIndex{*this};
 
   /// Bits 6 and 7 of the camera's byte of block 56, and the event type that they mean.
   [[nodiscard]] static constexpr Byte TypeOfBits(int bits) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/record/meanings/alarms.h"
 #include "core/setting.h"
 
 namespace quorvel {
@@ -11,11 +12,13 @@ class clsMatrix : public SettingOwner {
   clsMatrix& operator=(const clsMatrix&) = default;
   bool operator==(const clsMatrix&) const = default;
 
-  SettingArray<"AuxMonitor", Byte, kMostCameras, In<45, CommitAlarm>> AuxMonitor{*this};
-  SettingArray<"GroupSetup", Byte, kMostCameras, In<46, CommitSequence>> GroupSetup{*this};
+  SettingArray<"AuxMonitor", Byte, kMostCameras, In<45, CommitAlarm>, AuxMonitors> AuxMonitor{
+      *this};
+  SettingArray<"GroupSetup", Byte, kMostCameras, In<46, CommitSequence>, CameraIndexOr<"NONE">>
+      GroupSetup{*this};
   Setting<"TDDspCDE", Byte, In<59, CommitTimeDate>> TDDspCDE{*this};
   Setting<"TitleDspCDE", Byte, In<59, CommitCamera>> TitleDspCDE{*this};
-  Setting<"GroupSwEnable", Byte, In<45, CommitSequence>> GroupSwEnable{*this};
+  Setting<"GroupSwEnable", Byte, In<45, CommitSequence>, GroupSwitching> GroupSwEnable{*this};
 };
 
 }  // namespace quorvel

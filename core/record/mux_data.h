@@ -9,6 +9,7 @@
 #include "core/record/cls_email_notify.h"
 #include "core/record/cls_events.h"
 #include "core/record/cls_matrix.h"
+#include "core/record/meanings/device.h"
 #include "core/record/schedules.h"
 #include "core/record/time_date.h"
 #include "core/setting.h"
@@ -45,63 +46,65 @@ class MuxData : public SettingOwner {
   bool operator==(const MuxData&) const = default;
 
   Setting<"Extra_Quality_Feature", Byte, ReadOnly> Extra_Quality_Feature{*this};
-  Setting<"Rec120sp", Byte, In<219, CommitRecord>> Rec120sp{*this};
-  SettingArray<"PubMonitor", Byte, 5, In<45, CommitCamera>> PubMonitor{*this};
-  Setting<"SVHS_MonB", Byte, In<45, CommitCamera>> SVHS_MonB{*this};
-  Setting<"ArchPortSelect", Byte, In<184, CommitArchive>> ArchPortSelect{*this};
-  /// 0 English, 1 French, 2 German, 3 Italian, 4 Russian, 5 Polish, 6 Czech, 7 Finnish,
-  /// 8 Hungarian, 9 Slovak, 10 Spanish, 11 Dutch, 12 Danish.
-  Setting<"MuxLang", Byte, In<60, CommitMenu>> MuxLang{*this};
-  Setting<"LumacastCDW", Byte, In<61, CommitArchive>> LumacastCDW{*this};
-  Setting<"PreAlDuration", Byte, In<59, CommitAlarm>, Seconds> PreAlDuration{*this};
-  Setting<"DvrArchAlm", Byte, In<60, CommitAlarm>> DvrArchAlm{*this};
-  Setting<"DvrArchiveOn", Byte, In<60, CommitArchive>> DvrArchiveOn{*this};
-  Setting<"DvrArchiveSet", Byte, In<60, CommitArchive>> DvrArchiveSet{*this};
+  Setting<"Rec120sp", Byte, In<219, CommitRecord>, TurboSwitch> Rec120sp{*this};
+  SettingArray<"PubMonitor", Byte, 5, In<45, CommitCamera>, NoYes> PubMonitor{*this};
+  Setting<"SVHS_MonB", Byte, In<45, CommitCamera>, DisableEnable> SVHS_MonB{*this};
+  Setting<"ArchPortSelect", Byte, In<184, CommitArchive>, ArchivePort> ArchPortSelect{*this};
+  Setting<"MuxLang", Byte, In<60, CommitMenu>, Language> MuxLang{*this};
+  Setting<"LumacastCDW", Byte, In<61, CommitArchive>, OffOn> LumacastCDW{*this};
+  Setting<"PreAlDuration", Byte, In<59, CommitAlarm>, Within<1, 5, Seconds>> PreAlDuration{*this};
+  Setting<"DvrArchAlm", Byte, In<60, CommitAlarm>, DisableEnable> DvrArchAlm{*this};
+  Setting<"DvrArchiveOn", Byte, In<60, CommitArchive>, ArchiveMode> DvrArchiveOn{*this};
+  Setting<"DvrArchiveSet", Byte, In<60, CommitArchive>, ArchiveSetting> DvrArchiveSet{*this};
   Setting<"MuxModelName", std::string, ReadOnly> MuxModelName{*this};
   /// Below model code 6 a dwell time; from 6 on 0 while the device is to take the clock, else 1.
-  Setting<"PlayDwell", Byte, PlayDwellBlock, Seconds> PlayDwell{*this};
-  Setting<"TransmitSpiTime", Byte, In<59, CommitTimeDate>> TransmitSpiTime{*this};
-  Setting<"FullScrResolution", Byte, In<60, CommitCamera>> FullScrResolution{*this};
-  Setting<"AutoDisable", Byte, In<60, CommitCamera>> AutoDisable{*this};
-  Setting<"PlayRecLnk", Byte, PlayRecLnkBlock> PlayRecLnk{*this};
+  Setting<"PlayDwell", Byte, PlayDwellBlock, PlaybackDwell> PlayDwell{*this};
+  Setting<"TransmitSpiTime", Byte, In<59, CommitTimeDate>, NoYes> TransmitSpiTime{*this};
+  Setting<"FullScrResolution", Byte, In<60, CommitCamera>, FieldOrFrame> FullScrResolution{*this};
+  Setting<"AutoDisable", Byte, In<60, CommitCamera>, OffOn> AutoDisable{*this};
+  Setting<"PlayRecLnk", Byte, PlayRecLnkBlock, PlayRecordLink> PlayRecLnk{*this};
   Setting<"MacroEditDL1", Byte, ReadOnly> MacroEditDL1{*this};
   Setting<"MacroEditDL2", Byte, ReadOnly> MacroEditDL2{*this};
-  Setting<"LockKeyBoard", Byte, In<60, CommitMenu>> LockKeyBoard{*this};  ///< 1 locked
+  Setting<"LockKeyBoard", Byte, In<60, CommitMenu>, KeyboardLock> LockKeyBoard{*this};
   Setting<"NetworkAddr", Byte, In<59, CommitComm>> NetworkAddr{*this};
-  Setting<"PlaybackOld", Byte, In<183, CommitVCR>> PlaybackOld{*this};
-  SettingArray<"TelAC_DC", Byte, kMostCameras, In<184, CommitTelemetry>> TelAC_DC{*this};
-  SettingArray<"TelEnable", Byte, kMostCameras, In<61, CommitTelemetry>> TelEnable{*this};
-  Setting<"VCR_Signal_Level", Byte, In<60, CommitVCR>> VCR_Signal_Level{*this};
-  Setting<"DvrRecMode", Byte, In<60, CommitRecord>> DvrRecMode{*this};
-  Setting<"BaudRatePPC", Byte, In<60, CommitComm>> BaudRatePPC{*this};
-  Setting<"BaudRate", Byte, In<60, CommitComm>> BaudRate{*this};
-  Setting<"SwitchEdge", Byte, In<60, CommitVCR>> SwitchEdge{*this};
-  Setting<"ExtCam_SwAct", Byte, In<60, CommitVCR>> ExtCam_SwAct{*this};
-  Setting<"VCRType", Byte, In<60, CommitVCR>> VCRType{*this};
-  Setting<"PresetPGM", Byte, In<60, CommitTelemetry>> PresetPGM{*this};
-  Setting<"PresetMode", Byte, In<59, CommitTelemetry>> PresetMode{*this};
-  Setting<"Tel_options", Byte, In<59, CommitTelemetry>> Tel_options{*this};
-  Setting<"PlaybackFormat", Byte, In<59, CommitVCR>> PlaybackFormat{*this};
-  Setting<"ActIndicate", Byte, In<59, CommitMotion>> ActIndicate{*this};
-  SettingArray<"ActivityType", Byte, kMostCameras, In<49, CommitMotion>> ActivityType{*this};
-  SettingArray<"ActivityEnable", Byte, kMostCameras, In<49, CommitMotion>> ActivityEnable{*this};
+  Setting<"PlaybackOld", Byte, In<183, CommitVCR>, OlderFormat> PlaybackOld{*this};
+  SettingArray<"TelAC_DC", Byte, kMostCameras, In<184, CommitTelemetry>, CameraLine> TelAC_DC{
+      *this};
+  SettingArray<"TelEnable", Byte, kMostCameras, In<61, CommitTelemetry>, DisableEnable> TelEnable{
+      *this};
+  Setting<"VCR_Signal_Level", Byte, In<60, CommitVCR>, SignalLevel> VCR_Signal_Level{*this};
+  Setting<"DvrRecMode", Byte, In<60, CommitRecord>, RecorderMode> DvrRecMode{*this};
+  Setting<"BaudRatePPC", Byte, In<60, CommitComm>, FirstPort> BaudRatePPC{*this};
+  Setting<"BaudRate", Byte, In<60, CommitComm>, SecondPort> BaudRate{*this};
+  Setting<"SwitchEdge", Byte, In<60, CommitVCR>, SwitchingEdge> SwitchEdge{*this};
+  Setting<"ExtCam_SwAct", Byte, In<60, CommitVCR>, DisableEnable> ExtCam_SwAct{*this};
+  Setting<"VCRType", Byte, In<60, CommitVCR>, VideoType> VCRType{*this};
+  Setting<"PresetPGM", Byte, In<60, CommitTelemetry>, PresetProgramming> PresetPGM{*this};
+  Setting<"PresetMode", Byte, In<59, CommitTelemetry>, PresetModes> PresetMode{*this};
+  Setting<"Tel_options", Byte, In<59, CommitTelemetry>, TelemetryProtocol> Tel_options{*this};
+  Setting<"PlaybackFormat", Byte, In<59, CommitVCR>, TapeFormat> PlaybackFormat{*this};
+  Setting<"ActIndicate", Byte, In<59, CommitMotion>, OffOn> ActIndicate{*this};
+  SettingArray<"ActivityType", Byte, kMostCameras, In<49, CommitMotion>, DetectionType>
+      ActivityType{*this};
+  SettingArray<"ActivityEnable", Byte, kMostCameras, In<49, CommitMotion>, DisableEnable>
+      ActivityEnable{*this};
   /// 0 global, 1 live alarm, 2 video loss, 3 playback, 4 disk monitor.
-  SettingArray<"Buzzer", Byte, 5, BuzzerBlock> Buzzer{*this};
-  Setting<"Relay1Conf", bool, In<60, CommitAlarm>> Relay1Conf{*this};  ///< true: normally open
-  Setting<"Relay2Conf", bool, In<60, CommitAlarm>> Relay2Conf{*this};  ///< true: normally open
+  SettingArray<"Buzzer", Byte, 5, BuzzerBlock, OffOn> Buzzer{*this};
+  Setting<"Relay1Conf", bool, In<60, CommitAlarm>, ClosedOpen> Relay1Conf{*this};
+  Setting<"Relay2Conf", bool, In<60, CommitAlarm>, ClosedOpen> Relay2Conf{*this};
   Setting<"FullscrAlm", bool, In<60, CommitAlarm>> FullscrAlm{*this};
-  Setting<"AlmRecMode", Byte, In<60, CommitAlarm>> AlmRecMode{*this};
-  Setting<"AlarmMode", Byte, In<59, CommitAlarm>> AlarmMode{*this};
-  Setting<"AlarmTimeOut", Byte, In<59, CommitAlarm>, SecondsFromOne> AlarmTimeOut{*this};
-  Setting<"RecLock", Byte, In<60, CommitRecord>> RecLock{*this};
-  /// Camera indices, 255 for an empty place. The record editor lists its blocks itself.
-  SettingArray<"RecSeqLst", Byte, 40> RecSeqLst{*this};
-  /// Monitors A to E: 1 shows titles.
-  SettingArray<"TitleDisplay", Byte, 5, In<59, CommitCamera>> TitleDisplay{*this};
-  Setting<"MultiDwell", Byte, In<59, CommitSequence>, Seconds> MultiDwell{*this};
-  Setting<"FullDwell", Byte, In<59, CommitSequence>, Seconds> FullDwell{*this};
-  Setting<"Normal_Rec_Index", Byte> Normal_Rec_Index{*this};
-  Setting<"Alarm_Rec_Index", Byte, In<59, CommitRecord>> Alarm_Rec_Index{*this};
+  Setting<"AlmRecMode", Byte, In<60, CommitAlarm>, AlarmRecordMode> AlmRecMode{*this};
+  Setting<"AlarmMode", Byte, In<59, CommitAlarm>, AlarmLatch> AlarmMode{*this};
+  Setting<"AlarmTimeOut", Byte, In<59, CommitAlarm>, AlarmTime> AlarmTimeOut{*this};
+  Setting<"RecLock", Byte, In<60, CommitRecord>, OffOn> RecLock{*this};
+  /// The record editor lists its blocks itself.
+  SettingArray<"RecSeqLst", Byte, 40, Untracked, RecordList> RecSeqLst{*this};
+  /// Monitors A to E.
+  SettingArray<"TitleDisplay", Byte, 5, In<59, CommitCamera>, NoYes> TitleDisplay{*this};
+  Setting<"MultiDwell", Byte, In<59, CommitSequence>, MultiscreenDwell> MultiDwell{*this};
+  Setting<"FullDwell", Byte, In<59, CommitSequence>, Dwell> FullDwell{*this};
+  Setting<"Normal_Rec_Index", Byte, Untracked, NormalSpeed> Normal_Rec_Index{*this};
+  Setting<"Alarm_Rec_Index", Byte, In<59, CommitRecord>, AlarmSpeed> Alarm_Rec_Index{*this};
 
   TimeDate TDInfo;
   clsEmailNotify AlmEmailNotify;

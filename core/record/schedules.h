@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/record/meanings/recording.h"
 #include "core/setting.h"
 
 namespace quorvel {
@@ -22,11 +23,10 @@ class clsTimedMacro : public SettingOwner {
 
   void SetMacroIdx(Byte index) { SetIndex(index); }
 
-  Setting<"MacroNum", Byte, EntryBlock> MacroNum{*this};
-  Setting<"Minute", Byte, EntryBlock> Minute{*this};
-  Setting<"Hour", Byte, EntryBlock> Hour{*this};
-  /// 0 never, 1 to 7 Monday to Sunday, 8 every day.
-  Setting<"Day", Byte, EntryBlock> Day{*this};
+  Setting<"MacroNum", Byte, EntryBlock, OnePerCamera> MacroNum{*this};
+  Setting<"Minute", Byte, EntryBlock, MacroMinutes> Minute{*this};
+  Setting<"Hour", Byte, EntryBlock, HourOfDay> Hour{*this};
+  Setting<"Day", Byte, EntryBlock, MacroDay> Day{*this};
 };
 
 /// The byte script of one camera, block 69 + c.
@@ -51,7 +51,8 @@ class clsSubMacro : public SettingOwner {
   }
 
   SettingArray<"SMacroByte", Byte, kLongest, EntryBlock> SMacroByte{*this};
-  Setting<"SMacroLen", Byte, Length> SMacroLen{*this};  ///< bytes in the script
+  /// Bytes in the script.
+  Setting<"SMacroLen", Byte, Length, Within<0, Length::kMost>> SMacroLen{*this};
 };
 
 /// One entry of the recording schedule; two entries a block from 195 on, model code 6 and above.
@@ -69,14 +70,14 @@ class clsRecTimer : public SettingOwner {
 
   void SetRTIdx(Byte index) { SetIndex(index); }
 
-  Setting<"RTdate", Byte, EntryBlock> RTdate{*this};
-  Setting<"RTstart_hh", Byte, EntryBlock> RTstart_hh{*this};
-  Setting<"RTstart_mm", Byte, EntryBlock> RTstart_mm{*this};
-  Setting<"RTstop_hh", Byte, EntryBlock> RTstop_hh{*this};
-  Setting<"RTstop_mm", Byte, EntryBlock> RTstop_mm{*this};
-  Setting<"RTmacrolnk", Byte, EntryBlock> RTmacrolnk{*this};
-  Setting<"RTstatus", Byte, EntryBlock> RTstatus{*this};
-  Setting<"RTvalid", Byte, EntryBlock> RTvalid{*this};
+  Setting<"RTdate", Byte, EntryBlock, TimerDate> RTdate{*this};
+  Setting<"RTstart_hh", Byte, EntryBlock, HourOfDay> RTstart_hh{*this};
+  Setting<"RTstart_mm", Byte, EntryBlock, MinuteOrSecond> RTstart_mm{*this};
+  Setting<"RTstop_hh", Byte, EntryBlock, HourOfDay> RTstop_hh{*this};
+  Setting<"RTstop_mm", Byte, EntryBlock, MinuteOrSecond> RTstop_mm{*this};
+  Setting<"RTmacrolnk", Byte, EntryBlock, TimerMacro> RTmacrolnk{*this};
+  Setting<"RTstatus", Byte, EntryBlock, OffOn> RTstatus{*this};
+  Setting<"RTvalid", Byte, EntryBlock, NoYes> RTvalid{*this};
 
   /// Takes the values of another entry, each as if it had been set: an entry that moves is tracked.
   void Take(const clsRecTimer& other) {
