@@ -59,7 +59,7 @@ enum class WidgetKind {
 };
 
 /// The kind in words: "text box".
-[[nodiscard]] const char* KindName(WidgetKind kind);
+[[nodiscard]] QUORVEL_API const char* KindName(WidgetKind kind);
 
 using Handler = std::function<void()>;
 
