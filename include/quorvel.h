@@ -98,7 +98,12 @@ typedef struct quorvel_file_request {
 } quorvel_file_request;
 typedef int32_t (*quorvel_visit_file_request)(void* user, const quorvel_file_request* request);
 
-enum { QUORVEL_LOG_DEBUG = 0, QUORVEL_LOG_INFORMATION, QUORVEL_LOG_WARNING, QUORVEL_LOG_ERROR };
+enum {
+  QUORVEL_LOG_DEBUG = 0,
+  QUORVEL_LOG_INFORMATION = 1,
+  QUORVEL_LOG_WARNING = 2,
+  QUORVEL_LOG_ERROR = 3
+};
 
 // What a platform tells you and asks you. Each may be NULL. They may call every function.
 typedef struct quorvel_platform_events {

@@ -1,0 +1,18 @@
+# Whether a library shows what the headers declare and nothing else. Takes NM, LIBRARY and HEADERS.
+execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY}
+  OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "[^ \n]+\n" shown "${symbols}")
+set(declared "")
+foreach(header ${HEADERS})
+  file(READ ${header} text)
+  string(REGEX MATCHALL "QUORVEL_C_API [^;(]*quorvel_[a-z_]+\\(" functions "${text}")
+  list(APPEND declared ${functions})
+endforeach()
+list(TRANSFORM declared REPLACE "^.*[ *](quorvel_[a-z_]+)\\($" "\\1")
+list(TRANSFORM shown REPLACE "(@.*)?\n$" "")
+list(REMOVE_ITEM shown QUORVEL_0.1)
+list(SORT shown)
+list(SORT declared)
+if(NOT shown STREQUAL declared)
+  message(FATAL_ERROR "The library shows\n${shown}\nThe headers declare\n${declared}")
+endif()
