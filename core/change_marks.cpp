@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/bit_fields.h"
 #include "core/codec.h"
 
 namespace quorvel {
@@ -19,6 +20,7 @@ struct ChangeMark {
 };
 
 constexpr int kClockBlock = 61;
+constexpr int kClockEnd = 6;  // behind the clock's bytes
 constexpr std::array kMarks{
     ChangeMark{kClockBlock, 15, 0, 6, 1, [](const MuxData& rec) { return rec.PlayDwell(); },
                [](MuxData& rec, Byte mark) { rec.PlayDwell.Load(mark); }},
@@ -62,8 +64,32 @@ void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockI
 }
 
 void RaiseChangeMark(int number, int at, const Identity& id, MuxData& rec) {
-  constexpr int kClockEnd = 6;
   if (number == kClockBlock && at < kClockEnd && id.IsTriplex()) rec.PlayDwell(0);
+}
+
+bool DeviceHasBlock(int number, std::span<const Byte, kBlockSize> taken,
+                    std::span<const Byte, kBlockSize> now, const Identity& id) {
+  const auto mark = std::ranges::find(kMarks, number, &ChangeMark::block);
+  for (std::size_t at = 0; at < kBlockSize; ++at) {
+    if (taken[at] == now[at]) continue;
+    const bool is_mark = mark != kMarks.end() && Has(id, *mark) && at == mark->at;
+    const bool is_clock = number == kClockBlock && static_cast<int>(at) < kClockEnd;
+    if (!is_mark && !is_clock) return false;
+  }
+  return true;
+}
+
+void RaiseChangeMarks(int number, std::span<const Byte, kBlockSize> taken,
+                      std::span<const Byte, kBlockSize> now, MuxData& rec) {
+  const auto mark = std::ranges::find(kMarks, number, &ChangeMark::block);
+  if (mark == kMarks.end() || number == kClockBlock) return;
+  constexpr std::size_t kServer = 4;  // bytes of an address, of which each has a bit
+  Byte bits = mark->read(rec);
+  for (std::size_t i = 0; i < mark->count; ++i) {
+    const std::size_t at = mark->first + i;
+    if (taken[at] != now[at]) SetBit(bits, static_cast<int>(i / kServer), true);
+  }
+  mark->store(rec, bits);
 }
 
 void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,

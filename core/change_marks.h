@@ -27,6 +27,14 @@ void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockI
 /// here, which lets the device take it.
 void RaiseChangeMark(int number, int at, const Identity& id, MuxData& rec);
 
+/// True when `taken`, what the device was given for block `number`, is what `now` would give it.
+/// Its clock has moved on, and what tells of changes is no setting: neither counts.
+[[nodiscard]] bool DeviceHasBlock(int number, std::span<const Byte, kBlockSize> taken,
+                                  std::span<const Byte, kBlockSize> now, const Identity& id);
+/// Sets the marks of the servers that are others in `now` than in `taken`.
+void RaiseChangeMarks(int number, std::span<const Byte, kBlockSize> taken,
+                      std::span<const Byte, kBlockSize> now, MuxData& rec);
+
 /// The list of modified blocks has been cleared: all marks go to rest.
 void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
                       MuxData& rec);

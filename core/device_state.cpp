@@ -1,7 +1,10 @@
 #include "core/device_state.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
+#include "core/change_marks.h"
 #include "core/codec.h"
 
 namespace quorvel {
@@ -15,9 +18,11 @@ MuxData& DeviceState::Record() {
   return *record_;
 }
 
-void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray array) {
+void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray array, StepName step) {
   const Identity present = env.identity;
   auto fresh = std::make_unique<MuxData>(env);
+  std::optional<Holdings> before;
+  if (HasImage() && source != ImageSource::kDevice) before = Present();
   try {
     DecodeImage(image, env, *fresh);
   } catch (...) {
@@ -30,7 +35,13 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   LoadedFromFile =
       source == ImageSource::kSettingsFile || source == ImageSource::kFactoryForAnother;
   env.blocks.SetMaxBlk(BlkImage.BlkCount());
-  ++generation_;
+  image_number_ = ++generation_;
+  if (before) {
+    history_.Add(std::move(step), *std::move(before));
+    return;
+  }
+  history_.Clear();
+  taken_.clear();
 }
 
 void DeviceState::TakePcTime() {
@@ -56,15 +67,69 @@ BlockImage DeviceState::EncodedImage() {
   return image;
 }
 
-Edits DeviceState::PresentEdits() {
-  Edits edits{std::make_unique<MuxData>(env), env.blocks};
-  *edits.record = Record();
-  return edits;
+Holdings DeviceState::Present() {
+  Holdings holdings{std::make_unique<MuxData>(env),
+                    env.blocks,
+                    env.identity,
+                    BlkImage,
+                    ComboArray,
+                    ImageByteCount,
+                    LoadedFromFile,
+                    UsePcTime,
+                    image_number_};
+  *holdings.record = Record();
+  return holdings;
 }
 
-void DeviceState::PutBack(Edits edits) noexcept {
-  record_ = std::move(edits.record);
-  env.blocks = edits.blocks;
+bool DeviceState::Holds(const Holdings& holdings) {
+  const auto listed = [](const clsBlkSave& list) {
+    std::vector<Byte> numbers;
+    for (Byte i = 0; i < list.BlkSavIdx(); ++i) numbers.push_back(list.BlkNumSav(i));
+    return numbers;
+  };
+  return image_number_ == holdings.image_number && UsePcTime == holdings.use_pc_time &&
+         Record() == *holdings.record && listed(env.blocks) == listed(holdings.blocks);
+}
+
+void DeviceState::PutBack(Holdings holdings) noexcept {
+  record_ = std::move(holdings.record);
+  env.blocks = holdings.blocks;
+  env.identity = holdings.identity;
+  BlkImage = std::move(holdings.image);
+  ComboArray = std::move(holdings.array);
+  ImageByteCount = holdings.byte_count;
+  LoadedFromFile = holdings.loaded_from_file;
+  UsePcTime = holdings.use_pc_time;
+  // An editor that opened on the other image must not write into this one.
+  if (image_number_ != std::exchange(image_number_, holdings.image_number)) ++generation_;
+}
+
+bool DeviceState::Undo() { return GoTo(history_.Back(Present())); }
+
+bool DeviceState::Redo() { return GoTo(history_.Forth(Present())); }
+
+bool DeviceState::GoTo(std::optional<Holdings> there) {
+  if (!there) return false;
+  PutBack(*std::move(there));
+  CompareWithTaken();
+  return true;
+}
+
+void DeviceState::NoteTaken(int number, std::span<const Byte, kBlockSize> bytes) {
+  std::ranges::copy(bytes, taken_[number].begin());
+}
+
+void DeviceState::CompareWithTaken() {
+  const BlockImage now = EncodedImage();
+  for (const auto& [number, taken] : taken_) {
+    if (!now.Counts(number)) continue;
+    if (DeviceHasBlock(number, taken, now.Block(number), env.identity)) {
+      SettleChangeMark(number, taken, BlkImage, ComboArray, env, Record());
+    } else {
+      env.blocks.AddBlk(static_cast<Byte>(number));
+      RaiseChangeMarks(number, taken, now.Block(number), Record());
+    }
+  }
 }
 
 }  // namespace quorvel

@@ -2,7 +2,11 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
+#include <string>
+#include <utility>
 
+#include "core/edit_history.h"
 #include "core/record/mux_data.h"
 #include "core/record_environment.h"
 #include "quorvel/block_image.h"
@@ -17,12 +21,6 @@ enum class ImageSource {
   kSettingsFile,
   kFactory,            ///< factory defaults for the device that is connected, as it says itself
   kFactoryForAnother,  ///< for a device that the host has only named
-};
-
-/// The record and what is listed of it as modified.
-struct Edits {
-  std::unique_ptr<MuxData> record;
-  clsBlkSave blocks;
 };
 
 /// What a control holds of its device: the image, the record that was decoded from it, and what is
@@ -51,9 +49,31 @@ class DeviceState {
   [[nodiscard]] bool HasImage() const { return BlkImage.Size() != 0; }
 
   /// Decodes `image` into a fresh record; both then replace the present ones, `array` is the
-  /// combined array that the image came in, and nothing is modified any more. Throws ImageError,
-  /// and keeps what is there, when the image cannot be decoded.
-  void Adopt(BlockImage image, ImageSource source, CombinedArray array = {});
+  /// combined array that the image came in, and nothing is modified any more. What is not the
+  /// device's own image is a step called `step`, which can be taken back where there was an image
+  /// before. Throws ImageError, and keeps what is there, when the image cannot be decoded.
+  void Adopt(BlockImage image, ImageSource source, CombinedArray array = {}, StepName step = {});
+
+  /// Runs `change` as one step called `name`. Where it changes nothing, there is no step; where it
+  /// throws, all is as it was.
+  template <class Change>
+  void AsStep(StepName name, Change&& change) {
+    Holdings before = Present();
+    try {
+      change();
+    } catch (...) {
+      PutBack(std::move(before));
+      throw;
+    }
+    if (!Holds(before)) history_.Add(std::move(name), std::move(before));
+  }
+  /// Goes a step back, or forth again; false when there is none. Blocks that the device has taken
+  /// meanwhile, and that are another now, are listed.
+  bool Undo();
+  bool Redo();
+  [[nodiscard]] const EditHistory& History() const { return history_; }
+  /// The device has taken these bytes for block `number`.
+  void NoteTaken(int number, std::span<const Byte, kBlockSize> bytes);
 
   /// Lists the clock's block, lets the device take it, and has it carry the computer's time, taken
   /// when the block is built.
@@ -63,11 +83,19 @@ class DeviceState {
 
   /// The image as it would be with every block encoded from the record.
   [[nodiscard]] BlockImage EncodedImage();
-  /// PresentEdits copies the record and the list; PutBack restores them.
-  [[nodiscard]] Edits PresentEdits();
-  void PutBack(Edits edits) noexcept;
 
  private:
+  [[nodiscard]] Holdings Present();
+  /// True when these are still held.
+  [[nodiscard]] bool Holds(const Holdings& holdings);
+  void PutBack(Holdings holdings) noexcept;
+  bool GoTo(std::optional<Holdings> there);
+  /// Brings the list and the change marks in line with what the device has taken.
+  void CompareWithTaken();
+
+  EditHistory history_;
+  TakenBlocks taken_;
+  int image_number_ = 0;
   std::unique_ptr<MuxData> record_;
   int generation_ = 0;
 };

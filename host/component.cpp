@@ -9,6 +9,7 @@
 #include "core/settings_by_name.h"
 #include "host/model_catalogue.h"
 #include "host/settings_file.h"
+#include "resources/text_table.h"
 
 namespace quorvel {
 
@@ -136,11 +137,27 @@ void Component::FillComboInfo(std::span<const Byte> data) {
 
 void Component::UsePcTime(bool use) {
   if (!context.device.HasImage()) return;
-  if (use) {
-    context.device.TakePcTime(context.platform.Now());
-  } else {
-    context.device.UsePcTime = false;
-  }
+  context.device.AsStep({{}, txt::kTimeAndDate}, [&] {
+    if (use) {
+      context.device.TakePcTime(context.platform.Now());
+    } else {
+      context.device.UsePcTime = false;
+    }
+  });
+}
+
+void Component::UpdateActGrid(std::span<const Byte> data) {
+  context.device.AsStep({{}, txt::kSetupActiveZones},
+                        [&] { UpdateActivityGrid(context.device, data); });
+}
+
+/// The blocks of a send that is under way are taken from the image as it is.
+bool Component::Undo() { return State().under_way != TransferKind::kSend && context.device.Undo(); }
+
+bool Component::Redo() { return State().under_way != TransferKind::kSend && context.device.Redo(); }
+
+std::string Component::TextOf(const StepName& step) {
+  return step.id != 0 ? context.GetText(step.id) : step.text;
 }
 
 LoadAnswer Component::LoadSettings(std::span<const Byte> file) {
@@ -208,7 +225,11 @@ SetAnswer Component::SetSetting(std::string_view name, std::string_view value) {
   const std::string bytes = context.platform.FromUtf8(value);
   // A character that the device does not know would become another.
   if (context.platform.ToUtf8(bytes) != value) return SetAnswer::kNotAValue;
-  return quorvel::SetSetting(Present(), context.device.env, name, bytes);
+  SetAnswer answer = SetAnswer::kUnchanged;
+  context.device.AsStep({std::string(name)}, [&] {
+    answer = quorvel::SetSetting(Present(), context.device.env, name, bytes);
+  });
+  return answer;
 }
 
 std::optional<std::vector<SettingDifference>> Component::DifferencesFrom(

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -58,6 +59,10 @@ class Component : public std::enable_shared_from_this<Component> {
   [[nodiscard]] LoadAnswer LoadDefaults(Byte cameras, Byte model_code, std::string_view model_name,
                                         char variant);
   void UsePcTime(bool use);
+  void UpdateActGrid(std::span<const Byte> data);
+  [[nodiscard]] bool Undo();
+  [[nodiscard]] bool Redo();
+  [[nodiscard]] std::string TextOf(const StepName& step);
   void Observe(TransferObserver* observer) { host_.Observe(observer); }
   [[nodiscard]] bool StartReceive();
   [[nodiscard]] bool StartSend(const SendChoice& choice);

@@ -240,7 +240,9 @@ void Download::TellFlaw(ArrayFlaw flaw, bool quiet) {
 
 void Download::Adopt(BlockImage image, ImageSource source, CombinedArray array) {
   constexpr std::array kFrom{"the device", "a settings file", "the factory", "the factory"};
-  context_.device.Adopt(std::move(image), source, std::move(array));
+  const int step =
+      source == ImageSource::kSettingsFile ? txt::kRestoreBlockData : kTextFactoryDefaults;
+  context_.device.Adopt(std::move(image), source, std::move(array), {{}, step});
   expecting_ = Expecting::kNothing;
   received_combined_ = false;
   unusable_.reset();

@@ -64,8 +64,7 @@ std::int32_t MainMenuCtrl::FillDataBlk(std::span<const std::uint8_t> bdata) {
 }
 
 std::int32_t MainMenuCtrl::UpdateActGrid(std::span<const std::uint8_t> bdata) {
-  component_->Call("UpdateActGrid",
-                   [&it = *component_, bdata] { UpdateActivityGrid(it.context.device, bdata); });
+  component_->Call("UpdateActGrid", [&it = *component_, bdata] { it.UpdateActGrid(bdata); });
   return 0;
 }
 
@@ -119,6 +118,34 @@ bool MainMenuCtrl::UsePcTime() const { return component_->context.device.UsePcTi
 
 void MainMenuCtrl::UsePcTime(bool use) {
   component_->Call("UsePcTime", [&it = *component_, use] { it.UsePcTime(use); });
+}
+
+bool MainMenuCtrl::Undo() {
+  bool done = false;
+  component_->Call("Undo", [&it = *component_, &done] { done = it.Undo(); });
+  return done;
+}
+
+bool MainMenuCtrl::Redo() {
+  bool done = false;
+  component_->Call("Redo", [&it = *component_, &done] { done = it.Redo(); });
+  return done;
+}
+
+std::string MainMenuCtrl::UndoText() const {
+  std::string text;
+  component_->Call("UndoText", [&it = *component_, &text] {
+    text = it.TextOf(it.context.device.History().NextBack());
+  });
+  return text;
+}
+
+std::string MainMenuCtrl::RedoText() const {
+  std::string text;
+  component_->Call("RedoText", [&it = *component_, &text] {
+    text = it.TextOf(it.context.device.History().NextForth());
+  });
+  return text;
 }
 
 void MainMenuCtrl::Refresh() {

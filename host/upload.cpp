@@ -192,7 +192,9 @@ Upload::HandedOver Upload::HandOver(int number) const {
 }
 
 void Upload::NoteTaken(const HandedOver& block) {
-  if (context_.edges.terminated || block.generation != context_.device.ImageGeneration()) return;
+  if (context_.edges.terminated) return;
+  context_.device.NoteTaken(block.number, block.bytes);
+  if (block.generation != context_.device.ImageGeneration()) return;
   SettleChangeMark(block.number, block.bytes, context_.device.BlkImage, context_.device.ComboArray,
                    context_.device.env, context_.device.Record());
 }

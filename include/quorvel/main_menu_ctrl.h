@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -124,6 +125,18 @@ class QUORVEL_API MainMenuCtrl {
   /// editor does. False: the time that the configuration holds is sent. Without an image nothing
   /// changes.
   void UsePcTime(bool use);
+
+  /// Takes back what was accepted last: an editor's OK, a command of the menu, zones, a setting by
+  /// name, a restored file or factory defaults; settings, modified blocks and what tells the device
+  /// of changes together. Redo does it again. False when there is nothing to take back, or while a
+  /// send is under way. An image from the device begins anew. What a device has taken meanwhile and
+  /// is another now is listed as modified.
+  bool Undo();
+  bool Redo();
+  /// What Undo would take back, and Redo do again, in the user's words: "Camera Setup". Empty when
+  /// there is nothing.
+  [[nodiscard]] std::string UndoText() const;
+  [[nodiscard]] std::string RedoText() const;
 
   /// Draws the surface anew.
   void Refresh();

@@ -118,23 +118,20 @@ void Editor::Ok() {
   Close();
 }
 
-/// All of it or nothing: a failure half way puts back what was there.
+/// All of it or nothing: a failure half way puts back what was there. What is written is one step
+/// of the control's history.
 void Editor::Write() {
   RecordEnvironment& env = context_.device.env;
-  Edits before = context_.device.PresentEdits();
-  const BlockImage image_before = context_.device.EncodedImage();
-  try {
+  context_.device.AsStep({Caption()}, [&] {
+    const BlockImage before = context_.device.EncodedImage();
     {
       std::deque<CommitScope> raised;
       for (const CommitFlag flag : flags_) raised.emplace_back(env.commit, flag);
       fields_.Write(Record(), env.commit);
       WriteRest(Record());
     }
-    ListChangedBlocks(image_before, context_.device.EncodedImage(), env.blocks);
-  } catch (...) {
-    context_.device.PutBack(std::move(before));
-    throw;
-  }
+    ListChangedBlocks(before, context_.device.EncodedImage(), env.blocks);
+  });
 }
 
 }  // namespace quorvel

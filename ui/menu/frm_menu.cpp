@@ -74,6 +74,7 @@ void frm_Menu::PopUp() {
   const auto keep = shared_from_this();  // a text source may unload it meanwhile
   tmPopup->Stop();
   if (generation_ != context_.device.ImageGeneration()) Build();
+  SetTicks();
   if (!unloaded_) context_.platform.PopUp(menu_, kFormWidth / 2, kFormHeight / 2);
 }
 
@@ -129,7 +130,13 @@ void frm_Menu::SetUpKeyboardLock() {
     menu_->Item("mnu_UnLock").enabled = false;
     if (record.LockKeyBoard() == 0) record.LockKeyBoard(1);
   }
+}
+
+/// What the device has may have changed since, by a step back or by name.
+void frm_Menu::SetTicks() {
+  const MuxData& record = context_.device.Record();
   TickKeyboardLock(record.LockKeyBoard() != 0);
+  if (ticks_language_) TickLanguage(std::min<int>(record.MuxLang(), kLanguages - 1));
 }
 
 void frm_Menu::SetUpForModel() {
@@ -167,10 +174,11 @@ void frm_Menu::SetUpCaptions() {
 }
 
 void frm_Menu::SetUpLanguages() {
+  ticks_language_ = false;
   const int firmware = context_.device.ComboArray.Header().Firmware();
   const Byte variant = context_.device.env.identity.VariantChar;
   if (firmware > kManyLanguagesFirmware) {
-    TickLanguage(std::min<int>(context_.device.Record().MuxLang(), kLanguages - 1));
+    ticks_language_ = true;
   } else if (variant == '1' || variant == '2') {
     TickLanguage(0);
     menu_->Item("mnu_French").enabled = false;
@@ -217,21 +225,22 @@ void frm_Menu::ChooseFromEditor(std::string_view item) {
   if (action) action();
 }
 
-void frm_Menu::ChooseLanguage(int code) {
-  {
+void frm_Menu::Commit(std::string_view item, const std::function<void(MuxData&)>& change) {
+  context_.device.AsStep({menu_->Item(item).caption}, [&] {
     const CommitScope commit(context_.device.env.commit, CommitMenu);
-    context_.device.Record().MuxLang(static_cast<Byte>(code));
-  }
-  TickLanguage(code);
+    change(context_.device.Record());
+  });
+}
+
+void frm_Menu::ChooseLanguage(int code) {
+  Commit(LanguageItem(code), [code](MuxData& record) { record.MuxLang(static_cast<Byte>(code)); });
+  ticks_language_ = true;
   PopUpSoon();
 }
 
 void frm_Menu::LockKeyboard(bool lock) {
-  {
-    const CommitScope commit(context_.device.env.commit, CommitMenu);
-    context_.device.Record().LockKeyBoard(lock ? 1 : 0);
-  }
-  TickKeyboardLock(lock);
+  Commit(lock ? "mnu_LockKB" : "mnu_UnLock",
+         [lock](MuxData& record) { record.LockKeyBoard(lock ? 1 : 0); });
   PopUpSoon();
 }
 

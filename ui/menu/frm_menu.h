@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -11,6 +12,7 @@
 namespace quorvel {
 
 struct Context;
+class MuxData;
 
 /// The popup menu: the user's entry to every editor, and the language and keyboard-lock commands.
 /// The form itself is never seen; it shows the menu in the middle of its own area.
@@ -42,6 +44,7 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   void SetUpForModel();
   void SetUpCaptions();
   void SetUpLanguages();
+  void SetTicks();
 
   /// Opens an item's editor, or brings it to the front when it is open.
   void OpenEditor(std::string_view item);
@@ -51,6 +54,8 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   [[nodiscard]] bool IsOpen() const;
   /// An item that an editor offers, too.
   void ChooseFromEditor(std::string_view item);
+  /// Changes the record by an item, as one step.
+  void Commit(std::string_view item, const std::function<void(MuxData&)>& change);
   void ChooseLanguage(int code);
   void LockKeyboard(bool lock);
   void ChooseActiveZones();
@@ -66,6 +71,7 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   std::map<const MenuEditor*, std::shared_ptr<Dialog>> open_;
   std::shared_ptr<Dialog> fMsg;
   bool unloaded_ = false;
+  bool ticks_language_ = false;
 };
 
 }  // namespace quorvel

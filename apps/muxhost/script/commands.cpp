@@ -32,6 +32,8 @@ constexpr Command kCommands[] = {
     {"defaults", 0, 0, commands::Defaults},
     {"fault [none|KIND [at=N] [ms=T]]", 0, kAny, commands::FaultOnLink},
     {"zones CAMERA [BYTE=VALUE...]", 1, kAny, commands::Zones},
+    {"undo control", 1, 1, commands::Undo},
+    {"redo control", 1, 1, commands::Redo},
     {"menu", 0, 0, commands::Menu},
     {"choose ITEM", 1, 1, commands::Choose},
     {"dismiss", 0, 0, commands::Dismiss},

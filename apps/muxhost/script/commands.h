@@ -27,6 +27,8 @@ void Restore(Desk& desk, Words words);
 void Defaults(Desk& desk, Words words);
 void FaultOnLink(Desk& desk, Words words);
 void Zones(Desk& desk, Words words);
+void Undo(Desk& desk, Words words);
+void Redo(Desk& desk, Words words);
 
 // The user at the screen.
 void Menu(Desk& desk, Words words);

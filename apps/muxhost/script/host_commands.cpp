@@ -106,4 +106,24 @@ void Host(Desk& desk, Words words) {
   desk.session.Configure(settings);
 }
 
+namespace {
+
+/// `text` is what the step is called.
+void GoAStep(Desk& desk, Words words, const std::string& text, bool (MainMenuCtrl::*go)()) {
+  if (words[1] != "control") throw ScriptError("usage: " + words[0] + " control");
+  RequireUnlocked(desk);
+  const bool gone = (desk.session.Control().*go)();
+  desk.out << words[0] << ": " << (gone ? text : "nothing") << '\n';
+}
+
+}  // namespace
+
+void Undo(Desk& desk, Words words) {
+  GoAStep(desk, words, desk.session.Control().UndoText(), &MainMenuCtrl::Undo);
+}
+
+void Redo(Desk& desk, Words words) {
+  GoAStep(desk, words, desk.session.Control().RedoText(), &MainMenuCtrl::Redo);
+}
+
 }  // namespace quorvel::muxhost::commands
