@@ -422,8 +422,10 @@ typedef struct quorvel_state {
 QUORVEL_C_API quorvel_result quorvel_control_state(quorvel_control* control, quorvel_state* state);
 
 // The bytes of a settings file. QUORVEL_FAILED when they are refused; all is as it was then.
+// `note`, which may be NULL, is shown what is missing from a file that was loaded, such as macros.
 QUORVEL_C_API quorvel_result quorvel_control_load_settings(quorvel_control* control,
-                                                           const uint8_t* file, size_t length);
+                                                           const uint8_t* file, size_t length,
+                                                           quorvel_visit_text note, void* user);
 QUORVEL_C_API quorvel_result quorvel_control_save_settings(quorvel_control* control,
                                                            uint8_t* buffer, size_t size,
                                                            size_t* needed);

@@ -4,6 +4,7 @@
 
 #include "bindings/c/calls.h"
 #include "bindings/c/host_events.h"
+#include "bindings/c/watcher.h"
 #include "quorvel/headless_platform.h"
 #include "quorvel/main_menu_ctrl.h"
 
@@ -38,10 +39,16 @@ struct quorvel_platform {
 
 struct quorvel_control {
   quorvel_control(std::shared_ptr<quorvel::c::Platform> on, const quorvel_events& raised)
-      : platform(std::move(on)), events(this, raised, *platform), control(*platform, events) {}
+      : platform(std::move(on)),
+        events(this, raised, *platform),
+        watcher(this),
+        control(*platform, events) {
+    control.Observe(&watcher);
+  }
 
   std::shared_ptr<quorvel::c::Platform> platform;
   quorvel::c::HostEvents events;
+  quorvel::c::Watcher watcher;
   quorvel::MainMenuCtrl control;
 };
 

@@ -75,7 +75,7 @@ void Describe(const std::vector<quorvel::SettingDescription>& settings,
 }
 
 void RequireImage(const HeldControl& control) {
-  if (control->Image().empty()) Refuse(QUORVEL_NO_IMAGE, "no configuration has arrived");
+  if (!control->State().has_image) Refuse(QUORVEL_NO_IMAGE, "no configuration has arrived");
 }
 
 [[noreturn]] void RefuseUnknown(const HeldControl& control, const std::string& name) {

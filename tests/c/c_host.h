@@ -43,6 +43,22 @@ struct CHost {
       static_cast<CHost*>(user)->Write(packet, length);
     };
     quorvel_control_new(platform, &events, &control);
+    quorvel_observer observer{};
+    observer.size = sizeof observer;
+    observer.user = this;
+    observer.progress = [](void* user, quorvel_control*, std::int32_t transfer, std::int32_t done,
+                           std::int32_t total) {
+      auto& told = *static_cast<CHost*>(user);
+      told.progress = {transfer, done, total};
+      if (const auto act = told.on_progress) act();
+    };
+    observer.ended = [](void* user, quorvel_control*, std::int32_t transfer, std::int32_t end,
+                        const char* cause) {
+      auto& told = *static_cast<CHost*>(user);
+      told.ends += std::to_string(transfer) + " " + std::to_string(end) + " " + cause + "\n";
+      if (const auto act = told.on_ended) act();
+    };
+    quorvel_control_observe(control, &observer);
     quorvel_control_custom(control, QUORVEL_COMMAND_DEVICE, 48, 1);
     const std::array<std::uint8_t, 4> identity{0, 4, 7, 'T'};
     quorvel_control_save_connected_info(control, identity.data(), identity.size());
@@ -95,5 +111,7 @@ struct CHost {
   std::array<std::uint8_t, kBlocks * kBlock> device{};
   std::vector<std::uint8_t> written;
   std::function<int(const char*)> at_modal;
-  std::function<void()> on_request, on_uploaded;
+  std::function<void()> on_request, on_uploaded, on_progress, on_ended;
+  std::array<int, 3> progress{};  ///< which, done, total
+  std::string ends;               ///< a line for each: which, how, cause
 };

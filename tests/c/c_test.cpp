@@ -40,7 +40,15 @@ const std::vector<std::function<quorvel_result(quorvel_control*)>> kOfControl{
     Bare(quorvel_control_describe_settings),
     Bare(quorvel_control_get_setting),
     Bare(quorvel_control_set_setting),
-    Bare(quorvel_control_setting_findings)};
+    Bare(quorvel_control_setting_findings),
+    Bare(quorvel_control_observe),
+    Bare(quorvel_control_start_receive),
+    Bare(quorvel_control_start_send),
+    Bare(quorvel_control_cancel_transfer),
+    Bare(quorvel_control_state),
+    Bare(quorvel_control_load_settings),
+    Bare(quorvel_control_save_settings),
+    Bare(quorvel_control_load_defaults)};
 
 const std::vector<std::function<quorvel_result(quorvel_platform*)>> kOfPlatform{
     Bare(quorvel_platform_run_until_idle),
@@ -223,16 +231,76 @@ TEST(CInterface, ShowsTheScreen) {
   EXPECT_EQ(host.Setting("CamInfo(0).title"), "\"T\\xFCr\"");
 }
 
+TEST(CInterface, TransfersWithoutDialogs) {
+  CHost host;
+  quorvel_state state{};
+  state.size = sizeof state;
+  quorvel_send_choice changes{};
+  changes.size = sizeof changes;
+  changes.modified_only = 1;
+  EXPECT_EQ(quorvel_control_start_send(host.control, nullptr), QUORVEL_FAILED);
+  EXPECT_EQ(host.ends, "2 2 " + std::string(quorvel_last_error()) + "\n");
+  host.ends.clear();
+
+  host.on_request = [&] {
+    if (host.progress[1] != 100) return;
+    EXPECT_EQ(quorvel_control_state(host.control, &state), QUORVEL_OK);
+    quorvel_control_cancel_transfer(host.control);
+  };
+  EXPECT_EQ(quorvel_control_start_receive(host.control), QUORVEL_OK);
+  EXPECT_EQ(std::vector({state.has_image, state.transfer, state.combined, state.done, state.total}),
+            std::vector({0, 1, 0, 100, 225}));
+  EXPECT_EQ(host.ends.substr(0, 4), "1 1 ");
+  host.on_request = {};
+  host.progress = {};
+  host.ends.clear();
+
+  EXPECT_EQ(quorvel_control_start_receive(host.control), QUORVEL_OK);
+  EXPECT_EQ(quorvel_control_set_setting(host.control, "CamInfo(0).title", "Yard", nullptr), 0);
+  EXPECT_EQ(quorvel_control_start_send(host.control, &changes), QUORVEL_OK);
+  std::int64_t due = 0;
+  EXPECT_EQ(quorvel_platform_next_due(host.platform, &due), QUORVEL_OK);
+  EXPECT_EQ(due, 50);
+  EXPECT_EQ(quorvel_platform_run_until_idle(host.platform), QUORVEL_OK);
+  EXPECT_EQ(host.ends, "1 0 \n2 0 \n");
+  EXPECT_EQ(host.written, std::vector<std::uint8_t>{1});
+  EXPECT_EQ(std::memcmp(host.device.data(), "Yard", 4), 0);
+}
+
+TEST(CInterface, MovesSettingsFilesAsBytes) {
+  CHost host;
+  std::vector<std::uint8_t> file(4000);
+  std::size_t needed = 0;
+  std::string note;
+  const auto take = [](void* to, const char* text) {
+    *static_cast<std::string*>(to) = text;
+    return 0;
+  };
+  EXPECT_EQ(quorvel_control_load_defaults(host.control, 17, 7, "T", '2'), QUORVEL_FAILED);
+  EXPECT_EQ(quorvel_control_load_defaults(host.control, 9, 7, "T", '2'), QUORVEL_OK);
+  EXPECT_EQ(quorvel_control_set_setting(host.control, "CamInfo(8).title", "Gate", nullptr), 0);
+  EXPECT_EQ(quorvel_control_save_settings(host.control, file.data(), file.size(), &needed), 0);
+  EXPECT_EQ(needed, 3200U);
+  CHost other;
+  EXPECT_EQ(quorvel_control_load_settings(other.control, file.data(), 100, take, &note),
+            QUORVEL_FAILED);
+  EXPECT_EQ(quorvel_control_load_settings(other.control, file.data(), needed, take, &note), 0);
+  EXPECT_EQ(note, "");
+  EXPECT_EQ(other.Setting("CamInfo(8).title"), host.Setting("CamInfo(8).title"));
+}
+
 /// What a host may do in the middle of a call: free the control, the platform, or both.
 TEST(CInterface, MayBeFreedFromInsideItsCallbacks) {
   const auto free_all = [](CHost& host) {
     host.FreeControl();
     quorvel_platform_free(std::exchange(host.platform, nullptr));
   };
-  for (const auto at : {"request", "uploaded", "modal", "menu"}) {
+  for (const auto at : {"request", "uploaded", "modal", "progress", "ended", "menu"}) {
     CHost host;
     const std::string place = at;
     if (place == "request") host.on_request = [&] { free_all(host); };
+    if (place == "progress") host.on_progress = [&] { free_all(host); };
+    if (place == "ended") host.on_ended = [&] { free_all(host); };
     if (place == "uploaded") host.on_uploaded = [&] { free_all(host); };
     host.at_modal = [&](const char*) {
       free_all(host);
