@@ -6,7 +6,7 @@ from ctypes import c_char_p, c_void_p, string_at
 from typing import TYPE_CHECKING, Any
 
 from ._c import structs
-from ._c.calls import callback
+from ._c.calls import callback, handle_in_turn
 from ._c.convert import text
 from .enums import Transfer, TransferEnd
 
@@ -66,6 +66,15 @@ def _handed(kinds: tuple[Any, ...], given: tuple[Any, ...]) -> list[Any]:
     return [text(it) if kind is c_char_p else it for kind, it in zip(kinds, given)]
 
 
+@callback(structs.ByteEvent)
+def _request_blk(control: Control, _: Any, number: int) -> None:
+    def act() -> None:
+        if not control.closed:
+            control.events.request_blk(control, number)
+
+    handle_in_turn(act)
+
+
 def _raises(name: str, prototype: Any) -> Any:
     @callback(prototype)
     def event(control: Control, _: Any, *given: Any) -> None:
@@ -88,6 +97,7 @@ def _ended(control: Control, _: Any, transfer: int, end: int, cause: bytes) -> N
 _EVENTS = {
     name: _raises(name, kind) for name, kind in structs.quorvel_events._fields_ if name != "user"
 }
+_EVENTS["request_blk"] = _request_blk
 
 
 def events_struct(number: int) -> structs.quorvel_events:

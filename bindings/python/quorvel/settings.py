@@ -6,6 +6,7 @@ an int or a str.
 
 from __future__ import annotations
 
+import operator
 import re
 from dataclasses import dataclass
 from typing import NamedTuple, Union
@@ -32,7 +33,7 @@ def format_value(value: Value) -> str:
     if isinstance(value, bool):
         return "yes" if value else "no"
     if not isinstance(value, str):
-        return str(int(value))
+        return str(operator.index(value))
     if not value.startswith('"') and "\0" not in value:
         return value
     return '"' + re.sub(r'["\\\0]', lambda it: f"\\x{ord(it[0]):02X}", value) + '"'

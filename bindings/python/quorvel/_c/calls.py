@@ -18,19 +18,32 @@ import weakref
 from ctypes import CDLL, byref, c_int32, c_size_t, c_uint8, create_string_buffer, memmove, sizeof
 from ctypes import string_at
 from types import SimpleNamespace
-from typing import Any, Callable, TypeVar
+from typing import Any, Callable, List, TypeVar
 
 from .. import errors
+from ..enums import Result
 from . import functions, library, structs
 
 logger = logging.getLogger("quorvel")
-Result = TypeVar("Result")
+Made = TypeVar("Made")
+
+
+Later = List[Callable[[], None]]
+
+
+class _Call:
+    """A call that is running."""
+
+    def __init__(self, answered: Later | None) -> None:
+        self.raised: list[BaseException] = []  # by callbacks
+        self.answered = answered  # of the handler whose answer the call is
 
 
 class _Running(threading.local):
-    """What callbacks have raised during the call that runs on this thread; None: no call does."""
+    """What runs on a thread: the innermost call, and the handler that C has called from there."""
 
-    raised: list[BaseException] | None = None
+    call: _Call | None = None
+    handler: Later | None = None
 
 
 _running = _Running()
@@ -50,10 +63,27 @@ def forget(number: int) -> None:
 
 
 def keep(error: BaseException) -> None:
-    if _running.raised is not None:
-        _running.raised.append(error)
+    if _running.call is not None:
+        _running.call.raised.append(error)
     else:
         logger.error("A callback has failed outside of any call", exc_info=error)
+
+
+def handle_in_turn(act: Callable[[], None]) -> None:
+    """Has a handler act. What its answer brings about waits until it has returned: C asks for block
+    2 while it is handed block 1, and Python does not go as deep as a device has blocks."""
+    if _running.call is not None and _running.call.answered is not None:
+        _running.call.answered.append(act)
+        return
+    outer, later = _running.handler, [act]
+    while later:
+        _running.handler = later
+        try:
+            later.pop(0)()
+        except BaseException as error:
+            keep(error)
+        finally:
+            _running.handler = outer
 
 
 def callback(prototype: Any, otherwise: Any = None) -> Callable[[Callable[..., Any]], Any]:
@@ -115,18 +145,20 @@ def _raise_kept(raised: list[BaseException]) -> None:
         del first  # else it would keep itself, through its traceback
 
 
-def _caller(function: Any, last_error: Any) -> Callable[..., None]:
+def _caller(function: Any, is_answer: bool, last_error: Any) -> Callable[..., None]:
     checks = [_CHECKS.get(kind) for kind in function.argtypes]
 
     def call(*given: Any) -> None:
         prepared = [check(it) if check else it for check, it in zip(checks, given)]
-        outer, _running.raised = _running.raised, []
+        outer, handler = _running.call, _running.handler
+        running = _running.call = _Call(handler if is_answer else None)
+        _running.handler = None
         try:
             result = function(*prepared)
         finally:
-            raised, _running.raised = _running.raised, outer
-        if raised:
-            _raise_kept(raised)
+            _running.call, _running.handler = outer, handler
+        if running.raised:
+            _raise_kept(running.raised)
         if result:
             raise errors.error_of(result, last_error().decode("utf-8", "replace"))
 
@@ -143,9 +175,10 @@ def _bound(to: CDLL) -> SimpleNamespace:
         if function is None:
             raise ImportError(f"Quorvel's C library has no {name}")
         function.restype, function.argtypes = gives, takes
-        is_asked = gives not in (None, c_int32)
-        made = function if is_asked else _caller(function, to.quorvel_last_error)
-        setattr(bound, name[len("quorvel_") :], made)
+        if gives in (None, c_int32):
+            is_answer = name == "quorvel_control_fill_data_blk"
+            function = _caller(function, is_answer, to.quorvel_last_error)
+        setattr(bound, name[len("quorvel_") :], function)
     return bound
 
 
@@ -160,11 +193,15 @@ def data(given: Any) -> tuple[bytes, int]:
 
 def read(function: Callable[..., None], *given: Any) -> bytes:
     """What a function writes into a buffer."""
-    needed = c_size_t()
-    function(*given, None, 0, byref(needed))
-    buffer = create_string_buffer(max(needed.value, 1))
-    function(*given, buffer, needed.value, byref(needed))
-    return buffer.raw[: needed.value]
+    needed = c_size_t(4096)
+    while True:
+        buffer = create_string_buffer(needed.value)
+        try:
+            function(*given, buffer, len(buffer), byref(needed))
+            return buffer.raw[: needed.value]
+        except errors.Error as error:
+            if error.result != Result.TOO_SMALL:
+                raise
 
 
 def asked(function: Callable[..., None], kind: Any, *given: Any) -> Any:
@@ -182,10 +219,10 @@ def shown(kind: type[structs.Struct], address: int) -> structs.Struct:
 
 
 def collect(
-    made_of: Callable[[int], Result], function: Callable[..., None], *given: Any
-) -> list[Result]:
+    made_of: Callable[[int], Made], function: Callable[..., None], *given: Any
+) -> list[Made]:
     """What a function shows to a visitor, one by one, by address."""
-    found: list[Result] = []
+    found: list[Made] = []
 
     def visit(_: int | None, address: int) -> int:
         try:

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import functools
 from ctypes import Structure
 from typing import Any, Callable, TypeVar
 
@@ -44,8 +45,15 @@ def _field(struct: Structure, name: str, kind: str) -> Any:
     return _ARRAYS[kind](value[:count] if count else [])
 
 
+@functools.lru_cache(maxsize=None)
+def _types_of(kind: type[Any]) -> dict[str, str]:
+    """Of the fields, as they are written."""
+    types = kind.__annotations__.items()
+    return {name: getattr(it, "__forward_arg__", it) for name, it in types}
+
+
 def made(kind: type[Made], struct: Structure) -> Made:
-    return kind(**{name: _field(struct, name, it) for name, it in kind.__annotations__.items()})
+    return kind(**{name: _field(struct, name, it) for name, it in _types_of(kind).items()})
 
 
 def all_shown(

@@ -15,7 +15,7 @@ class Data(c_char_p):
 
 
 _P, _C, _I, _B, _N, _U = s.Platform, s.Control, c_int32, c_uint8, c_size_t, c_void_p
-_IOUT, _LOUT, _BOUT = POINTER(c_int32), POINTER(c_int64), POINTER(c_uint8)
+_IOUT, _LOUT = POINTER(c_int32), POINTER(c_int64)
 _GIVEN = [Data, _N]
 _BYTES = [c_void_p, _N, POINTER(_N)]  # a buffer of ours
 _SEEN = [s.Visit, _U]
@@ -51,7 +51,7 @@ RESULTS: dict[str, list[Any]] = {
     "quorvel_control_properties_changed": [_C, _IOUT],
     "quorvel_control_enabled": [_C, _IOUT],
     "quorvel_control_set_enabled": [_C, _I],
-    "quorvel_control_host_comm_id": [_C, _BOUT],
+    "quorvel_control_host_comm_id": [_C, c_void_p],
     "quorvel_control_set_host_comm_id": [_C, _B],
     "quorvel_control_click": [_C],
     "quorvel_control_double_click": [_C],
