@@ -1,6 +1,7 @@
 #include "muxhost/window/main_window.h"
 
 #include <QAbstractItemView>
+#include <QMenuBar>
 #include <QToolButton>
 
 #include "muxhost/window/event_log.h"
@@ -38,6 +39,27 @@ class MuxhostWindow : public MuxhostOnScreen {
     return std::equal(image.begin(), image.end(), device.begin(), device.end());
   }
 };
+
+TEST_F(MuxhostWindow, TakesBackWhatWasAccepted) {
+  const auto steps = [this] {
+    QString text;
+    for (const QAction* const it : window_.menuBar()->actions().front()->menu()->actions()) {
+      text += it->text() + (it->isEnabled() ? "; " : " (off); ");
+    }
+    return text;
+  };
+  Download();
+  EXPECT_EQ(steps(), "&Undo (off); &Redo (off); ");
+  Choose("mnu_CSetup");
+  QWidget& editor = *OnScreen("frm_CameraSetup");
+  QTest::keyClicks(Find<QLineEdit>(&editor, "m_CameraTitle(2)"), "x");
+  QTest::mouseClick(Find<QPushButton>(&editor, "cmd_OK"), Qt::LeftButton);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return steps() == "&Undo \"Camera Setup\"; &Redo (off); "; }));
+  window_.menuBar()->actions().front()->menu()->actions().front()->trigger();
+  EXPECT_EQ(steps(), "&Undo (off); &Redo \"Camera Setup\"; ");
+  EXPECT_TRUE(DeviceIsAsEdited());
+  EXPECT_TRUE(session_.Control().ModifiedBlocks().empty());
+}
 
 TEST_F(MuxhostWindow, NewcomerDownloadsEditsUploadsAndSeesItVerified) {
   window_.Backups().SetWanted(true);

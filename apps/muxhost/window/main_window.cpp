@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -45,6 +46,7 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
   identity_->setObjectName("Identity");
   statusBar()->addWidget(identity_);
 
+  AddEditMenu();
   platform_.SetHostWindow(this);
   platform_.SetMenuButton(&commands_->MenuButton());
   AttachToSession();
@@ -75,6 +77,29 @@ MainWindow::~MainWindow() {
   session_.on_change = nullptr;
   session_.interrupt = nullptr;
   session_.on_zones_wanted = nullptr;
+}
+
+void MainWindow::AddEditMenu() {
+  QMenu* const menu = menuBar()->addMenu("&Edit");
+  undo_ = menu->addAction("Undo", QKeySequence::Undo, this, [this] {
+    session_.Control().Undo();
+    ShowState();
+  });
+  redo_ = menu->addAction("Redo", QKeySequence::Redo, this, [this] {
+    session_.Control().Redo();
+    ShowState();
+  });
+}
+
+/// An editor that is open shows what it has read: nothing is taken back behind it.
+void MainWindow::ShowSteps() {
+  const bool free = !IsLocked() && !OthersAreOpen(this);
+  const auto show = [free](QAction& action, const QString& verb, const std::string& step) {
+    action.setText(step.empty() ? verb : verb + " \"" + QString::fromStdString(step) + '"');
+    action.setEnabled(free && !step.empty());
+  };
+  show(*undo_, "&Undo", session_.Control().UndoText());
+  show(*redo_, "&Redo", session_.Control().RedoText());
 }
 
 QWidget* MainWindow::MakeLeftSide() {
@@ -307,6 +332,7 @@ void MainWindow::ShowState() {
   options_->AllowExchange(busy.isEmpty(), busy);
   link_->ShowPending(session_.PendingFault());
   identity_->setText(Describe(session_.Device(), platform_));
+  ShowSteps();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {

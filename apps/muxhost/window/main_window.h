@@ -69,6 +69,8 @@ class MainWindow : public QMainWindow {
   void ShowLog();
   void ShowState();
   [[nodiscard]] Situation PresentSituation() const;
+  void AddEditMenu();
+  void ShowSteps();
 
   QtPlatform& platform_;
   HostSession& session_;
@@ -82,6 +84,8 @@ class MainWindow : public QMainWindow {
   BlockMapBox* const blocks_;
   EventLog* const log_;
   QLabel* const identity_;
+  QAction* undo_ = nullptr;
+  QAction* redo_ = nullptr;
   QPointer<ZoneEditor> zones_;
   QTimer watch_;
   QTimer zones_request_;
