@@ -15,11 +15,11 @@ bool ReadActivityGrid(DeviceState& device, int camera, ActivityGridBytes& grid) 
   return true;
 }
 
-void UpdateActivityGrid(DeviceState& device, std::span<const Byte> data) {
-  if (data.size() < 1 + ActivityGridBytes().size()) return;
+bool UpdateActivityGrid(DeviceState& device, std::span<const Byte> data) {
+  if (data.size() < 1 + ActivityGridBytes().size()) return false;
   const int number = data[0];
   Cameras* const camera = device.Record().CamInfo(number);
-  if (camera == nullptr) return;
+  if (camera == nullptr) return false;
   for (int k = 0; k < camera->ActGrid.kSize; ++k) {
     const Byte cell = data[static_cast<std::size_t>(k) + 1];
     if (camera->ActGrid(k) == cell) continue;
@@ -31,6 +31,7 @@ void UpdateActivityGrid(DeviceState& device, std::span<const Byte> data) {
       EncodeBlock(block, device.BlkImage, device.env, device.Record());
     }
   }
+  return true;
 }
 
 }  // namespace quorvel

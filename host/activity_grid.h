@@ -16,7 +16,7 @@ using ActivityGridBytes = std::array<Byte, 32>;
 bool ReadActivityGrid(DeviceState& device, int camera, ActivityGridBytes& grid);
 
 /// Stores an edited grid, [0] camera and 32 bytes, and lists the blocks of the bytes that differ.
-/// Data that is too short, or names a camera that the device lacks, changes nothing.
-void UpdateActivityGrid(DeviceState& device, std::span<const Byte> data);
+/// False, and no change, for data that is too short or names a camera that the device lacks.
+bool UpdateActivityGrid(DeviceState& device, std::span<const Byte> data);
 
 }  // namespace quorvel

@@ -102,14 +102,21 @@ void Component::Custom(std::int16_t command, std::int32_t param1, std::int32_t p
       context.host.HostType = static_cast<std::int16_t>(param1);
       context.host.HostIsDvr = static_cast<Byte>(param2);
       return;
-    default: return;
+    default: return Ignored("there is no command " + std::to_string(command));
   }
 }
 
 void Component::CustomWithString(std::int16_t command, std::string_view text) {
-  if (command == kCommandTextSource) {
-    context.texts.CreateTextSource(context.platform.Classes(), text);
+  if (command != kCommandTextSource) {
+    return Ignored("there is no command " + std::to_string(command) + " with a text");
   }
+  if (!context.texts.CreateTextSource(context.platform.Classes(), text)) {
+    Ignored("no text source could be made of class " + std::string(text));
+  }
+}
+
+void Component::Ignored(const std::string& what) const {
+  context.edges.Log(LogLevel::kWarning, what);
 }
 
 void Component::OpenMenu(std::int16_t link) {
@@ -124,12 +131,25 @@ void Component::OpenMenu(std::int16_t link) {
 }
 
 void Component::SendActivityGrid(int camera) {
-  if (ReadActivityGrid(context.device, camera, ActGridBuf)) host_->ActGridData(ActGridBuf);
+  if (!ReadActivityGrid(context.device, camera, ActGridBuf)) {
+    return Ignored("there is no grid of camera " + std::to_string(camera));
+  }
+  host_->ActGridData(ActGridBuf);
+}
+
+void Component::SaveConnectedInfo(std::span<const Byte> data) {
+  if (!SaveConnectedIdentity(context.host, data)) Ignored("SaveConnectedInfo: too short");
+}
+
+void Component::UpdateActGrid(std::span<const Byte> data) {
+  if (!UpdateActivityGrid(context.device, data)) {
+    Ignored("UpdateActGrid: too short, or of no camera");
+  }
 }
 
 void Component::FillComboInfo(std::span<const Byte> data) {
   constexpr std::size_t kSizesLength = 7;
-  if (data.size() < kSizesLength) return;
+  if (data.size() < kSizesLength) return Ignored("FillComboInfo: too short");
   context.host.combo_sizes = {FromDeviceOrder(data.subspan<0, 2>()), data[2],
                               FromDeviceOrder(data.subspan<3, 2>()), data[5], data[6]};
   context.host.ComboMode = true;

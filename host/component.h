@@ -45,6 +45,8 @@ class Component : public std::enable_shared_from_this<Component> {
 
   void Custom(std::int16_t command, std::int32_t param1, std::int32_t param2);
   void CustomWithString(std::int16_t command, std::string_view text);
+  void SaveConnectedInfo(std::span<const Byte> data);
+  void UpdateActGrid(std::span<const Byte> data);
   void FillComboInfo(std::span<const Byte> data);
   void FillDataBlk(std::span<const Byte> data) { download_.TakeReply(data); }
   void FillComboBlk(std::span<const Byte> data) { download_.TakeComboArray(data); }
@@ -75,6 +77,8 @@ class Component : public std::enable_shared_from_this<Component> {
   bool properties_changed = false;
 
  private:
+  /// A call that changes nothing.
+  void Ignored(const std::string& what) const;
   void OpenMenu(std::int16_t link);
   void SendActivityGrid(int camera);
 

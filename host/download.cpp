@@ -81,7 +81,8 @@ bool Download::Receive() {
 }
 
 void Download::RequestImage(bool quiet) {
-  run_.Begin(quiet, context_.host.ComboMode || context_.host.HostCommId != 0 ? 1 : 0);
+  run_.Begin(quiet);
+  if (context_.host.ComboMode || context_.host.HostCommId != 0) run_.Expect(1);
   Step([this] {
     if (!context_.host.ComboMode) return Request(Expecting::kBlock, 1);
     expecting_ = Expecting::kComboArray;

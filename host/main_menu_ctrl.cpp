@@ -2,7 +2,6 @@
 
 #include "core/settings_by_name.h"
 #include "host/component.h"
-#include "host/model_catalogue.h"
 #include "host/settings_file.h"
 
 namespace quorvel {
@@ -43,8 +42,7 @@ std::int32_t MainMenuCtrl::CustomWithString(std::int16_t command, std::int32_t /
 }
 
 std::int32_t MainMenuCtrl::SaveConnectedInfo(std::span<const std::uint8_t> data) {
-  component_->Call("SaveConnectedInfo",
-                   [&it = *component_, data] { SaveConnectedIdentity(it.context.host, data); });
+  component_->Call("SaveConnectedInfo", [&it = *component_, data] { it.SaveConnectedInfo(data); });
   return 0;
 }
 

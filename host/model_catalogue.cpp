@@ -60,12 +60,13 @@ bool IdentityFits(const ConnectedIdentity& connected, const ImageIdentity& image
 
 }  // namespace
 
-void SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data) {
-  if (data.size() < 4) return;
+bool SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data) {
+  if (data.size() < 4) return false;
   host.connected = {data[1], static_cast<Byte>(data[2] & kModelCodeMask), NameOf(data.subspan(3))};
   host.ComboMode = false;
   host.combo_sizes.ComboExtraA = 0;
   host.combo_sizes.ComboExtraB = 0;
+  return true;
 }
 
 std::string ModelDescription(const Context& context, int which) {

@@ -12,9 +12,9 @@ namespace quorvel {
 
 struct Context;
 
-/// Stores the connected device's identity: [1] cameras, [2] model code, from [3] the name. Data of
-/// fewer than 4 bytes is not an identity and changes nothing.
-void SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data);
+/// Stores the connected device's identity: [1] cameras, [2] model code, from [3] the name. False,
+/// and no change, for data of fewer than 4 bytes.
+bool SaveConnectedIdentity(HostStatements& host, std::span<const Byte> data);
 
 /// " (16 ch, Triplex NTSC)": which = 0 of the connected device, 1 of the image as it is decoded,
 /// anything else of no device (0 channels, code 0).

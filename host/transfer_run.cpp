@@ -49,11 +49,11 @@ void Call(const Edges& edges, Body&& body) noexcept {
 
 }  // namespace
 
-void TransferRun::Begin(bool quiet, int total) {
+void TransferRun::Begin(bool quiet) {
   under_way_ = true;
   quiet_ = quiet;
   done_ = 0;
-  total_ = total;
+  total_ = 0;
   Log(context_.edges, LogLevel::kInformation,
       [this] { return std::string(NameOf(which_)) + "has begun"; });
 }

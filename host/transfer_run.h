@@ -22,9 +22,10 @@ class TransferRun {
   TransferRun& operator=(const TransferRun&) = delete;
   ~TransferRun() = default;
 
-  /// `quiet`: no dialog shows it, so no message box tells of it either. `total`: 0 while it is not
-  /// known.
-  void Begin(bool quiet, int total);
+  /// `quiet`: no dialog shows it, so no message box tells of it either.
+  void Begin(bool quiet);
+  /// How much there is to do, once it is known.
+  void Expect(int total) { total_ = total; }
   void Advance(int done, int total);
   /// Nothing when none is under way.
   void End(TransferEnd end, std::string_view cause = {});

@@ -37,31 +37,21 @@ Upload::Upload(Context& context, HostEvents& host, UploadListener& dialog)
 bool Upload::GoesOn(int round) const { return round == round_ && !context_.edges.terminated; }
 
 template <class Body>
-void Upload::Step(Body&& body) {
+void Upload::Step(bool ends, Body&& body) {
   const int round = round_;
   const bool quiet = quiet_;
   try {
     body();
   } catch (...) {
+    if (quiet || ends) Fail(round, FailureReason());
     if (!quiet) throw;
-    const std::string why = FailureReason();
-    if (!GoesOn(round) || !run_.UnderWay()) return context_.edges.Log(LogLevel::kError, why);
-    Halt();
-    run_.End(TransferEnd::kFailed, why);
   }
 }
 
-template <class Body>
-void Upload::Finish(Body&& event) {
-  const int round = round_;
-  const bool quiet = quiet_;
-  try {
-    event();
-  } catch (...) {
-    if (!quiet && GoesOn(round)) run_.End(TransferEnd::kFailed, FailureReason());
-    throw;
-  }
-  if (GoesOn(round)) run_.End(TransferEnd::kFinished);
+void Upload::Fail(int round, const std::string& why) {
+  if (!GoesOn(round) || !run_.UnderWay()) return context_.edges.Log(LogLevel::kError, why);
+  Halt();
+  run_.End(TransferEnd::kFailed, why);
 }
 
 bool Upload::Send(const SendChoice& choice) {
@@ -98,7 +88,8 @@ void Upload::Start(const SendChoice& choice, const SendBasis& basis, bool quiet)
   quiet_ = quiet;
   end_packet_went_ = false;
   if (!BasisHolds()) return;
-  Step([&] {
+  run_.Begin(quiet);
+  Step(true, [&] {
     if (context_.host.ComboMode) {
       StartCombined(choice);
     } else {
@@ -154,9 +145,11 @@ void Upload::StartCombined(const SendChoice& choice) {
   }
   const int round = round_;
   // Without a dialog this was decided before.
-  if (choice.IncludeMacros && !quiet_ && MacroSizeDiffers(context_) && !dialog_.AcceptMacroSize())
-    return;
-  if (GoesOn(round) && BasisHolds()) SendArray(choice);  // while the user was asked
+  const bool asks = choice.IncludeMacros && !quiet_ && MacroSizeDiffers(context_);
+  const bool agreed = !asks || dialog_.AcceptMacroSize();
+  if (!GoesOn(round)) return;  // while the user was asked
+  if (!agreed) return run_.End(TransferEnd::kStopped, "The user sends no macros of another size.");
+  if (BasisHolds()) SendArray(choice);
 }
 
 void Upload::SendArray(const SendChoice& choice) {
@@ -165,15 +158,14 @@ void Upload::SendArray(const SendChoice& choice) {
   std::vector<Byte> array =
       context_.device.ComboArray.Outgoing(choice.IncludeData, choice.IncludeMacros);
   const auto included = IncludedBlocks(choice);
-  run_.Begin(quiet_, 1);
-  Finish([&] {
-    const int round = round_;
-    const bool quiet = quiet_;
-    host_->SendComboBlocks(array);
-    for (const HandedOver& block : included) NoteTaken(block);
-    if (!quiet && GoesOn(round)) dialog_.AllIsSent();
-    if (GoesOn(round)) run_.Advance(1, 1);
-  });
+  run_.Expect(1);
+  const int round = round_;
+  host_->SendComboBlocks(array);
+  for (const HandedOver& block : included) NoteTaken(block);
+  if (!GoesOn(round)) return;
+  if (!quiet_) dialog_.AllIsSent();
+  run_.Advance(1, 1);
+  if (GoesOn(round)) run_.End(TransferEnd::kFinished);
 }
 
 /// The blocks that a combined send brings up to date. There is no acknowledgement: what was sent
@@ -215,7 +207,7 @@ std::vector<Byte> Upload::Plan(bool all_blocks, bool macros) const {
 void Upload::StartBlocks(const SendChoice& choice) {
   plan_ = Plan(choice.all_blocks, choice.IncludeMacros);
   next_ = 0;
-  run_.Begin(quiet_, static_cast<int>(plan_.size()));
+  run_.Expect(static_cast<int>(plan_.size()));
   if (!quiet_) {
     if (plan_.empty()) dialog_.AllIsSent();
     dialog_.BlocksGo();
@@ -250,7 +242,9 @@ void Upload::TriggerTimer() {
   }
   outstanding_ = false;
   patience_->Stop();
-  if (const auto block = std::exchange(unacknowledged_, std::nullopt)) NoteTaken(*block);
+  if (const auto block = std::exchange(unacknowledged_, std::nullopt)) {
+    Step(false, [&] { NoteTaken(*block); });
+  }
   if (state_ == State::kWaiting || state_ == State::kRunning) Timer1->Start();
   if (state_ == State::kRunning) {
     run_.Advance(static_cast<int>(next_), static_cast<int>(plan_.size()));
@@ -261,13 +255,11 @@ void Upload::Tick() {
   Timer1->Stop();
   state_ = State::kRunning;
   if (!run_.UnderWay() || !BasisHolds()) return;
-  Step([this] {
-    if (next_ == plan_.size()) {
-      SendEndPacket();
-    } else {
-      SendNextBlock();
-    }
-  });
+  if (next_ == plan_.size()) {
+    Step(true, [this] { SendEndPacket(); });
+  } else {
+    Step(false, [this] { SendNextBlock(); });
+  }
 }
 
 void Upload::SendNextBlock() {
@@ -286,7 +278,9 @@ void Upload::SendEndPacket() {
   std::array<Byte, kPacketSize> packet{kEndPacket};
   unacknowledged_.reset();
   end_packet_went_ = true;
-  Finish([&] { SendPacket(packet); });
+  const int round = round_;
+  SendPacket(packet);
+  if (GoesOn(round)) run_.End(TransferEnd::kFinished);
 }
 
 void Upload::SendPacket(std::array<Byte, kPacketSize>& packet) {

@@ -80,12 +80,11 @@ class Upload {
     std::array<Byte, kBlockSize> bytes;
   };
 
-  /// Runs a step of a send. Without a dialog, a failure ends the send and goes no further.
+  /// Runs a step of a send. A failure ends the send if so told: a user who sees a packet fail may
+  /// go on. Without a dialog it ends the send in any case, and goes no further.
   template <class Body>
-  void Step(Body&& body);
-  /// Raises the last event of a send: with it the send has finished, or failed.
-  template <class Body>
-  void Finish(Body&& event);
+  void Step(bool ends, Body&& body);
+  void Fail(int round, const std::string& why);
   [[nodiscard]] bool GoesOn(int round) const;
   [[nodiscard]] bool BasisHolds();
   /// Goes to a state. Timer1 has the interval of it.

@@ -35,7 +35,7 @@ struct State {
 
 /// A control with an edited configuration, the host's device, a file, and the user. The host's and
 /// the user's own memory never fails.
-class Desk : public HeadlessPlatform, public MainMenuEvents {
+class Desk : public HeadlessPlatform, public MainMenuEvents, public TransferObserver {
  public:
   static constexpr std::uint8_t kZones = 1;  ///< the edit: the grid of camera 1, all of this byte
 
@@ -76,6 +76,20 @@ class Desk : public HeadlessPlatform, public MainMenuEvents {
   void Upload() {
     started_ = false;
     Command<11>();
+  }
+  void Receive() {
+    control_->Observe(this);
+    Call([this] { control_->StartReceive(); });
+    Call([this] { RunUntilIdle(); });
+  }
+  void Send() {
+    const bool combined = !combined_.empty();
+    control_->Observe(this);
+    Call([&] { control_->StartSend({combined, true, combined, false}); });
+    Call([this] { RunUntilIdle(); });
+  }
+  void Load() {
+    Call([this] { told += control_->LoadSettings(combined_).loaded ? 0 : 1; });
   }
   void OpenEditor() {
     Call([this] { control_->Custom(15, 1, 0); });
@@ -147,6 +161,9 @@ class Desk : public HeadlessPlatform, public MainMenuEvents {
   bool Ask(const Message& message) override {
     if (message.text.starts_with("Error found in ")) ++told;
     return true;
+  }
+  void Ended(TransferKind /*which*/, TransferEnd end, std::string_view /*cause*/) override {
+    if (end != TransferEnd::kFinished) ++told;
   }
   std::optional<std::string> AskFile(const FileRequest& /*request*/) override { return Path(); }
   void RequestBlk(std::uint8_t number) override {
@@ -249,6 +266,11 @@ const Operation kOperations[] = {
     {"SaveOfAnArray", &Desk::BeCombined, &Desk::Command<14>, ZonesAreInArrayFile},
     {"UploadOfBlocks", nullptr, &Desk::Upload, ZonesAreInDevice},
     {"UploadOfAnArray", &Desk::BeCombined, &Desk::Upload, ZonesAreInArray},
+    {"ReceiveOfBlocks", &Desk::HaveFewBlocks, &Desk::Receive, NothingIsModified},
+    {"ReceiveOfAnArray", &Desk::BeCombined, &Desk::Receive, NothingIsModified},
+    {"SendOfBlocks", nullptr, &Desk::Send, ZonesAreInDevice},
+    {"SendOfAnArray", &Desk::BeCombined, &Desk::Send, ZonesAreInArray},
+    {"LoadOfAnArray", &Desk::BeCombined, &Desk::Load, NothingIsModified},
     {"OpeningAnEditor", nullptr, &Desk::OpenEditor, EditorIsOpen},
     {"OkOfCameras", &Desk::OpenCamerasAndType, &Desk::PressOk, EditorIsClosed},
     {"OkOfAlarms", &Desk::OpenAlarmsAndType, &Desk::PressOk, EditorIsClosed},

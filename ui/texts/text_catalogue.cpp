@@ -85,11 +85,14 @@ std::string TextCatalogue::GetText(int id) const {
   return std::string(BuiltInText(id));
 }
 
-void TextCatalogue::CreateTextSource(const ClassFactory& classes, std::string_view class_id) {
+bool TextCatalogue::CreateTextSource(const ClassFactory& classes, std::string_view class_id) {
   try {
-    if (auto source = classes.Create(class_id)) source_ = std::move(source);
-  } catch (
-      ...) {  // the host does not offer the class, or it cannot be made: the present source stays
+    auto source = classes.Create(class_id);
+    if (source == nullptr) return false;
+    source_ = std::move(source);
+    return true;
+  } catch (...) {  // the host does not offer the class, or it cannot be made
+    return false;
   }
 }
 

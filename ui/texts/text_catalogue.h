@@ -54,9 +54,9 @@ class TextCatalogue {
   /// fails. Empty for an unknown id.
   [[nodiscard]] std::string GetText(int id) const;
 
-  /// Takes the texts from a new object of the class; a class that cannot be created leaves the
-  /// present source in place.
-  void CreateTextSource(const ClassFactory& classes, std::string_view class_id);
+  /// Takes the texts from a new object of the class; false for a class that cannot be created, and
+  /// then the present source stays.
+  bool CreateTextSource(const ClassFactory& classes, std::string_view class_id);
 
   /// Creates the two catalogues of ready-made texts, if they are not there yet.
   void CreateCatalogues();
