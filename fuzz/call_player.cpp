@@ -127,7 +127,24 @@ void CallPlayer::RequestBlk(std::uint8_t blknum) {
 
 void CallPlayer::UploadSucceeded() {
   Check(control_ != nullptr, "a destroyed control raises no event");
-  list_was_emptied_ = false;
+  if (!std::exchange(arrival_was_told_, false)) list_was_emptied_ = false;
+  InEvent();
+}
+
+void CallPlayer::Progress(TransferKind which, int done, int total) {
+  Check(control_ != nullptr, "a destroyed control tells no progress");
+  Check(which != TransferKind::kNone && done >= 1 && done <= total, "a part is done");
+  InEvent();
+}
+
+void CallPlayer::Ended(TransferKind which, TransferEnd end, std::string_view cause) {
+  Check(control_ != nullptr, "a destroyed control tells no end");
+  Check(cause.empty() == (end == TransferEnd::kFinished), "the cause is told");
+  Check(end == TransferEnd::kRefused || control_->State().under_way != which, "it has ended");
+  if (which == TransferKind::kReceive && end == TransferEnd::kFinished) {
+    arrival_was_told_ = true;
+    list_was_emptied_ = false;
+  }
   InEvent();
 }
 

@@ -31,6 +31,12 @@ enum class Call : Byte {
   kDisk,         ///< the disk works or fails
   kDestroy,      ///< the control
   kCreate,       ///< a new control
+  kStartReceive,
+  kStartSend,  ///< what
+  kCancel,     ///< the transfer that is under way
+  kLoad,       ///< LoadSettings with the device's image or array, or with any bytes
+  kDefaults,   ///< LoadDefaults: cameras, model code, variant
+  kSave,       ///< SaveSettings, and back with them
   kCount,
 };
 
@@ -48,7 +54,7 @@ struct HostManner {
 /// Plays a sequence of calls and user actions against a control, in any order and at any depth:
 /// inside events, modal dialogs, message boxes and texts. Ends the run when something does not hold
 /// that a host may rely on.
-class CallPlayer : public MainMenuEvents {
+class CallPlayer : public MainMenuEvents, public TransferObserver {
  public:
   /// `thorough`: compare the record with its image at the end, which takes long.
   CallPlayer(std::span<const Byte> input, bool thorough);
@@ -69,6 +75,8 @@ class CallPlayer : public MainMenuEvents {
   void ActGridData(std::span<const std::uint8_t> barray) override;
   void Click() override;
   void DblClick() override;
+  void Progress(TransferKind which, int done, int total) override;
+  void Ended(TransferKind which, TransferEnd end, std::string_view cause) override;
 
  private:
   /// False at the end of the sequence, and when calls are nested too deep already.
@@ -89,6 +97,11 @@ class CallPlayer : public MainMenuEvents {
   void ChangeProperties();
   void UseTexts();
   void OpenOrUseMenu();
+  void StartSend();
+  void Load();
+  void LoadDefaults();
+  void SaveAndLoad();
+  LoadAnswer Loaded(const std::function<LoadAnswer()>& load);
   void Create();
 
   /// What the host does inside an event, and while the user reads a message box.
@@ -118,6 +131,7 @@ class CallPlayer : public MainMenuEvents {
   int outstanding_ = 0;            ///< packets that were not acknowledged
   std::int64_t packet_time_ = 0;   ///< when the last one was sent
   bool list_was_emptied_ = false;  ///< by the user, since the image arrived
+  bool arrival_was_told_ = false;  ///< to the observer, and not to the host yet
   std::unique_ptr<MainMenuCtrl> control_;
 };
 

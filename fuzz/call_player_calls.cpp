@@ -57,6 +57,12 @@ void CallPlayer::Make(Call call) {
     case Call::kTexts: return UseTexts();
     case Call::kDestroy: outstanding_ = 0; return control_.reset();
     case Call::kMenu: return OpenOrUseMenu();
+    case Call::kStartReceive: control_->StartReceive(); return;
+    case Call::kStartSend: return StartSend();
+    case Call::kCancel: return control_->CancelTransfer();
+    case Call::kLoad: return Load();
+    case Call::kDefaults: return LoadDefaults();
+    case Call::kSave: return SaveAndLoad();
     default: return;
   }
 }
@@ -68,6 +74,48 @@ void CallPlayer::OpenOrUseMenu() {
   if (desk_.MenuIsUp()) return UseMenu(desk_, in_);
   if (control_ != nullptr) CheckZero(control_->Custom(15, 1, 0));
   desk_.Advance(kPopupDelay);
+}
+
+void CallPlayer::StartSend() {
+  const Byte choice = in_.Next();
+  control_->StartSend({(choice & 1) != 0, (choice & 2) == 0, (choice & 4) == 0, (choice & 8) != 0});
+}
+
+void CallPlayer::Load() {
+  std::vector<Byte> bytes(device_.Bytes().begin(), device_.Bytes().end());
+  const Byte choice = in_.Next();
+  if (choice % 4 == 1) bytes = CombinedBytes(device_, 16, 2);
+  if (choice % 4 == 2)
+    bytes.resize(std::min<std::size_t>(bytes.size(), std::size_t{16} * in_.Next()));
+  if (choice % 4 == 3) {
+    const auto any = in_.Take(in_.Next());
+    bytes.assign(any.begin(), any.end());
+  }
+  const auto before = control_->Image();
+  const LoadAnswer answer = Loaded([&] { return control_->LoadSettings(bytes); });
+  Check(answer || !answer.cause.empty(), "a refusal has a cause");
+  Check(answer || control_->Image() == before, "a refusal changes nothing");
+}
+
+void CallPlayer::LoadDefaults() {
+  const Byte cameras = in_.Next() % 18;
+  const Byte code = in_.Next();
+  const char variant = static_cast<char>(in_.Next());
+  Loaded([&] { return control_->LoadDefaults(cameras, code, "UNIT", variant); });
+}
+
+void CallPlayer::SaveAndLoad() {
+  const auto bytes = control_->SaveSettings();
+  Check(bytes.empty() == !control_->State().has_image, "an image can be saved");
+  if (!bytes.empty()) Loaded([&] { return control_->LoadSettings(bytes); });
+}
+
+/// The observer may have gone on with the sequence when this returns, unless it was refused.
+LoadAnswer CallPlayer::Loaded(const std::function<LoadAnswer()>& load) {
+  const bool was_emptied = std::exchange(list_was_emptied_, false);
+  LoadAnswer answer = load();
+  if (!answer) list_was_emptied_ = was_emptied;
+  return answer;
 }
 
 std::int32_t CallPlayer::Parameter() {
@@ -228,6 +276,7 @@ void CallPlayer::Create() {
   list_was_emptied_ = false;
   control_ = std::make_unique<MainMenuCtrl>(desk_, *this);
   control_->InitProperties();
+  control_->Observe(this);
 }
 
 }  // namespace quorvel::fuzz

@@ -10,9 +10,7 @@ class Combined : public ::testing::Test {
  protected:
   void SetUp() override {
     host_.StateSizes();
-    host_.combo = {0, 13, 0x0C, 0x80, 0, 8, 0, 4, 2, 0, 200, 5, 6};
-    host_.combo.insert(host_.combo.end(), host_.device.Bytes().begin(), host_.device.Bytes().end());
-    host_.combo.resize(3221, 'M');
+    host_.combo = ArrayOf(host_.device);
   }
   /// Command 11, these choices, START, the end, CLOSE. Returns the status bar at the end.
   std::string Send(bool modified, bool macros) {

@@ -8,10 +8,6 @@
 namespace quorvel {
 namespace {
 
-std::vector<Byte> BytesOf(const BlockImage& image) {
-  return {image.Bytes().begin(), image.Bytes().end()};
-}
-
 /// A file of `length` bytes whose byte 15 is `count`.
 std::vector<Byte> FileOf(std::size_t length, Byte count) {
   std::vector<Byte> bytes(length);

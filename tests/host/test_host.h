@@ -19,6 +19,18 @@
 
 namespace quorvel {
 
+inline std::vector<Byte> BytesOf(const BlockImage& image) {
+  return {image.Bytes().begin(), image.Bytes().end()};
+}
+
+/// The combined array around an image of 200 blocks: so many of the 8 bytes of two macro records.
+inline std::vector<Byte> ArrayOf(const BlockImage& image, std::size_t macros = 8) {
+  std::vector<Byte> array{0, 13, 0x0C, 0x80, 0, 8, 0, 4, 2, 0, 200, 5, 6};
+  array.insert(array.end(), image.Bytes().begin(), image.Bytes().end());
+  array.resize(array.size() + macros, 'M');
+  return array;
+}
+
 /// The platform's files are kept in memory.
 class TestPlatform : public HeadlessPlatform {
  public:
