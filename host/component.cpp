@@ -142,9 +142,11 @@ void Component::SaveConnectedInfo(std::span<const Byte> data) {
 }
 
 void Component::UpdateActGrid(std::span<const Byte> data) {
-  if (!UpdateActivityGrid(context.device, data)) {
-    Ignored("UpdateActGrid: too short, or of no camera");
-  }
+  context.device.AsStep({{}, txt::kSetupActiveZones}, [&] {
+    if (!UpdateActivityGrid(context.device, data)) {
+      Ignored("UpdateActGrid: too short, or of no camera");
+    }
+  });
 }
 
 void Component::FillComboInfo(std::span<const Byte> data) {
@@ -164,11 +166,6 @@ void Component::UsePcTime(bool use) {
       context.device.UsePcTime = false;
     }
   });
-}
-
-void Component::UpdateActGrid(std::span<const Byte> data) {
-  context.device.AsStep({{}, txt::kSetupActiveZones},
-                        [&] { UpdateActivityGrid(context.device, data); });
 }
 
 /// The blocks of a send that is under way are taken from the image as it is.

@@ -61,7 +61,6 @@ class Component : public std::enable_shared_from_this<Component> {
   [[nodiscard]] LoadAnswer LoadDefaults(Byte cameras, Byte model_code, std::string_view model_name,
                                         char variant);
   void UsePcTime(bool use);
-  void UpdateActGrid(std::span<const Byte> data);
   [[nodiscard]] bool Undo();
   [[nodiscard]] bool Redo();
   [[nodiscard]] std::string TextOf(const StepName& step);
