@@ -33,6 +33,10 @@ install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT dev
 quorvel_install_pkg_config(quorvel)
 quorvel_install_pkg_config(quorvel-platform-common)
 quorvel_install_pkg_config(quorvel-headless)
+if(QUORVEL_C)
+  quorvel_install_targets(quorvel-c-targets c quorvel_c)
+  quorvel_install_pkg_config(quorvel-c)
+endif()
 if(QUORVEL_QT)
   quorvel_install_targets(quorvel-qt-targets qt quorvel_qt)
   install(DIRECTORY platform/qt/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}

@@ -47,7 +47,7 @@ endif()
 # The C interface, where it is built, comes with a library of its own.
 if(TARGET quorvel_c)
   quorvel_package(c libquorvel-c${quorvel_soversion} libs ", for C"
-    "the shared library for programs in C and other languages" libraries)
+    "the shared library for programs in C and other languages")
   list(APPEND quorvel_libraries c)
 endif()
 quorvel_package(development libquorvel-dev libdevel ", for development"

@@ -29,7 +29,7 @@ install_missing() {
 # that it only recommends, and llvm, which names the lines of a failure.
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
 RUN_PACKAGES=(fonts-dejavu-core)
-TEST_PACKAGES=(libgtest-dev clang clang-19 clang-format pkg-config python3-pip)
+TEST_PACKAGES=(libgtest-dev clang clang-19 clang-format pkg-config python3-pip abigail-tools)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)
 # What Debian packages are made with, and the bare system in which they are tried out.
 PACKAGE_PACKAGES=(dpkg-dev file debootstrap pkg-config)

@@ -17,8 +17,8 @@ set(ENV{QT_QPA_PLATFORM} offscreen)
 
 foreach(source tests/consumer examples)
   run(${CMAKE_COMMAND} -S ${PROJECT}/${source} -B ${FOLDER}/${source} -G Ninja
-    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${FLAGS} -DCMAKE_PREFIX_PATH=${PREFIX}
-    -DWITH_QT=${QT} --no-warn-unused-cli)
+    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${FLAGS} -DCMAKE_C_FLAGS=${FLAGS}
+    -DCMAKE_PREFIX_PATH=${PREFIX} -DWITH_QT=${QT} --no-warn-unused-cli)
   run(${CMAKE_COMMAND} --build ${FOLDER}/${source})
 endforeach()
 run(${FOLDER}/tests/consumer/consumer)
@@ -26,18 +26,23 @@ if(QT)
   run(${FOLDER}/tests/consumer/consumer_qt)
 endif()
 run(${FOLDER}/examples/tiny_host)
+run(${FOLDER}/examples/tiny_host_c)
 foreach(tool muxhost quorvel)
   if(EXISTS ${PREFIX}/bin/${tool})
     run(${PREFIX}/bin/${tool} --version)
   endif()
 endforeach()
 
-execute_process(COMMAND pkg-config --cflags --libs quorvel-headless
-  OUTPUT_VARIABLE options OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-separate_arguments(options UNIX_COMMAND "${FLAGS} ${options}")
-run(${CXX} -std=c++20 ${PROJECT}/tests/consumer/consumer.cpp ${options} -o ${FOLDER}/by_pkg_config)
 set(ENV{LD_LIBRARY_PATH} ${libraries})  # no option says where the libraries are when it runs
-run(${FOLDER}/by_pkg_config)
+function(run_by_pkg_config package)
+  execute_process(COMMAND pkg-config --cflags --libs ${package}
+    OUTPUT_VARIABLE options OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  separate_arguments(options UNIX_COMMAND "${FLAGS} ${options}")
+  run(${ARGN} ${options} -o ${FOLDER}/${package})
+  run(${FOLDER}/${package})
+endfunction()
+run_by_pkg_config(quorvel-headless ${CXX} -std=c++20 ${PROJECT}/tests/consumer/consumer.cpp)
+run_by_pkg_config(quorvel-c cc -std=c99 ${PROJECT}/examples/tiny_host.c)
 if(QT)
   run(pkg-config --exists --print-errors quorvel-qt)
 endif()
