@@ -1,71 +1,60 @@
 // A host in its smallest form: its device is an array of bytes. It reads the device into the
-// control, has the titles of cameras edited, writes back what changed, and looks at the array.
+// control, edits by name and in a window, writes back what changed, and looks at the array.
+#include <algorithm>
 #include <array>
-#include <cstdint>
 #include <iostream>
-#include <string>
+#include <string_view>
 
 #include "quorvel/headless_platform.h"
 #include "quorvel/main_menu_ctrl.h"
-#include "quorvel/version.h"
 
-namespace {
-
-constexpr std::size_t kBlock = 16;
+constexpr std::size_t kBlock = 16, kBlocks = 225;
 
 class Host : public quorvel::MainMenuEvents {
  public:
   explicit Host(quorvel::Platform& platform) : control(platform, *this) {
-    device.at(15) = 225;                // block 1, byte 15: how many blocks there are
-    device.at(184 * kBlock) = 4;        // block 185: cameras,
-    device.at(184 * kBlock + 1) = 7;    // model code
-    device.at(184 * kBlock + 2) = 'T';  // and model name
+    const std::array<std::uint8_t, 4> identity{0, 4, 7, 'T'};  // cameras, model code, model name
+    std::copy(identity.begin() + 1, identity.end(), Block(185));
+    device.at(15) = kBlocks;  // block 1, byte 15: how many there are
     control.InitProperties();
-    control.Custom(18, 48, 1);  // device family, and a caption that tells of a DVR
-    const std::array<std::uint8_t, 4> identity{0, 4, 7, 'T'};
+    control.Custom(18, 48, 1);  // device family; captions speak of a DVR
     control.SaveConnectedInfo(identity);
   }
-  void RequestBlk(std::uint8_t n) override {
-    std::array<std::uint8_t, 1 + kBlock> reply{n};
-    const auto block = device.begin() + (n - 1) * static_cast<std::ptrdiff_t>(kBlock);
-    std::copy_n(block, kBlock, reply.begin() + 1);
+  void RequestBlk(std::uint8_t number) override {
+    std::array<std::uint8_t, 1 + kBlock> reply{number};
+    std::copy_n(Block(number), kBlock, reply.begin() + 1);
     control.FillDataBlk(reply);
   }
   void DownLoadData(std::span<std::uint8_t> packet) override {
-    const std::size_t at = (packet[0] - std::size_t{1}) * kBlock;
-    if (at < device.size()) std::copy_n(packet.begin() + 1, kBlock, device.begin() + at);
+    if (packet[0] <= kBlocks) std::copy_n(&packet[1], kBlock, Block(packet[0]));  // 255: the end
     control.TriggerUploadTimer();
   }
+  std::uint8_t* Block(std::size_t number) { return &device.at((number - 1) * kBlock); }
 
-  std::array<std::uint8_t, 225 * kBlock> device{};
+  std::array<std::uint8_t, kBlocks * kBlock> device{};
   quorvel::MainMenuCtrl control;
 };
-
-}  // namespace
 
 int main() {
   quorvel::HeadlessPlatform platform;
   Host host(platform);
-  platform.at_modal = [](quorvel::Dialog& dialog) {  // the user at the dialogs of both transfers
-    auto& start = dialog.Find<quorvel::Button>("cmdOK");
-    if (dialog.Name() == "frm_ToMux" && !start.Enabled()) {  // sending, or at the end
-      if (dialog.Find<quorvel::Button>("cmdStop").Visible()) return false;
-      return dialog.Find<quorvel::Button>("cmdCancel").Click() == quorvel::Answer::kDone;
-    }
-    if (dialog.Name() == "frm_ToMux") dialog.Find<quorvel::OptionButton>("optBlk(1)").Click();
-    return start.Click() == quorvel::Answer::kDone;
-  };
+  host.control.StartReceive();
+  host.control.SetSetting("CamInfo(1).title", "Yard");
 
-  host.control.Custom(10, 0, 0);
-  host.control.Custom(15, 1, 0);
+  host.control.Custom(15, 1, 0);  // the menu, for a host with a network link
   platform.RunUntilIdle();
   platform.ChooseMenu("mnu_CSetup");
-  auto& cameras = platform.Window("frm_CameraSetup");
-  cameras.Find<quorvel::TextBox>("m_CameraTitle(0)").Type("Front door");
-  cameras.Find<quorvel::Button>("cmd_OK").Click();
-  host.control.Custom(11, 0, 0);
+  platform.User().Type("m_CameraTitle(0)", "Front door");
+  platform.User().Click("cmd_OK");
 
-  const std::string title(host.device.begin(), host.device.begin() + 10);
-  std::cout << "quorvel " << quorvel::Version() << ": " << title << '\n';
-  return title == "Front door" ? 0 : 1;
+  host.control.StartSend({.all_blocks = false});
+  platform.RunUntilIdle();
+  const auto holds = [&host](std::size_t block, std::string_view title) {
+    return std::equal(title.begin(), title.end(), host.Block(block));
+  };
+  const bool written = holds(1, "Front door") && holds(2, "Yard");
+  const auto differences = host.control.DifferencesFrom(host.device);
+  const bool same = differences && differences->empty();  // in every other setting, too
+  std::cout << (written && same ? "The device has what was edited.\n" : "An edit is lost.\n");
+  return written && same ? 0 : 1;
 }
