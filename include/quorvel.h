@@ -249,6 +249,16 @@ QUORVEL_C_API quorvel_result quorvel_control_update_act_grid(quorvel_control* co
 QUORVEL_C_API quorvel_result quorvel_control_use_pc_time(quorvel_control* control, int32_t* use);
 QUORVEL_C_API quorvel_result quorvel_control_set_use_pc_time(quorvel_control* control, int32_t use);
 
+// Takes back what was accepted last, in a window or by name, and does it again. QUORVEL_FAILED when
+// there is nothing, or while a send is under way. The texts say what that would be, as
+// "Camera Setup"; "" for nothing.
+QUORVEL_C_API quorvel_result quorvel_control_undo(quorvel_control* control);
+QUORVEL_C_API quorvel_result quorvel_control_redo(quorvel_control* control);
+QUORVEL_C_API quorvel_result quorvel_control_undo_text(quorvel_control* control, char* buffer,
+                                                       size_t size, size_t* needed);
+QUORVEL_C_API quorvel_result quorvel_control_redo_text(quorvel_control* control, char* buffer,
+                                                       size_t size, size_t* needed);
+
 // The properties that a host keeps between runs.
 typedef struct quorvel_properties {
   size_t size;

@@ -107,6 +107,28 @@ quorvel_result quorvel_control_set_use_pc_time(quorvel_control* control, int32_t
   return Run([&] { Of(control)->UsePcTime(use != 0); });
 }
 
+quorvel_result quorvel_control_undo(quorvel_control* control) {
+  return Run([&] {
+    if (!Of(control)->Undo()) Refuse(QUORVEL_FAILED, "nothing can be taken back now");
+  });
+}
+
+quorvel_result quorvel_control_redo(quorvel_control* control) {
+  return Run([&] {
+    if (!Of(control)->Redo()) Refuse(QUORVEL_FAILED, "nothing can be done again now");
+  });
+}
+
+quorvel_result quorvel_control_undo_text(quorvel_control* control, char* buffer, size_t size,
+                                         size_t* needed) {
+  return Run([&] { Put({buffer, size, needed}, Of(control)->UndoText()); });
+}
+
+quorvel_result quorvel_control_redo_text(quorvel_control* control, char* buffer, size_t size,
+                                         size_t* needed) {
+  return Run([&] { Put({buffer, size, needed}, Of(control)->RedoText()); });
+}
+
 quorvel_result quorvel_control_click(quorvel_control* control) {
   return Run([&] { RequireEnabled(Of(control)->Surface().Click()); });
 }

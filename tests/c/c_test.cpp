@@ -41,6 +41,10 @@ const std::vector<std::function<quorvel_result(quorvel_control*)>> kOfControl{
     Bare(quorvel_control_get_setting),
     Bare(quorvel_control_set_setting),
     Bare(quorvel_control_setting_findings),
+    Bare(quorvel_control_undo),
+    Bare(quorvel_control_redo),
+    Bare(quorvel_control_undo_text),
+    Bare(quorvel_control_redo_text),
     Bare(quorvel_control_observe),
     Bare(quorvel_control_start_receive),
     Bare(quorvel_control_start_send),
@@ -138,6 +142,13 @@ TEST(CInterface, SaysHowLargeABufferMustBe) {
   EXPECT_STREQ(text.data(), "????");
   EXPECT_EQ(get(text.data(), 8), QUORVEL_OK);
   EXPECT_STREQ(text.data(), "\"Front\"");
+
+  EXPECT_EQ(quorvel_control_undo_text(host.control, nullptr, 0, &needed), QUORVEL_OK);
+  EXPECT_GT(needed, 1U);
+  EXPECT_EQ(quorvel_control_undo(host.control), QUORVEL_OK);
+  EXPECT_EQ(quorvel_control_undo(host.control), QUORVEL_FAILED);
+  EXPECT_EQ(quorvel_control_undo_text(host.control, text.data(), 1, &needed), QUORVEL_OK);
+  EXPECT_EQ(quorvel_control_redo(host.control), QUORVEL_OK);
 
   std::uint8_t block = 0;
   ASSERT_EQ(quorvel_control_modified_blocks(host.control, &block, 1, nullptr), QUORVEL_OK);
