@@ -30,6 +30,8 @@ TEST(TextTable, HasNoTextMissingAndNoneBeyond) {
   EXPECT_EQ(kTextCount, 333);
   for (int id = 0; id <= 332; ++id) EXPECT_FALSE(BuiltInText(id).empty()) << id;
   for (const int id : {-1, 333, 100000}) EXPECT_EQ(BuiltInText(id), "") << id;
+  for (const auto& [id, text] : BuiltInTexts()) EXPECT_EQ(BuiltInText(id), text) << id;
+  EXPECT_GT(BuiltInTexts().size(), 333U) << "those beyond the table";
 }
 
 TEST(TextTable, NumbersTapeFormatsInOrder) {
