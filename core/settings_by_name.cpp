@@ -190,19 +190,25 @@ const char* Describe(SetAnswer answer) {
 }
 
 std::string AllowedInWords(const SettingDescription& setting) {
-  switch (setting.type) {
-    case SettingType::kFlag: return "yes or no";
-    case SettingType::kText: return "up to " + std::to_string(setting.most) + " characters";
-    case SettingType::kNumber: break;
+  if (setting.type == SettingType::kText) {
+    return "up to " + std::to_string(setting.most) + " characters";
+  }
+  if (setting.type == SettingType::kFlag) {
+    if (setting.codes.size() != 2) return "yes or no";
+    return "no = " + setting.codes[0].text + ", yes = " + setting.codes[1].text;
   }
   std::string words;
+  const char* separator = "";
   if (!setting.codes_only) {
     words = std::to_string(setting.least) + " to " + std::to_string(setting.most);
     if (!setting.unit.empty()) words += ' ' + setting.unit;
+    const Range range{setting.least, setting.most};
+    const bool among = !setting.codes.empty() && range.Holds(setting.codes.front().value);
+    separator = among ? ": " : " or ";
   }
-  const char* separator = setting.codes_only ? ", " : " or ";
   for (const SettingCode& code : setting.codes) {
-    words += (words.empty() ? "" : separator) + std::to_string(code.value) + ' ' + code.text;
+    words += separator + std::to_string(code.value) + " = " + code.text;
+    separator = ", ";
   }
   return words;
 }
@@ -263,7 +269,7 @@ class UnallowedCollector : public layout::SettingVisitor<UnallowedCollector> {
   template <class Item>
   static constexpr bool Wants() {
     using Meaning = typename Item::Meaning;
-    return HasLimits<Meaning> || HasCodes<Meaning>;
+    return HasLimits<Meaning> || HasCodes<Meaning> || HasAllowed<Meaning>;
   }
   template <class Item>
   void Setting(const Slot& slot, Item& item, int entry) {

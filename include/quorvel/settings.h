@@ -66,8 +66,9 @@ struct SettingDescription {
   bool operator==(const SettingDescription&) const = default;
 };
 
-/// What the setting can hold, in words: "0 to 9", "0 Disable, 1 Enable", "0 to 20 or 99 Turbo",
-/// "1 to 250 s", "yes or no", "up to 13 characters".
+/// What the setting can hold, in words: "0 to 9", "1 to 250 s", "0 = OFF, 1 = ON", "0 to 20 or 99 =
+/// TURBO" and, where the codes are among the other numbers, "0 to 20: 2 = 4 pps, 3 = 20 pps"; "yes
+/// or no", "no = N/CLOSED, yes = N/OPEN"; "up to 13 characters".
 [[nodiscard]] QUORVEL_API std::string AllowedInWords(const SettingDescription& setting);
 
 /// What became of a value that was to be set. Anything but kSet has changed nothing.

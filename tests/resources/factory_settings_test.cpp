@@ -1,67 +1,50 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <map>
-#include <sstream>
-#include <vector>
-
 #include "core/codec.h"
-#include "core/survey.h"
+#include "core/factory_defaults.h"
+#include "core/settings_by_name.h"
 #include "quorvel/default_images.h"
 
 namespace quorvel {
 namespace {
 
-/// Numbers by the name of their setting without its indices, as a device of that code has them.
-std::multimap<std::string, int> FactoryValues(int resource, int code) {
-  BlockImage image = LoadDefaultImage(resource);
-  image.Block(kIdentityBlock)[1] = static_cast<Byte>(code);
+void ExpectNothingFound(BlockImage image) {
   RecordEnvironment env;
-  MuxData rec(env);
-  DecodeImage(image, env, rec);
-  std::multimap<std::string, int> values;
-  for (const SettingLine& line : ListSettings(rec, env.identity, image.BlkCount())) {
-    std::string name;
-    int depth = 0;
-    for (const char letter : line.name) {
-      if (letter == '(') ++depth;
-      if (depth == 0) name += letter;
-      if (letter == ')') --depth;
-    }
-    const bool is_yes = line.value == "yes";
-    values.emplace(name, is_yes ? 1 : std::atoi(line.value.c_str()));
+  const auto rec = std::make_unique<MuxData>(env);
+  DecodeImage(image, env, *rec);
+  const Configuration decoded{*rec, env.identity, image.BlkCount()};
+  for (const SettingFinding& it : FindUnallowed(decoded)) {
+    ADD_FAILURE() << it.name << " is " << it.value << ", " << it.reason;
   }
-  return values;
+  for (const char* const name : {"*.covert", "*.disable", "*.VidLoss"}) {
+    for (const SettingLine& it : ListSettings(*rec, env.identity, 255, name)) {
+      EXPECT_EQ(it.value, "no") << it.name;
+    }
+  }
+  EXPECT_EQ(GetSetting(decoded, "TDInfo.CurrentYear"), "2000");
+  EXPECT_EQ(GetSetting(decoded, "TDInfo.TimeZoneIdx").value_or("13"), "13");
+  EXPECT_EQ(GetSetting(decoded, "CamInfo(3).color"), "yes");
 }
 
-/// The loader gives images to devices of other model codes as well.
-TEST(FactorySettings, LieInTheEditorsRanges) {
-  std::map<std::string, int> seen;
-  const std::pair<int, std::vector<int>> devices[] = {
-      {104, {0, 1}}, {301, {0, 1, 2, 5}}, {401, {6, 9, 14, 16, 18}}};
-  for (const auto& [resource, codes] : devices) {
-    for (const int code : codes) {
-      const auto values = FactoryValues(resource, code);
-      std::ifstream file(QUORVEL_SOURCE_DIR "/tests/resources/editor_ranges.txt");
-      for (std::string row; std::getline(file, row);) {
-        SCOPED_TRACE(testing::Message()
-                     << "image " << resource << ", code " << code << ": " << row);
-        std::istringstream words(row);
-        int first = 0, last = 0, low = 0, high = 0;
-        char dots = 0;
-        if (!(words >> first >> last >> low >> dots >> dots >> high)) continue;
-        for (std::string name; words >> name;) {
-          if (code < first || code > -last) continue;  // the dash is read as a sign
-          const auto [begin, end] = values.equal_range(name);
-          for (auto it = begin; it != end; ++it) {
-            EXPECT_TRUE(low <= it->second && it->second <= high) << name << " is " << it->second;
-            ++seen[row];
-          }
-        }
+/// Of every model, and as the loader gives them to devices of other model codes as well.
+TEST(FactorySettings, AreSuchAsSettingsCanHave) {
+  constexpr std::array<Byte, 14> kName = {'U', 'N', 'I', 'T'};
+  for (Byte code = 0; code <= 20; ++code) {
+    for (const Byte cameras : {4, 9, 10, 16}) {
+      for (const Byte variant : {'4', '2', 'A'}) {
+        SCOPED_TRACE(testing::Message() << "code " << int{code} << ", cameras " << int{cameras}
+                                        << ", variant " << variant);
+        BlockImage image = LoadDefaultImage(FactoryImageOf(code));
+        AdaptToDevice(image, DefaultsDevice{variant, cameras, code, kName}, 225);
+        ExpectNothingFound(std::move(image));
       }
     }
   }
-  EXPECT_EQ(seen.size(), 43U);  // rows
+  for (const Byte code : {0, 1}) {
+    BlockImage image = LoadDefaultImage(104);
+    image.Block(kIdentityBlock)[1] = code;
+    ExpectNothingFound(std::move(image));
+  }
   EXPECT_THROW(static_cast<void>(LoadDefaultImage(0)), std::invalid_argument);
 }
 

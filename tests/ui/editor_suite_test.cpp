@@ -48,7 +48,7 @@ class Bench {
   static constexpr unsigned kFactory = 0xFAC;  ///< instead of a random number: factory settings
 
   Bench(Byte cameras, Byte code, Byte variant, unsigned seed)
-      : random_(seed), code_(code), variant_(variant) {
+      : random_(seed), cameras_(cameras), code_(code), variant_(variant), seed_(seed) {
     if (seed == kFactory) {
       host_.device = LoadDefaultImage(code < 2 ? 104 : code < 6 ? 301 : 401);
     } else {
@@ -131,6 +131,8 @@ class Bench {
     }
   }
   [[nodiscard]] TestHost& Host() { return host_; }
+  /// The same device on another bench.
+  [[nodiscard]] Bench Untouched() const { return {cameras_, code_, variant_, seed_}; }
 
  private:
   void FillWithRandomBytes() {
@@ -147,7 +149,8 @@ class Bench {
   TestHost host_;
   std::mt19937 random_;
   int line_ = 0;
-  const int code_, variant_;
+  const Byte cameras_, code_, variant_;
+  const unsigned seed_;
   int always_from_ = 61;  ///< the first block of those up to 60, if any
   std::shared_ptr<Dialog> dialog_;
   std::map<std::string, std::string> device_;
@@ -237,7 +240,7 @@ void ForEveryModel(const Trial& trial) {
         SCOPED_TRACE(item);
         Bench bench(cameras, static_cast<Byte>(code), static_cast<Byte>(variant), seed);
         trial(bench, item);
-        if (testing::Test::HasFailure()) return;
+        if (testing::Test::HasFailure() && std::getenv("GO_ON") == nullptr) return;
       }
     }
   }
@@ -359,12 +362,65 @@ void Wander(Bench& bench, Editor& editor, int steps) {
   }
 }
 
+/// Sets by name, on another bench, what an editor has changed. Only timers may hold what a set
+/// refuses: where one is deleted, those behind it move with whatever they hold. False for such.
+bool SetByName(Bench& by_name, const std::map<std::string, std::string>& wanted) {
+  bool all = true;
+  const auto before = by_name.Values();
+  for (const auto& [name, value] : wanted) {
+    if (before.at(name) == value) continue;
+    const SetAnswer answer = by_name.Host().control->SetSetting(name, value);
+    const bool moved = std::ranges::any_of(before, [&](const auto& it) {
+      return WithoutIndex(it.first) == WithoutIndex(name) && it.second == value;
+    });
+    if (answer != SetAnswer::kSet && moved && name.starts_with("MRecTimer")) {
+      all = false;
+    } else {
+      EXPECT_EQ(answer, SetAnswer::kSet) << name << " = " << value;
+    }
+  }
+  return all;
+}
+
+/// Where editors do more, or less, than what becomes of settings tells.
+struct Explained {
+  int first, last;       ///< blocks
+  bool editor, by_name;  ///< who lists them
+};
+constexpr Explained kExplained[] = {
+    {61, 61, true, false},  // a date and time that were picked again
+    {60, 60, false, true},  // FullscrAlm, which some models set as the editor opens
+};
+
+/// The same is to come of an editor and of sets by name.
+void ExpectTheSameByName(Bench& bench) {
+  Bench by_name = bench.Untouched();
+  const bool all = SetByName(by_name, bench.Values());
+  const BlockImage image(by_name.Host().control->EditedImage());
+  const BlockImage edited(bench.Host().control->EditedImage());
+  const auto is_listed = [](Bench& it, int block) {
+    return std::ranges::count(it.Host().Modified(), block) != 0;
+  };
+  for (int block = 1; block <= image.BlkCount(); ++block) {
+    const bool one = is_listed(bench, block), other = is_listed(by_name, block);
+    const auto explains = [=](const Explained& it) {
+      return it.first <= block && block <= it.last && it.editor == one && it.by_name == other;
+    };
+    const bool timers = !all && block >= 195 && block <= 199;
+    if (timers || bench.IsAlwaysListed(block) || std::ranges::any_of(kExplained, explains))
+      continue;
+    EXPECT_EQ(one, other) << "listed: block " << block;
+    EXPECT_TRUE(std::ranges::equal(image.Block(block), edited.Block(block))) << "block " << block;
+  }
+}
+
 TEST(EditorSuite, ARandomUserChangesWhatIsListed) {
   ForEveryModel([](Bench& bench, const std::string& item) {
     for (int turn = 0; turn < 3; ++turn) {
       Wander(bench, bench.Open(item), 60);
       bench.Accept();
       bench.ExpectListedWhatChanged(turn > 0);
+      if (turn == 0) ExpectTheSameByName(bench);
     }
   });
 }
