@@ -131,10 +131,9 @@ quorvel_result quorvel_platform_widgets(quorvel_platform* platform, const char* 
                                         quorvel_visit_widget visit, void* user) {
   return Run([&] {
     const auto held = Of(platform);
-    const quorvel::Dialog* const dialog = held->User().FindWindow(OrEmpty(window));
-    if (dialog == nullptr) {
-      Refuse(QUORVEL_NOT_FOUND, "no window " + std::string(OrEmpty(window)) + " is open");
-    }
+    const auto name = OrEmpty(window);
+    const quorvel::Dialog* const dialog = held->User().FindWindow(name);
+    if (dialog == nullptr) Refuse(QUORVEL_NOT_FOUND, quorvel::NamedUser::NoWindow(name));
     std::vector<Told> controls;
     for (const quorvel::Widget* it : dialog->Widgets()) controls.emplace_back(*it);
     ShowEach(

@@ -19,7 +19,7 @@ class Line:
         self.is_silent = False
         self.memory = bytearray(BLOCK * BLOCKS)
         self.memory[15] = BLOCKS  # block 1, byte 15: how many there are
-        self.memory[184 * BLOCK : 184 * BLOCK + 3] = b"\4\7T"  # block 185: cameras, model code, name
+        self.memory[184 * BLOCK : 184 * BLOCK + 3] = b"\4\7T"  # block 185: cameras, code, name
 
     async def read(self, number: int) -> bytes:
         await asyncio.sleep(3600 if self.is_silent else self.latency)
@@ -34,8 +34,8 @@ class Line:
 
 
 class Clock:
-    """Has the clock of a platform go with the event loop's. It stops at each event, so that the loop
-    gets its turn: a busy computer is no reason to miss an answer."""
+    """Has the clock of a platform go with the event loop's. It stops at each event, so that the
+    loop gets its turn: a busy computer is no reason to miss an answer."""
 
     def __init__(self, platform: quorvel.Platform) -> None:
         self.platform = platform
@@ -91,8 +91,9 @@ class Device(quorvel.Events):
 
     def done(self, task: "asyncio.Task[None]") -> None:
         self.tasks.discard(task)
-        if not task.cancelled() and task.exception() and not self.end.done():
-            self.end.set_exception(task.exception())
+        error = None if task.cancelled() else task.exception()
+        if error is not None and not self.end.done():
+            self.end.set_exception(error)
 
     # Events, which return at once. The answers come later.
 

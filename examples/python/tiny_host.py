@@ -13,7 +13,7 @@ class Device(quorvel.Events):
     def __init__(self) -> None:
         self.memory = bytearray(BLOCK * BLOCKS)
         self.memory[15] = BLOCKS  # block 1, byte 15: how many there are
-        self.memory[184 * BLOCK : 184 * BLOCK + 3] = b"\4\7T"  # block 185: cameras, model code, name
+        self.memory[184 * BLOCK : 184 * BLOCK + 3] = b"\4\7T"  # block 185: cameras, code, name
 
     def request_blk(self, control: quorvel.Control, number: int) -> None:
         start = (number - 1) * BLOCK
@@ -29,7 +29,7 @@ class Device(quorvel.Events):
 def main() -> int:
     device = Device()
     with quorvel.Platform() as platform, quorvel.Control(platform, device) as control:
-        control.custom(quorvel.Command.DEVICE, 48, 1)  # device family, a caption that tells of a DVR
+        control.custom(quorvel.Command.DEVICE, 48, 1)  # device family, a caption of a DVR
         control.save_connected_info(b"\0\4\7T")
 
         control.start_receive()

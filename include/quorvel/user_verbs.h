@@ -26,8 +26,11 @@ class QUORVEL_API NamedUser {
   /// `windows` are those on screen, the one in front last; they may change while the user acts.
   explicit NamedUser(const std::vector<Dialog*>& windows) : windows_(windows) {}
 
-  /// The window of that name, the frontmost of several, or a null pointer.
+  /// The window of that name, the frontmost of several, or a null pointer; without a name the one
+  /// in front.
   [[nodiscard]] Dialog* FindWindow(std::string_view name) const;
+  /// Why FindWindow has found none.
+  [[nodiscard]] static std::string NoWindow(std::string_view name);
   /// The control of that name, or a null pointer.
   [[nodiscard]] Widget* FindControl(std::string_view name) const;
   /// Why FindControl has found none.

@@ -34,8 +34,9 @@ VerbAnswer With(const NamedUser& user, std::string_view name, const char* verb, 
 }  // namespace
 
 Dialog* NamedUser::FindWindow(std::string_view name) const {
-  const auto found = std::find_if(windows_.rbegin(), windows_.rend(),
-                                  [name](const Dialog* it) { return it->Name() == name; });
+  const auto found = std::find_if(windows_.rbegin(), windows_.rend(), [name](const Dialog* it) {
+    return name.empty() || it->Name() == name;
+  });
   return found == windows_.rend() ? nullptr : *found;
 }
 
@@ -51,11 +52,15 @@ Widget* NamedUser::FindControl(std::string_view name) const {
   return nullptr;
 }
 
+std::string NamedUser::NoWindow(std::string_view name) {
+  return name.empty() ? "no window is open" : "no window " + std::string(name) + " is open";
+}
+
 std::string NamedUser::NotFound(std::string_view name) const {
   const auto dot = name.find('.');
   if (dot == std::string_view::npos) return "no open window has a control " + std::string(name);
   const std::string window(name.substr(0, dot));
-  if (FindWindow(window) == nullptr) return "no window " + window + " is open";
+  if (FindWindow(window) == nullptr) return NoWindow(window);
   return window + " has no such control: " + std::string(name.substr(dot + 1));
 }
 
@@ -138,11 +143,8 @@ VerbAnswer NamedUser::Paste(std::string_view grid, std::string_view lines) const
 }
 
 VerbAnswer NamedUser::CloseWindow(std::string_view name) const {
-  if (windows_.empty()) return {Answer::kNoSuchControl, "no window is open"};
-  Dialog* const dialog = name.empty() ? windows_.back() : FindWindow(name);
-  if (dialog == nullptr) {
-    return {Answer::kNoSuchControl, "no window " + std::string(name) + " is open"};
-  }
+  Dialog* const dialog = FindWindow(name);
+  if (dialog == nullptr) return {Answer::kNoSuchControl, NoWindow(name)};
   const std::string closed = dialog->Name();
   return Told(closed, dialog->CloseWindow());
 }

@@ -18,8 +18,8 @@ from .state import Properties, State
 
 
 class Control(Handle):
-    """Edits the configuration of one device. `control["AlarmMode"]` is a setting's value, as a bool,
-    an int or a str, and is set as by an edit of the user."""
+    """Edits the configuration of one device. `control["AlarmMode"]` is a setting's value, as a
+    bool, an int or a str, and is set as by an edit of the user."""
 
     _what = "control"
 
@@ -149,14 +149,14 @@ class Control(Handle):
         return text(read(c.control_get_setting, self._handle, name)[:-1])
 
     def set(self, name: str, value: str) -> bool:
-        """Sets it to a value as it is listed, a number without its unit, or a code's text ("Disable");
-        tells whether it had another value."""
+        """Sets it to a value as it is listed, a number without its unit, or a code's text
+        ("Disable"); tells whether it had another value."""
         return bool(asked(c.control_set_setting, c_int32, self._handle, name, value))
 
     def settings(self, pattern: str = "") -> list[Setting]:
-        """The settings that the device has, as edited so far, in the order of the blocks. "*" and "?"
-        stand for any characters and any one; without them the pattern is looked for anywhere in a
-        name, case aside."""
+        """The settings that the device has, as edited so far, in the order of the blocks. "*" and
+        "?" stand for any characters and any one; without them the pattern is looked for anywhere in
+        a name, case aside."""
         return all_shown(
             Setting, structs.quorvel_setting, c.control_settings, self._handle, pattern
         )
@@ -189,6 +189,23 @@ class Control(Handle):
             c.control_setting_findings,
             self._handle,
         )
+
+    def undo(self) -> None:
+        """Takes back what was accepted last, in a window or by name; Error when there is nothing, or
+        while a send is under way."""
+        c.control_undo(self._handle)
+
+    def redo(self) -> None:
+        c.control_redo(self._handle)
+
+    @property
+    def undo_text(self) -> str:
+        """What undo would take back, as "Camera Setup"; "" for nothing."""
+        return text(read(c.control_undo_text, self._handle)[:-1])
+
+    @property
+    def redo_text(self) -> str:
+        return text(read(c.control_redo_text, self._handle)[:-1])
 
     def modified_blocks(self) -> list[int]:
         """Numbers of the blocks that hold changes, in the order of the changes."""
@@ -242,4 +259,5 @@ class Control(Handle):
         )[0]
 
     def set_properties(self, properties: Properties) -> None:
-        c.control_set_properties(self._handle, byref(struct_of(structs.quorvel_properties, properties)))
+        taken = struct_of(structs.quorvel_properties, properties)
+        c.control_set_properties(self._handle, byref(taken))

@@ -133,12 +133,12 @@ class Platform(Handle):
 
     @property
     def elapsed(self) -> int:
-        return asked(c.platform_elapsed, c_int64, self._handle)
+        return int(asked(c.platform_elapsed, c_int64, self._handle))
 
     @property
     def next_due(self) -> int | None:
         """How long it is until the next event; None when none is to come."""
-        due = asked(c.platform_next_due, c_int64, self._handle)
+        due = int(asked(c.platform_next_due, c_int64, self._handle))
         return None if due < 0 else due
 
     def post(self, task: Callable[[], None], milliseconds: int = 0) -> None:
@@ -154,8 +154,8 @@ class Platform(Handle):
     # Answers, in the order of the calls, and what was shown since last asked.
 
     def answer_message(self, ok: bool) -> None:
-        """Answers the next message box. Without an answer it gets OK where it has nothing else, else
-        Cancel."""
+        """Answers the next message box. Without an answer it gets OK where it has nothing else,
+        else Cancel."""
         c.platform_answer_message(self._handle, ok)
 
     def answer_file(self, path: str | os.PathLike[str] | None) -> None:

@@ -56,8 +56,8 @@ class Difference:
 
 @dataclass(frozen=True)
 class Place:
-    """`length` bytes from byte `at`, from 0, of a block; of a single byte, the bits of `mask`. A mark
-    is the device's note about a setting that is kept elsewhere."""
+    """`length` bytes from byte `at`, from 0, of a block; of a single byte, the bits of `mask`. A
+    mark is the device's note about a setting that is kept elsewhere."""
 
     block: int
     at: int

@@ -81,7 +81,8 @@ class Declarations(unittest.TestCase):
         found = re.findall(r"struct (quorvel_\w+) \{(.*?)\n\}", TEXT, re.DOTALL)
         for struct, members in found:
             of_struct = dict(STRUCTS[struct]._fields_)
-            for gives, name, takes in re.findall(r"(\w+) \(\*(\w+)\)\((.*?)\);", members, re.DOTALL):
+            callbacks = re.findall(r"(\w+) \(\*(\w+)\)\((.*?)\);", members, re.DOTALL)
+            for gives, name, takes in callbacks:
                 kinds = [IN_CALLBACKS.get(it, it) for it in types_of(takes)]
                 kinds = [c_void_p if isinstance(it, type(POINTER(c_int32))) else it for it in kinds]
                 with self.subTest(struct=struct, name=name):
@@ -92,7 +93,8 @@ class Declarations(unittest.TestCase):
         )
 
     def test_numbers(self):
-        declared = {name: int(number) for name, number in re.findall(r"QUORVEL_(\w+) = (\d+)", TEXT)}
+        found = re.findall(r"QUORVEL_(\w+) = (\d+)", TEXT)
+        declared = {name: int(number) for name, number in found}
         prefixes = {enums.Command: "COMMAND_", enums.LogLevel: "LOG_"}
         of_ours = [it for it in vars(enums).values() if isinstance(it, type)]
         ours = {

@@ -28,7 +28,7 @@ class Screen(unittest.TestCase):
         self.assertEqual([it.name for it in self.platform.windows()], ["frm_CameraSetup"])
         for act, result, words in [
             (lambda: self.user.click("cmdNone"), "NOT_FOUND", "has a control cmdNone"),
-            (lambda: self.user.type("m_CameraTitle(9)", ""), "HIDDEN", "m_CameraTitle(9) is hidden"),
+            (lambda: self.user.type("m_CameraTitle(9)", ""), "HIDDEN", "(9) is hidden"),
             (lambda: self.user.turn_page("SSTab1", 9), "NO_SUCH_PLACE", "has no such place"),
             (lambda: self.user.click("m_CameraTitle(0)"), "OTHER_KIND", "is nothing to click"),
         ]:
@@ -38,6 +38,38 @@ class Screen(unittest.TestCase):
             self.assertIn(words, str(refused.exception))
         self.user.click("cmd_OK")
         self.assertEqual(self.host.control["CamInfo(0).title"], "Tür")
+
+    def test_a_grid(self):
+        grid = "MSFG_SnlGain"
+        self.host.open("mnu_CSetup")
+        self.user.turn_page("SSTab1", 1)
+        for act, column, selected in [
+            (lambda: self.user.press(grid, 2, 1), ["50", "50", "50", "50"], (2, 2)),
+            (lambda: self.user.select("lstSnlGain", 25), ["50", "75", "50", "50"], (2, 2)),
+            (lambda: self.user.release(grid, 2, 4), ["50", "75", "75", "75"], (2, 4)),
+            (lambda: self.user.press(grid, 1, 1), ["50", "75", "75", "75"], (1, 1)),
+            (lambda: self.user.mark(grid, 3), ["50", "75", "75", "75"], (1, 3)),
+            (lambda: self.user.select("lstSnlGain", 30), ["80", "80", "80", "75"], (1, 3)),
+            (lambda: self.user.drag(grid, 1, 3, 4), ["80", "80", "80", "80"], (3, 4)),
+            (lambda: self.user.paste(grid, "90\n91"), ["80", "80", "90", "91"], (3, 4)),
+        ]:
+            act()
+            shown = self.platform.widget(grid)
+            self.assertEqual([self.platform.cell(grid, row, 1) for row in range(1, 5)], column)
+            self.assertEqual((shown.first_selected, shown.last_selected), selected)
+        self.assertEqual((shown.rows, shown.columns, shown.header_rows), (5, 2, 1))
+        with self.assertRaisesRegex(quorvel.RefusedError, "cannot be empty"):
+            self.user.empty(grid)
+        showing = [it.name for it in self.platform.widgets() if it.showing]
+        self.assertEqual(
+            showing, ["SSTab1", "MSFG_SnlGain", "lbSnlGain", "lstSnlGain", "cmd_OK", "cmd_Cancel"]
+        )
+        self.user.close_window()
+        with self.assertRaisesRegex(quorvel.NotFoundError, "no window is open"):
+            self.platform.widgets()
+        self.host.open("mnu_TimeDate")
+        self.user.pick("Calendar", "2024-02-29")
+        self.assertEqual(self.platform.widget("Calendar").value, "2024-02-29")
 
     def test_the_menu(self):
         with self.assertRaises(quorvel.NotFoundError):

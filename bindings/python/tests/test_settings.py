@@ -1,6 +1,10 @@
 """Settings by name, their values, and what is refused."""
 
 import array
+import contextlib
+import io
+import pathlib
+import re
 import unittest
 
 from host import Host
@@ -82,6 +86,15 @@ class Settings(unittest.TestCase):
         self.assertEqual(other["CamInfo(0).title"], "Gate")
         other.load_defaults(16, 6, "TÜ", "2")
         self.assertEqual(other.image()[184 * 16 : 184 * 16 + 4], b"\x10\6T\xdc")
+
+    def test_the_document(self):
+        document = pathlib.Path(__file__).parents[3] / "docs/hosting.md"
+        (example,) = re.findall(r"```python\n(.*?)```", document.read_text(), re.DOTALL)
+        names = {}
+        with contextlib.redirect_stdout(io.StringIO()) as told:
+            exec(example, names)
+        self.assertEqual(told.getvalue().splitlines()[0], 'CamInfo(0).title "Front door"')
+        self.assertEqual(names["file"][:12], b"Front door  ")
 
     def test_nothing_is_cut_off(self):
         for call, error in [

@@ -1,1 +1,1 @@
-"""What the package knows of C: the shared library, its functions and structs, and how it is called."""
+"""What the package knows of C: the library, its functions and structs, and how it is called."""

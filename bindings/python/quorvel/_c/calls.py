@@ -18,7 +18,7 @@ import weakref
 from ctypes import CDLL, byref, c_int32, c_size_t, c_uint8, create_string_buffer, memmove, sizeof
 from ctypes import string_at
 from types import SimpleNamespace
-from typing import Any, Callable, List, TypeVar
+from typing import Any, Callable, TypeVar
 
 from .. import errors
 from ..enums import Result
@@ -26,9 +26,7 @@ from . import functions, library, structs
 
 logger = logging.getLogger("quorvel")
 Made = TypeVar("Made")
-
-
-Later = List[Callable[[], None]]
+Later = list[Callable[[], None]]
 
 
 class _Call:
@@ -92,7 +90,7 @@ def callback(prototype: Any, otherwise: Any = None) -> Callable[[Callable[..., A
     def made_of(function: Callable[..., Any]) -> Any:
         def guarded(user: int | None, *given: Any) -> Any:
             try:
-                target = _known.get(user)
+                target = _known.get(user or 0)
                 return otherwise if target is None else function(target, *given)
             except BaseException as error:
                 keep(error)

@@ -2,7 +2,6 @@
 
 from __future__ import annotations
 
-import functools
 from ctypes import Structure
 from typing import Any, Callable, TypeVar
 
@@ -45,7 +44,6 @@ def _field(struct: Structure, name: str, kind: str) -> Any:
     return _ARRAYS[kind](value[:count] if count else [])
 
 
-@functools.lru_cache(maxsize=None)
 def _types_of(kind: type[Any]) -> dict[str, str]:
     """Of the fields, as they are written."""
     types = kind.__annotations__.items()
