@@ -37,6 +37,12 @@ if(QUORVEL_C)
   quorvel_install_targets(quorvel-c-targets c quorvel_c)
   quorvel_install_pkg_config(quorvel-c)
 endif()
+set(QUORVEL_PYTHON_FOLDER "" CACHE STRING
+  "Folder of Python packages in the prefix, as lib/python3/dist-packages; empty: none is installed")
+if(QUORVEL_C AND QUORVEL_PYTHON_FOLDER)
+  install(DIRECTORY bindings/python/quorvel DESTINATION ${QUORVEL_PYTHON_FOLDER} COMPONENT python
+    FILES_MATCHING PATTERN *.py PATTERN py.typed PATTERN __pycache__ EXCLUDE)
+endif()
 if(QUORVEL_QT)
   quorvel_install_targets(quorvel-qt-targets qt quorvel_qt)
   install(DIRECTORY platform/qt/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}

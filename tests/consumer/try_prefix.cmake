@@ -42,6 +42,16 @@ function(run_by_pkg_config package)
 endfunction()
 run_by_pkg_config(quorvel-headless ${CXX} -std=c++20 ${PROJECT}/tests/consumer/consumer.cpp)
 run_by_pkg_config(quorvel-c cc -std=c99 ${PROJECT}/examples/tiny_host.c)
+
+# Python does not load what sanitizers have been built into, unless their libraries are there first.
+find_program(python python3)
+if(python AND FLAGS STREQUAL "")
+  set(ENV{PYTHONPATH} ${PROJECT}/bindings/python)  # where it is; else the package is installed
+  set(ENV{PYTHONDONTWRITEBYTECODE} 1)
+  foreach(example tiny_host asyncio_host)
+    run(${python} ${PROJECT}/examples/python/${example}.py)
+  endforeach()
+endif()
 if(QT)
   run(pkg-config --exists --print-errors quorvel-qt)
 endif()

@@ -191,8 +191,8 @@ class Control(Handle):
         )
 
     def undo(self) -> None:
-        """Takes back what was accepted last, in a window or by name; Error when there is nothing, or
-        while a send is under way."""
+        """Takes back what was accepted last, in a window or by name; Error when there is nothing,
+        or while a send is under way."""
         c.control_undo(self._handle)
 
     def redo(self) -> None:

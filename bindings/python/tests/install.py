@@ -13,6 +13,8 @@ EXAMPLES = PACKAGE.parents[1] / "examples/python"
 
 
 def main(folder: pathlib.Path) -> None:
+    for name in ("PYTHONPATH", "QUORVEL_LIBRARY"):  # of who runs this
+        os.environ.pop(name, None)
     shutil.rmtree(folder, ignore_errors=True)
     shutil.copytree(PACKAGE, folder / "source")  # pip builds in there
     venv.create(folder / "venv", system_site_packages=True)

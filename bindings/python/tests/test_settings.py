@@ -75,6 +75,16 @@ class Settings(unittest.TestCase):
             self.control.findings(),
         )
 
+    def test_history(self):
+        self.control["AlarmMode"] = 2
+        self.assertEqual((self.control.undo_text, self.control.redo_text), ("AlarmMode", ""))
+        self.control.undo()
+        self.assertEqual((self.control["AlarmMode"], self.control.redo_text), (0, "AlarmMode"))
+        self.control.redo()
+        self.assertEqual(self.control["AlarmMode"], 2)
+        with self.assertRaisesRegex(quorvel.Error, "nothing can be done again"):
+            self.control.redo()
+
     def test_files(self):
         other = quorvel.Control()
         with self.assertRaisesRegex(quorvel.Error, "255 blocks and holds 2"):
