@@ -125,7 +125,7 @@ class Control(Handle):
 
     def load_defaults(self, cameras: int, model_code: int, model_name: str, variant: str) -> None:
         """Loads the factory defaults of a model, without a device."""
-        c.control_load_defaults(self._handle, cameras, model_code, model_name, variant.encode())
+        c.control_load_defaults(self._handle, cameras, model_code, model_name, variant)
 
     # Settings by name.
 

@@ -112,6 +112,7 @@ class Settings(unittest.TestCase):
             (lambda: setattr(self.control, "host_comm_id", 256), OverflowError),
             (lambda: self.control.fill_data_blk(17), TypeError),
             (lambda: self.control.set("AlarmMode", "1\0"), ValueError),
+            (lambda: self.control.load_defaults(16, 6, "TX16", ""), ValueError),
             (lambda: self.control.custom(13), quorvel.UnsupportedError),
             (lambda: self.control.save_connected_info(b"123"), quorvel.InvalidError),
         ]:

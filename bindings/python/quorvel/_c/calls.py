@@ -15,8 +15,8 @@ import logging
 import operator
 import threading
 import weakref
-from ctypes import CDLL, byref, c_int32, c_size_t, c_uint8, create_string_buffer, memmove, sizeof
-from ctypes import string_at
+from ctypes import CDLL, byref, c_char, c_int32, c_size_t, c_uint8, create_string_buffer
+from ctypes import memmove, sizeof, string_at
 from types import SimpleNamespace
 from typing import Any, Callable, TypeVar
 
@@ -122,10 +122,18 @@ def _text(value: Any) -> bytes | None:
     return text
 
 
+def _character(value: str) -> bytes:
+    code = value.encode("cp1252")
+    if len(code) != 1:
+        raise ValueError(f"{value!r} is not one character")
+    return code
+
+
 # C would cut off what these do not let through.
 _CHECKS: dict[Any, Callable[[Any], Any]] = {
     c_int32: _whole(-(2**31), 2**31 - 1),
     c_uint8: _whole(0, 255),
+    c_char: _character,
     functions.Text: _text,
 }
 
