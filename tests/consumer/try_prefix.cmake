@@ -48,7 +48,7 @@ find_program(python python3)
 if(python AND FLAGS STREQUAL "")
   set(ENV{PYTHONPATH} ${PROJECT}/bindings/python)  # where it is; else the package is installed
   set(ENV{PYTHONDONTWRITEBYTECODE} 1)
-  foreach(example tiny_host asyncio_host)
+  foreach(example tiny_host asyncio_host settings_file)
     run(${python} ${PROJECT}/examples/python/${example}.py)
   endforeach()
 endif()
