@@ -68,4 +68,12 @@ BlockImage LoadDefaultImage(int resource) {
   return image;
 }
 
+std::string UsualModelName(int model_code, int cameras) {
+  constexpr int kFirstDuplexModel = 2;
+  constexpr int kFirstTriplexModel = 6;
+  const char* kind = model_code == 1 ? "DR" : "MX";
+  if (model_code >= kFirstDuplexModel) kind = model_code >= kFirstTriplexModel ? "TX" : "DX";
+  return kind + std::to_string(cameras);
+}
+
 }  // namespace quorvel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "quorvel/block_image.h"
 #include "quorvel/export.h"
 
@@ -11,5 +13,8 @@ namespace quorvel {
 ///   401: 200 blocks, model code 6 (triplex recorders)
 /// All are for 16 cameras. Throws std::invalid_argument for another number.
 [[nodiscard]] QUORVEL_API BlockImage LoadDefaultImage(int resource);
+
+/// A model name as such devices have: "TX16" of a triplex recorder with 16 cameras.
+[[nodiscard]] QUORVEL_API std::string UsualModelName(int model_code, int cameras);
 
 }  // namespace quorvel

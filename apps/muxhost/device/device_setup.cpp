@@ -38,13 +38,6 @@ int FactoryResource(int model) {
   return model >= kFirstDuplexModel ? 301 : 104;
 }
 
-std::string UsualName(const DeviceSetup& setup) {
-  const std::string cameras = std::to_string(setup.cameras);
-  if (setup.model >= kFirstTriplexModel) return "TX" + cameras;
-  if (setup.model >= kFirstDuplexModel) return "DX" + cameras;
-  return (setup.model == 1 ? "DR" : "MX") + cameras;
-}
-
 /// What an alarm shows on the displays 1 to 3 are the cameras around its own; on a small device
 /// they wrap at its last camera.
 void WrapDisplays(BlockImage& image, int cameras) {
@@ -82,7 +75,7 @@ BlockImage FactoryImage(const DeviceSetup& setup) {
   CheckValues(setup);
   BlockImage image = LoadDefaultImage(FactoryResource(setup.model));
   WriteIdentityBlock(image, static_cast<Byte>(setup.cameras), static_cast<Byte>(setup.model),
-                     setup.name.value_or(UsualName(setup)));
+                     setup.name.value_or(UsualModelName(setup.model, setup.cameras)));
   if (setup.variant) image.Block(kVariantBlock)[kVariantByte] = static_cast<Byte>(*setup.variant);
   if (setup.cameras < kMostCameras) WrapDisplays(image, setup.cameras);
   return image;

@@ -1,0 +1,71 @@
+#include "apps/quorvel/commands/commands.h"
+#include "apps/quorvel/edit.h"
+#include "apps/quorvel/json_values.h"
+#include "apps/quorvel/trouble.h"
+
+namespace quorvel::tool {
+
+namespace {
+
+struct Options {
+  std::string file;
+  std::string changes;
+  std::string out;
+};
+
+nlohmann::ordered_json ReadChanges(const std::string& file) {
+  const std::string text = ReadText(file);
+  nlohmann::ordered_json changes;
+  try {
+    changes = nlohmann::ordered_json::parse(text);
+  } catch (const nlohmann::json::parse_error& error) {
+    // Behind the library's own number of the error.
+    const std::string why = error.what();
+    throw Trouble(Shown(file), why.substr(why.find("] ") + 2));
+  }
+  if (!changes.is_object()) throw Trouble(Shown(file), "is no object of names and values");
+  return changes;
+}
+
+void SetOne(Edit& edit, const std::string& name, const nlohmann::json& value) {
+  // A dump has settings that only the device writes, and may have values that nobody could set.
+  const auto present = edit.Control().GetSetting(name);
+  if (present && JsonOf(*present) == value) return;
+  const auto setting = edit.Control().DescribeSetting(name);
+  const auto text = SettingValueOf(value, setting ? setting->type : SettingType::kText);
+  if (text) {
+    edit.Set(name, *text, value.dump());
+  } else {
+    edit.Refuse(name, value.dump() + " is neither text, whole number, true nor false");
+  }
+}
+
+int Apply(const Options& options) {
+  if (options.file == kStandard && options.changes == kStandard) {
+    throw Trouble("FILE and CHANGES cannot both be standard input");
+  }
+  const auto changes = ReadChanges(options.changes);
+  Edit edit(options.file);
+  for (const auto& change : changes.items()) SetOne(edit, change.key(), change.value());
+  return edit.Store(options.out);
+}
+
+}  // namespace
+
+void AddApply(CLI::App& app, int& status) {
+  std::shared_ptr<Options> options;
+  CLI::App& command =
+      AddCommand(app, status, "apply",
+                 "Set what a JSON object of names and values says, all or nothing", Apply, options);
+  AddFile(command, options->file)->required();
+  command
+      .add_option("CHANGES", options->changes,
+                  "The JSON file, as of dump --json; -: standard input")
+      ->required()
+      ->type_name("");
+  command.add_option(kOutOption, options->out, "Where the result goes; it may be FILE itself")
+      ->required()
+      ->type_name("OUT");
+}
+
+}  // namespace quorvel::tool

@@ -1,0 +1,64 @@
+#include "apps/quorvel/file_parts.h"
+
+#include <algorithm>
+
+#include "quorvel/code_page.h"
+#include "quorvel/identity.h"
+
+namespace quorvel::tool {
+
+namespace {
+
+constexpr std::size_t kCountAt = kBlockCountByte;
+constexpr int kModelMask = 0x7F;
+constexpr int kNameAt = 2;
+
+bool CountAgrees(ByteSpan file) {
+  return file.size() > kCountAt && file.size() == std::size_t{file[kCountAt]} * kBlockSize;
+}
+
+}  // namespace
+
+std::optional<int> FileParts::ByteAt(int block, int at) const {
+  const auto place = static_cast<std::size_t>((block - 1) * kBlockSize + at);
+  if (place >= image.size()) return std::nullopt;
+  return image[place];
+}
+
+FileParts PartsOf(ByteSpan file) {
+  FileParts parts{false, {}, file};
+  if (file.size() < ComboHeader::kSize) return parts;
+  const ComboHeader header =
+      CombinedArray::Parse(file.first(ComboHeader::kSize), ComboHeader()).Header();
+  if (!header.Agrees() || header.BlockCount == 0) return parts;
+  const bool exact = file.size() == static_cast<std::size_t>(header.TotalLength());
+  if (!exact && CountAgrees(file)) return parts;
+  const auto blocks = file.subspan(std::min<std::size_t>(header.HdrLen, file.size()));
+  return {true, header, blocks.first(std::min<std::size_t>(header.DataLen, blocks.size()))};
+}
+
+std::optional<NamedDevice> DeviceOf(const FileParts& parts) {
+  if (!parts.ByteAt(kIdentityBlock, kBlockSize - 1)) return std::nullopt;
+  const auto block = parts.image.subspan((kIdentityBlock - 1) * kBlockSize, kBlockSize);
+  std::string name;
+  for (const std::uint8_t byte : block.subspan(kNameAt)) {
+    if (byte != 0) name.push_back(static_cast<char>(byte));
+  }
+  name.erase(name.find_last_not_of(' ') + 1);
+  return NamedDevice{block[0], block[1] & kModelMask, CodePageToUtf8(name)};
+}
+
+std::optional<std::string> VariantOf(const FileParts& parts) {
+  constexpr int kVariantBlock = 183;
+  constexpr int kVariantAt = 7;
+  const auto byte = parts.ByteAt(kVariantBlock, kVariantAt);
+  if (!byte || *byte == 0) return std::nullopt;
+  return CodePageToUtf8(std::string(1, static_cast<char>(*byte)));
+}
+
+std::string ModelInWords(int model) {
+  const std::string_view text = ModelText(model);
+  return std::to_string(model) + ' ' + std::string(text.empty() ? "unknown" : text);
+}
+
+}  // namespace quorvel::tool

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "quorvel/combined_array.h"
+
+namespace quorvel::tool {
+
+using ByteSpan = std::span<const std::uint8_t>;
+
+/// A settings file by its parts. It has neither mark nor version: its kind is told by what it says
+/// of its own length.
+struct FileParts {
+  bool combined = false;
+  ComboHeader header;  ///< of a combined array
+  ByteSpan image;      ///< the blocks, as far as they are here
+
+  /// Byte `at` (from 0) of block `block` (from 1); nothing where the file ends before it.
+  [[nodiscard]] std::optional<int> ByteAt(int block, int at) const;
+};
+
+/// The parts of these bytes, which must stay. A header that agrees with itself and with the length
+/// makes a combined array, as a plain image hardly ever begins like one; then a count of blocks
+/// that agrees with the length makes a plain image; what is left is the one whose header agrees
+/// with itself, or else a damaged plain image.
+[[nodiscard]] FileParts PartsOf(ByteSpan file);
+
+/// Who a configuration says that it belongs to.
+struct NamedDevice {
+  int cameras = 0;
+  int model = 0;     ///< without bit 7, by which a device marks it
+  std::string name;  ///< in UTF-8, without zero bytes and blanks at its end
+  bool operator==(const NamedDevice&) const = default;
+};
+
+/// Nothing where the image ends before it says so.
+[[nodiscard]] std::optional<NamedDevice> DeviceOf(const FileParts& parts);
+
+/// The device's variant, a character, in UTF-8; nothing where the image has none.
+[[nodiscard]] std::optional<std::string> VariantOf(const FileParts& parts);
+
+/// "6 Triplex NTSC", "77 unknown".
+[[nodiscard]] std::string ModelInWords(int model);
+
+}  // namespace quorvel::tool
