@@ -71,7 +71,7 @@ class Settings(unittest.TestCase):
         damaged += self.control.edited_image()[len(damaged) :]
         self.control.load_settings(damaged)
         self.assertIn(
-            quorvel.Finding("AlarmMode", "7", "not 0 Latched, 1 Transparent, 2 Timed Out"),
+            quorvel.Finding("AlarmMode", "7", "not 0 = Latched, 1 = Transparent, 2 = Timed Out"),
             self.control.findings(),
         )
 
