@@ -63,8 +63,10 @@ void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockI
   if (IsTold(*mark, sent, image, env, rec)) Rest(*mark, image, array, rec);
 }
 
+bool IsClockByte(int number, int at) { return number == kClockBlock && at < kClockEnd; }
+
 void RaiseChangeMark(int number, int at, const Identity& id, MuxData& rec) {
-  if (number == kClockBlock && at < kClockEnd && id.IsTriplex()) rec.PlayDwell(0);
+  if (IsClockByte(number, at) && id.IsTriplex()) rec.PlayDwell(0);
 }
 
 bool DeviceHasBlock(int number, std::span<const Byte, kBlockSize> taken,
@@ -73,7 +75,7 @@ bool DeviceHasBlock(int number, std::span<const Byte, kBlockSize> taken,
   for (std::size_t at = 0; at < kBlockSize; ++at) {
     if (taken[at] == now[at]) continue;
     const bool is_mark = mark != kMarks.end() && Has(id, *mark) && at == mark->at;
-    const bool is_clock = number == kClockBlock && static_cast<int>(at) < kClockEnd;
+    const bool is_clock = IsClockByte(number, static_cast<int>(at));
     if (!is_mark && !is_clock) return false;
   }
   return true;

@@ -23,6 +23,8 @@ class MuxData;
 void SettleChangeMark(int number, std::span<const Byte, kBlockSize> sent, BlockImage& image,
                       CombinedArray& array, RecordEnvironment& env, MuxData& rec);
 
+/// True for the bytes of block 61 that hold date and time.
+[[nodiscard]] bool IsClockByte(int number, int at);
 /// Byte `at` of block `number` has been set. Servers mark themselves; the clock has its mark set
 /// here, which lets the device take it.
 void RaiseChangeMark(int number, int at, const Identity& id, MuxData& rec);

@@ -22,7 +22,13 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   const Identity present = env.identity;
   auto fresh = std::make_unique<MuxData>(env);
   std::optional<Holdings> before;
-  if (HasImage() && source != ImageSource::kDevice) before = Present();
+  if (HasImage() && source != ImageSource::kDevice) {
+    before = Present();
+    if (kept_flags_) {
+      before->loaded_from_file = kept_flags_->loaded_from_file;
+      before->use_pc_time = kept_flags_->use_pc_time;
+    }
+  }
   try {
     DecodeImage(image, env, *fresh);
   } catch (...) {
@@ -36,6 +42,8 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
       source == ImageSource::kSettingsFile || source == ImageSource::kFactoryForAnother;
   env.blocks.SetMaxBlk(BlkImage.BlkCount());
   image_number_ = ++generation_;
+  source_ = source;
+  kept_flags_.reset();
   if (before) {
     history_.Add(std::move(step), *std::move(before));
     return;
@@ -102,6 +110,7 @@ void DeviceState::PutBack(Holdings holdings) noexcept {
   UsePcTime = holdings.use_pc_time;
   // An editor that opened on the other image must not write into this one.
   if (image_number_ != std::exchange(image_number_, holdings.image_number)) ++generation_;
+  source_ = holdings.source;
 }
 
 bool DeviceState::Undo() { return GoTo(history_.Back(Present())); }
@@ -111,6 +120,7 @@ bool DeviceState::Redo() { return GoTo(history_.Forth(Present())); }
 bool DeviceState::GoTo(std::optional<Holdings> there) {
   if (!there) return false;
   PutBack(*std::move(there));
+  ++moves_;
   CompareWithTaken();
   return true;
 }
@@ -119,11 +129,38 @@ void DeviceState::NoteTaken(int number, std::span<const Byte, kBlockSize> bytes)
   std::ranges::copy(bytes, taken_[number].begin());
 }
 
-void DeviceState::CompareWithTaken() {
-  const BlockImage now = EncodedImage();
+void DeviceState::CompareWithTaken() noexcept {
+  try {
+    ListWhatDiffers();
+  } catch (...) {
+    // Without memory to compare: what may be another on the device is sent again.
+    for (const auto& [number, taken] : taken_) env.blocks.AddBlk(static_cast<Byte>(number));
+  }
+}
+
+/// Bits that carry no setting, such as those of cameras that the model lacks, do not count: what
+/// the device has taken is read and encoded like what the control holds.
+BlockImage DeviceState::ImageOfDevice() {
+  BlockImage image = BlkImage;
   for (const auto& [number, taken] : taken_) {
-    if (!now.Counts(number)) continue;
-    if (DeviceHasBlock(number, taken, now.Block(number), env.identity)) {
+    if (!IsDeviceBlock(number) && image.Counts(number)) {
+      std::ranges::copy(taken, image.Block(number).begin());
+    }
+  }
+  RecordEnvironment device_env;
+  const auto record = std::make_unique<MuxData>(device_env);
+  DecodeImage(image, device_env, *record);
+  EncodeImage(image, device_env, *record);
+  return image;
+}
+
+void DeviceState::ListWhatDiffers() {
+  if (taken_.empty()) return;
+  const BlockImage now = EncodedImage();
+  const BlockImage device = ImageOfDevice();
+  for (const auto& [number, taken] : taken_) {
+    if (IsDeviceBlock(number) || !now.Counts(number)) continue;
+    if (DeviceHasBlock(number, device.Block(number), now.Block(number), env.identity)) {
       SettleChangeMark(number, taken, BlkImage, ComboArray, env, Record());
     } else {
       env.blocks.AddBlk(static_cast<Byte>(number));

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
@@ -14,14 +15,6 @@
 #include "quorvel/combined_array.h"
 
 namespace quorvel {
-
-/// Where an image comes from.
-enum class ImageSource {
-  kDevice,
-  kSettingsFile,
-  kFactory,            ///< factory defaults for the device that is connected, as it says itself
-  kFactoryForAnother,  ///< for a device that the host has only named
-};
 
 /// What a control holds of its device: the image, the record that was decoded from it, and what is
 /// listed of it as modified.
@@ -72,8 +65,20 @@ class DeviceState {
   bool Undo();
   bool Redo();
   [[nodiscard]] const EditHistory& History() const { return history_; }
+  /// Counts the steps back and forth.
+  [[nodiscard]] int Moves() const { return moves_; }
+  /// True when the image is the device's own, and there is no step to take back or do again.
+  [[nodiscard]] bool IsDevicesOwn() const {
+    return source_ == ImageSource::kDevice && history_.IsEmpty();
+  }
+  /// Another image is asked for, and flags change before it comes: a step back restores those of
+  /// now. DropFlags: it does not come.
+  void KeepFlags() { kept_flags_ = Flags{LoadedFromFile, UsePcTime}; }
+  void DropFlags() { kept_flags_.reset(); }
   /// The device has taken these bytes for block `number`.
   void NoteTaken(int number, std::span<const Byte, kBlockSize> bytes);
+  /// Brings the list and the change marks in line with what the device has taken.
+  void CompareWithTaken() noexcept;
 
   /// Lists the clock's block, lets the device take it, and has it carry the computer's time, taken
   /// when the block is built.
@@ -90,12 +95,21 @@ class DeviceState {
   [[nodiscard]] bool Holds(const Holdings& holdings);
   void PutBack(Holdings holdings) noexcept;
   bool GoTo(std::optional<Holdings> there);
-  /// Brings the list and the change marks in line with what the device has taken.
-  void CompareWithTaken();
+  void ListWhatDiffers();
+  /// The blocks that the device would give after what it has taken, as the record encodes them.
+  [[nodiscard]] BlockImage ImageOfDevice();
+
+  struct Flags {
+    bool loaded_from_file;
+    bool use_pc_time;
+  };
 
   EditHistory history_;
   TakenBlocks taken_;
   int image_number_ = 0;
+  int moves_ = 0;
+  ImageSource source_ = ImageSource::kDevice;
+  std::optional<Flags> kept_flags_;
   std::unique_ptr<MuxData> record_;
   int generation_ = 0;
 };

@@ -17,6 +17,14 @@
 
 namespace quorvel {
 
+/// Where an image comes from.
+enum class ImageSource {
+  kDevice,
+  kSettingsFile,
+  kFactory,            ///< factory defaults for the device that is connected, as it says itself
+  kFactoryForAnother,  ///< for a device that the host has only named
+};
+
 /// What a control holds of its device at one moment, but for the surroundings of its record.
 struct Holdings {
   std::unique_ptr<MuxData> record;
@@ -28,6 +36,7 @@ struct Holdings {
   bool loaded_from_file = false;
   bool use_pc_time = false;
   int image_number = 0;  ///< which of the images that have arrived it is
+  ImageSource source = ImageSource::kDevice;
 };
 
 /// What a step is called: a text, or the id of one of the catalogue.
@@ -44,6 +53,7 @@ class EditHistory {
   /// A step was made; `before` is what it began with. What was taken back is gone now.
   void Add(StepName name, Holdings before);
   void Clear();
+  [[nodiscard]] bool IsEmpty() const { return done_.empty() && undone_.empty(); }
 
   /// What the next step back, or forth, is called; none when there is none.
   [[nodiscard]] StepName NextBack() const { return NameOf(done_); }

@@ -21,12 +21,6 @@ bool Alike(std::string_view one, std::string_view other) {
   return std::ranges::equal(one, other, [](char a, char b) { return Lower(a) == Lower(b); });
 }
 
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 std::optional<int> ReadFlag(std::string_view text) {
   constexpr std::array<std::string_view, 4> kOn{"yes", "true", "on", "1"};
   constexpr std::array<std::string_view, 4> kOff{"no", "false", "off", "0"};
@@ -56,6 +50,12 @@ std::optional<int> HexDigit(char letter) {
 }
 
 }  // namespace
+
+std::string_view Trimmed(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
 
 std::optional<int> ReadNumber(std::string_view text, const AnySetting& setting,
                               const AllowedNumbers& allowed) {

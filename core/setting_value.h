@@ -16,6 +16,9 @@ namespace quorvel {
                                             const layout::AnySetting& setting,
                                             const AllowedNumbers& allowed);
 
+/// Without the blanks at both ends.
+[[nodiscard]] std::string_view Trimmed(std::string_view text);
+
 /// The characters of a text, which may stand in quotes as QuotedText writes them; nothing for
 /// quotes that are not closed, or an escape that is none.
 [[nodiscard]] std::optional<std::string> ReadText(std::string_view text);

@@ -161,7 +161,9 @@ class AllFlagsRaised {
 /// Sets what is at `slot`, without a list.
 SetAnswer Store(const Slot& slot, AnySetting& setting, const Identity& id, std::string_view value) {
   if (setting.Type() == SettingType::kText) {
-    const auto text = ReadText(value);
+    auto text = ReadText(value);
+    // Blanks at the ends are padding in the block, and would not be read again.
+    if (text && !slot.zero_ended) *text = std::string(Trimmed(*text));
     if (!text || text->size() > static_cast<std::size_t>(slot.length)) return SetAnswer::kNotAValue;
     if (slot.zero_ended && text->find('\0') != std::string::npos) return SetAnswer::kNotAValue;
     if (*text == setting.Holds().text) return SetAnswer::kUnchanged;

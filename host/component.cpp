@@ -1,8 +1,10 @@
 #include "host/component.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "core/byte_order.h"
+#include "core/change_marks.h"
 #include "core/codec.h"
 #include "core/comparison.h"
 #include "core/factory_defaults.h"
@@ -33,6 +35,14 @@ LoadAnswer Loaded(Body&& body) {
   } catch (...) {
     return {false, FailureReason()};
   }
+}
+
+/// True for a part of the device's date and time.
+bool IsOfClock(const Configuration& present, std::string_view name) {
+  const auto setting = DescribeSetting(present, name);
+  return setting && std::ranges::any_of(setting->places, [](const SettingPlace& place) {
+           return IsClockByte(place.block, place.at);
+         });
 }
 
 }  // namespace
@@ -169,9 +179,16 @@ void Component::UsePcTime(bool use) {
 }
 
 /// The blocks of a send that is under way are taken from the image as it is.
-bool Component::Undo() { return State().under_way != TransferKind::kSend && context.device.Undo(); }
-
-bool Component::Redo() { return State().under_way != TransferKind::kSend && context.device.Redo(); }
+bool Component::GoAStep(bool (DeviceState::*go)()) {
+  if (State().under_way == TransferKind::kSend) return false;
+  const int generation = context.device.ImageGeneration();
+  if (!(context.device.*go)()) return false;
+  // Of another image, the exchange that it came in.
+  if (generation != context.device.ImageGeneration()) {
+    context.host.ComboMode = !context.device.ComboArray.Bytes().empty();
+  }
+  return true;
+}
 
 std::string Component::TextOf(const StepName& step) {
   return step.id != 0 ? context.GetText(step.id) : step.text;
@@ -245,6 +262,10 @@ SetAnswer Component::SetSetting(std::string_view name, std::string_view value) {
   SetAnswer answer = SetAnswer::kUnchanged;
   context.device.AsStep({std::string(name)}, [&] {
     answer = quorvel::SetSetting(Present(), context.device.env, name, bytes);
+    // Who sets the clock does not want the computer's time, as in its editor.
+    if (answer == SetAnswer::kSet && context.device.UsePcTime && IsOfClock(Present(), name)) {
+      context.device.UsePcTime = false;
+    }
   });
   return answer;
 }

@@ -61,8 +61,8 @@ class Component : public std::enable_shared_from_this<Component> {
   [[nodiscard]] LoadAnswer LoadDefaults(Byte cameras, Byte model_code, std::string_view model_name,
                                         char variant);
   void UsePcTime(bool use);
-  [[nodiscard]] bool Undo();
-  [[nodiscard]] bool Redo();
+  [[nodiscard]] bool Undo() { return GoAStep(&DeviceState::Undo); }
+  [[nodiscard]] bool Redo() { return GoAStep(&DeviceState::Redo); }
   [[nodiscard]] std::string TextOf(const StepName& step);
   void Observe(TransferObserver* observer) { host_.Observe(observer); }
   [[nodiscard]] bool StartReceive();
@@ -76,6 +76,7 @@ class Component : public std::enable_shared_from_this<Component> {
   bool properties_changed = false;
 
  private:
+  [[nodiscard]] bool GoAStep(bool (DeviceState::*go)());
   /// A call that changes nothing.
   void Ignored(const std::string& what) const;
   void OpenMenu(std::int16_t link);

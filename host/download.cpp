@@ -164,10 +164,11 @@ bool Download::ExpectsDevice() const {
   return expecting_ == Expecting::kBlock || expecting_ == Expecting::kComboArray;
 }
 
-/// A reply that comes late, or twice, must not undo what was edited since. While nothing is edited,
-/// a host may hand over a configuration without having been asked.
+/// A reply that comes late, or twice, must not undo what was edited since, nor replace what was
+/// loaded. While nothing is edited, a host may hand over a configuration without having been asked.
 bool Download::MayTakeUnasked() const {
-  return expecting_ == Expecting::kNothing && context_.device.env.blocks.BlkSavIdx() == 0;
+  return expecting_ == Expecting::kNothing && context_.device.env.blocks.BlkSavIdx() == 0 &&
+         context_.device.IsDevicesOwn();
 }
 
 void Download::NoteIgnored(std::string_view what) const {

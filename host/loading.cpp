@@ -49,6 +49,7 @@ void Download::LoadDefaults(const DefaultsDevice& device) {
 
 void Download::BuildDefaults() {
   const int round = BeginAnew("Factory defaults are asked for.");
+  context_.device.KeepFlags();
   context_.InitGlobals();
   if (GoesOn(round)) Request(Expecting::kDefaultsProbe, kVariantBlock);
 }

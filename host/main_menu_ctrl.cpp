@@ -159,7 +159,11 @@ void MainMenuCtrl::Enabled(bool enabled) {
   });
 }
 
-quorvel::Font MainMenuCtrl::Font() const { return component_->surface.LabelFont(); }
+quorvel::Font MainMenuCtrl::Font() const {
+  quorvel::Font font;
+  component_->Call("Font", [&] { font = component_->surface.LabelFont(); });
+  return font;
+}
 
 void MainMenuCtrl::Font(const quorvel::Font& font) {
   component_->Call("Font", [&it = *component_, &font] {
@@ -178,11 +182,13 @@ void MainMenuCtrl::HostCommId(std::uint8_t id) {
 ControlSurface& MainMenuCtrl::Surface() { return component_->surface; }
 
 std::vector<std::uint8_t> MainMenuCtrl::ModifiedBlocks() const {
-  const clsBlkSave& list = component_->context.device.env.blocks;
   std::vector<std::uint8_t> numbers;
-  for (Byte i = 0; i < list.BlkSavIdx(); ++i) {
-    if (list.BlkNumSav(i) != 0) numbers.push_back(list.BlkNumSav(i));
-  }
+  component_->Call("ModifiedBlocks", [&] {
+    const clsBlkSave& list = component_->context.device.env.blocks;
+    for (Byte i = 0; i < list.BlkSavIdx(); ++i) {
+      if (list.BlkNumSav(i) != 0) numbers.push_back(list.BlkNumSav(i));
+    }
+  });
   return numbers;
 }
 
@@ -244,8 +250,12 @@ std::optional<std::vector<SettingDifference>> MainMenuCtrl::DifferencesFrom(
 }
 
 std::vector<std::uint8_t> MainMenuCtrl::Image() const {
-  const auto bytes = component_->context.device.BlkImage.Bytes();
-  return {bytes.begin(), bytes.end()};
+  std::vector<std::uint8_t> image;
+  component_->Call("Image", [&] {
+    const auto bytes = component_->context.device.BlkImage.Bytes();
+    image.assign(bytes.begin(), bytes.end());
+  });
+  return image;
 }
 
 std::vector<std::uint8_t> MainMenuCtrl::EditedImage() const {

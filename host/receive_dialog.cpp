@@ -30,12 +30,13 @@ void ReceiveDialog::Receive() {
 }
 
 void ReceiveDialog::RestoreImageFromFile() {
+  context_.device.KeepFlags();
   context_.InitGlobals();
   // Also when no file is restored: what is sent next is compared with the device.
   context_.device.LoadedFromFile = true;
   const auto bytes = AskForSettings(context_);
   FetchTexts();
-  if (!bytes || context_.edges.terminated) return;
+  if (!bytes || context_.edges.terminated) return context_.device.DropFlags();
   const Download::Restored restored = download_.AdoptFile(*bytes);
   const int round = download_.BeginAnew("A settings file was restored.");
   if (!download_.GoesOn(round)) return;

@@ -88,6 +88,8 @@ void Upload::Start(const SendChoice& choice, const SendBasis& basis, bool quiet)
   quiet_ = quiet;
   end_packet_went_ = false;
   if (!BasisHolds()) return;
+  // What was edited since the dialog opened goes as it is now.
+  context_.EncodeListedBlocks();
   run_.Begin(quiet);
   Step(true, [&] {
     if (context_.host.ComboMode) {
@@ -178,7 +180,7 @@ std::vector<Upload::HandedOver> Upload::IncludedBlocks(const SendChoice& choice)
 }
 
 Upload::HandedOver Upload::HandOver(int number) const {
-  HandedOver block{context_.device.ImageGeneration(), number, {}};
+  HandedOver block{context_.device.ImageGeneration(), context_.device.Moves(), number, {}};
   std::ranges::copy(context_.device.BlkImage.Block(number), block.bytes.begin());
   return block;
 }
@@ -186,6 +188,8 @@ Upload::HandedOver Upload::HandOver(int number) const {
 void Upload::NoteTaken(const HandedOver& block) {
   if (context_.edges.terminated) return;
   context_.device.NoteTaken(block.number, block.bytes);
+  // A step back did not know yet that the device would have it.
+  if (block.moves != context_.device.Moves()) return context_.device.CompareWithTaken();
   if (block.generation != context_.device.ImageGeneration()) return;
   SettleChangeMark(block.number, block.bytes, context_.device.BlkImage, context_.device.ComboArray,
                    context_.device.env, context_.device.Record());

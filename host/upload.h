@@ -76,6 +76,7 @@ class Upload {
   /// it.
   struct HandedOver {
     int generation;
+    int moves;  ///< steps back and forth until then
     int number;
     std::array<Byte, kBlockSize> bytes;
   };

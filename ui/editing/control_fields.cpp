@@ -233,7 +233,10 @@ class OctetsField final : public Field {
     PutBack(line);
   }
   void Write(MuxData& record, int /*line*/) override {
-    for (int i = 0; i < boxes_.Count(); ++i) setting_.Access().Set(record, i, octets_.Octet(i));
+    for (int i = 0; i < boxes_.Count(); ++i) {
+      const Byte octet = octets_.Octet(i);
+      if (octet != opened_.at(static_cast<std::size_t>(i))) setting_.Access().Set(record, i, octet);
+    }
   }
   void Tell(MuxData& record, int /*line*/, ShownSetting& shown) const override {
     for (int i = 0; i < boxes_.Count(); ++i) {
