@@ -166,8 +166,8 @@ QUORVEL_C_API quorvel_result quorvel_platform_take_file_requests(quorvel_platfor
 QUORVEL_C_API quorvel_result quorvel_platform_take_stalled(quorvel_platform* platform,
                                                            quorvel_visit_text visit, void* user);
 
-// Offers texts under a class identifier, for command 191. `text` returns the text of an id, NULL or
-// "" for the built-in one; what it returns is read at once. It must serve as long as the platform.
+// Offers texts under a class identifier, for command 191. `text` returns the text of an id, NULL
+// for the built-in one; what it returns is read at once. It must serve as long as the platform.
 QUORVEL_C_API quorvel_result
 quorvel_platform_offer_texts(quorvel_platform* platform, const char* class_id,
                              const char* (*text)(void* user, int32_t id), void* user);

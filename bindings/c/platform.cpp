@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <ctime>
+#include <stdexcept>
 
 #include "bindings/c/handles.h"
 
@@ -94,7 +95,9 @@ class Texts final : public AutomationObject {
   Texts(Source source, void* user) : source_(source), user_(user) {}
   std::string Call(std::string_view method, std::int32_t id) override {
     if (method != "getresourcestring") throw std::invalid_argument("no such method");
-    return std::string(OrEmpty(source_(user_, id)));
+    const char* const text = source_(user_, id);
+    if (text == nullptr) throw std::runtime_error("the host has no such text");
+    return text;
   }
 
  private:

@@ -5,102 +5,49 @@
 
 namespace {
 
-/// Calls a function with a handle and nothing else: NULL and 0.
-template <class Handle, class... Others>
-auto Bare(quorvel_result (*function)(Handle*, Others...)) {
-  return [function](Handle* handle) { return function(handle, Others{}...); };
+/// Calls functions with NULL for everything, then with a handle and NULL for the rest.
+template <class Handle, class... Functions>
+void ExpectNullRefused(Handle* handle, const std::string& words, Functions... functions) {
+  const auto call = [&]<class... Others>(quorvel_result (*function)(Handle*, Others...)) {
+    EXPECT_EQ(function(nullptr, Others{}...), QUORVEL_INVALID);
+    EXPECT_EQ(quorvel_last_error(), words);
+    function(handle, Others{}...);
+  };
+  (call(functions), ...);
 }
-
-const std::vector<std::function<quorvel_result(quorvel_control*)>> kOfControl{
-    Bare(quorvel_control_custom),
-    Bare(quorvel_control_custom_with_string),
-    Bare(quorvel_control_save_connected_info),
-    Bare(quorvel_control_fill_combo_info),
-    Bare(quorvel_control_fill_combo_blk),
-    Bare(quorvel_control_fill_data_blk),
-    Bare(quorvel_control_trigger_upload_timer),
-    Bare(quorvel_control_update_act_grid),
-    Bare(quorvel_control_use_pc_time),
-    Bare(quorvel_control_set_use_pc_time),
-    Bare(quorvel_control_properties),
-    Bare(quorvel_control_set_properties),
-    Bare(quorvel_control_properties_changed),
-    Bare(quorvel_control_enabled),
-    Bare(quorvel_control_set_enabled),
-    Bare(quorvel_control_host_comm_id),
-    Bare(quorvel_control_set_host_comm_id),
-    Bare(quorvel_control_click),
-    Bare(quorvel_control_double_click),
-    Bare(quorvel_control_modified_blocks),
-    Bare(quorvel_control_image),
-    Bare(quorvel_control_edited_image),
-    Bare(quorvel_control_settings),
-    Bare(quorvel_control_differences),
-    Bare(quorvel_control_describe_setting),
-    Bare(quorvel_control_describe_settings),
-    Bare(quorvel_control_get_setting),
-    Bare(quorvel_control_set_setting),
-    Bare(quorvel_control_setting_findings),
-    Bare(quorvel_control_undo),
-    Bare(quorvel_control_redo),
-    Bare(quorvel_control_undo_text),
-    Bare(quorvel_control_redo_text),
-    Bare(quorvel_control_observe),
-    Bare(quorvel_control_start_receive),
-    Bare(quorvel_control_start_send),
-    Bare(quorvel_control_cancel_transfer),
-    Bare(quorvel_control_state),
-    Bare(quorvel_control_load_settings),
-    Bare(quorvel_control_save_settings),
-    Bare(quorvel_control_load_defaults)};
-
-const std::vector<std::function<quorvel_result(quorvel_platform*)>> kOfPlatform{
-    Bare(quorvel_platform_run_until_idle),
-    Bare(quorvel_platform_advance),
-    Bare(quorvel_platform_elapsed),
-    Bare(quorvel_platform_next_due),
-    Bare(quorvel_platform_post),
-    Bare(quorvel_platform_set_time),
-    Bare(quorvel_platform_answer_message),
-    Bare(quorvel_platform_answer_file),
-    Bare(quorvel_platform_take_messages),
-    Bare(quorvel_platform_take_file_requests),
-    Bare(quorvel_platform_take_stalled),
-    Bare(quorvel_platform_offer_texts),
-    Bare(quorvel_platform_windows),
-    Bare(quorvel_platform_widgets),
-    Bare(quorvel_platform_widget),
-    Bare(quorvel_platform_cell),
-    Bare(quorvel_platform_menu),
-    Bare(quorvel_user_choose_menu),
-    Bare(quorvel_user_dismiss_menu),
-    Bare(quorvel_user_click),
-    Bare(quorvel_user_type),
-    Bare(quorvel_user_select),
-    Bare(quorvel_user_slide),
-    Bare(quorvel_user_pick),
-    Bare(quorvel_user_turn_page),
-    Bare(quorvel_user_press),
-    Bare(quorvel_user_release),
-    Bare(quorvel_user_drag),
-    Bare(quorvel_user_mark),
-    Bare(quorvel_user_empty),
-    Bare(quorvel_user_paste),
-    Bare(quorvel_user_close_window)};
 
 TEST(CInterface, RefusesNullInEveryPlace) {
   CHost host;
   host.Receive();
-  for (const auto& call : kOfControl) {
-    EXPECT_EQ(call(nullptr), QUORVEL_INVALID);
-    EXPECT_STREQ(quorvel_last_error(), "the control is NULL");
-    call(host.control);
-  }
-  for (const auto& call : kOfPlatform) {
-    EXPECT_EQ(call(nullptr), QUORVEL_INVALID);
-    EXPECT_STREQ(quorvel_last_error(), "the platform is NULL");
-    call(host.platform);
-  }
+  ExpectNullRefused(
+      host.control, "the control is NULL", quorvel_control_custom,
+      quorvel_control_custom_with_string, quorvel_control_save_connected_info,
+      quorvel_control_fill_combo_info, quorvel_control_fill_combo_blk,
+      quorvel_control_fill_data_blk, quorvel_control_trigger_upload_timer,
+      quorvel_control_update_act_grid, quorvel_control_use_pc_time, quorvel_control_set_use_pc_time,
+      quorvel_control_properties, quorvel_control_set_properties,
+      quorvel_control_properties_changed, quorvel_control_enabled, quorvel_control_set_enabled,
+      quorvel_control_host_comm_id, quorvel_control_set_host_comm_id, quorvel_control_click,
+      quorvel_control_double_click, quorvel_control_modified_blocks, quorvel_control_image,
+      quorvel_control_edited_image, quorvel_control_settings, quorvel_control_differences,
+      quorvel_control_describe_setting, quorvel_control_describe_settings,
+      quorvel_control_get_setting, quorvel_control_set_setting, quorvel_control_setting_findings,
+      quorvel_control_undo, quorvel_control_redo, quorvel_control_undo_text,
+      quorvel_control_redo_text, quorvel_control_observe, quorvel_control_start_receive,
+      quorvel_control_start_send, quorvel_control_cancel_transfer, quorvel_control_state,
+      quorvel_control_load_settings, quorvel_control_save_settings, quorvel_control_load_defaults);
+  ExpectNullRefused(
+      host.platform, "the platform is NULL", quorvel_platform_run_until_idle,
+      quorvel_platform_advance, quorvel_platform_elapsed, quorvel_platform_next_due,
+      quorvel_platform_post, quorvel_platform_set_time, quorvel_platform_answer_message,
+      quorvel_platform_answer_file, quorvel_platform_take_messages,
+      quorvel_platform_take_file_requests, quorvel_platform_take_stalled,
+      quorvel_platform_offer_texts, quorvel_platform_windows, quorvel_platform_widgets,
+      quorvel_platform_widget, quorvel_platform_cell, quorvel_platform_menu,
+      quorvel_user_choose_menu, quorvel_user_dismiss_menu, quorvel_user_click, quorvel_user_type,
+      quorvel_user_select, quorvel_user_slide, quorvel_user_pick, quorvel_user_turn_page,
+      quorvel_user_press, quorvel_user_release, quorvel_user_drag, quorvel_user_mark,
+      quorvel_user_empty, quorvel_user_paste, quorvel_user_close_window);
   EXPECT_EQ(quorvel_platform_new(nullptr, nullptr), QUORVEL_INVALID);
   EXPECT_EQ(quorvel_control_new(host.platform, nullptr, nullptr), QUORVEL_INVALID);
   quorvel_control_free(nullptr);
@@ -209,6 +156,91 @@ TEST(CInterface, AnswersTheUser) {
   host.OpenMenu();
   EXPECT_EQ(user(quorvel_user_choose_menu, "mnu_None"), "5 the menu has no item mnu_None");
   EXPECT_EQ(user(quorvel_user_choose_menu, "mnu_Factory"), "42 mnu_Factory has no such place");
+}
+
+TEST(CInterface, DescribesASetting) {
+  CHost host;
+  host.Receive();
+  const auto tell = [](void* to, const quorvel_setting_description* it) {
+    auto& text = *static_cast<std::string*>(to);
+    text += std::string(it->name) + " " + it->allowed + ": type " + std::to_string(it->type) + ", ";
+    text += std::to_string(it->least) + " to " + std::to_string(it->most) + it->unit + ", codes";
+    for (std::size_t i = 0; i < it->code_count; ++i) {
+      text += " " + std::to_string(it->codes[i].value) + it->codes[i].text;
+    }
+    for (std::size_t i = 0; i < it->place_count; ++i) {
+      const quorvel_setting_place& place = it->places[i];
+      text += ", byte " + std::to_string(place.at) + " of " + std::to_string(place.block) +
+              " mask " + std::to_string(place.mask);
+    }
+    text += "\n";
+    return 0;
+  };
+  std::string text;
+  for (const char* name : {"AlarmMode", "MultiDwell", "CamInfo(2).title"}) {
+    EXPECT_EQ(quorvel_control_describe_setting(host.control, name, tell, &text), QUORVEL_OK);
+  }
+  EXPECT_EQ(text,
+            "AlarmMode 0 Latched, 1 Transparent, 2 Timed Out: type 1, 0 to 2, codes 0Latched "
+            "1Transparent 2Timed Out, byte 10 of 59 mask 255\n"
+            "MultiDwell 1 to 30 s: type 1, 1 to 30s, codes, byte 4 of 59 mask 255\n"
+            "CamInfo(2).title up to 13 characters: type 2, 0 to 13, codes, byte 0 of 3 mask 255\n");
+}
+
+/// What a host keeps, tells and is told besides.
+TEST(CInterface, AsksItsHost) {
+  struct Told {
+    std::string text;
+    quorvel_platform* platform = nullptr;
+  } told;
+  quorvel_platform_events events{};
+  events.size = sizeof events;
+  events.user = &told;
+  events.message = [](void* user, quorvel_platform* platform, const quorvel_message* message) {
+    static_cast<Told*>(user)->text += std::string(message->title) + ": " + message->text + "\n";
+    quorvel_platform_answer_message(platform, 1);
+  };
+  events.file = [](void* user, quorvel_platform* platform, const quorvel_file_request* request) {
+    static_cast<Told*>(user)->text += std::string(request->filter) + "\n";
+    quorvel_platform_answer_file(platform, nullptr);
+  };
+  events.log = [](void* user, quorvel_platform*, std::int32_t level, const char*) {
+    static_cast<Told*>(user)->text += std::to_string(level) + " ";
+  };
+  ASSERT_EQ(quorvel_platform_new(&events, &told.platform), QUORVEL_OK);
+  {
+    CHost host(told.platform);
+    const auto title = [](void*, std::int32_t id) {
+      return id == 267 ? "anderes Ger\xC3\xA4t" : nullptr;
+    };
+    quorvel_platform_offer_texts(told.platform, "Texts", title, nullptr);
+    EXPECT_EQ(
+        quorvel_control_custom_with_string(host.control, QUORVEL_COMMAND_TEXTS, 0, 0, "Texts"),
+        QUORVEL_OK);
+    EXPECT_EQ(quorvel_control_custom(host.control, QUORVEL_COMMAND_RESTORE, 0, 0), QUORVEL_OK);
+    EXPECT_EQ(quorvel_control_custom(host.control, QUORVEL_COMMAND_SEND, 0, 0), QUORVEL_OK);
+    EXPECT_EQ(quorvel_control_trigger_upload_timer(host.control), QUORVEL_OK);
+    EXPECT_EQ(told.text, "*.bin\nError Message: anderes Ger\xC3\xA4t\n2 ");
+    quorvel_properties kept{};
+    kept.size = sizeof kept;
+    kept.host_comm_id = 256;
+    EXPECT_EQ(quorvel_control_set_properties(host.control, &kept), QUORVEL_INVALID);
+    kept.host_comm_id = 3;
+    kept.font_family = "Serif";
+    kept.font_points = 12;
+    EXPECT_EQ(quorvel_control_set_properties(host.control, &kept), QUORVEL_OK);
+    EXPECT_EQ(quorvel_control_click(host.control), QUORVEL_DISABLED);
+    EXPECT_EQ(quorvel_control_set_enabled(host.control, 1), QUORVEL_OK);
+    std::string text;
+    const auto show = [](void* to, const quorvel_properties* it) {
+      *static_cast<std::string*>(to) = std::to_string(it->enabled) + " " +
+                                       std::to_string(it->host_comm_id) + " " + it->font_family;
+      return 0;
+    };
+    EXPECT_EQ(quorvel_control_properties(host.control, show, &text), QUORVEL_OK);
+    EXPECT_EQ(text, "1 3 Serif");
+  }
+  quorvel_platform_free(told.platform);
 }
 
 TEST(CInterface, ShowsTheScreen) {
