@@ -233,11 +233,10 @@ void Upload::Halt() {
 void Upload::LosePacket() {
   patience_->Stop();
   outstanding_ = false;
-  if (unacknowledged_) {
-    context_.edges.Log(LogLevel::kWarning, "block " + std::to_string(unacknowledged_->number) +
-                                               " has not been acknowledged for two seconds");
-  }
   if (state_ == State::kWaiting) Timer1->Start();
+  if (!unacknowledged_) return;  // hosts need not acknowledge the end packet
+  context_.edges.Log(LogLevel::kWarning, "block " + std::to_string(unacknowledged_->number) +
+                                             " has not been acknowledged for two seconds");
 }
 
 void Upload::TriggerTimer() {
