@@ -97,16 +97,21 @@ TEST_F(QtWindows, LayoutMayBeReplacedWhileItIsOnScreen) {
   EXPECT_TRUE(Body("spare").isVisible());
 }
 
-TEST_F(QtWindows, MessageBoxTellsLinesAndTheAnswer) {
+TEST_F(QtWindows, MessageBoxTellsLinesItsKindAndTheAnswer) {
   for (const auto& [button, ok] :
        {std::pair{QMessageBox::Ok, true}, {QMessageBox::Cancel, false}}) {
     QString text;
-    WhileModal([&text, pick = button] {
+    auto icon = QMessageBox::NoIcon;
+    WhileModal([&text, &icon, pick = button] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       text = box->text();
+      icon = box->icon();
       box->button(pick)->click();
     });
-    EXPECT_EQ(platform_.Ask({"Send <all>?\rYes & no", "Upload", Message::Buttons::kOkCancel}), ok);
+    EXPECT_EQ(platform_.Ask({"Send <all>?\rYes & no", "Upload", Message::Buttons::kOkCancel,
+                             Message::Kind::kWarning}),
+              ok);
+    EXPECT_EQ(icon, QMessageBox::Warning);
     EXPECT_EQ(text, "Send <all>?\nYes & no");
   }
 }
