@@ -1,4 +1,5 @@
-# Builds for 64-bit Windows on Debian, with the packages g++-mingw-w64-x86-64-posix and libcli11-dev.
+# Builds for 64-bit Windows on Debian, with the packages g++-mingw-w64-x86-64-posix, libcli11-dev and
+# nlohmann-json3-dev.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)

@@ -40,9 +40,10 @@ if(QUORVEL_QT)
     "the shared library that draws it" libraries)
   list(APPEND quorvel_libraries qt)
 endif()
-if(QUORVEL_APPS)
+if(QUORVEL_APPS OR QUORVEL_TOOLS)
   quorvel_package(tools quorvel-tools utils ": tools"
-    "a host application with a simulated device, muxhost" ${quorvel_libraries})
+    "quorvel, a command line for settings files, and muxhost, a host application with a
+simulated device" ${quorvel_libraries})
 endif()
 # The C interface, where it is built, comes with a library of its own.
 if(TARGET quorvel_c)

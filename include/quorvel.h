@@ -123,7 +123,8 @@ typedef struct quorvel_platform_events {
 // `events` may be NULL. Free the platform with quorvel_platform_free.
 QUORVEL_C_API quorvel_result quorvel_platform_new(const quorvel_platform_events* events,
                                                   quorvel_platform** platform);
-// Its controls stay usable until they are freed, its events are raised no more. NULL is nothing.
+// Its controls stay usable until they are freed; its events are raised no more, what was posted is
+// not called, and texts are the built-in ones. NULL is nothing.
 QUORVEL_C_API void quorvel_platform_free(quorvel_platform* platform);
 
 // The clock stands still while code runs. It moves when you say so, in milliseconds, or jumps from

@@ -14,6 +14,12 @@ MainMenuCtrl& Desk::NewControl() {
 }
 
 LoadAnswer Desk::Load(ByteSpan file, const FileParts& parts) {
+  if (parts.combined && parts.image.size() < parts.header.DataLen) {
+    // By its length alone it could be taken for a plain image.
+    return {false, "The combined array is cut short: it states " +
+                       std::to_string(parts.header.DataLen) + " bytes of blocks and holds " +
+                       std::to_string(parts.image.size()) + "."};
+  }
   MainMenuCtrl& control = NewControl();
   // Else it goes by the length alone, and a small device's array is as short as a plain image.
   if (parts.combined) control.FillComboInfo(file.subspan(kSizesAt, kSizesLength));

@@ -1,6 +1,11 @@
 #include "apps/quorvel/edit.h"
 
 #include <iostream>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <unistd.h>
+#endif
 
 #include "apps/quorvel/trouble.h"
 #include "quorvel/platform.h"
@@ -19,6 +24,10 @@ void Edit::Set(const std::string& name, const std::string& value, const std::str
   } else {
     Refuse(name, Describe(answer));
   }
+}
+
+void Edit::PassOver(const std::string& name) {
+  std::cerr << "quorvel: " << file_.Name() << ": " << name << ": read-only, left as it is\n";
 }
 
 void Edit::Refuse(const std::string& name, const std::string& why) {
@@ -43,6 +52,10 @@ int Edit::Store(const std::string& out) {
 
 void StoreOutput(const std::string& out, ByteSpan bytes) {
   if (out == kStandard) {
+#ifdef _WIN32
+    std::cout.flush();
+    ::_setmode(STDOUT_FILENO, O_BINARY);
+#endif
     std::cout.write(reinterpret_cast<const char*>(bytes.data()),
                     static_cast<std::streamsize>(bytes.size()));
     return;

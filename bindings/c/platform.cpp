@@ -88,19 +88,23 @@ void Platform::Log(quorvel::LogLevel level, std::string_view text) {
 
 namespace {
 
-/// A text source of the host's.
+/// A text source of the host's, until the host frees the platform.
 class Texts final : public AutomationObject {
  public:
   using Source = const char* (*)(void*, std::int32_t);
-  Texts(Source source, void* user) : source_(source), user_(user) {}
+  Texts(std::weak_ptr<Platform> platform, Source source, void* user)
+      : platform_(std::move(platform)), source_(source), user_(user) {}
   std::string Call(std::string_view method, std::int32_t id) override {
     if (method != "getresourcestring") throw std::invalid_argument("no such method");
-    const char* const text = source_(user_, id);
+    const auto platform = platform_.lock();
+    const bool serves = platform != nullptr && platform->handle != nullptr;
+    const char* const text = serves ? source_(user_, id) : nullptr;
     if (text == nullptr) throw std::runtime_error("the host has no such text");
     return text;
   }
 
  private:
+  std::weak_ptr<Platform> platform_;
   Source source_;
   void* user_;
 };
@@ -161,7 +165,10 @@ quorvel_result quorvel_platform_post(quorvel_platform* platform, int32_t millise
   return Run([&] {
     const auto held = Of(platform);
     static_cast<void>(Given(task, "the task"));
-    held->PostIn(milliseconds, [task, user] { task(user); });
+    held->PostIn(milliseconds, [task, user, platform = std::weak_ptr(held)] {
+      const auto there = platform.lock();
+      if (there != nullptr && there->handle != nullptr) task(user);
+    });
   });
 }
 
@@ -231,6 +238,8 @@ quorvel_result quorvel_platform_offer_texts(quorvel_platform* platform, const ch
     const auto held = Of(platform);
     static_cast<void>(Given(text, "text"));
     const std::string id = Given(class_id, "the class identifier");
-    held->Classes().Register(id, [text, user] { return std::make_shared<Texts>(text, user); });
+    held->Classes().Register(id, [platform = std::weak_ptr(held), text, user] {
+      return std::make_shared<Texts>(platform, text, user);
+    });
   });
 }

@@ -8,8 +8,9 @@ void Watcher::Progress(TransferKind which, int done, int total) {
 }
 
 void Watcher::Ended(TransferKind which, TransferEnd end, std::string_view cause) {
-  const auto words = cause_;
-  *words = cause;
+  // A transfer that ends inside the host's call has words of its own.
+  const auto words = std::make_shared<const std::string>(cause);
+  last_->words = words;
   if (observer_.ended == nullptr) return;
   observer_.ended(observer_.user, control_, static_cast<std::int32_t>(which),
                   static_cast<std::int32_t>(end), words->c_str());
@@ -25,8 +26,8 @@ namespace {
 template <class Start>
 void RequireStart(quorvel_control* control, const Start& start) {
   const auto held = Of(control);
-  const auto cause = control->watcher.Cause();
-  if (!start(*held.control)) Refuse(QUORVEL_FAILED, *cause);
+  const auto last = control->watcher.Last();
+  if (!start(*held.control)) Refuse(QUORVEL_FAILED, *last->words);
 }
 
 quorvel::SendChoice Chosen(const quorvel_send_choice& choice) {

@@ -14,8 +14,12 @@ class Watcher final : public TransferObserver {
   explicit Watcher(quorvel_control* control) : control_(control) {}
 
   void Tell(const quorvel_observer& observer) { observer_ = observer; }
-  /// Why the last transfer has ended; outlives the control that it is of.
-  [[nodiscard]] std::shared_ptr<const std::string> Cause() const { return cause_; }
+  /// Why the last transfer has ended.
+  struct LastCause {
+    std::shared_ptr<const std::string> words = std::make_shared<const std::string>();
+  };
+  /// Outlives the control that it is of.
+  [[nodiscard]] std::shared_ptr<const LastCause> Last() const { return last_; }
 
   void Progress(TransferKind which, int done, int total) override;
   void Ended(TransferKind which, TransferEnd end, std::string_view cause) override;
@@ -23,7 +27,7 @@ class Watcher final : public TransferObserver {
  private:
   quorvel_control* control_;
   quorvel_observer observer_{};
-  std::shared_ptr<std::string> cause_ = std::make_shared<std::string>();
+  std::shared_ptr<LastCause> last_ = std::make_shared<LastCause>();
 };
 
 }  // namespace quorvel::c

@@ -27,7 +27,7 @@ install_missing() {
 # What building needs; what testing needs on top, which is done with two compilers, and with a third
 # where public headers are concerned. The fuzz targets need the sanitizers of the second, a package
 # that it only recommends, and llvm, which names the lines of a failure.
-BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev qt6-base-dev libgl-dev)
+BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev libgl-dev)
 RUN_PACKAGES=(fonts-dejavu-core)
 TEST_PACKAGES=(libgtest-dev clang clang-19 clang-format pkg-config python3-pip abigail-tools)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)

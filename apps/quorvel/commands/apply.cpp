@@ -16,8 +16,16 @@ struct Options {
 nlohmann::ordered_json ReadChanges(const std::string& file) {
   const std::string text = ReadText(file);
   nlohmann::ordered_json changes;
+  // A value is no list and no object; a deep one would take the parser's successors down.
+  const auto plain = [&file](int depth, nlohmann::ordered_json::parse_event_t event, auto&) {
+    using Event = nlohmann::ordered_json::parse_event_t;
+    if (depth > 0 && (event == Event::object_start || event == Event::array_start)) {
+      throw Trouble(Shown(file), "has a value that is a list or an object");
+    }
+    return true;
+  };
   try {
-    changes = nlohmann::ordered_json::parse(text);
+    changes = nlohmann::ordered_json::parse(text, plain);
   } catch (const nlohmann::json::parse_error& error) {
     // Behind the library's own number of the error.
     const std::string why = error.what();
@@ -32,6 +40,7 @@ void SetOne(Edit& edit, const std::string& name, const nlohmann::json& value) {
   const auto present = edit.Control().GetSetting(name);
   if (present && JsonOf(*present) == value) return;
   const auto setting = edit.Control().DescribeSetting(name);
+  if (setting && !setting->writable) return edit.PassOver(name);
   const auto text = SettingValueOf(value, setting ? setting->type : SettingType::kText);
   if (text) {
     edit.Set(name, *text, value.dump());

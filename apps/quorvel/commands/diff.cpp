@@ -18,6 +18,9 @@ struct Options {
 
 int DiffFiles(const Options& options) {
   const auto files = options.files.All();
+  if (files.empty() && options.files.files_from.empty()) {
+    throw Trouble(options.reference, "there is nothing to compare it with");
+  }
   const Reference reference(options.reference);
   const bool named = files.size() > 1 || options.files.recursive;
   return LookAtAll(files.size(), options.files.Threads(), [&]() -> Look {
