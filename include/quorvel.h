@@ -346,7 +346,7 @@ typedef struct quorvel_setting_description {
   size_t size;
   const char* name;
   const char* unit;     // "s", "min" or ""
-  const char* allowed;  // what it can hold, in words: "0 to 20 or 99 Turbo", "yes or no"
+  const char* allowed;  // what it can hold, in words: "0 to 20 or 99 = Turbo", "yes or no"
   int32_t type;         // QUORVEL_FLAG...
   int32_t writable;
   int32_t least, most;                // of a text, its characters

@@ -181,7 +181,7 @@ TEST(CInterface, DescribesASetting) {
     EXPECT_EQ(quorvel_control_describe_setting(host.control, name, tell, &text), QUORVEL_OK);
   }
   EXPECT_EQ(text,
-            "AlarmMode 0 Latched, 1 Transparent, 2 Timed Out: type 1, 0 to 2, codes 0Latched "
+            "AlarmMode 0 = Latched, 1 = Transparent, 2 = Timed Out: type 1, 0 to 2, codes 0Latched "
             "1Transparent 2Timed Out, byte 10 of 59 mask 255\n"
             "MultiDwell 1 to 30 s: type 1, 1 to 30s, codes, byte 4 of 59 mask 255\n"
             "CamInfo(2).title up to 13 characters: type 2, 0 to 13, codes, byte 0 of 3 mask 255\n");
