@@ -73,7 +73,7 @@ class Description:
     name: str
     type: SettingType
     unit: str  # "s", "min" or ""
-    allowed: str  # in words: "0 to 20 or 99 Turbo", "yes or no"
+    allowed: str  # in words: "0 to 20 or 99 = Turbo", "yes or no"
     writable: bool
     least: int  # of a text, its characters
     most: int
