@@ -319,8 +319,8 @@ bool SetByName(Bench& by_name, const std::map<std::string, std::string>& wanted)
   for (const auto& [name, value] : wanted) {
     if (before.at(name) == value) continue;
     const SetAnswer answer = by_name.Host().control->SetSetting(name, value);
-    const bool moved = std::ranges::any_of(before, [&](const auto& it) {
-      return WithoutIndex(it.first) == WithoutIndex(name) && it.second == value;
+    const bool moved = std::ranges::any_of(before, [&held = value, &of = name](const auto& it) {
+      return WithoutIndex(it.first) == WithoutIndex(of) && it.second == held;
     });
     if (answer != SetAnswer::kSet && moved && name.starts_with("MRecTimer")) {
       all = false;
