@@ -121,7 +121,8 @@ class Declarations(unittest.TestCase):
         program += "\n".join(lines) + "\n}\n"
         environment = {name: it for name, it in os.environ.items() if name != "LD_PRELOAD"}
         with tempfile.TemporaryDirectory() as folder:
-            command = [os.environ["QUORVEL_CXX"], "-x", "c++", "-", f"-I{INCLUDE}", "-o", "layouts"]
+            command = [os.environ["QUORVEL_CXX"], "-std=c++20", "-x", "c++", "-"]
+            command += [f"-I{INCLUDE}", "-o", "layouts"]
             subprocess.run(
                 command, input=program.encode(), cwd=folder, env=environment, check=True
             )
