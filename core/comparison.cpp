@@ -28,7 +28,7 @@ void Show(const Configuration& configuration, Visitor& visitor) {
   layout::DescribeBlocks(walk, configuration.rec, id);
 }
 
-/// What stands at one place: a number, or the number of a text.
+/// What stands at one place: a number, 0 of a text.
 struct Mark {
   const char* name;  ///< the same for settings of one name
   std::int16_t entry;
@@ -42,52 +42,54 @@ struct Mark {
   }
 };
 
-/// All places in their order. There are some 1,800 of them, and two configurations of one model
-/// differ in few: no name is made here.
-struct MarkCollector : layout::SettingVisitor<MarkCollector> {
-  MarkCollector() { marks.reserve(kUsualCount); }
+/// Shows what stands at all places, in their order, to `see(mark, value)`. There are some 1,800 of
+/// them, and two configurations of one model differ in few: no name is made here.
+template <class See>
+class MarkVisitor : public layout::SettingVisitor<MarkVisitor<See>> {
+ public:
+  explicit MarkVisitor(See see) : see_(std::move(see)) {}
   template <class Item>
   void Setting(const Slot& slot, Item& item, int entry) {
     if (!IsCompared(slot)) return;
     const SettingValue value = layout::ValueHeldBy(item);
-    std::int32_t number = value.number;
-    if (value.type == SettingType::kText) {
-      number = static_cast<std::int32_t>(texts.size());
-      texts.push_back(value.text);
-    }
-    marks.push_back({Item::Name(), static_cast<std::int16_t>(entry),
-                     static_cast<std::int8_t>(item.Owner().Index()), static_cast<Byte>(slot.block),
-                     number});
-    is_text.push_back(value.type == SettingType::kText);
-  }
-  [[nodiscard]] bool HoldsSame(const MarkCollector& other, std::size_t i) const {
-    if (!is_text[i]) return marks[i].number == other.marks[i].number;
-    return texts.at(static_cast<std::size_t>(marks[i].number)) ==
-           other.texts.at(static_cast<std::size_t>(other.marks[i].number));
+    see_(Mark{Item::Name(), static_cast<std::int16_t>(entry),
+              static_cast<std::int8_t>(item.Owner().Index()), static_cast<Byte>(slot.block),
+              value.number},
+         value);
   }
 
-  static constexpr std::size_t kUsualCount = 2048;
-  std::vector<Mark> marks;
-  std::vector<std::string_view> texts;
-  std::vector<bool> is_text;
+ private:
+  See see_;
 };
 
 /// The places at which two configurations differ, by their number; nothing where they have other
 /// settings.
 std::optional<std::vector<std::size_t>> DifferingPlaces(const Configuration& one,
                                                         const Configuration& other) {
-  MarkCollector mine;
-  MarkCollector theirs;
-  Show(one, mine);
-  Show(other, theirs);
-  if (!std::ranges::equal(mine.marks, theirs.marks,
-                          [](const Mark& a, const Mark& b) { return a.IsSamePlace(b); })) {
-    return std::nullopt;
-  }
+  constexpr std::size_t kUsualCount = 2048;
+  std::vector<Mark> marks;
+  marks.reserve(kUsualCount);
+  std::vector<std::string_view> texts;
+  MarkVisitor keep([&](const Mark& mark, const SettingValue& value) {
+    marks.push_back(mark);
+    if (value.type == SettingType::kText) texts.push_back(value.text);
+  });
+  Show(one, keep);
+
   std::vector<std::size_t> places;
-  for (std::size_t i = 0; i < mine.marks.size(); ++i) {
-    if (!mine.HoldsSame(theirs, i)) places.push_back(i);
-  }
+  std::size_t place = 0;
+  std::size_t text = 0;
+  bool same_settings = true;
+  MarkVisitor compare([&](const Mark& mark, const SettingValue& value) {
+    same_settings = same_settings && place < marks.size() && mark.IsSamePlace(marks[place]);
+    if (!same_settings) return;
+    const bool same = value.type == SettingType::kText ? value.text == texts.at(text++)
+                                                       : mark.number == marks[place].number;
+    if (!same) places.push_back(place);
+    ++place;
+  });
+  Show(other, compare);
+  if (!same_settings || place != marks.size()) return std::nullopt;
   return places;
 }
 
@@ -102,8 +104,11 @@ class HoldingCollector : public layout::SettingVisitor<HoldingCollector> {
  public:
   explicit HoldingCollector(const std::optional<std::vector<std::size_t>>& places)
       : places_(places) {}
+  template <class Item>
+  void Setting(const Slot& slot, Item& item, int entry) {
+    if (IsCompared(slot) && TakesNext()) SettingVisitor::Setting(slot, item, entry);
+  }
   void See(const Slot& slot, const AnySetting& setting) {
-    if (!IsCompared(slot) || !TakesNext()) return;
     Holding& holding = holdings[layout::FullName(setting.Owner(), setting.Name(), setting.Entry())];
     holding.value = setting.Value();
     holding.blocks.insert(static_cast<Byte>(slot.block));

@@ -33,8 +33,8 @@ struct Code {
   const char* text = "";
 };
 
-/// The numbers that a setting can have: those of the range, and the codes. With `codes_only` the
-/// codes alone, from the least to the largest of which the range reaches.
+/// The numbers that a setting can have: those of the range, and the codes; with `codes_only` the
+/// codes alone.
 struct AllowedNumbers {
   Range range;
   std::span<const Code> codes;
@@ -43,6 +43,12 @@ struct AllowedNumbers {
   [[nodiscard]] constexpr bool Holds(int value) const {
     return (!codes_only && range.Holds(value)) ||
            std::ranges::find(codes, value, &Code::value) != codes.end();
+  }
+  /// The range, or from the least of the codes alone to the largest.
+  [[nodiscard]] constexpr Range Reach() const {
+    if (!codes_only) return range;
+    const auto [least, most] = std::ranges::minmax(codes, {}, &Code::value);
+    return {least.value, most.value};
   }
 };
 
@@ -94,11 +100,7 @@ template <class Meaning>
     AllowedNumbers allowed{storable, {}, false};
     if constexpr (HasCodes<Meaning>) {
       allowed.codes = Meaning::Codes(id);
-      if (!allowed.codes.empty() && !HasLimits<Meaning>) {
-        const auto [least, most] = std::ranges::minmax(allowed.codes, {}, &Code::value);
-        allowed.range = {least.value, most.value};
-        allowed.codes_only = true;
-      }
+      allowed.codes_only = !allowed.codes.empty() && !HasLimits<Meaning>;
     }
     if constexpr (HasLimits<Meaning>) allowed.range = Meaning::Limits(id);
     return allowed;

@@ -132,8 +132,9 @@ SettingDescription DescriptionOf(const Slot& slot, const AnySetting& setting, co
     return description;
   }
   const AllowedNumbers allowed = setting.Allowed(id, slot.storable);
-  description.least = allowed.range.least + held.first;
-  description.most = allowed.range.most + held.first;
+  const Range reach = allowed.Reach();
+  description.least = reach.least + held.first;
+  description.most = reach.most + held.first;
   for (const Code& code : allowed.codes) {
     description.codes.push_back({code.value + held.first, code.text});
   }
@@ -275,19 +276,42 @@ class UnallowedCollector : public layout::SettingVisitor<UnallowedCollector> {
   }
   template <class Item>
   void Setting(const Slot& slot, Item& item, int entry) {
-    if constexpr (Wants<Item>() && std::integral<layout::ValueOf<Item>>) {
+    if constexpr (CanBeUnallowed<Item>()) {
       if (slot.role != Slot::Role::kSetting) return;
       if (layout::AllowedOf<Item>(id_, slot.storable).Holds(static_cast<int>(item()))) return;
-      SettingDescription description =
-          DescriptionOf(slot, layout::TypedSetting<Item>(item, entry), id_);
-      findings.push_back({std::move(description.name), layout::ValueHeldBy(item).InWords(),
-                          "not " + AllowedInWords(description)});
+      Add(slot, item, entry);
+    }
+  }
+  /// What the items of a word can have is the same for all of them: it is worked out once.
+  template <class Items, class SlotOf>
+  void Settings(int count, Items& items, const SlotOf& slot_of) {
+    using Item = std::remove_cvref_t<decltype(items[0])>;
+    if constexpr (CanBeUnallowed<Item>()) {
+      const Slot first = slot_of(0);
+      if (first.role != Slot::Role::kSetting) return;
+      const AllowedNumbers allowed = layout::AllowedOf<Item>(id_, first.storable);
+      for (int k = 0; k < count; ++k) {
+        auto&& item = items[k];
+        if (!allowed.Holds(static_cast<int>(item()))) Add(slot_of(k), item, item.EntryIndex());
+      }
     }
   }
 
   std::vector<SettingFinding> findings;
 
  private:
+  template <class Item>
+  static constexpr bool CanBeUnallowed() {
+    return Wants<Item>() && std::integral<layout::ValueOf<Item>>;
+  }
+  template <class Item>
+  void Add(const Slot& slot, Item& item, int entry) {
+    SettingDescription description =
+        DescriptionOf(slot, layout::TypedSetting<std::remove_const_t<Item>>(item, entry), id_);
+    findings.push_back({std::move(description.name), layout::ValueHeldBy(item).InWords(),
+                        "not " + AllowedInWords(description)});
+  }
+
   const Identity& id_;
 };
 

@@ -42,12 +42,13 @@ class SettingPass {
   }
   template <class Item, class Decode, class Encode>
   void Coded(int at, std::uint8_t mask, Item& item, Decode /*decode*/, Encode /*encode*/) {
-    Single(Masked(at, mask), item);
+    Single(Masked(at, mask, std::popcount(mask)), item);
   }
   template <class Items, class Decode, class Encode>
   void CodedBytes(int at, int count, std::uint8_t mask, Items items, Decode /*decode*/,
                   Encode /*encode*/) {
-    Many(count, items, [&](int k) { return Masked(at + k, mask); });
+    const int bits = std::popcount(mask);
+    Many(count, items, [&](int k) { return Masked(at + k, mask, bits); });
   }
   template <class Item>
   void Elsewhere(int block, int at, Item& item) {
@@ -74,27 +75,27 @@ class SettingPass {
   template <class... Items>
   void BitFlags(int at, Items&... items) {
     int bit = 0;
-    (Single(Masked(at, Bit(bit++)), items), ...);
+    (Single(Masked(at, Bit(bit++), 1), items), ...);
   }
   template <class Array>
   void Bits(int at, Array& array, int written = Array::kSize) {
-    Many(writing ? written : Array::kSize, array, [&](int i) { return Masked(at, Bit(i)); });
+    Many(writing ? written : Array::kSize, array, [&](int i) { return Masked(at, Bit(i), 1); });
   }
   template <class Items>
   void CameraBits(int at, Items items, Sense sense = Sense::kDirect) {
     Many(cameras_, items, [&](int k) {
-      Slot slot = Masked(at + k / 8, Bit(k % 8));
+      Slot slot = Masked(at + k / 8, Bit(k % 8), 1);
       slot.inverted = sense == Sense::kInverted;
       return slot;
     });
   }
   template <class Items>
   void CameraPairs(int at, Items items) {
-    Many(cameras_, items, [&](int k) { return Masked(at + k / 4, Shifted(3, k % 4 * 2)); });
+    Many(cameras_, items, [&](int k) { return Masked(at + k / 4, Shifted(3, k % 4 * 2), 2); });
   }
   template <class Items>
   void CameraNibbles(int at, Items items) {
-    Many(cameras_, items, [&](int k) { return Masked(at + k / 2, Shifted(15, k % 2 * 4)); });
+    Many(cameras_, items, [&](int k) { return Masked(at + k / 2, Shifted(15, k % 2 * 4), 4); });
   }
   template <class Items>
   void CameraBytes(Items items) {
@@ -124,7 +125,7 @@ class SettingPass {
   template <class Items>
   void CameraMarks(int at, Items items, std::uint8_t /*marked*/) {
     Many(cameras_, items, [&](int k) {
-      Slot slot = Masked(at + k / 8, Bit(k % 8));
+      Slot slot = Masked(at + k / 8, Bit(k % 8), 1);
       slot.role = Slot::Role::kMark;
       return slot;
     });
@@ -144,10 +145,11 @@ class SettingPass {
   [[nodiscard]] Slot SlotAt(int at, Slot::Role role = Slot::Role::kSetting) const {
     return {block_, at, 1, 0xFF, role, false, word_, {0, 0xFF}, false};
   }
-  [[nodiscard]] Slot Masked(int at, std::uint8_t mask) const {
+  /// `bits` of a byte, those of `mask`: counting them each time would be a fifth of a check.
+  [[nodiscard]] Slot Masked(int at, std::uint8_t mask, int bits) const {
     Slot slot = SlotAt(at);
     slot.mask = mask;
-    slot.storable = {0, (1 << std::popcount(mask)) - 1};
+    slot.storable = {0, (1 << bits) - 1};
     return slot;
   }
   [[nodiscard]] Slot Long(int at, int length) const {
@@ -180,10 +182,7 @@ class SettingPass {
     }
     CheckInBlock(slot_of(0).at, 1);
     CheckInBlock(slot_of(count - 1).at, 1);
-    for (int k = 0; k < count; ++k) {
-      auto&& item = items[k];
-      visitor_.Setting(slot_of(k), item, item.EntryIndex());
-    }
+    visitor_.Settings(count, items, slot_of);
   }
 
   Visitor& visitor_;
@@ -205,6 +204,14 @@ class SettingVisitor {
   void Setting(const Slot& slot, Item& item, int entry) {
     TypedSetting<std::remove_const_t<Item>> setting(item, entry);
     static_cast<Derived*>(this)->See(slot, setting);
+  }
+  /// The items of one word, of one type and storable range; `slot_of` tells where item k is.
+  template <class Items, class SlotOf>
+  void Settings(int count, Items& items, const SlotOf& slot_of) {
+    for (int k = 0; k < count; ++k) {
+      auto&& item = items[k];
+      static_cast<Derived*>(this)->Setting(slot_of(k), item, item.EntryIndex());
+    }
   }
   void Device(const Slot& /*slot*/, const char* /*name*/, std::uint8_t /*value*/) {}
 };
