@@ -1,9 +1,36 @@
 #include "apps/quorvel/desk.h"
 
+#include <cctype>
+#include <utility>
+
 #include "apps/quorvel/trouble.h"
 #include "quorvel/settings_file.h"
 
 namespace quorvel::tool {
+
+namespace {
+
+/// Why a combined array has no image; empty when it has one.
+std::string LackOfImage(ByteSpan file, const FileParts& parts) {
+  if (parts.header.Agrees() && parts.image.size() == parts.header.DataLen) return {};
+  try {
+    CombinedArray::Parse(file, ComboHeader()).RequireImage();
+  } catch (const ImageError& error) {
+    return error.what();
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string AsClause(std::string sentence) {
+  if (!sentence.empty() && sentence.back() == '.') sentence.pop_back();
+  if (!sentence.empty()) {
+    sentence.front() =
+        static_cast<char>(std::tolower(static_cast<unsigned char>(sentence.front())));
+  }
+  return sentence;
+}
 
 MainMenuCtrl& Desk::NewControl() {
   control_.emplace(platform_, no_host_);
@@ -14,16 +41,16 @@ MainMenuCtrl& Desk::NewControl() {
 }
 
 LoadAnswer Desk::Load(ByteSpan file, const FileParts& parts) {
-  if (parts.combined && parts.image.size() < parts.header.DataLen) {
-    // By its length alone it could be taken for a plain image.
-    return {false, "The combined array is cut short: it states " +
-                       std::to_string(parts.header.DataLen) + " bytes of blocks and holds " +
-                       std::to_string(parts.image.size()) + "."};
-  }
   MainMenuCtrl& control = NewControl();
-  // Else it goes by the length alone, and a small device's array is as short as a plain image.
-  if (parts.combined) control.FillComboInfo(file.subspan(kSizesAt, kSizesLength));
-  return control.LoadSettings(file);
+  if (parts.combined) {
+    // The control goes by the length alone, and a part of an array is as short as a plain image. Of
+    // a whole one it must know how many blocks there are.
+    if (std::string why = LackOfImage(file, parts); !why.empty()) return {false, std::move(why)};
+    control.FillComboInfo(file.subspan(kSizesAt, kSizesLength));
+  }
+  LoadAnswer answer = control.LoadSettings(file);
+  answer.cause = AsClause(std::move(answer.cause));
+  return answer;
 }
 
 void Desk::MustLoad(const std::string& name, ByteSpan file, const FileParts& parts) {

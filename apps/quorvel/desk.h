@@ -27,6 +27,9 @@ class Desk {
   std::optional<MainMenuCtrl> control_;
 };
 
+/// A sentence of the control as it stands behind a colon: "cut short: it ends at block 3".
+[[nodiscard]] std::string AsClause(std::string sentence);
+
 /// What FillComboInfo takes, of the header of a combined array: sizes of macros and blocks, and the
 /// firmware version, which the header holds in the same order.
 inline constexpr std::size_t kSizesAt = 6;

@@ -8,6 +8,7 @@
 #endif
 
 #include "apps/quorvel/trouble.h"
+#include "quorvel/code_page.h"
 #include "quorvel/platform.h"
 #include "quorvel/whole_files.h"
 
@@ -19,7 +20,9 @@ void Edit::Set(const std::string& name, const std::string& value, const std::str
   const SetAnswer answer = Control().SetSetting(name, value);
   if (answer == SetAnswer::kSet || answer == SetAnswer::kUnchanged) return;
   const auto setting = Control().DescribeSetting(name);
-  if (answer == SetAnswer::kNotAValue && setting) {
+  if (CodePageToUtf8(Utf8ToCodePage(value)) != value) {
+    Refuse(name, shown + " has characters that devices do not know");
+  } else if (answer == SetAnswer::kNotAValue && setting) {
     Refuse(name, shown + " is not " + AllowedInWords(*setting));
   } else {
     Refuse(name, Describe(answer));

@@ -15,9 +15,9 @@ class Edit {
   [[nodiscard]] MainMenuCtrl& Control() { return file_.Control(); }
   /// Sets a setting; `value` is what MainMenuCtrl::SetSetting takes, `shown` what the user gave.
   void Set(const std::string& name, const std::string& value, const std::string& shown);
-  /// A change that cannot be made, and why: nothing will be written.
   /// Tells that a setting stays as it is, as only the device writes it.
   void PassOver(const std::string& name);
+  /// A change that cannot be made, and why: nothing will be written.
   void Refuse(const std::string& name, const std::string& why);
   /// Writes the file with its changes to `out`, if nothing was refused; else says what was. A byte
   /// that no change concerns is as it was. The exit status.

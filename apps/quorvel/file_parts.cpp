@@ -30,8 +30,9 @@ FileParts PartsOf(ByteSpan file) {
   if (file.size() < ComboHeader::kSize) return parts;
   const ComboHeader header =
       CombinedArray::Parse(file.first(ComboHeader::kSize), ComboHeader()).Header();
-  if (!header.Agrees() || header.BlockCount == 0) return parts;
-  const bool exact = file.size() == static_cast<std::size_t>(header.TotalLength());
+  if (header.HdrLen != ComboHeader::kSize) return parts;
+  const bool exact =
+      header.Agrees() && file.size() == static_cast<std::size_t>(header.TotalLength());
   if (!exact && CountAgrees(file)) return parts;
   const auto blocks = file.subspan(std::min<std::size_t>(header.HdrLen, file.size()));
   return {true, header, blocks.first(std::min<std::size_t>(header.DataLen, blocks.size()))};

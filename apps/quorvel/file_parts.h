@@ -22,10 +22,9 @@ struct FileParts {
   [[nodiscard]] std::optional<int> ByteAt(int block, int at) const;
 };
 
-/// The parts of these bytes, which must stay. A header that agrees with itself and with the length
-/// makes a combined array, as a plain image hardly ever begins like one; then a count of blocks
-/// that agrees with the length makes a plain image; what is left is the one whose header agrees
-/// with itself, or else a damaged plain image.
+/// The parts of these bytes, which must stay. A combined array begins with the length of its
+/// header, 13 in 16 bits, where a plain image has a title; and it is none if its 16th byte counts
+/// just as many blocks as it has, unless all that its header states agrees as well.
 [[nodiscard]] FileParts PartsOf(ByteSpan file);
 
 /// Who a configuration says that it belongs to.

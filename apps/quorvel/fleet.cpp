@@ -4,6 +4,7 @@
 #include <atomic>
 #include <exception>
 #include <iostream>
+#include <mutex>
 #include <system_error>
 #include <thread>
 
@@ -22,17 +23,15 @@ class Fleet {
       : told_(count), done_((count + kPortion - 1) / kPortion), new_look_(new_look) {}
 
   int Run(unsigned threads) {
-    std::vector<std::jthread> helpers;
-    const std::size_t useful = std::min<std::size_t>(threads, done_.size());
-    try {
-      // A few files are looked at before a thread has started.
-      while (done_.size() > 1 && helpers.size() < useful) {
-        helpers.emplace_back([this] { Work(); });
+    {
+      std::vector<std::jthread> helpers;
+      const std::size_t useful = std::min<std::size_t>(threads, done_.size());
+      try {
+        while (helpers.size() + 1 < useful) helpers.emplace_back([this] { Work(); });
+      } catch (const std::system_error&) {  // the system has no more threads
       }
-    } catch (const std::system_error&) {  // the system has no more threads
+      Work();
     }
-    if (helpers.empty()) Work();
-    for (std::size_t portion = 0; portion < done_.size(); ++portion) Print(portion);
     return status_;
   }
 
@@ -42,8 +41,9 @@ class Fleet {
     for (std::size_t portion = next_++; portion < done_.size(); portion = next_++) {
       const std::size_t end = std::min(told_.size(), (portion + 1) * kPortion);
       for (std::size_t file = portion * kPortion; file < end; ++file) LookAt(file, look);
+      const std::scoped_lock lock(printing_);
       done_[portion] = true;
-      done_[portion].notify_one();
+      for (; printed_ < done_.size() && done_[printed_]; ++printed_) Print(printed_);
     }
   }
   void LookAt(std::size_t file, Look& look) {
@@ -57,7 +57,6 @@ class Fleet {
     }
   }
   void Print(std::size_t portion) {
-    done_[portion].wait(false);
     const std::size_t end = std::min(told_.size(), (portion + 1) * kPortion);
     for (std::size_t file = portion * kPortion; file < end; ++file) {
       Told& told = told_[file];
@@ -69,8 +68,10 @@ class Fleet {
   }
 
   std::vector<Told> told_;
-  std::vector<std::atomic<bool>> done_;
   std::atomic<std::size_t> next_ = 0;
+  std::mutex printing_;
+  std::vector<bool> done_;  ///< of each portion
+  std::size_t printed_ = 0;
   const std::function<Look()>& new_look_;
   int status_ = kDone;
 };

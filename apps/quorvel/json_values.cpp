@@ -45,7 +45,7 @@ std::string Quoted(std::string_view text) {
 
 }  // namespace
 
-nlohmann::json JsonOf(const std::string& value) {
+Json JsonOf(const std::string& value) {
   if (value == "yes") return true;
   if (value == "no") return false;
   if (value.size() >= 2 && value.front() == '"') return CodePageToUtf8(Unquoted(value));
@@ -61,18 +61,23 @@ std::string JsonObject(std::span<const SettingLine> lines) {
   const char* separator = "\n";
   for (const SettingLine& line : lines) {
     text += separator;
-    text += "  " + nlohmann::json(line.name).dump() + ": " + JsonOf(line.value).dump();
+    text += "  " + Json(line.name).dump() + ": " + JsonOf(line.value).dump();
     separator = ",\n";
   }
   return text + "\n}\n";
 }
 
-std::optional<std::string> SettingValueOf(const nlohmann::json& value, SettingType type) {
-  if (value.is_boolean()) return value.get<bool>() ? "yes" : "no";
-  if (value.is_number_integer()) return value.dump();
-  if (!value.is_string()) return std::nullopt;
-  const auto& text = value.get_ref<const std::string&>();
-  return type == SettingType::kText ? Quoted(text) : text;
+SettingValue SettingValueOf(const Json& value, SettingType type) {
+  // What is nested, perhaps deeper than the stack, is not shown.
+  if (value.is_structured()) return {{}, "a list or an object is no value"};
+  if (value.is_string()) {
+    const auto& text = value.get_ref<const std::string&>();
+    return {type == SettingType::kText ? Quoted(text) : text, {}};
+  }
+  if (type == SettingType::kText) return {{}, value.dump() + " is no text"};
+  if (value.is_boolean()) return {value.get<bool>() ? "yes" : "no", {}};
+  if (value.is_number_integer()) return {value.dump(), {}};
+  return {{}, value.dump() + " is neither text, whole number, true nor false"};
 }
 
 }  // namespace quorvel::tool

@@ -1,7 +1,9 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include "apps/quorvel/commands/commands.h"
 #include "apps/quorvel/trouble.h"
@@ -17,18 +19,21 @@ constexpr const char* kExamples = R"(Examples:
   quorvel set site.bin MultiDwell=10 AlarmMode=2 -o new.bin
   quorvel diff before.bin after.bin
   quorvel check -r backups
-  quorvel dump --json reference.bin | quorvel apply site.bin - -o site.bin
+  quorvel dump --json one.bin Dwell | quorvel apply other.bin - -o other.bin
   quorvel defaults --model 6 --cameras 16 -o - | quorvel dump
 
 'quorvel COMMAND --help' tells more of a command. Exit status: 0, or 1 where files
 differ or there is a finding, or 2 in case of trouble.)";
+
+std::vector<CLI::App*> AllCommands(CLI::App& app) {
+  return app.get_subcommands([](CLI::App*) { return true; });
+}
 
 int Run(int argc, char** argv) {
   using namespace quorvel::tool;
   CLI::App app("Settings files of video multiplexers: look, change, compare, check.", "quorvel");
   app.set_version_flag("--version", "quorvel " + std::string(quorvel::Version()));
   app.require_subcommand(1);
-  app.footer(kExamples);
   int status = kDone;
   AddInfo(app, status);
   AddDump(app, status);
@@ -39,6 +44,12 @@ int Run(int argc, char** argv) {
   AddDefaults(app, status);
   AddApply(app, status);
   AddBlocks(app, status);
+  app.footer(kExamples);  // last: it is none of the commands'
+  const std::string first = argc > 1 ? argv[1] : "-";
+  const auto is_it = [&first](const CLI::App* command) { return command->get_name() == first; };
+  if (first[0] != '-' && std::ranges::none_of(AllCommands(app), is_it)) {
+    throw Trouble("'" + first + "' is no command; try 'quorvel --help'");
+  }
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -8,9 +8,8 @@ _quorvel_offer() {
 }
 
 _quorvel_offer_files() {
-  local IFS=$'\n'
   compopt -o filenames 2>/dev/null
-  COMPREPLY+=($(compgen -f -- "${COMP_WORDS[COMP_CWORD]//\\/}"))
+  mapfile -t COMPREPLY < <(compgen -f -- "${COMP_WORDS[COMP_CWORD]//\\/}")
 }
 
 # The names of the settings in a file; $2 is put behind each.

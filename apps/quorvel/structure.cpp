@@ -27,6 +27,11 @@ void CheckPlain(const FileParts& parts, Findings& findings) {
 
 void CheckCombined(ByteSpan file, const FileParts& parts, Findings& findings) {
   const ComboHeader& header = parts.header;
+  if (!header.Agrees()) {
+    findings.push_back("states " + Number(header.BlockCount) + " blocks, but " +
+                       Number(header.DataLen) + " bytes of them");
+    return;
+  }
   const auto total = static_cast<std::size_t>(header.TotalLength());
   if (file.size() != total) {
     findings.push_back("has " + Number(file.size()) + " bytes, but its header states " +
@@ -74,7 +79,7 @@ Findings StructureFindings(ByteSpan file, const FileParts& parts) {
   } else {
     CheckPlain(parts, findings);
   }
-  CheckDevice(parts, findings);
+  if (!parts.combined || parts.header.Agrees()) CheckDevice(parts, findings);
   return findings;
 }
 

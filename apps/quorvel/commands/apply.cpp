@@ -13,20 +13,12 @@ struct Options {
   std::string out;
 };
 
-nlohmann::ordered_json ReadChanges(const std::string& file) {
+Json ReadChanges(const std::string& file) {
   const std::string text = ReadText(file);
-  nlohmann::ordered_json changes;
-  // A value is no list and no object; a deep one would take the parser's successors down.
-  const auto plain = [&file](int depth, nlohmann::ordered_json::parse_event_t event, auto&) {
-    using Event = nlohmann::ordered_json::parse_event_t;
-    if (depth > 0 && (event == Event::object_start || event == Event::array_start)) {
-      throw Trouble(Shown(file), "has a value that is a list or an object");
-    }
-    return true;
-  };
+  Json changes;
   try {
-    changes = nlohmann::ordered_json::parse(text, plain);
-  } catch (const nlohmann::json::parse_error& error) {
+    changes = Json::parse(text);
+  } catch (const Json::parse_error& error) {
     // Behind the library's own number of the error.
     const std::string why = error.what();
     throw Trouble(Shown(file), why.substr(why.find("] ") + 2));
@@ -35,17 +27,18 @@ nlohmann::ordered_json ReadChanges(const std::string& file) {
   return changes;
 }
 
-void SetOne(Edit& edit, const std::string& name, const nlohmann::json& value) {
+void SetOne(Edit& edit, const std::string& name, const Json& value) {
   // A dump has settings that only the device writes, and may have values that nobody could set.
   const auto present = edit.Control().GetSetting(name);
   if (present && JsonOf(*present) == value) return;
   const auto setting = edit.Control().DescribeSetting(name);
-  if (setting && !setting->writable) return edit.PassOver(name);
-  const auto text = SettingValueOf(value, setting ? setting->type : SettingType::kText);
+  if (!setting) return edit.Refuse(name, Describe(SetAnswer::kNoSuchSetting));
+  if (!setting->writable) return edit.PassOver(name);
+  const auto [text, refusal] = SettingValueOf(value, setting->type);
   if (text) {
     edit.Set(name, *text, value.dump());
   } else {
-    edit.Refuse(name, value.dump() + " is neither text, whole number, true nor false");
+    edit.Refuse(name, refusal);
   }
 }
 
@@ -66,7 +59,7 @@ void AddApply(CLI::App& app, int& status) {
   CLI::App& command =
       AddCommand(app, status, "apply",
                  "Set what a JSON object of names and values says, all or nothing", Apply, options);
-  AddFile(command, options->file)->required();
+  AddFile(command, options->file, true);
   command
       .add_option("CHANGES", options->changes,
                   "The JSON file, as of dump --json; -: standard input")
@@ -75,6 +68,9 @@ void AddApply(CLI::App& app, int& status) {
   command.add_option(kOutOption, options->out, "Where the result goes; it may be FILE itself")
       ->required()
       ->type_name("OUT");
+  command.footer(
+      "Example:\n"
+      "  quorvel dump --json one.bin 'CamInfo(*).title' | quorvel apply other.bin - -o other.bin");
 }
 
 }  // namespace quorvel::tool

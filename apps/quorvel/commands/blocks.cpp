@@ -52,7 +52,7 @@ void AddBlocks(CLI::App& app, int& status) {
   std::shared_ptr<Options> options;
   CLI::App& command = AddCommand(app, status, "blocks",
                                  "Say which bytes of the file hold a setting", Blocks, options);
-  AddFile(command, options->file);
+  AddFile(command, options->file, false);
   command.add_option("PATTERN", options->pattern, "Names with * and ?, or a part of them")
       ->type_name("");
   command.footer(

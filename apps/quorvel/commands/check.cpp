@@ -66,6 +66,11 @@ void AddCheck(CLI::App& app, int& status) {
   command.add_option("FILE", options->operands, "Settings files; - or none: standard input")
       ->type_name("");
   options->AddTo(command);
+  command.footer(
+      "Examples:\n"
+      "  quorvel check -r backups\n"
+      "  find . -name '*.cfg' -print0 | quorvel check --files-from - -0 --list\n"
+      "Exit status: 0, or 1 where there is a finding, or 2 where a file cannot be read.");
 }
 
 }  // namespace quorvel::tool

@@ -27,10 +27,15 @@ CLI::App& AddCommand(CLI::App& app, int& status, const char* name, const char* d
   return *command;
 }
 
-/// The settings file that a command reads: its first operand.
-inline CLI::Option* AddFile(CLI::App& command, std::string& file) {
+/// The settings file that a command reads: its first operand. Where others follow, it must be
+/// there.
+inline void AddFile(CLI::App& command, std::string& file, bool must_be_there) {
   file = "-";
-  return command.add_option("FILE", file, "The settings file; - or none: standard input")
+  command
+      .add_option("FILE", file,
+                  must_be_there ? "The settings file; -: standard input"
+                                : "The settings file; - or none: standard input")
+      ->required(must_be_there)
       ->type_name("");
 }
 

@@ -77,7 +77,7 @@ int Defaults(const Options& options) {
   if (options.combined || options.blocks != 0) control.FillComboInfo(Sizes(options));
   const LoadAnswer answer = control.LoadDefaults(static_cast<std::uint8_t>(options.cameras), model,
                                                  name, variant.front());
-  if (!answer) throw Trouble(answer.cause);
+  if (!answer) throw Trouble(AsClause(answer.cause));
   const auto image = control.Image();
   const std::size_t blocks = image.size() / kBlockSize;
   if (options.blocks != 0 && blocks != static_cast<std::size_t>(options.blocks)) {
@@ -112,6 +112,9 @@ void AddDefaults(CLI::App& app, int& status) {
   command.add_option("--firmware", options->firmware, "The firmware version that the array states")
       ->capture_default_str();
   command.add_option(kOutOption, options->out, "Where the file goes")->required()->type_name("OUT");
+  command.footer(
+      "Example:\n"
+      "  quorvel defaults --model 6 --cameras 10 --name TX10 -o factory.bin");
 }
 
 }  // namespace quorvel::tool

@@ -62,11 +62,15 @@ int DiffFolders(const std::string& one, const std::string& other, const Options&
 
 int Diff(const Options& options) {
   const auto& operands = options.files.operands;
+  const auto folder = [](std::string path) {
+    while (path.size() > 1 && path.back() == '/') path.pop_back();
+    return path;
+  };
   if (!options.files.recursive || !IsFolder(options.reference)) return DiffFiles(options);
   if (operands.size() != 1 || !IsFolder(operands.front())) {
     throw Trouble(options.reference, "a folder is compared with one other folder");
   }
-  return DiffFolders(options.reference, operands.front(), options);
+  return DiffFolders(folder(options.reference), folder(operands.front()), options);
 }
 
 }  // namespace
@@ -82,6 +86,12 @@ void AddDiff(CLI::App& app, int& status) {
       ->type_name("");
   command.add_option("FILE", options->files.operands, "Settings files")->type_name("");
   options->files.AddTo(command);
+  command.footer(
+      "Examples:\n"
+      "  quorvel diff before.bin after.bin\n"
+      "  quorvel diff reference.bin -r sites --list\n"
+      "  quorvel diff -r backups/monday backups/tuesday\n"
+      "Exit status: 0, or 1 where files differ, or 2 where one cannot be read or loaded.");
 }
 
 }  // namespace quorvel::tool

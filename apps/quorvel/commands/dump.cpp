@@ -32,10 +32,14 @@ void AddDump(CLI::App& app, int& status) {
   std::shared_ptr<Options> options;
   CLI::App& command =
       AddCommand(app, status, "dump", "Print settings by name and value", Dump, options);
-  AddFile(command, options->file);
+  AddFile(command, options->file, false);
   command.add_option("PATTERN", options->pattern, "Names with * and ?, or a part of them")
       ->type_name("");
   command.add_flag("--json", options->json, "As a JSON object, which apply takes");
+  command.footer(
+      "Examples:\n"
+      "  quorvel dump site.bin 'CamInfo(*).title'\n"
+      "  quorvel dump --json site.bin >site.json");
 }
 
 }  // namespace quorvel::tool

@@ -35,8 +35,11 @@ void AddGet(CLI::App& app, int& status) {
   std::shared_ptr<Options> options;
   CLI::App& command =
       AddCommand(app, status, "get", "Print the values of settings, one a line", Get, options);
-  AddFile(command, options->file)->required();
+  AddFile(command, options->file, true);
   command.add_option("NAME", options->names, "Whole names of settings")->required()->type_name("");
+  command.footer(
+      "Example:\n"
+      "  quorvel get site.bin MultiDwell 'CamInfo(0).title'");
 }
 
 }  // namespace quorvel::tool

@@ -45,7 +45,7 @@ void AddInfo(CLI::App& app, int& status) {
   std::shared_ptr<Options> options;
   CLI::App& command = AddCommand(
       app, status, "info", "Say what a file holds, and which device it belongs to", Info, options);
-  AddFile(command, options->file);
+  AddFile(command, options->file, false);
 }
 
 }  // namespace quorvel::tool

@@ -13,10 +13,12 @@ struct Options {
 };
 
 int Set(const Options& options) {
+  for (const std::string& change : options.changes) {
+    if (change.find('=') == std::string::npos) throw Trouble("'" + change + "' is not NAME=VALUE");
+  }
   Edit edit(options.file);
   for (const std::string& change : options.changes) {
     const auto equals = change.find('=');
-    if (equals == std::string::npos) throw Trouble("'" + change + "' is not NAME=VALUE");
     const std::string value = change.substr(equals + 1);
     edit.Set(change.substr(0, equals), value, value);
   }
@@ -29,7 +31,7 @@ void AddSet(CLI::App& app, int& status) {
   std::shared_ptr<Options> options;
   CLI::App& command =
       AddCommand(app, status, "set", "Set settings, and write the result", Set, options);
-  AddFile(command, options->file)->required();
+  AddFile(command, options->file, true);
   command
       .add_option("NAME=VALUE", options->changes,
                   "Values as dump prints them, with their unit or without")
@@ -38,6 +40,9 @@ void AddSet(CLI::App& app, int& status) {
   command.add_option(kOutOption, options->out, "Where the result goes; it may be FILE itself")
       ->required()
       ->type_name("OUT");
+  command.footer(
+      "Example:\n"
+      "  quorvel set site.bin MultiDwell=10 AlarmMode=latched 'CamInfo(0).title=Door' -o new.bin");
 }
 
 }  // namespace quorvel::tool
