@@ -31,6 +31,10 @@ foreach(tool muxhost quorvel)
     run(${PREFIX}/bin/${tool} --version)
   endif()
 endforeach()
+if(EXISTS ${PREFIX}/bin/quorvel)
+  run(${PREFIX}/bin/quorvel defaults --model "Triplex NTSC" -o ${FOLDER}/factory.bin)
+  run(${PREFIX}/bin/quorvel check ${FOLDER}/factory.bin)
+endif()
 
 set(ENV{LD_LIBRARY_PATH} ${libraries})  # no option says where the libraries are when it runs
 function(run_by_pkg_config package)
@@ -45,7 +49,7 @@ run_by_pkg_config(quorvel-c cc -std=c99 ${PROJECT}/examples/tiny_host.c)
 
 # Python does not load what sanitizers have been built into, unless their libraries are there first.
 find_program(python python3)
-if(python AND FLAGS STREQUAL "")
+if(python AND "${FLAGS}" STREQUAL "")
   set(ENV{PYTHONPATH} ${PROJECT}/bindings/python)  # where it is; else the package is installed
   set(ENV{PYTHONDONTWRITEBYTECODE} 1)
   foreach(example tiny_host asyncio_host settings_file)
