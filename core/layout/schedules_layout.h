@@ -42,7 +42,7 @@ void SubMacro(Pass& block, int camera, MuxData& rec, const Identity& id) {
   block.Bytes(1, script, bytes);
   if constexpr (Pass::kWriting) {
     for (int k = script; k < clsSubMacro::kLongest; ++k) {
-      if (macro.SMacroByte(k) != 0) block.Byte(1 + k, bytes[k]);
+      if (macro.WasSet(k)) block.Byte(1 + k, bytes[k]);
     }
   }
   if (!Pass::kWriting && id.IsMultiplexer() && camera == 0) {

@@ -37,6 +37,13 @@ class clsSubMacro : public SettingOwner {
   struct Length : EntryBlock {
     static constexpr Byte kMost = 10;
   };
+  struct ScriptByte : EntryBlock {
+    static void Changed(SettingOwner& owner, int k) {
+      auto& macro = static_cast<clsSubMacro&>(owner);
+      macro.set_bytes_ = static_cast<std::uint16_t>(macro.set_bytes_ | 1U << k);
+      EntryBlock::Changed(owner, k);
+    }
+  };
 
  public:
   static constexpr int kLongest = Length::kMost;
@@ -50,9 +57,15 @@ class clsSubMacro : public SettingOwner {
     if (index < kMostCameras) SetIndex(index);
   }
 
-  SettingArray<"SMacroByte", Byte, kLongest, EntryBlock> SMacroByte{*this};
+  /// Whether byte k was set since the record was decoded, be it back to what it was.
+  [[nodiscard]] bool WasSet(int k) const { return (set_bytes_ >> k & 1U) != 0; }
+
+  SettingArray<"SMacroByte", Byte, kLongest, ScriptByte> SMacroByte{*this};
   /// Bytes in the script.
   Setting<"SMacroLen", Byte, Length, Within<0, Length::kMost>> SMacroLen{*this};
+
+ private:
+  std::uint16_t set_bytes_ = 0;
 };
 
 /// One entry of the recording schedule; two entries a block from 195 on, model code 6 and above.

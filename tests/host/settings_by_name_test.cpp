@@ -169,5 +169,22 @@ TEST(SettingsByName, EverySettingTakesWhatItCanHaveAndNothingElse) {
   }
 }
 
+/// Behind the end of a script a device may hold anything. It reads as 0 and stays, but for what is
+/// set, which may be 0 again.
+TEST(SettingsByName, AByteBehindTheEndOfAMacroCanBeSetToZero) {
+  constexpr std::size_t kByte = 70 * kBlockSize + 1 + 5;  // of the third camera, byte 5
+  const auto host = HostOf(6, 16, '2');
+  host->device.Block(71)[6] = 7;
+  host->GiveWholeImage();
+  MainMenuCtrl& control = *host->control;
+  const std::string name = "SubMacroInfo(2).SMacroByte(5)";
+  EXPECT_EQ(control.GetSetting(name), "0");
+  EXPECT_EQ(control.EditedImage().at(kByte), 7);
+  EXPECT_EQ(control.SetSetting(name, "5"), SetAnswer::kSet);
+  EXPECT_EQ(control.EditedImage().at(kByte), 5);
+  EXPECT_EQ(control.SetSetting(name, "0"), SetAnswer::kSet);
+  EXPECT_EQ(control.EditedImage().at(kByte), 0);
+}
+
 }  // namespace
 }  // namespace quorvel
