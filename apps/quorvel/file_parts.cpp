@@ -17,6 +17,21 @@ bool CountAgrees(ByteSpan file) {
   return file.size() > kCountAt && file.size() == std::size_t{file[kCountAt]} * kBlockSize;
 }
 
+/// Bytes of the device as text, zeros left out. A terminal may take control characters for
+/// commands.
+std::string Printable(std::span<const std::uint8_t> bytes) {
+  std::string printable;
+  for (const std::uint8_t byte : bytes) {
+    if (byte == 0) continue;
+    const std::string character = CodePageToUtf8(std::string(1, static_cast<char>(byte)));
+    const auto code = static_cast<std::uint8_t>(character.back());
+    const bool is_control = character.size() == 1 ? code < ' ' || code == 0x7F
+                                                  : character.front() == '\xC2' && code < 0xA0;
+    printable += is_control ? "?" : character;
+  }
+  return printable;
+}
+
 }  // namespace
 
 std::optional<int> FileParts::ByteAt(int block, int at) const {
@@ -41,12 +56,9 @@ FileParts PartsOf(ByteSpan file) {
 std::optional<NamedDevice> DeviceOf(const FileParts& parts) {
   if (!parts.ByteAt(kIdentityBlock, kBlockSize - 1)) return std::nullopt;
   const auto block = parts.image.subspan((kIdentityBlock - 1) * kBlockSize, kBlockSize);
-  std::string name;
-  for (const std::uint8_t byte : block.subspan(kNameAt)) {
-    if (byte != 0) name.push_back(static_cast<char>(byte));
-  }
+  std::string name = Printable(block.subspan(kNameAt));
   name.erase(name.find_last_not_of(' ') + 1);
-  return NamedDevice{block[0], block[1] & kModelMask, CodePageToUtf8(name)};
+  return NamedDevice{block[0], block[1] & kModelMask, std::move(name)};
 }
 
 std::optional<std::string> VariantOf(const FileParts& parts) {
@@ -54,7 +66,8 @@ std::optional<std::string> VariantOf(const FileParts& parts) {
   constexpr int kVariantAt = 7;
   const auto byte = parts.ByteAt(kVariantBlock, kVariantAt);
   if (!byte || *byte == 0) return std::nullopt;
-  return CodePageToUtf8(std::string(1, static_cast<char>(*byte)));
+  const auto character = static_cast<std::uint8_t>(*byte);
+  return Printable({&character, 1});
 }
 
 std::string ModelInWords(int model) {

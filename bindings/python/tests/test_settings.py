@@ -110,6 +110,7 @@ class Settings(unittest.TestCase):
         for call, error in [
             (lambda: self.control.custom(2**32 + 10), OverflowError),
             (lambda: setattr(self.control, "host_comm_id", 256), OverflowError),
+            (lambda: self.control.set_properties(quorvel.Properties(host_comm_id=2**32)), OverflowError),
             (lambda: self.control.fill_data_blk(17), TypeError),
             (lambda: self.control.set("AlarmMode", "1\0"), ValueError),
             (lambda: self.control.load_defaults(16, 6, "TX16", ""), ValueError),

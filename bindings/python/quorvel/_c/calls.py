@@ -102,13 +102,13 @@ def callback(prototype: Any, otherwise: Any = None) -> Callable[[Callable[..., A
 
 
 def _whole(least: int, most: int) -> Callable[[Any], int]:
-    def checked(value: Any) -> int:
+    def whole(value: Any) -> int:
         number = operator.index(value)
         if not least <= number <= most:
             raise OverflowError(f"{number} is not {least} to {most}")
         return number
 
-    return checked
+    return whole
 
 
 def _text(value: Any) -> bytes | None:
@@ -138,6 +138,12 @@ _CHECKS: dict[Any, Callable[[Any], Any]] = {
 }
 
 
+def checked(kind: Any, value: Any) -> Any:
+    """A value as a C type of that kind takes it."""
+    check = _CHECKS.get(kind)
+    return check(value) if check else value
+
+
 def _raise_kept(raised: list[BaseException]) -> None:
     """The first is raised, or the first that is to end the program; the others are logged."""
     first = min(raised, key=lambda it: isinstance(it, Exception))
@@ -152,10 +158,8 @@ def _raise_kept(raised: list[BaseException]) -> None:
 
 
 def _caller(function: Any, is_answer: bool, last_error: Any) -> Callable[..., None]:
-    checks = [_CHECKS.get(kind) for kind in function.argtypes]
-
     def call(*given: Any) -> None:
-        prepared = [check(it) if check else it for check, it in zip(checks, given)]
+        prepared = [checked(kind, it) for kind, it in zip(function.argtypes, given)]
         outer, handler = _running.call, _running.handler
         running = _running.call = _Call(handler if is_answer else None)
         _running.handler = None

@@ -2,12 +2,13 @@
 
 from __future__ import annotations
 
-from ctypes import Structure
+from ctypes import Structure, c_char_p
 from typing import Any, Callable, TypeVar
 
 from .. import enums
 from ..settings import Place
-from .calls import collect, shown
+from .calls import checked, collect, shown
+from .functions import Text
 
 Made = TypeVar("Made")
 Filled = TypeVar("Filled", bound=Structure)
@@ -63,5 +64,5 @@ def all_shown(
 
 def struct_of(kind: type[Filled], given: Any) -> Filled:
     """The struct that is made of an object of ours."""
-    values = vars(given).items()
-    return kind(**{name: it.encode() if isinstance(it, str) else it for name, it in values})
+    kinds = {name: Text if it is c_char_p else it for name, it in kind._fields_}
+    return kind(**{name: checked(kinds[name], it) for name, it in vars(given).items()})
