@@ -6,9 +6,11 @@
 #include <QWidget>
 
 #include "platform/qt/cell_mark.h"
+#include "platform/qt/help_tip.h"
 #include "platform/qt/label_buddies.h"
 #include "platform/qt/texts.h"
 #include "platform/qt/verbs_under_way.h"
+#include "quorvel/widgets/dialog.h"
 #include "quorvel/widgets/widget.h"
 
 namespace quorvel::qt {
@@ -37,6 +39,9 @@ class ViewOf : public ControlView {
   ViewOf(VerbsUnderWay& verbs, Model& model, QtWidget* body)
       : verbs_(verbs), model_(&model), body_(body) {
     model.AttachView(this);
+    new HelpTip(context_, *body, [this] {
+      return model_ == nullptr ? QString() : Shown(model_->Owner().HelpOf(*model_));
+    });
   }
   ~ViewOf() override { ViewOf::LetGo(true); }
 

@@ -1,6 +1,7 @@
 #include "platform/qt/grid_texts.h"
 
 #include "platform/qt/texts.h"
+#include "quorvel/widgets/dialog.h"
 
 namespace quorvel::qt {
 
@@ -42,11 +43,19 @@ int GridTexts::columnCount(const QModelIndex& parent) const {
 QVariant GridTexts::Text(int grid_row, int column) const {
   // The grid may have shrunk a moment before the table is told.
   if (grid_ == nullptr || grid_row >= grid_->Rows() || column >= grid_->Columns()) return {};
-  return Shown(grid_->Cell(grid_row, column));
+  const QString text = Shown(grid_->Cell(grid_row, column));
+  if (column > 0 || grid_->RowNote(grid_row).empty()) return text;
+  // A blank as wide as a digit: notes stand below one another.
+  constexpr QChar kFigureSpace(0x2007);
+  const auto digits = static_cast<int>(grid_->Cell(grid_->Rows() - 1, 0).size());
+  return text.leftJustified(digits, kFigureSpace) + "  " + Shown(grid_->RowNote(grid_row));
 }
 
 QVariant GridTexts::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) return Text(index.row() + header_rows_, index.column());
+  if (role == Qt::ToolTipRole && grid_ != nullptr) {
+    return Shown(grid_->Owner().HelpOf(*grid_, index.row() + header_rows_, index.column()));
+  }
   if (role == Qt::TextAlignmentRole && grid_ != nullptr) {
     const bool centred = grid_->Alignment() == Grid::Align::kCentre;
     return QVariant::fromValue(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));

@@ -255,16 +255,19 @@ TEST_F(WidgetVerbs, AreRefusedWhereAPersonCannotReachTheWidget) {
     int number = 0;
     for (const auto& verb : verbs) EXPECT_EQ(verb(), expected) << "verb " << number++;
   };
-  const auto set_all = [this](void (Widget::*set)(bool), bool value) {
-    for (Widget* const widget : d.Widgets()) (widget->*set)(value);
+  const auto enable_all = [this](bool enabled) {
+    for (Widget* const widget : d.Widgets()) widget->SetEnabled(enabled);
+  };
+  const auto show_all = [this](bool visible) {
+    for (Widget* const widget : d.Widgets()) widget->SetVisible(visible);
   };
   const std::string before = d.list.ValueText() + d.grid.ValueText() + d.tabs.ValueText();
-  set_all(&Widget::SetVisible, false);
+  show_all(false);
   all_answer(Answer::kHidden);
-  set_all(&Widget::SetVisible, true);
-  set_all(&Widget::SetEnabled, false);
+  show_all(true);
+  enable_all(false);
   all_answer(Answer::kDisabled);
-  set_all(&Widget::SetEnabled, true);
+  enable_all(true);
   d.Close();
   all_answer(Answer::kHidden);
   EXPECT_EQ(d.CloseWindow(), Answer::kHidden);

@@ -266,12 +266,6 @@ class OctetsField final : public Field {
   std::vector<Byte> opened_;
 };
 
-/// A text as it can be edited: up to its first zero byte, without blanks at its end.
-std::string_view Editable(std::string_view text) {
-  text = text.substr(0, text.find('\0'));
-  return text.substr(0, text.find_last_not_of(' ') + 1);
-}
-
 class TextsField final : public Field {
  public:
   TextsField(ControlArray<TextBox>& boxes, int lines, Label& notes, TextRef setting,

@@ -4,6 +4,11 @@
 
 namespace quorvel {
 
+std::string_view Editable(std::string_view text) {
+  text = text.substr(0, text.find('\0'));
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
 DeviceText::DeviceText(TextBox& box, const Platform& platform, NoteLine& notes)
     : box_(box), platform_(platform), notes_(notes) {
   notes_.Serve(box_);

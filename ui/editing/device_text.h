@@ -11,6 +11,9 @@
 
 namespace quorvel {
 
+/// A text of the device as it can be edited: up to its first zero byte, without blanks at its end.
+[[nodiscard]] std::string_view Editable(std::string_view text);
+
 /// A text box over a byte string of the device. While the user types it shows at once what the
 /// device's code page can keep, and the line of notes tells what was left out. A box that the user
 /// left alone says nothing about the bytes, some of which it may be unable to show. Takes the box's

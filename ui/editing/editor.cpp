@@ -41,7 +41,9 @@ Editor::Editor(Context& context, std::string name, int caption,
   SetCaption(Text(caption));
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
   SetEditsCellWords(Text(kTextEditsCells));
+  SetDisabledWords(Text(kTextNotOnThisModel));
   choose_a_value_ = Text(kTextChooseAValue);
+  help_words_ = {Text(kTextRange), Text(kTextMostCharacters), Text(kTextStored), Text(kTextBlocks)};
 }
 
 std::vector<ShownSetting> Editor::ShownSettings() const {

@@ -30,6 +30,9 @@ class Editor : public Dialog, public EditorPart {
   /// Whether anything differs from when the editor opened.
   [[nodiscard]] bool Differs() const { return fields_.Differ(); }
 
+  [[nodiscard]] std::string HelpOf(const Widget& control, int row = -1,
+                                   int column = -1) const override;
+
   /// Chooses an item of the menu that the editor offers, too. Set by the menu.
   std::function<void(std::string_view item)> choose_item;
 
@@ -79,6 +82,11 @@ class Editor : public Dialog, public EditorPart {
   std::vector<DoubtOf> doubts_;
   std::string store_like_this_;
   std::string choose_a_value_;
+  /// The words of HelpOf, which asks for no texts.
+  struct HelpWords {
+    std::string range, most_characters, stored, blocks;
+  };
+  HelpWords help_words_;
 };
 
 }  // namespace quorvel

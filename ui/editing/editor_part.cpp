@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ui/context.h"
+#include "ui/editing/device_text.h"
 #include "ui/editing/editor.h"
 
 namespace quorvel {
@@ -20,6 +21,11 @@ std::string EditorPart::Text(int id) const { return Ctx().GetText(id); }
 const GlobalCnst& EditorPart::Words() const { return Ctx().texts.Constants(); }
 
 const ObjStr& EditorPart::Objects() const { return Ctx().texts.Objects(); }
+
+std::string EditorPart::TitleOf(int camera) const {
+  const Cameras& it = Record().AllCameras().at(static_cast<std::size_t>(camera));
+  return Ctx().platform.ToUtf8(Editable(it.title()));
+}
 
 FieldGroup& EditorPart::Each(int lines) const { return editor_.fields_.Group(exists_ ? lines : 0); }
 

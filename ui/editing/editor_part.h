@@ -49,6 +49,9 @@ class EditorPart {
   /// Has `handler` called once the controls are filled: for what depends on what they show.
   void AfterFill(Handler handler) const;
 
+  /// What the device calls a camera, from 0; UTF-8.
+  [[nodiscard]] std::string TitleOf(int camera) const;
+
   /// Choices of 0 and 1.
   [[nodiscard]] Choices OffOn() const { return {{0, Words().cnstrOFF}, {1, Words().cnstrON}}; }
   [[nodiscard]] Choices NoYes() const { return {{0, Words().cnstrNo}, {1, Words().cnstrYes}}; }

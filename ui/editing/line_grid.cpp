@@ -10,7 +10,7 @@ namespace quorvel {
 
 LineGrid::LineGrid(const EditorPart& part, Grid& grid, FieldGroup& group, const std::string& name,
                    GridEditing::Release release, Header header)
-    : grid_(grid), group_(group), editing_(grid, release) {
+    : part_(part), grid_(grid), group_(group), editing_(grid, release) {
   part.editor_.grids_.push_back(this);
   if (header == Header::kTwoRows) {
     grid_.SetHeaderRows(2);
@@ -32,6 +32,19 @@ int LineGrid::AddColumn(const std::string& header, const std::string& below) {
   // One name of several columns shares their width.
   grid_.SetLeastWidth(column, CountCharacters(below.empty() ? header : below));
   return column;
+}
+
+void LineGrid::NameByTitles(std::function<std::string(int)> title_of) {
+  title_of_ = title_of ? std::move(title_of) : [this](int camera) { return part_.TitleOf(camera); };
+}
+
+void LineGrid::GoToStart() {
+  if (title_of_) {
+    for (int row = grid_.HeaderRows(); row < grid_.Rows(); ++row) {
+      grid_.SetRowNote(row, title_of_(row - grid_.HeaderRows()));
+    }
+  }
+  editing_.GoTo(grid_.HeaderRows(), 1);
 }
 
 std::string LineGrid::GoToWaitingCell() {

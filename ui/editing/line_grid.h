@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "ui/editing/editor_part.h"
@@ -48,8 +49,11 @@ class LineGrid {
     return Bind(AddColumn(header), list, std::move(choices), std::move(setting), std::move(rules));
   }
 
+  /// Has the lines, which are cameras, told by their titles beside their numbers. `title_of` gives
+  /// that of a camera, from 0, in UTF-8; without it, it is the one that the device shows.
+  void NameByTitles(std::function<std::string(int camera)> title_of = {});
   /// Makes the first cell current, as when the page comes to the front.
-  void GoToStart() { editing_.GoTo(grid_.HeaderRows(), 1); }
+  void GoToStart();
   /// Makes the first cell current that waits for a choice, and tells which: "Camera 3: Target
   /// Size". Empty when there is none.
   [[nodiscard]] std::string GoToWaitingCell();
@@ -60,9 +64,11 @@ class LineGrid {
  private:
   Field& AddField(int column, SettingRef setting);
 
+  const EditorPart& part_;
   Grid& grid_;
   FieldGroup& group_;
   GridEditing editing_;
+  std::function<std::string(int)> title_of_;
 };
 
 }  // namespace quorvel

@@ -59,6 +59,7 @@ void frm_Sequencing::BindGroups() {
       .When(Id().IsTriplexMatrix());
   Choices groups = Choices::Numbers(1, no_group, 0);
   groups.Add(no_group, Words().cnstrNone).Reads(no_group, "");
+  cameras_.NameByTitles();
   cameras_.Column(group, lstGrpSetup, groups,
                   Of(&MuxData::MatrixInfo, &clsMatrix::GroupSetup).Otherwise(no_group),
                   {.shows = ColumnRules::Reach::kInRow,

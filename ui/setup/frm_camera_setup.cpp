@@ -34,6 +34,9 @@ void frm_CameraSetup::BindCameras() {
   gains_.Column(lbSnlGain.Caption(), lstSnlGain, gains, OfCamera(&Cameras::SignalGain));
   text_positions_.Column(lbTextpos.Caption(), lstTextpos, positions,
                          OfCamera(&Cameras::TextPos).OtherwiseWritten(1));
+  for (LineGrid* const grid : {&gains_, &text_positions_}) {
+    grid->NameByTitles([this](int camera) { return m_CameraTitle(camera).Text(); });
+  }
 
   for (int c = 0; c < kMostCameras; ++c) lblCam(c).SetCaption(std::to_string(c + 1));
   m_CameraCovert.SetSpokenNames(Frame3.Caption());

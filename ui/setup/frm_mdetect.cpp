@@ -70,6 +70,7 @@ frm_MDetect::frm_MDetect(Context& context)
 
 void frm_MDetect::AddColumns() {
   Label6.SetCaption(Text(Id().HasEventRecording() ? txt::kLinkToEvent : txt::kRecordRate));
+  cameras_.NameByTitles();
   cameras_.AddColumn(Label1.Caption());
   cameras_.AddColumn(Text(txt::kMotionDetectionType));
   cameras_.AddColumn(Label3.Caption());

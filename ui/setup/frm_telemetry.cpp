@@ -16,6 +16,7 @@ frm_Telemetry::frm_Telemetry(Context& context)
   const auto of_two = [this, current](int first, int second) -> Choices {
     return {{0, Text(current ? txt::kLegacy : first)}, {1, Text(current ? txt::kCurrent : second)}};
   };
+  cameras_.NameByTitles();
   cameras_.Column(Text(txt::kTelemetryDisable), List1, DisableEnable(),
                   At(&MuxData::TelEnable).Otherwise(0));
   cameras_.Column(Label2.Caption(), List2, {{0, Words().cnstrAC}, {1, Words().cnstrDC}},

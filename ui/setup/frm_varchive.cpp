@@ -58,8 +58,9 @@ void frm_VArchive::BindPort(FieldGroup& settings) {
       .When(frmArchivePort.Visible())
       .WrittenWhen(ieee1394);
   // With SCSI alone the port is not written: there is nothing to choose.
-  optArchPort(0).SetEnabled(scsi && ieee1394);
-  optArchPort(1).SetEnabled(ieee1394);
+  const std::string why = Text(kTextOneArchivePort);
+  optArchPort(0).SetEnabled(scsi && ieee1394, why);
+  optArchPort(1).SetEnabled(ieee1394, why);
 }
 
 }  // namespace quorvel

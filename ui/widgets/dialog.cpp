@@ -117,4 +117,8 @@ void Dialog::RunHandler(const std::string& place, const Handler& handler) {
   }
 }
 
+std::string Dialog::HelpOf(const Widget& control, int /*row*/, int /*column*/) const {
+  return control.WhyDisabled();
+}
+
 }  // namespace quorvel

@@ -29,6 +29,19 @@ std::vector<Grid::HeaderCell> Grid::Header() const {
   return header;
 }
 
+const std::string& Grid::RowNote(int row) const {
+  static const std::string kNothing;
+  const auto it = row_notes_.find(row);
+  return it == row_notes_.end() ? kNothing : it->second;
+}
+
+void Grid::SetRowNote(int row, std::string note) {
+  std::string& there = row_notes_[row];
+  if (there == note) return;
+  there = std::move(note);
+  Redraw(Aspect::kContent);
+}
+
 void Grid::SetColumnName(int column, std::string name) {
   column_names_[column] = std::move(name);
   Redraw(Aspect::kContent);

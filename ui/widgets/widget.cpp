@@ -105,7 +105,14 @@ void Widget::SetLabel(const Label& label) {
   Redraw(Aspect::kState);
 }
 
+const std::string& Widget::WhyDisabled() const {
+  static const std::string kNothing;
+  if (enabled_) return kNothing;
+  return why_disabled_.empty() ? dialog_.DisabledWords() : why_disabled_;
+}
+
 std::string Widget::SpokenNote() const {
+  if (!enabled_) return WhyDisabled();
   return edits_cell_ ? dialog_.EditsCellWords() + edited_column_ : std::string();
 }
 
@@ -140,8 +147,9 @@ void Widget::SetVisible(bool visible) {
   Redraw(Aspect::kState);
 }
 
-void Widget::SetEnabled(bool enabled) {
+void Widget::SetEnabled(bool enabled, std::string why) {
   enabled_ = enabled;
+  why_disabled_ = std::move(why);
   Redraw(Aspect::kState);
 }
 

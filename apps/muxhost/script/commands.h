@@ -52,6 +52,7 @@ void Wait(Desk& desk, Words words);
 // What there is to see.
 void Show(Desk& desk, Words words);
 void Pages(Desk& desk, Words words);
+void Help(Desk& desk, Words words);
 void MenuItems(Desk& desk, Words words);
 void Modified(Desk& desk, Words words);
 void Settings(Desk& desk, Words words);

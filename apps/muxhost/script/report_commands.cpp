@@ -46,6 +46,24 @@ void Pages(Desk& desk, Words words) {
   desk.out << DescribePages(dialog, pages);
 }
 
+void Help(Desk& desk, Words words) {
+  const Widget* const control = desk.platform.User().FindControl(words[1]);
+  if (control == nullptr) throw ScriptError(desk.platform.User().NotFound(words[1]));
+  std::string help;
+  if (words.size() > 3) {
+    constexpr int kMostPlaces = 1000;
+    const int row = ToNumber("row", words[2], 0, kMostPlaces);
+    help = control->Owner().HelpOf(*control, row, ToNumber("column", words[3], 0, kMostPlaces));
+    const auto* const grid = dynamic_cast<const Grid*>(control);
+    if (grid != nullptr && row < grid->Rows() && !grid->RowNote(row).empty()) {
+      help = grid->RowNote(row) + (help.empty() ? "" : "\n") + help;
+    }
+  } else {
+    help = control->Owner().HelpOf(*control);
+  }
+  desk.out << (help.empty() ? "nothing to say of it" : help) << '\n';
+}
+
 void MenuItems(Desk& desk, Words /*words*/) {
   desk.out << DescribeMenu(desk.platform.Menu().Root());
 }

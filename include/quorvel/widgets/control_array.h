@@ -33,9 +33,9 @@ class ControlArray {
   void ShowFirst(int count) {
     for (int i = 0; i < Count(); ++i) (*this)(i).SetVisible(i < count);
   }
-  /// Enables or disables all of them.
-  void SetEnabled(bool enabled) {
-    for (Control& control : controls_) control.SetEnabled(enabled);
+  /// Enables or disables all of them; `why`, see Widget::SetEnabled.
+  void SetEnabled(bool enabled, const std::string& why = {}) {
+    for (Control& control : controls_) control.SetEnabled(enabled, why);
   }
   /// Captions the controls in their order.
   void SetCaptions(std::initializer_list<std::string> captions) {

@@ -58,6 +58,14 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
   /// What screen readers say of a control that edits the current cell of a grid, before the column.
   [[nodiscard]] const std::string& EditsCellWords() const { return edits_cell_words_; }
 
+  /// Why a control is disabled that was given no reason of its own.
+  [[nodiscard]] const std::string& DisabledWords() const { return disabled_words_; }
+  /// What there is to know of a control, or of a cell of a grid: why it is disabled, the range of
+  /// what it sets, what is stored and where. Lines of text, empty for nothing.
+  [[nodiscard]] virtual std::string HelpOf(const Widget& control, int row = -1,
+                                           int column = -1) const;
+
+  void SetDisabledWords(std::string words) { disabled_words_ = std::move(words); }
   void SetEditsCellWords(std::string words) { edits_cell_words_ = std::move(words); }
   void SetPasteRefusals(std::string not_a_choice, std::string does_not_fit);
   void SetCaption(std::string caption);
@@ -102,6 +110,7 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
   std::string not_a_choice_;
   std::string does_not_fit_;
   std::string edits_cell_words_;
+  std::string disabled_words_;
   const Picture* icon_ = nullptr;
   Layout layout_;
   std::vector<Widget*> widgets_;

@@ -53,6 +53,8 @@ class QUORVEL_API Grid : public Widget {
   /// What a screen reader says of a column: the name that it was given, else its header texts, ", "
   /// between different ones.
   [[nodiscard]] std::string ColumnName(int column) const;
+  /// What is told of a row beside its name, such as a camera's title; it is no part of the cells.
+  [[nodiscard]] const std::string& RowNote(int row) const;
   [[nodiscard]] std::string ValueText() const override;
 
   /// Sets the number of header rows, 1 or 2; before the size.
@@ -65,6 +67,7 @@ class QUORVEL_API Grid : public Widget {
   int AddColumns(int count);
   /// Names a column of which the header says nothing.
   void SetColumnName(int column, std::string name);
+  void SetRowNote(int row, std::string note);
   /// Makes a column no narrower than so many characters.
   void SetLeastWidth(int column, int characters);
   void SetAlign(Align align);
@@ -133,6 +136,7 @@ class QUORVEL_API Grid : public Widget {
   Range range_ = Range::kRows;
   std::vector<CellValue> cells_{1};  ///< column by column, so that one is easily added
   std::vector<int> least_widths_{0};
+  std::map<int, std::string> row_notes_;
   std::map<int, std::string> column_names_;  ///< of columns that were given one
 };
 

@@ -104,15 +104,18 @@ class QUORVEL_API Widget {
   [[nodiscard]] std::string PageCaption() const;
   /// True for a control that edits the current cell of a grid. Views mark it, not by colour alone.
   [[nodiscard]] bool EditsCell() const { return edits_cell_; }
-  /// What screen readers add to the name: "" or, of a control that edits the current cell, the
-  /// dialog's words for it and the column.
+  /// Why the control is disabled, in words; empty while it is enabled, or for want of a reason.
+  [[nodiscard]] const std::string& WhyDisabled() const;
+  /// What screen readers add to the name: why it is disabled or, of a control that edits the
+  /// current cell, the dialog's words for it and the column.
   [[nodiscard]] std::string SpokenNote() const;
   /// What the user can change, as one line of text: "" for kinds without a value.
   [[nodiscard]] virtual std::string ValueText() const { return {}; }
 
   void SetCaption(std::string caption);
   void SetVisible(bool visible);
-  void SetEnabled(bool enabled);
+  /// `why` it is disabled; empty for the dialog's usual reason.
+  void SetEnabled(bool enabled, std::string why = {});
   void SetKeepsPlace(bool keeps);
   /// Turns the pages that the control is on over.
   void BringToFront();
@@ -155,6 +158,7 @@ class QUORVEL_API Widget {
   bool visible_ = true;
   bool enabled_ = true;
   bool keeps_place_ = false;
+  std::string why_disabled_;
   bool edits_cell_ = false;
   std::string edited_column_;
   WidgetView* view_ = nullptr;

@@ -46,6 +46,7 @@ ColumnRules EventSettingsPage::OfRow(std::function<bool(int)> takes) {
 void EventSettingsPage::BindTypes() {
   ColumnRules rules = OfRow([this](int row) { return CameraRecords(Ctx(), LineOf(row)); });
   rules.written = [this](int row) { ShowRatesOf(row); };
+  cameras_.NameByTitles();
   cameras_.Column(lbEvType.Caption(), lstEvType,
                   Choices({Words().cnstrTL, Words().cnstrEvent, Words().cnstrEvTL}),
                   OfEvents(&clsEvents::EType), std::move(rules));

@@ -8,6 +8,7 @@ RecordQualityPage::RecordQualityPage(Editor& editor, const RecordFeatures& featu
   if (!Exists()) return;
   const Choices levels = Levels();
   lRQuality.SetRows(levels.Count());
+  cameras_.NameByTitles();
   cameras_.Column(lbRQuality.Caption(), lRQuality, levels, OfCamera(&Cameras::Compress));
 }
 

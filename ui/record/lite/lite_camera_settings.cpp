@@ -97,6 +97,7 @@ Choices LiteCameraSettings::Rates(std::initializer_list<int> offered, bool event
 }
 
 void LiteCameraSettings::AddColumns() {
+  table_.NameByTitles();
   for (const int text :
        {txt::kRecordQuality, txt::kStandardRecordSpeed, txt::kAlarmRecordSpeedWord}) {
     table_.AddColumn(Text(text));

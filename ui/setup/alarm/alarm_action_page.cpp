@@ -20,9 +20,10 @@ AlarmActionPage::AlarmActionPage(Editor& editor, const AlarmFeatures& features)
   actions_.Column(adjacent + "2", cbAlCamera, camera, OfAction(&AlmAction::Display2));
   actions_.Column(adjacent + "3", cbAlCamera, camera, OfAction(&AlmAction::Display3));
 
+  const std::string no_room = Text(kTextNoRoomForIt);
   for (Widget* const it : {static_cast<Widget*>(&lbPreset), static_cast<Widget*>(&cbPreset)}) {
     it->SetVisible(features.PresetColumns);
-    it->SetEnabled(features.presets_kept);
+    it->SetEnabled(features.presets_kept, no_room);
   }
   lbPreset.SetEnabled(true);
   if (features.PresetColumns) {

@@ -56,15 +56,16 @@ void AlarmNotificationPage::BindEmail(Editor& editor) {
   Each(kEvents).Check(chkboxNotify,
                       BitsOf(Notification(&clsEmailNotify::EmailNotify, 0), kEventBits));
   FieldGroup& settings = Once();
+  const std::string no_room = Text(kTextNoRoomForIt);
   const auto address = [&](int number, TextBox& box, Label& warning, bool kept) {
     box.SetShownLength(kAddressWidth);
-    box.SetEnabled(kept);
+    box.SetEnabled(kept, no_room);
     settings.Add(std::make_unique<EmailAddressField>(editor, Ctx(), number, box, warning))
         .WrittenWhen(kept);
   };
   address(0, txtUser1Addr, lbUser1Warning, features_.user1_kept);
   address(1, txtUser2Addr, lbUser2Warning, features_.user2_kept);
-  txSMTPServer.SetEnabled(features_.hosts_kept);
+  txSMTPServer.SetEnabled(features_.hosts_kept, no_room);
   settings.Octets(txSMTPServer, Notification(&clsEmailNotify::SMTPServer));
   settings.Port(txtSMTPPort, 0, kMostPort, kUsualSmtpPort, Notification(&clsEmailNotify::SMTPPort));
   address(2, txtLocalEmail, lbLocalWarning, features_.local_address);

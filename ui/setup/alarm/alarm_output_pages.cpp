@@ -24,6 +24,7 @@ MacroLinkPage::MacroLinkPage(Editor& editor, const AlarmFeatures& features)
 VideoLossPage::VideoLossPage(Editor& editor, const AlarmFeatures& features)
     : EditorPage(editor, features.video_loss_page) {
   MSFG_VidLoss.SetSpokenName(Text(txt::kVideolossAction));
+  cameras_.NameByTitles();
   cameras_.Column(Label8.Caption(), lst_AlRelay1, DisableEnable(), OfAlarm(&Alarms::VlRelay1));
   cameras_.Column(Label9.Caption(), lst_AlRelay2, DisableEnable(), OfAlarm(&Alarms::VlRelay2));
   Label10.SetVisible(features.video_loss_buzzer);

@@ -64,6 +64,7 @@ AlarmSettingsPage::Buzzers() {
 
 void AlarmSettingsPage::BindBuzzers(FieldGroup& settings) {
   int number = 0;
+  const std::string fixed = Text(kTextFixedOnThisModel);
   for (const BuzzerLine& it : Buzzers()) {
     const bool can_be_changed = number == 0 || !features_.fixed_settings;
     settings
@@ -72,7 +73,7 @@ void AlarmSettingsPage::BindBuzzers(FieldGroup& settings) {
         .WrittenWhen(can_be_changed && it.shown && features_.buzzers);
     it.label.SetVisible(it.shown);
     it.frame.SetVisible(it.shown);
-    it.options.SetEnabled(can_be_changed);
+    it.options.SetEnabled(can_be_changed, fixed);
   }
 }
 
@@ -85,10 +86,11 @@ void AlarmSettingsPage::ShowWhatTheModelHas() {
   Label12.SetVisible(features_.second_relay);
   Frame7.SetVisible(features_.second_relay);
   Frame5.SetVisible(features_.buzzers);
-  opt_AlFullScr.SetEnabled(!features_.fixed_settings);
-  opt_Rl1Conf.SetEnabled(!features_.fixed_settings);
-  opt_Rl2Conf.SetEnabled(!features_.fixed_settings);
-  if (features_.full_screen_always) opt_AlFullScr(0).SetEnabled(false);
+  const std::string fixed = Text(kTextFixedOnThisModel);
+  opt_AlFullScr.SetEnabled(!features_.fixed_settings, fixed);
+  opt_Rl1Conf.SetEnabled(!features_.fixed_settings, fixed);
+  opt_Rl2Conf.SetEnabled(!features_.fixed_settings, fixed);
+  if (features_.full_screen_always) opt_AlFullScr(0).SetEnabled(false, fixed);
   for (Widget* const it : std::initializer_list<Widget*>{&Label17, &lstTimeOut, &Label18}) {
     it->SetKeepsPlace(true);  // the page does not jump as the time-out comes and goes
   }
