@@ -17,6 +17,7 @@ constexpr std::int16_t kMenu = 15;
 constexpr std::int16_t kFactoryDefaults = 16;
 constexpr std::int16_t kActivityGrid = 17;
 constexpr std::int16_t kStateHost = 18;
+constexpr std::int16_t kTextSource = 191;
 
 constexpr int kDuplexFamily = 16;
 constexpr int kTriplexFamily = 48;
@@ -42,7 +43,16 @@ void HostSession::PlaceControl() {
   control_ = std::make_unique<MainMenuCtrl>(platform_, *this);
   control_->InitProperties();
   StateSettings();
+  if (!text_class_.empty()) control_->CustomWithString(kTextSource, 0, 0, text_class_);
   StateIdentity();
+}
+
+void HostSession::UseTexts(std::string class_id) {
+  text_class_ = std::move(class_id);
+  exchange_ = std::make_shared<Exchange>();
+  link_.BeginTransfer();
+  PlaceControl();
+  if (on_change) on_change();
 }
 
 void HostSession::Configure(const HostSettings& settings) {

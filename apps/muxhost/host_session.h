@@ -43,6 +43,9 @@ class HostSession final : public MainMenuEvents {
   void Connect(SimulatedDevice device);
   /// Replaces the settings and states them to the control.
   void Configure(const HostSettings& settings);
+  /// The class of the platform that has the component's texts; none: they are English. A new
+  /// control comes with it, as the component keeps texts that it has asked for.
+  void UseTexts(std::string class_id);
   /// Sets what goes wrong on the link next, or nothing. See LinkFault.
   void SetFault(const std::optional<Fault>& fault);
   [[nodiscard]] const std::optional<Fault>& PendingFault() const { return link_.PendingFault(); }
@@ -125,6 +128,7 @@ class HostSession final : public MainMenuEvents {
   Platform& platform_;
   Link link_;
   HostSettings settings_;
+  std::string text_class_;
   std::vector<std::string> log_;
   std::shared_ptr<Exchange> exchange_ = std::make_shared<Exchange>();
   std::vector<Byte> zones_;  ///< what ActGridData brought last

@@ -1,15 +1,19 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "muxhost/script/runner.h"
+#include "muxhost/texts/languages.h"
 #include "quorvel/block_map.h"
 #include "quorvel/version.h"
 
 #ifdef MUXHOST_WITH_QT
+#include <QLocale>
 #include <cstdlib>
 
 #include "muxhost/gallery/gallery.h"
@@ -21,7 +25,26 @@ namespace {
 constexpr int kFailed = 1;
 constexpr int kNoWindow = 2;
 
-int RunScript(const std::string& path, bool echo) {
+using Texts = std::shared_ptr<const quorvel::muxhost::Language>;
+
+std::vector<std::string> SystemLocales() {
+#ifdef MUXHOST_WITH_QT
+  std::vector<std::string> locales;
+  for (const QString& name : QLocale::system().uiLanguages()) locales.push_back(name.toStdString());
+  return locales;
+#else
+  return quorvel::muxhost::LocalesOfEnvironment();
+#endif
+}
+
+/// Tells what of a user's own file is not used.
+Texts TextsOf(const std::string& language) {
+  const auto chosen = quorvel::muxhost::ChooseLanguage(language, SystemLocales());
+  for (const std::string& finding : chosen.findings) std::cerr << "muxhost: " << finding << '\n';
+  return chosen.language;
+}
+
+int RunScript(const std::string& path, bool echo, const Texts& texts) {
   std::ifstream file;
   if (path != "-") {
     file.open(path);
@@ -30,7 +53,8 @@ int RunScript(const std::string& path, bool echo) {
       return kFailed;
     }
   }
-  quorvel::muxhost::ScriptRunner runner(path == "-" ? std::cin : file, std::cout, std::cerr, echo);
+  quorvel::muxhost::ScriptRunner runner(path == "-" ? std::cin : file, std::cout, std::cerr, echo,
+                                        texts);
   return runner.Run();
 }
 
@@ -43,8 +67,8 @@ bool HasDisplay() {
   return false;
 }
 
-int OnDisplay(int (*run)(int, char**), int argc, char** argv) {
-  if (HasDisplay()) return run(argc, argv);
+int OnDisplay(const std::function<int()>& run) {
+  if (HasDisplay()) return run();
   std::cerr << "muxhost: no display to open a window on; run a script with --script FILE\n";
   return kNoWindow;
 }
@@ -71,13 +95,16 @@ class WindowOptions {
         ->capture_default_str();
   }
 
-  int Run(int argc, char** argv) const {
+  /// Pictures are in English unless said, the same on every machine.
+  [[nodiscard]] bool InLanguageOfSystem() const { return gallery_->count() == 0; }
+
+  int Run(int argc, char** argv, const Texts& texts) const {
     using namespace quorvel::muxhost;
-    if (widgets_) return OnDisplay(RunWidgetPage, argc, argv);
-    if (gallery_->count() == 0) return OnDisplay(RunWindow, argc, argv);
+    if (widgets_) return OnDisplay([&] { return RunWidgetPage(argc, argv); });
+    if (gallery_->count() == 0) return OnDisplay([&] { return RunWindow(argc, argv, texts); });
     for (const Look& look : Looks()) {
       const bool wanted = std::find(looks_.begin(), looks_.end(), look.name) != looks_.end();
-      if (wanted) DrawGallery(argc, argv, folder_, look);
+      if (wanted) DrawGallery(argc, argv, folder_, look, texts);
     }
     return 0;
   }
@@ -92,7 +119,8 @@ class WindowOptions {
 class WindowOptions {
  public:
   WindowOptions(CLI::App& /*app*/, CLI::Option* /*not_with*/) {}
-  int Run(int /*argc*/, char** /*argv*/) const {
+  [[nodiscard]] static bool InLanguageOfSystem() { return false; }
+  int Run(int /*argc*/, char** /*argv*/, const Texts& /*texts*/) const {
     std::cerr << "muxhost: built without a window; run a script with --script FILE\n";
     return kNoWindow;
   }
@@ -114,6 +142,11 @@ int main(int argc, char** argv) {
   app.add_flag("--block-map", block_map, "Print which block holds which setting, and exit")
       ->excludes(script_option);
   const WindowOptions window(app, script_option);
+  std::string language;
+  app.add_option("--language", language,
+                 "Language of the component's texts: " + quorvel::muxhost::LanguageChoices() +
+                     "; the window's is that of the system, else it is en, unless said")
+      ->type_name("LANGUAGE");
   app.set_version_flag("--version", "muxhost " + std::string(quorvel::Version()));
   CLI11_PARSE(app, argc, argv);
 
@@ -122,7 +155,10 @@ int main(int argc, char** argv) {
       std::cout << quorvel::BlockMapMarkdown();
       return 0;
     }
-    return script_option->count() > 0 ? RunScript(script, echo) : window.Run(argc, argv);
+    const bool is_script = script_option->count() > 0;
+    if (language.empty()) language = !is_script && window.InLanguageOfSystem() ? "system" : "en";
+    const Texts texts = TextsOf(language);
+    return is_script ? RunScript(script, echo, texts) : window.Run(argc, argv, texts);
   } catch (const std::exception& error) {
     std::cerr << "muxhost: " << error.what() << '\n';
     return kFailed;

@@ -105,7 +105,8 @@ const std::vector<Look>& Looks() {
   return looks;
 }
 
-void DrawGallery(int argc, char** argv, const std::string& folder, const Look& look) {
+void DrawGallery(int argc, char** argv, const std::string& folder, const Look& look,
+                 const std::shared_ptr<const Language>& language) {
   const Quiet quiet;
   const QTemporaryDir description;
   SetUpScreen(look, description.filePath("screen.json"));
@@ -114,9 +115,10 @@ void DrawGallery(int argc, char** argv, const std::string& folder, const Look& l
   const QDir pictures(
       QDir(QString::fromStdString(folder)).filePath(QString::fromStdString(look.name)));
   DrawWidgetPage(pictures.filePath("widgets"), look);
+  const auto texts = look.long_texts ? LongTexts(language) : language;
   for (const auto& [name, device] : kDevices) {
     Album album(pictures.filePath(name));
-    Tour(album, device, look.long_texts).Go();
+    Tour(album, device, texts).Go();
   }
 }
 

@@ -1,6 +1,5 @@
 #include "muxhost/gallery/texts.h"
 
-#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -63,9 +62,12 @@ void MakeLonger(Dialog& dialog) {
   for (Widget* const widget : dialog.Widgets()) MakeLonger(*widget);
 }
 
-std::string LongTexts::Call(std::string_view method, std::int32_t argument) {
-  if (method != "getresourcestring") throw std::invalid_argument("no such method");
-  return Longer(BuiltInText(argument));
+std::shared_ptr<const Language> LongTexts(const std::shared_ptr<const Language>& language) {
+  auto longer = std::make_shared<Language>();
+  for (const BuiltInEntry& entry : BuiltInTexts()) longer->texts[entry.id] = Longer(entry.english);
+  if (language == nullptr) return longer;
+  for (const auto& [id, text] : language->texts) longer->texts[id] = Longer(text);
+  return longer;
 }
 
 }  // namespace quorvel::muxhost

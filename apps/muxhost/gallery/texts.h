@@ -1,9 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
-#include "quorvel/class_factory.h"
+#include "muxhost/texts/language.h"
 #include "quorvel/widgets.h"
 
 namespace quorvel::muxhost {
@@ -15,10 +16,8 @@ namespace quorvel::muxhost {
 /// a user could have typed stays.
 void MakeLonger(Dialog& dialog);
 
-/// A text source that has the built-in texts, longer.
-class LongTexts : public AutomationObject {
- public:
-  std::string Call(std::string_view method, std::int32_t argument) override;
-};
+/// The component's texts in a language, longer; none: English.
+[[nodiscard]] std::shared_ptr<const Language> LongTexts(
+    const std::shared_ptr<const Language>& language);
 
 }  // namespace quorvel::muxhost

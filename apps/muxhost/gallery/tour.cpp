@@ -12,14 +12,11 @@
 #include <exception>
 #include <stdexcept>
 
-#include "muxhost/gallery/texts.h"
+#include "muxhost/texts/languages.h"
 
 namespace quorvel::muxhost {
 
 namespace {
-
-constexpr std::int16_t kTextSource = 191;
-constexpr const char* kLongTexts = "Muxhost.LongTexts";
 
 /// What opens no window, but acts at once.
 bool ActsAtOnce(const std::string& item) {
@@ -39,24 +36,28 @@ void AddItems(const MenuItem& menu, std::vector<std::string>& items) {
   }
 }
 
+/// Before the window shows the session's control.
+HostSession& Speaking(Platform& platform, HostSession& session,
+                      const std::shared_ptr<const Language>& language) {
+  Speak(platform, session, language);
+  return session;
+}
+
 }  // namespace
 
-Tour::Tour(Album& album, const TourDevice& device, bool long_texts)
+Tour::Tour(Album& album, const TourDevice& device, const std::shared_ptr<const Language>& language)
     : album_(album),
       session_(platform_,
                [this](int milliseconds, std::function<void()> task) {
                  QTimer::singleShot(milliseconds, &turns_, std::move(task));
                }),
-      window_(platform_, session_) {
+      window_(platform_, Speaking(platform_, session_, language)) {
   constexpr int kPatience = 1000;
   QObject::connect(&questions_, &QTimer::timeout, &turns_, [this] { DismissQuestion(); });
   questions_.start(kPatience);
   window_.Backups().SetFolder("Backups");  // the same on every machine that draws the pictures
   window_.show();
   Connect(device);
-  if (!long_texts) return;
-  platform_.Classes().Register(kLongTexts, [] { return std::make_shared<LongTexts>(); });
-  session_.Control().CustomWithString(kTextSource, 0, 0, kLongTexts);
 }
 
 void Tour::Choose(const QString& item, Qt::MatchFlags match) {

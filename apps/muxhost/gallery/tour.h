@@ -3,11 +3,13 @@
 #include <QObject>
 #include <QTimer>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "muxhost/gallery/album.h"
 #include "muxhost/gallery/platform.h"
 #include "muxhost/host_session.h"
+#include "muxhost/texts/language.h"
 #include "muxhost/window/main_window.h"
 
 namespace quorvel::muxhost {
@@ -22,7 +24,8 @@ struct TourDevice {
 /// Connects a device, goes through every window that there is for it, and takes pictures.
 class Tour {
  public:
-  Tour(Album& album, const TourDevice& device, bool long_texts);
+  /// The component's texts are of a language; none: English.
+  Tour(Album& album, const TourDevice& device, const std::shared_ptr<const Language>& language);
   void Go();
 
  private:

@@ -23,6 +23,7 @@ constexpr Command kCommands[] = {
      "[combined] [macros=NxM] [firmware=N.NN]",
      0, kAny, commands::Device},
     {"host [family=N] [dvr=N] [commid=N] [link=N] [sync] [latency=MS]", 0, kAny, commands::Host},
+    {"language CODE|system|FILE", 1, 1, commands::SpeakLanguage},
     {"download [hold]", 0, 1, commands::Download},
     {"upload all|modified|none|hold [macros]", 1, 2, commands::Upload},
     {"goes-along all|modified [macros]", 1, 2, commands::GoesAlong},

@@ -18,6 +18,7 @@ using Words = std::span<const std::string>;
 // The device and the host.
 void Device(Desk& desk, Words words);
 void Host(Desk& desk, Words words);
+void SpeakLanguage(Desk& desk, Words words);
 void Download(Desk& desk, Words words);
 void Upload(Desk& desk, Words words);
 void GoesAlong(Desk& desk, Words words);

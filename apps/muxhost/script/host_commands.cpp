@@ -1,5 +1,6 @@
 #include "muxhost/script/commands.h"
 #include "muxhost/script/parser.h"
+#include "muxhost/texts/languages.h"
 
 namespace quorvel::muxhost::commands {
 
@@ -104,6 +105,13 @@ void Host(Desk& desk, Words words) {
       options.TakeNumber("latency", 0, kMostLatency).value_or(settings.latency_ms);
   options.Finish();
   desk.session.Configure(settings);
+}
+
+void SpeakLanguage(Desk& desk, Words words) {
+  RequireUnlocked(desk);
+  const ChosenLanguage chosen = ChooseLanguage(words[1], LocalesOfEnvironment());
+  for (const std::string& finding : chosen.findings) desk.out << finding << '\n';
+  Speak(desk.platform, desk.session, chosen.language);
 }
 
 namespace {

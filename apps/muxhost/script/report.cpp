@@ -30,7 +30,7 @@ std::string Value(const Widget& widget) {
   return text.empty() ? "" : " = " + text;
 }
 
-std::size_t RunLength(std::span<const std::uint8_t> numbers) {
+std::size_t RunLength(std::span<const int> numbers) {
   std::size_t length = 1;
   while (length < numbers.size() && numbers[length] == numbers[length - 1] + 1) ++length;
   return length;
@@ -64,6 +64,10 @@ std::string Quoted(std::string_view text) {
 }
 
 std::string AbbreviateRuns(std::span<const std::uint8_t> numbers) {
+  return AbbreviateRuns(std::vector<int>(numbers.begin(), numbers.end()));
+}
+
+std::string AbbreviateRuns(std::span<const int> numbers) {
   if (numbers.empty()) return "none";
   std::string text;
   while (!numbers.empty()) {

@@ -13,6 +13,7 @@ namespace quorvel::muxhost {
 
 /// Numbers in their order, three and more that count up by one as FIRST-LAST: "1-149 182 183".
 /// "none" for no numbers.
+[[nodiscard]] std::string AbbreviateRuns(std::span<const int> numbers);
 [[nodiscard]] std::string AbbreviateRuns(std::span<const std::uint8_t> numbers);
 
 /// "32 32 19": two lower-case hexadecimal digits a byte.

@@ -4,15 +4,19 @@
 #include <istream>
 #include <ostream>
 #include <string_view>
+#include <utility>
 
 #include "muxhost/script/commands.h"
 #include "muxhost/script/parser.h"
 #include "muxhost/script/report.h"
+#include "muxhost/texts/languages.h"
 
 namespace quorvel::muxhost {
 
-ScriptRunner::ScriptRunner(std::istream& in, std::ostream& out, std::ostream& err, bool echo)
+ScriptRunner::ScriptRunner(std::istream& in, std::ostream& out, std::ostream& err, bool echo,
+                           std::shared_ptr<const Language> language)
     : in_(in), out_(out), err_(err), echo_(echo), desk_(out) {
+  if (language != nullptr) Speak(desk_.platform, desk_.session, std::move(language));
   desk_.platform.at_modal = [this](Dialog& dialog) { return AtModal(dialog); };
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <iosfwd>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "muxhost/script/desk.h"
+#include "muxhost/texts/language.h"
 
 namespace quorvel::muxhost {
 
@@ -18,7 +20,9 @@ namespace quorvel::muxhost {
 class ScriptRunner {
  public:
   /// Lines come from `in` as they are needed. With `echo`, each is printed before it runs.
-  ScriptRunner(std::istream& in, std::ostream& out, std::ostream& err, bool echo = false);
+  /// `language` is that of the component's texts; none: English.
+  ScriptRunner(std::istream& in, std::ostream& out, std::ostream& err, bool echo = false,
+               std::shared_ptr<const Language> language = nullptr);
 
   /// Runs the script to its end, or to the first line that cannot be carried out, which is told on
   /// `err` as "line N: REASON". Returns the exit status, 0 or 1.

@@ -2,13 +2,15 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <utility>
 
+#include "muxhost/texts/languages.h"
 #include "muxhost/window/main_window.h"
 #include "quorvel/widget_page.h"
 
 namespace quorvel::muxhost {
 
-int RunWindow(int argc, char** argv) {
+int RunWindow(int argc, char** argv, std::shared_ptr<const Language> language) {
   const QApplication application(argc, argv);
   QApplication::setApplicationName("muxhost");
   QtPlatform platform;
@@ -22,6 +24,7 @@ int RunWindow(int argc, char** argv) {
     });
     timer->start(milliseconds);
   });
+  Speak(platform, session, std::move(language));
   MainWindow window(platform, session);
   window.show();
   return QApplication::exec();
