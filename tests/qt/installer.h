@@ -30,14 +30,13 @@ inline constexpr Device kFamilies[] = {{16, 0, '4'}, {10, 1, '1'}, {16, 2, 'A'},
 /// A control with the settings of a device, whose editors are opened on screen through its menu.
 class Installer : public QtPlatform, private MainMenuEvents {
  public:
-  using Lengthen = std::string (*)(std::string);
-
-  explicit Installer(const Device& device, Lengthen texts = nullptr) : control_(*this, *this) {
+  /// `texts` answers for the component's texts; none: they are English.
+  explicit Installer(const Device& device, const TextSource::Answer& texts = nullptr)
+      : control_(*this, *this) {
     constexpr Byte kBlocks = 225;  // with which a device has all that its model can have
     constexpr std::int16_t kTextSource = 191;
-    RegisterTexts(Classes(), "Texts",
-                  [texts](int id) { return texts(std::string(BuiltInText(id))); });
-    if (texts != nullptr) control_.CustomWithString(kTextSource, 0, 0, "Texts");
+    if (texts) RegisterTexts(Classes(), "Texts", texts);
+    if (texts) control_.CustomWithString(kTextSource, 0, 0, "Texts");
     BlockImage image = LoadDefaultImage(401);
     image.ResizeBlocks(kBlocks);
     image.Block(1)[kBlockCountByte] = kBlocks;

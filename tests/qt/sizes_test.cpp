@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <memory>
 
+#include "muxhost/texts/built_in_languages.h"
+#include "muxhost/texts/language.h"
 #include "tests/qt/installer.h"
 #include "tests/qt/keyboard_walk.h"
 #include "tests/qt/on_screen.h"
@@ -206,6 +208,19 @@ class QtSizes : public ::testing::Test {
     EXPECT_EQ(std::ranges::count(tabs->Pages(), true, &Page::visible), std::ssize(seen));
   }
 
+  /// Every editor of a device, with texts of its own; returns how many there are.
+  static int CheckEditors(const Device& device, const TextSource::Answer& texts) {
+    Installer installer(device, texts);
+    const auto items = installer.Items();
+    for (const std::string& item : items) {
+      SCOPED_TRACE(item);
+      Dialog& editor = installer.Open(item);
+      CheckByKeyboard(editor, *installer.WindowOf(editor));
+      editor.CloseWindow();
+    }
+    return static_cast<int>(items.size());
+  }
+
   /// Every page of a window.
   void Check(const std::shared_ptr<Dialog>& dialog) {
     for (Widget* const widget : dialog->Widgets()) {
@@ -252,17 +267,23 @@ TEST_F(QtSizes, EveryEditorFitsAndIsWorkedByKeyboard) {
       const bool longer = (larger == 1.5) == (device.code < 6);
       SCOPED_TRACE(testing::Message() << larger << " model " << int{device.code} << device.variant
                                       << (longer ? " long texts" : ""));
-      Installer installer(device, longer ? &EveryKind::HalfAgain : &EveryKind::AsIs);
-      for (const std::string& item : installer.Items()) {
-        SCOPED_TRACE(item);
-        Dialog& editor = installer.Open(item);
-        CheckByKeyboard(editor, *installer.WindowOf(editor));
-        ++editors;
-        editor.CloseWindow();
-      }
+      editors += CheckEditors(device, [longer](int id) {
+        std::string text(BuiltInText(id));
+        return longer ? EveryKind::HalfAgain(text) : text;
+      });
     }
   }
   EXPECT_GE(editors, 2 * 3 * static_cast<int>(std::size(kFamilies)));
+}
+
+TEST_F(QtSizes, EveryEditorFitsInEveryLanguage) {
+  for (const auto& [code, json] : muxhost::BuiltInLanguages()) {
+    const muxhost::Language language = muxhost::ReadLanguage(json);
+    for (const Device& device : kFamilies) {
+      SCOPED_TRACE(testing::Message() << code << " model " << int{device.code} << device.variant);
+      CheckEditors(device, [&language](int id) { return language.texts.at(id); });
+    }
+  }
 }
 
 TEST_F(QtSizes, AWarningMovesNothing) {
@@ -314,7 +335,7 @@ TEST_F(QtSizes, NothingClipsOnScaledScreens) {
     again.setProcessEnvironment(environment);
     again.setProcessChannelMode(QProcess::MergedChannels);
     again.start(QApplication::applicationFilePath(),
-                {"--gtest_filter=QtSizes.*Length*:QtSizes.EveryEditor*"});
+                {"--gtest_filter=QtSizes.*Length*:QtSizes.EveryEditorFitsAnd*"});
     EXPECT_TRUE(again.waitForFinished(-1));
     EXPECT_TRUE(again.exitStatus() == QProcess::NormalExit && again.exitCode() == 0)
         << scale << "\n"
