@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 
+#include "muxhost/gallery/texts.h"
 #include "muxhost/gallery/tour.h"
 #include "quorvel/qt_platform.h"
 #include "tests/qt/drawn_as_told.h"
@@ -55,7 +56,7 @@ TEST(QtWidgetPage, HasEveryKindAndDrawingChangesNoModel) {
 TEST(QtGallery, HasEveryPageOfWhatTheMenuOpens) {
   const QTemporaryDir folder;
   Album album(folder.path());
-  Tour(album, {.model = 14, .cameras = 9}, true).Go();
+  Tour(album, {.model = 14, .cameras = 9}, LongTexts(nullptr)).Go();
   const QStringList taken = QDir(folder.path()).entryList(QDir::Files);
   for (const char* const name :
        {"frm_Alarm-1", "frm_CameraSetup-1", "frm_CameraSetup-3", "frm_ToMux-3", "frm_ULFrMux-2",
