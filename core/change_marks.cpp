@@ -94,6 +94,21 @@ void RaiseChangeMarks(int number, std::span<const Byte, kBlockSize> taken,
   mark->store(rec, bits);
 }
 
+void RenewChangeMark(int number, std::span<const Byte, kBlockSize> device,
+                     std::span<const Byte, kBlockSize> now, const MuxData& device_rec,
+                     BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
+                     MuxData& rec) {
+  const auto mark = std::ranges::find(kMarks, number, &ChangeMark::block);
+  if (mark == kMarks.end() || !Has(env.identity, *mark)) return;
+  const Byte of_device = mark->read(device_rec);
+  const bool same = std::ranges::equal(device.subspan(mark->first, mark->count),
+                                       now.subspan(mark->first, mark->count));
+  if (same && of_device == mark->rest) return Rest(*mark, image, array, rec);
+  if (!same && number == kClockBlock) return;
+  mark->store(rec, of_device);
+  if (!same) RaiseChangeMarks(number, device, now, rec);
+}
+
 void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
                       MuxData& rec) {
   for (const ChangeMark& mark : kMarks) {

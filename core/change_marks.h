@@ -37,6 +37,13 @@ void RaiseChangeMark(int number, int at, const Identity& id, MuxData& rec);
 void RaiseChangeMarks(int number, std::span<const Byte, kBlockSize> taken,
                       std::span<const Byte, kBlockSize> now, MuxData& rec);
 
+/// Something in block `number` was set again as the device has it in `device`: the mark of `rec`
+/// tells no more than what is another in `now`; where nothing is, it is that of `device_rec`.
+void RenewChangeMark(int number, std::span<const Byte, kBlockSize> device,
+                     std::span<const Byte, kBlockSize> now, const MuxData& device_rec,
+                     BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
+                     MuxData& rec);
+
 /// The list of modified blocks has been cleared: all marks go to rest.
 void ClearChangeMarks(BlockImage& image, CombinedArray& array, const RecordEnvironment& env,
                       MuxData& rec);

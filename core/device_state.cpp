@@ -13,6 +13,11 @@ namespace {
 constexpr int kClockBlock = 61;
 }
 
+DecodedImage::DecodedImage(BlockImage the_image) : image(std::move(the_image)) {
+  DecodeImage(image, env, record);
+  EncodeImage(image, env, record);
+}
+
 MuxData& DeviceState::Record() {
   if (record_ == nullptr) record_ = std::make_unique<MuxData>(env);
   return *record_;
@@ -21,6 +26,7 @@ MuxData& DeviceState::Record() {
 void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray array, StepName step) {
   const Identity present = env.identity;
   auto fresh = std::make_unique<MuxData>(env);
+  auto arrived = std::make_shared<const BlockImage>(image);
   std::optional<Holdings> before;
   if (HasImage() && source != ImageSource::kDevice) {
     before = Present();
@@ -36,6 +42,7 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
     throw;
   }
   record_ = std::move(fresh);
+  arrived_ = std::move(arrived);
   BlkImage = std::move(image);
   ComboArray = std::move(array);
   LoadedFromFile =
@@ -50,6 +57,7 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   }
   history_.Clear();
   taken_.clear();
+  device_image_ = source == ImageSource::kDevice ? arrived_ : nullptr;
 }
 
 void DeviceState::TakePcTime() {
@@ -86,6 +94,7 @@ Holdings DeviceState::Present() {
                     UsePcTime,
                     image_number_};
   *holdings.record = Record();
+  holdings.arrived = arrived_;
   return holdings;
 }
 
@@ -111,6 +120,7 @@ void DeviceState::PutBack(Holdings holdings) noexcept {
   // An editor that opened on the other image must not write into this one.
   if (image_number_ != std::exchange(image_number_, holdings.image_number)) ++generation_;
   source_ = holdings.source;
+  arrived_ = std::move(holdings.arrived);
 }
 
 bool DeviceState::Undo() { return GoTo(history_.Back(Present())); }
@@ -138,26 +148,21 @@ void DeviceState::CompareWithTaken() noexcept {
   }
 }
 
-/// Bits that carry no setting, such as those of cameras that the model lacks, do not count: what
-/// the device has taken is read and encoded like what the control holds.
-BlockImage DeviceState::ImageOfDevice() {
-  BlockImage image = BlkImage;
+void DeviceState::PutTaken(BlockImage& image) const {
   for (const auto& [number, taken] : taken_) {
     if (!IsDeviceBlock(number) && image.Counts(number)) {
       std::ranges::copy(taken, image.Block(number).begin());
     }
   }
-  RecordEnvironment device_env;
-  const auto record = std::make_unique<MuxData>(device_env);
-  DecodeImage(image, device_env, *record);
-  EncodeImage(image, device_env, *record);
-  return image;
 }
 
 void DeviceState::ListWhatDiffers() {
   if (taken_.empty()) return;
   const BlockImage now = EncodedImage();
-  const BlockImage device = ImageOfDevice();
+  BlockImage taken_image = BlkImage;
+  PutTaken(taken_image);
+  const auto decoded = std::make_unique<DecodedImage>(std::move(taken_image));
+  const BlockImage& device = decoded->image;
   for (const auto& [number, taken] : taken_) {
     if (IsDeviceBlock(number) || !now.Counts(number)) continue;
     if (DeviceHasBlock(number, device.Block(number), now.Block(number), env.identity)) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <utility>
@@ -15,6 +16,20 @@
 #include "quorvel/combined_array.h"
 
 namespace quorvel {
+
+/// An image that was decoded by itself. The image is encoded again, so that bits which carry no
+/// setting, such as those of cameras that the model lacks, are those of every other encoded one.
+struct DecodedImage {
+  /// Throws ImageError when it cannot be decoded.
+  explicit DecodedImage(BlockImage the_image);
+  DecodedImage(const DecodedImage&) = delete;
+  DecodedImage& operator=(const DecodedImage&) = delete;
+  ~DecodedImage() = default;
+
+  BlockImage image;
+  RecordEnvironment env;
+  MuxData record{env};
+};
 
 /// What a control holds of its device: the image, the record that was decoded from it, and what is
 /// listed of it as modified.
@@ -80,6 +95,16 @@ class DeviceState {
   /// Brings the list and the change marks in line with what the device has taken.
   void CompareWithTaken() noexcept;
 
+  /// What the device holds as far as is known: its image as it came, with what it has taken since.
+  /// Where it has given none, or one of another model or size than the present image, the present
+  /// image as it came. Only where there is an image.
+  [[nodiscard]] std::unique_ptr<DecodedImage> OfDevice() const;
+  /// Sets settings as `stored` says (see SetStored), as one step. Of the blocks that carry them,
+  /// those in which nothing differs from the device any more leave the list; where nothing differs
+  /// at all, every block does. False, and no change, when one of them cannot be set.
+  [[nodiscard]] bool TakeBack(StepName name, std::span<const std::string> settings,
+                              std::span<const std::string> stored);
+
   /// Lists the clock's block, lets the device take it, and has it carry the computer's time, taken
   /// when the block is built.
   void TakePcTime();
@@ -96,8 +121,10 @@ class DeviceState {
   void PutBack(Holdings holdings) noexcept;
   bool GoTo(std::optional<Holdings> there);
   void ListWhatDiffers();
-  /// The blocks that the device would give after what it has taken, as the record encodes them.
-  [[nodiscard]] BlockImage ImageOfDevice();
+  /// Puts the blocks that the device has taken into an image.
+  void PutTaken(BlockImage& image) const;
+  /// Takes those of `blocks` off the list that the device has as they are.
+  void UnlistWhatDeviceHas(const std::set<Byte>& blocks);
 
   struct Flags {
     bool loaded_from_file;
@@ -111,6 +138,8 @@ class DeviceState {
   ImageSource source_ = ImageSource::kDevice;
   std::optional<Flags> kept_flags_;
   std::unique_ptr<MuxData> record_;
+  std::shared_ptr<const BlockImage> arrived_;       ///< the present image as it came
+  std::shared_ptr<const BlockImage> device_image_;  ///< the device's own, if it has given one
   int generation_ = 0;
 };
 

@@ -37,6 +37,7 @@ struct Holdings {
   bool use_pc_time = false;
   int image_number = 0;  ///< which of the images that have arrived it is
   ImageSource source = ImageSource::kDevice;
+  std::shared_ptr<const BlockImage> arrived = nullptr;  ///< the image as it came
 };
 
 /// What a step is called: a text, or the id of one of the catalogue.

@@ -264,6 +264,62 @@ SetAnswer SetSetting(const Configuration& of, RecordEnvironment& env, std::strin
 
 namespace {
 
+std::optional<int> WholeNumber(std::string_view digits) {
+  int number = 0;
+  const char* const last = digits.data() + digits.size();
+  const auto [end, error] = std::from_chars(digits.data(), last, number);
+  return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
+}
+
+/// Sets what is at `slot` as `stored` says, of a number the bits of `mask` alone.
+SetAnswer StoreAgain(const Slot& slot, AnySetting& setting, std::string_view stored, int mask) {
+  const layout::SettingValue held = setting.Holds();
+  if (setting.Type() == SettingType::kText) {
+    if (stored.size() > static_cast<std::size_t>(slot.length)) return SetAnswer::kNotAValue;
+    if (stored == held.text) return SetAnswer::kUnchanged;
+    setting.SetText(stored);
+    return SetAnswer::kSet;
+  }
+  const auto wanted = WholeNumber(stored);
+  if (!wanted) return SetAnswer::kNotAValue;
+  const int number = (held.number & ~mask) | (*wanted & mask);
+  if (!slot.storable.Holds(number)) return SetAnswer::kNotAValue;
+  if (number == held.number) return SetAnswer::kUnchanged;
+  setting.SetNumber(number);
+  return SetAnswer::kSet;
+}
+
+}  // namespace
+
+bool SetStored(const Configuration& of, RecordEnvironment& env, std::string_view name,
+               std::string_view stored, std::set<Byte>& blocks) {
+  constexpr std::string_view kBit = " bit ";
+  constexpr int kWhole = -1;
+  int mask = kWhole;
+  std::string shifted;
+  if (const auto at = name.find(kBit); at != std::string_view::npos) {
+    const auto bit = WholeNumber(name.substr(at + kBit.size()));
+    const auto value = WholeNumber(stored);
+    if (!bit || *bit < 0 || *bit > 7 || !value) return false;
+    mask = 1 << *bit;
+    shifted = std::to_string(*value << *bit);
+    stored = shifted;
+    name = name.substr(0, at);
+  }
+  std::optional<SetAnswer> answer;
+  SeekWritten(of, name, [&](const Slot& slot, AnySetting& setting) {
+    const AllFlagsRaised tracked(env.commit);
+    if (!answer) answer = StoreAgain(slot, setting, stored, mask);
+    blocks.insert(static_cast<Byte>(slot.block));
+    if (answer != SetAnswer::kSet) return;
+    of.rec.MarkModified(slot.block);
+    RaiseChangeMark(slot.block, slot.at, of.id, of.rec);
+  });
+  return answer == SetAnswer::kSet || answer == SetAnswer::kUnchanged;
+}
+
+namespace {
+
 /// Collects the settings that hold what they cannot have. Those that can have whatever their place
 /// holds are not looked at.
 class UnallowedCollector : public layout::SettingVisitor<UnallowedCollector> {

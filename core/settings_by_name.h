@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,13 @@ namespace quorvel {
 /// Case does not matter but in texts.
 SetAnswer SetSetting(const Configuration& of, RecordEnvironment& env, std::string_view name,
                      std::string_view value);
+
+/// Sets it to what another configuration of the device holds, in StoredForm, also where no editor
+/// could make it so; the bit N of a mask where the name ends with " bit N". Lists and marks as
+/// SetSetting does what changes, and adds all blocks that carry it to `blocks`. False when it
+/// cannot be set.
+[[nodiscard]] bool SetStored(const Configuration& of, RecordEnvironment& env, std::string_view name,
+                             std::string_view stored, std::set<Byte>& blocks);
 
 /// The settings that hold what they cannot have, in block order.
 [[nodiscard]] std::vector<SettingFinding> FindUnallowed(const Configuration& of);

@@ -16,10 +16,12 @@
 #include "host/upload.h"
 #include "quorvel/control_surface.h"
 #include "quorvel/property_bag.h"
+#include "quorvel/review.h"
 #include "quorvel/settings.h"
 #include "quorvel/transfer.h"
 #include "ui/context.h"
 #include "ui/menu/frm_menu.h"
+#include "ui/review/reviewer.h"
 #include "ui/widgets/failure.h"
 
 namespace quorvel {
@@ -64,6 +66,11 @@ class Component : public std::enable_shared_from_this<Component> {
   [[nodiscard]] bool Undo() { return GoAStep(&DeviceState::Undo); }
   [[nodiscard]] bool Redo() { return GoAStep(&DeviceState::Redo); }
   [[nodiscard]] std::string TextOf(const StepName& step);
+  [[nodiscard]] std::vector<ReviewLine> Review();
+  [[nodiscard]] FileReview Review(std::span<const Byte> file);
+  [[nodiscard]] std::vector<SettingRow> AllSettings();
+  [[nodiscard]] bool TakeBack(const ReviewLine& line);
+  [[nodiscard]] bool OpenAt(const SettingPosition& position);
   void Observe(TransferObserver* observer) { host_.Observe(observer); }
   [[nodiscard]] bool StartReceive();
   [[nodiscard]] bool StartSend(const SendChoice& choice);
@@ -89,6 +96,7 @@ class Component : public std::enable_shared_from_this<Component> {
   Download download_;
   std::shared_ptr<frm_Menu> frmMPop;
   ActivityGridBytes ActGridBuf{};
+  Reviewer reviewer_{context};
 };
 
 }  // namespace quorvel

@@ -146,6 +146,36 @@ std::string MainMenuCtrl::RedoText() const {
   return text;
 }
 
+std::vector<ReviewLine> MainMenuCtrl::Review() {
+  std::vector<ReviewLine> lines;
+  component_->Call("Review", [&, &it = *component_] { lines = it.Review(); });
+  return lines;
+}
+
+FileReview MainMenuCtrl::Review(std::span<const std::uint8_t> file) {
+  FileReview review;
+  component_->Call("Review", [&, &it = *component_] { review = it.Review(file); });
+  return review;
+}
+
+std::vector<SettingRow> MainMenuCtrl::AllSettings() {
+  std::vector<SettingRow> rows;
+  component_->Call("AllSettings", [&, &it = *component_] { rows = it.AllSettings(); });
+  return rows;
+}
+
+bool MainMenuCtrl::TakeBack(const ReviewLine& line) {
+  bool done = false;
+  component_->Call("TakeBack", [&, &it = *component_] { done = it.TakeBack(line); });
+  return done;
+}
+
+bool MainMenuCtrl::OpenAt(const SettingPosition& position) {
+  bool opened = false;
+  component_->Call("OpenAt", [&, &it = *component_] { opened = it.OpenAt(position); });
+  return opened;
+}
+
 void MainMenuCtrl::Refresh() {
   component_->Call("Refresh", [&it = *component_] { it.surface.Repaint(); });
 }

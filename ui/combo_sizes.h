@@ -13,6 +13,7 @@ struct ComboSizes {
   std::uint16_t ComboBlockCount = 0;
   Byte ComboExtraA = 0;  ///< firmware version: A * 100 + B
   Byte ComboExtraB = 0;
+  bool operator==(const ComboSizes&) const = default;
 };
 
 }  // namespace quorvel

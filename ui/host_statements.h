@@ -18,6 +18,8 @@ struct HostStatements {
   std::int16_t MenuParam = 0;  ///< below 1: no network link
   Byte MenuHostCommId = 0;
 
+  bool operator==(const HostStatements&) const = default;
+
   /// How dialog captions name the device.
   [[nodiscard]] const char* CaptionSuffix() const { return HostIsDvr == 1 ? " DVR" : " Plexar"; }
 };

@@ -13,6 +13,7 @@
 #include "quorvel/export.h"
 #include "quorvel/platform.h"
 #include "quorvel/property_bag.h"
+#include "quorvel/review.h"
 #include "quorvel/settings.h"
 #include "quorvel/transfer.h"
 
@@ -137,6 +138,27 @@ class QUORVEL_API MainMenuCtrl {
   /// there is nothing.
   [[nodiscard]] std::string UndoText() const;
   [[nodiscard]] std::string RedoText() const;
+
+  /// What differs from the device, in the words of the editors: from its image as it came, with
+  /// what it has taken since; where it has given none, or another kind of device has, from the
+  /// present image as it came. A line for each control or cell, in the order of the menu, then by
+  /// page, control and line; what no editor shows comes last, in block order, by name and value as
+  /// Settings() tells them. Empty without an image. The texts are asked for while it is made,
+  /// unless they are known.
+  [[nodiscard]] std::vector<ReviewLine> Review();
+  /// What differs from an image or a settings file of the same model. What only one of the two has
+  /// does not count.
+  [[nodiscard]] FileReview Review(std::span<const std::uint8_t> file);
+  /// Every setting that the device has, each control or cell once; what no editor shows comes last.
+  [[nodiscard]] std::vector<SettingRow> AllSettings();
+  /// Sets what stands behind a line as it was, as one step that Undo takes back. A block that is
+  /// again as the device has it is no longer listed as modified, and no mark tells the device of
+  /// it. False when something of it cannot be set, without an image, or while a send is under way.
+  bool TakeBack(const ReviewLine& line);
+  /// Opens the editor in which a setting stands, as the menu does, with its page in front, its cell
+  /// current and the focus in its control. False when the menu would not open it, or the control is
+  /// not to be seen.
+  bool OpenAt(const SettingPosition& position);
 
   /// Draws the surface anew.
   void Refresh();

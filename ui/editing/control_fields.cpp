@@ -223,6 +223,9 @@ class OctetsField final : public Field {
     for (int i = 0; i < boxes_.Count(); ++i)
       octets_.Show(i, opened_.at(static_cast<std::size_t>(i)));
   }
+  [[nodiscard]] std::optional<std::string> OpenedText(int /*line*/) const override {
+    return Dotted(opened_);
+  }
 
  protected:
   void Fill(MuxData& record, int line) override {
@@ -243,7 +246,6 @@ class OctetsField final : public Field {
       setting_.Access().AddNames(record, i, shown.settings);
     }
     shown.control = &boxes_(0);
-    shown.was = Dotted(opened_);
     shown.is = Dotted(Present());
   }
   [[nodiscard]] bool LineDiffers(int /*line*/) const override { return Present() != opened_; }
@@ -279,6 +281,9 @@ class TextsField final : public Field {
     }
   }
   void PutBack(int line) override { At(line).PutBack(); }
+  [[nodiscard]] std::optional<std::string> OpenedText(int line) const override {
+    return At(line).Shown();
+  }
 
  protected:
   void Fill(MuxData& record, int line) override {
@@ -291,7 +296,6 @@ class TextsField final : public Field {
   void Tell(MuxData& record, int line, ShownSetting& shown) const override {
     setting_->AddNames(record, line, shown.settings);
     shown.control = &boxes_(line);
-    shown.was = At(line).Shown();
     shown.is = boxes_(line).Text();
   }
   [[nodiscard]] bool LineDiffers(int line) const override { return At(line).Typed().has_value(); }

@@ -50,6 +50,19 @@ std::vector<ShownSetting> Editor::ShownSettings() const {
   return fields_.Tell(context_.device.Record());
 }
 
+bool Editor::GoTo(std::string_view control, int row, int column) {
+  Widget* const widget = FindWidget(control);
+  if (widget == nullptr) return false;
+  widget->BringToFront();
+  if (!widget->Showing()) return false;
+  auto* const cells = dynamic_cast<Grid*>(widget);
+  const bool has_cell = cells != nullptr && row >= cells->HeaderRows() && row < cells->Rows() &&
+                        column >= 0 && column < cells->Columns();
+  if (has_cell && cells->Press(row, column) != Answer::kDone) return false;
+  MoveFocus(*widget);
+  return true;
+}
+
 bool Editor::BelongsToImage() const { return generation_ == context_.device.ImageGeneration(); }
 
 void Editor::Open(Button& ok, Button& cancel, TabStrip* tabs) {

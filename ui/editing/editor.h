@@ -27,6 +27,11 @@ class Editor : public Dialog, public EditorPart {
   /// What the editor shows, in the order in which it is written. The reference stays valid as long
   /// as the editor; a record that was replaced meanwhile is asked for names only.
   [[nodiscard]] std::vector<ShownSetting> ShownSettings() const;
+  /// The same lines, to be asked one by one; valid as long as the editor.
+  [[nodiscard]] std::vector<FieldLine> FieldLines() const { return fields_.Lines(); }
+  /// Brings a control into view and sends the keyboard focus there; of a grid, to a cell, whose
+  /// control beside it shows it. False when it is not to be seen.
+  bool GoTo(std::string_view control, int row, int column);
   /// Whether anything differs from when the editor opened.
   [[nodiscard]] bool Differs() const { return fields_.Differ(); }
 

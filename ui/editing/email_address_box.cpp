@@ -89,7 +89,6 @@ void EmailAddressField::Tell(MuxData& /*record*/, int /*line*/, ShownSetting& sh
     shown.settings.push_back("AlmEmailNotify.BlkStrInit(" + std::to_string(block) + ")");
   }
   shown.control = &box_;
-  shown.was = text_.Shown();
   shown.is = box_.Text();
 }
 

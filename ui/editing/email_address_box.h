@@ -22,6 +22,9 @@ class EmailAddressField : public Field {
   EmailAddressField(Editor& editor, const Context& context, int address, TextBox& box,
                     Label& warning);
   void PutBack(int /*line*/) override { text_.PutBack(); }
+  [[nodiscard]] std::optional<std::string> OpenedText(int /*line*/) const override {
+    return half_stored_ ? std::nullopt : std::optional(text_.Shown());
+  }
 
  protected:
   void Fill(MuxData& record, int line) override;

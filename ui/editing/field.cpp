@@ -34,6 +34,7 @@ void Field::TellLine(MuxData& record, int line, std::vector<ShownSetting>& told)
   if (!exists_) return;
   ShownSetting shown;
   Tell(record, line, shown);
+  shown.was = OpenedText(line).value_or("");
   shown.differs = LineDiffers(line);
   shown.page = shown.control->PageCaption();
   if (shown.caption.empty()) shown.caption = shown.control->SpokenName();
@@ -88,11 +89,17 @@ void ValueField::Write(MuxData& record, int line) {
 void ValueField::Tell(MuxData& record, int line, ShownSetting& shown) const {
   setting_.Access().AddNames(record, line, shown.settings);
   shown.control = &ControlOf(line);
-  shown.was = TextOf(Opened(line));
   const int standing = Standing(line);
   shown.is = TextOf(standing);
   if (Offers(standing)) shown.value = standing;
   TellPlace(line, shown);
+}
+
+std::optional<std::string> ValueField::OpenedText(int line) const {
+  const int opened = Opened(line);
+  std::string text = TextOf(opened);
+  if (text.empty() && HasLine(line) && !Offers(opened)) return std::nullopt;
+  return text;
 }
 
 bool ValueField::LineDiffers(int line) const { return Standing(line) != Opened(line); }

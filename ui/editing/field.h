@@ -30,6 +30,14 @@ struct ShownSetting {
   bool differs = false;  ///< from when the editor opened
 };
 
+class Field;
+
+/// One line of a field.
+struct FieldLine {
+  const Field* field;
+  int line;
+};
+
 /// A control, or a column of a grid, bound to a setting: one description that fills the control and
 /// writes the setting. Lines are 0-based; a control that is no array has one.
 class Field {
@@ -55,12 +63,16 @@ class Field {
   virtual void PutBack(int line) = 0;
   /// Appends what it shows of a line.
   void TellLine(MuxData& record, int line, std::vector<ShownSetting>& told) const;
+  /// How a line read when it was filled; nothing where it was blank because its control has no
+  /// words for what the setting holds.
+  [[nodiscard]] virtual std::optional<std::string> OpenedText(int line) const = 0;
   [[nodiscard]] bool Differs(int line) const { return exists_ && LineDiffers(line); }
+  [[nodiscard]] bool Exists() const { return exists_; }
 
  protected:
   virtual void Fill(MuxData& record, int line) = 0;
   virtual void Write(MuxData& record, int line) = 0;
-  /// Names, control, texts and value; the rest is added.
+  /// Names, control, present text and value; the rest is added.
   virtual void Tell(MuxData& record, int line, ShownSetting& shown) const = 0;
   [[nodiscard]] virtual bool LineDiffers(int line) const = 0;
 
@@ -77,6 +89,7 @@ class ValueField : public Field {
  public:
   static constexpr int kNone = Choices::kNone;
   void PutBack(int line) override { Show(line, Opened(line)); }
+  [[nodiscard]] std::optional<std::string> OpenedText(int line) const override;
 
  protected:
   explicit ValueField(SettingRef setting) : setting_(std::move(setting)) {}

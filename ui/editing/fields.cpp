@@ -49,6 +49,14 @@ void FieldGroup::Tell(MuxData& record, std::vector<ShownSetting>& told) const {
   }
 }
 
+void FieldGroup::List(std::vector<FieldLine>& lines) const {
+  for (int line = 0; line < lines_; ++line) {
+    for (const auto& field : fields_) {
+      if (field->Exists()) lines.push_back({field.get(), line});
+    }
+  }
+}
+
 bool FieldGroup::Differs() const {
   for (int line = 0; line < lines_; ++line) {
     const auto differs = [line](const auto& field) { return field->Differs(line); };
@@ -69,6 +77,12 @@ std::vector<ShownSetting> Fields::Tell(MuxData& record) const {
   std::vector<ShownSetting> told;
   for (const FieldGroup& group : groups_) group.Tell(record, told);
   return told;
+}
+
+std::vector<FieldLine> Fields::Lines() const {
+  std::vector<FieldLine> lines;
+  for (const FieldGroup& group : groups_) group.List(lines);
+  return lines;
 }
 
 bool Fields::Differ() const {

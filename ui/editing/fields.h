@@ -65,6 +65,8 @@ class FieldGroup {
   void Fill(MuxData& record);
   void Write(MuxData& record, CommitFlags& flags);
   void Tell(MuxData& record, std::vector<ShownSetting>& told) const;
+  /// Appends the lines of its fields, in the order in which they are told.
+  void List(std::vector<FieldLine>& lines) const;
   [[nodiscard]] bool Differs() const;
 
  private:
@@ -88,6 +90,7 @@ class Fields {
   void Fill(MuxData& record);
   void Write(MuxData& record, CommitFlags& flags);
   [[nodiscard]] std::vector<ShownSetting> Tell(MuxData& record) const;
+  [[nodiscard]] std::vector<FieldLine> Lines() const;
   [[nodiscard]] bool Differ() const;
 
  private:

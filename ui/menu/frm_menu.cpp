@@ -140,27 +140,7 @@ void frm_Menu::SetTicks() {
 }
 
 void frm_Menu::SetUpForModel() {
-  const Identity& id = context_.device.env.identity;
-  const char variant = static_cast<char>(id.VariantChar);
-  if (id.IsMultiplexer()) {
-    const bool basic = variant == 'A' || variant == 'C';
-    HideItem("mnu_VArchive");
-    if (basic) HideItem("mnu_Macro");
-    if (basic || variant == '0' || (variant == '2' && id.RecorderKind != 2)) {
-      HideItem("mnu_Telemetry");
-    }
-    return;
-  }
-  HideItem("mnuVCR");
-  if (id.ModelCode == 4 || id.ModelCode == 5) HideItem("mnu_VArchive");
-  if (id.IsTriplex() && id.LiteRecordModel) {
-    HideItem("mnu_Sequence");
-    if (id.Model4L) {
-      HideItem("mnu_VArchive");
-      HideItem("mnu_Macro");
-    }
-  }
-  if (variant == 'C' || variant == '0') HideItem("mnu_Telemetry");
+  for (const std::string_view item : HiddenItems(context_.device.env.identity)) HideItem(item);
 }
 
 void frm_Menu::SetUpCaptions() {
@@ -203,6 +183,21 @@ void frm_Menu::OpenEditor(std::string_view item) {
     return;
   }
   Show(place);
+}
+
+std::shared_ptr<Editor> frm_Menu::Open(std::string_view item) {
+  const auto keep = shared_from_this();  // a text source may unload it meanwhile
+  if (unloaded_) return nullptr;
+  if (generation_ != context_.device.ImageGeneration()) Build();
+  const MenuEditor* const editor = EditorOf(item, context_.device.env.identity);
+  if (unloaded_ || editor == nullptr) return nullptr;
+  const MenuItem& it = menu_->Item(item);
+  if (!it.visible || !it.enabled) return nullptr;
+  if (tmPopup != nullptr) tmPopup->Stop();
+  context_.platform.TakeDown(*menu_);
+  OpenEditor(item);
+  const auto place = open_.find(editor);
+  return place == open_.end() ? nullptr : std::dynamic_pointer_cast<Editor>(place->second);
 }
 
 void frm_Menu::Show(std::shared_ptr<Dialog>& place) {

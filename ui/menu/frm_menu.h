@@ -26,6 +26,11 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   /// Sets the items up for the model and the host, and starts the timer that pops the menu up. A
   /// menu whose image has been replaced chooses nothing; that of the present one pops up next.
   void Load();
+  /// Sets the items up without popping the menu up.
+  void LoadUnseen() { Build(); }
+  /// Opens the editor of an item as a choice of it does, or brings it to the front; a null pointer
+  /// where the menu would not.
+  [[nodiscard]] std::shared_ptr<Editor> Open(std::string_view item);
   /// Takes menu and editors off the screen; what an open editor holds is discarded as by Cancel.
   void Unload();
 

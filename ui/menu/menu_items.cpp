@@ -61,6 +61,31 @@ std::string_view LanguageItem(int code) {
   return kLanguageItems.at(static_cast<std::size_t>(code));
 }
 
+std::vector<std::string_view> HiddenItems(const Identity& device) {
+  std::vector<std::string_view> hidden;
+  const char variant = static_cast<char>(device.VariantChar);
+  if (device.IsMultiplexer()) {
+    const bool basic = variant == 'A' || variant == 'C';
+    hidden.push_back("mnu_VArchive");
+    if (basic) hidden.push_back("mnu_Macro");
+    if (basic || variant == '0' || (variant == '2' && device.RecorderKind != 2)) {
+      hidden.push_back("mnu_Telemetry");
+    }
+    return hidden;
+  }
+  hidden.push_back("mnuVCR");
+  if (device.ModelCode == 4 || device.ModelCode == 5) hidden.push_back("mnu_VArchive");
+  if (device.IsTriplex() && device.LiteRecordModel) {
+    hidden.push_back("mnu_Sequence");
+    if (device.Model4L) {
+      hidden.push_back("mnu_VArchive");
+      hidden.push_back("mnu_Macro");
+    }
+  }
+  if (variant == 'C' || variant == '0') hidden.push_back("mnu_Telemetry");
+  return hidden;
+}
+
 void DisableItemsWithoutAction(MenuItem& item) {
   for (MenuItem& child : item.children) {
     if (!child.children.empty()) {

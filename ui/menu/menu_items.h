@@ -2,7 +2,9 @@
 
 #include <array>
 #include <string_view>
+#include <vector>
 
+#include "quorvel/identity.h"
 #include "quorvel/widgets.h"
 #include "resources/text_table.h"
 
@@ -40,6 +42,9 @@ inline constexpr std::array kItemTexts = {ItemText{"mnu_Alarm", txt::kAlarms},
 /// Languages of the device; a language's code is its place in the submenu, 0 to 12.
 inline constexpr int kLanguages = 13;
 [[nodiscard]] std::string_view LanguageItem(int code);
+
+/// The items that a menu hides because the device lacks what they open.
+[[nodiscard]] std::vector<std::string_view> HiddenItems(const Identity& device);
 
 /// Disables every item below `item` that neither acts nor opens a submenu.
 void DisableItemsWithoutAction(MenuItem& item);

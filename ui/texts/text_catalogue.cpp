@@ -1,5 +1,7 @@
 #include "ui/texts/text_catalogue.h"
 
+#include <utility>
+
 #include "resources/text_table.h"
 
 namespace quorvel {
@@ -73,7 +75,18 @@ ObjStr::ObjStr(const TextCatalogue& texts)
       objstFWarn(texts.GetText(txt::kFirstDownloadOrRestore)),
       objstMesg(texts.GetText(txt::kMessage)) {}
 
+void TextCatalogue::Follow(TextCatalogue& other, std::shared_ptr<KnownTexts> known) {
+  followed_ = &other;
+  known_ = std::move(known);
+}
+
 std::string TextCatalogue::GetText(int id) const {
+  if (followed_ != nullptr) {
+    const auto found = known_->find(id);
+    if (found != known_->end()) return found->second;
+    std::string text = followed_->GetText(id);
+    return known_->insert_or_assign(id, std::move(text)).first->second;
+  }
   if (const auto source = source_) {  // a text source may install another one meanwhile
     try {
       std::string text = source->Call("getresourcestring", id);
@@ -90,6 +103,7 @@ bool TextCatalogue::CreateTextSource(const ClassFactory& classes, std::string_vi
     auto source = classes.Create(class_id);
     if (source == nullptr) return false;
     source_ = std::move(source);
+    ++source_number_;
     return true;
   } catch (...) {  // the host does not offer the class, or it cannot be made
     return false;
@@ -97,6 +111,7 @@ bool TextCatalogue::CreateTextSource(const ClassFactory& classes, std::string_vi
 }
 
 void TextCatalogue::CreateCatalogues() {
+  if (followed_ != nullptr) return followed_->CreateCatalogues();
   // A text source may call back and have the catalogues created meanwhile; the first ones stay.
   if (constants_ == nullptr) {
     auto constants = std::make_unique<GlobalCnst>(*this);
@@ -109,11 +124,13 @@ void TextCatalogue::CreateCatalogues() {
 }
 
 const GlobalCnst& TextCatalogue::Constants() {
+  if (followed_ != nullptr) return followed_->Constants();
   CreateCatalogues();
   return *constants_;
 }
 
 const ObjStr& TextCatalogue::Objects() {
+  if (followed_ != nullptr) return followed_->Objects();
   CreateCatalogues();
   return *objects_;
 }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "quorvel/class_factory.h"
 
@@ -58,6 +59,13 @@ class TextCatalogue {
   /// then the present source stays.
   bool CreateTextSource(const ClassFactory& classes, std::string_view class_id);
 
+  /// Texts that were asked for, by id.
+  using KnownTexts = std::unordered_map<int, std::string>;
+  /// Gives the texts of `other`, which outlives this one, and asks it for none that `known` holds.
+  void Follow(TextCatalogue& other, std::shared_ptr<KnownTexts> known);
+  /// Counts the text sources that were installed.
+  [[nodiscard]] int SourceNumber() const { return source_number_; }
+
   /// Creates the two catalogues of ready-made texts, if they are not there yet.
   void CreateCatalogues();
   /// The catalogues, created when they are missing.
@@ -66,6 +74,9 @@ class TextCatalogue {
 
  private:
   std::shared_ptr<AutomationObject> source_;
+  int source_number_ = 0;
+  TextCatalogue* followed_ = nullptr;
+  std::shared_ptr<KnownTexts> known_;
   std::unique_ptr<GlobalCnst> constants_;
   std::unique_ptr<ObjStr> objects_;
 };

@@ -62,6 +62,7 @@ constexpr Command kCommands[] = {
     {"describe [PATTERN]", 0, 1, commands::DescribeThem},
     {"check", 0, 0, commands::Check},
     {"diff [FILE]", 0, 1, commands::Diff},
+    {"review [FILE | take-back N | open N]", 0, 2, commands::Review},
     {"block N", 1, 1, commands::DeviceBlock},
     {"image N", 1, 1, commands::ImageBlock},
     {"events", 0, 0, commands::Events},

@@ -61,6 +61,7 @@ void SetSetting(Desk& desk, Words words);
 void DescribeThem(Desk& desk, Words words);
 void Check(Desk& desk, Words words);
 void Diff(Desk& desk, Words words);
+void Review(Desk& desk, Words words);
 void DeviceBlock(Desk& desk, Words words);
 void ImageBlock(Desk& desk, Words words);
 void Events(Desk& desk, Words words);

@@ -50,6 +50,8 @@ struct Desk {
   HostSession session;
   /// Message boxes shown since the script last asked.
   std::vector<Message> messages;
+  /// What `review` has shown last.
+  std::vector<ReviewLine> review;
   /// Works the modal dialog of the running command; without one, the script's next lines do.
   Attendant* attendant = nullptr;
   /// What the attendant failed at; it cannot be thrown through the control.

@@ -1,0 +1,120 @@
+#include "ui/review/entry_words.h"
+
+#include <algorithm>
+#include <cctype>
+#include <optional>
+#include <set>
+
+#include "ui/context.h"
+
+namespace quorvel {
+
+namespace {
+
+bool IsBareNumber(std::string_view text) {
+  return !text.empty() && std::ranges::all_of(text, [](char it) {
+    return std::isdigit(static_cast<unsigned char>(it)) != 0;
+  });
+}
+
+int BitOf(const layout::SettingValue& value, int bit) { return value.number >> bit & 1; }
+
+/// How the controls of a side show an entry; nothing where they have no words for it.
+std::optional<std::string> ShownOn(const Side& side, const MapEntry& entry) {
+  const auto& lines = side.editors->Lines();
+  if (entry.line >= lines.size()) return std::nullopt;
+  const FieldLine& line = lines[entry.line];
+  return line.field->OpenedText(line.line);
+}
+
+}  // namespace
+
+bool Differ(const Side& one, const Side& other, std::size_t setting, int mask) {
+  const auto lacks = [setting](const Side& side) {
+    return !side.lacks.empty() && side.lacks.at(setting);
+  };
+  const layout::SettingValue& a = one.values.at(setting);
+  const layout::SettingValue& b = other.values.at(setting);
+  return !(a == b) && (a.text != b.text || ((a.number ^ b.number) & mask) != 0) && !lacks(one) &&
+         !lacks(other);
+}
+
+bool Differ(const Side& one, const Side& other, const MapEntry::Part& part) {
+  return Differ(one, other, part.setting, part.bit < 0 ? -1 : 1 << part.bit);
+}
+
+bool Differ(const Side& one, const Side& other, const MapEntry& entry) {
+  return std::ranges::any_of(entry.parts,
+                             [&](const auto& part) { return Differ(one, other, part); });
+}
+
+std::vector<std::string> StoredIn(const MapEntry& entry, const Side& side) {
+  std::vector<std::string> stored;
+  for (const MapEntry::Part& part : entry.parts) {
+    const layout::SettingValue& value = side.values.at(part.setting);
+    stored.push_back(part.bit < 0 ? StoredForm(value) : std::to_string(BitOf(value, part.bit)));
+  }
+  return stored;
+}
+
+std::vector<Byte> BlocksOf(const MapEntry& entry, const SettingList& settings, const Side& side,
+                           const Side* other) {
+  std::set<Byte> blocks;
+  for (const MapEntry::Part& part : entry.parts) {
+    if (other != nullptr && !Differ(side, *other, part)) continue;
+    const std::vector<Byte>& carriers = settings.At(part.setting).blocks;
+    blocks.insert(carriers.begin(), carriers.end());
+  }
+  return {blocks.begin(), blocks.end()};
+}
+
+EntryWords::EntryWords(const SettingList& settings, Context& context)
+    : settings_(settings),
+      platform_(context.platform),
+      yes_(context.texts.Constants().cnstrYes),
+      no_(context.texts.Constants().cnstrNo) {}
+
+std::string EntryWords::Listed(const MapEntry& entry, const Side& side) {
+  std::string words;
+  for (const MapEntry::Part& part : entry.parts) {
+    const layout::SettingValue& value = side.values.at(part.setting);
+    if (!words.empty()) words += ' ';
+    words += part.bit < 0 ? value.InWords() : std::to_string(BitOf(value, part.bit));
+  }
+  return words;
+}
+
+std::string EntryWords::Of(const MapEntry& entry, const Side& side) const {
+  const auto shown = ShownOn(side, entry);
+  if (!shown) return Listed(entry, side);
+  if (entry.ticks) {
+    const MapEntry::Part& part = entry.parts.front();
+    const layout::SettingValue& value = side.values.at(part.setting);
+    const int ticked = part.bit < 0 ? value.number : BitOf(value, part.bit);
+    return ticked == 0 ? no_ : *shown == "x" ? yes_ : Listed(entry, side);
+  }
+  const bool alone = entry.parts.size() == 1;
+  if (!alone || !IsBareNumber(*shown)) return *shown;
+  return *shown + std::string(settings_.At(entry.parts.front().setting).unit);
+}
+
+std::pair<std::string, std::string> EntryWords::Of(const MapEntry& entry, const Side& one,
+                                                   const Side& other) const {
+  std::pair words{Of(entry, one), Of(entry, other)};
+  if (words.first == words.second) words = {Listed(entry, one), Listed(entry, other)};
+  return words;
+}
+
+SettingPosition EntryWords::Place(const MapEntry& entry, const Side& side) const {
+  SettingPosition at = entry.at;
+  const Cameras* const camera =
+      entry.shared ? nullptr : side.editors->Record().CamInfo(entry.camera);
+  if (camera == nullptr || at.line.empty()) return at;
+  std::string_view title = camera->title();
+  title = title.substr(0, title.find('\0'));
+  title = title.substr(0, title.find_last_not_of(' ') + 1);
+  if (!title.empty()) at.line += " \"" + platform_.ToUtf8(title) + '"';
+  return at;
+}
+
+}  // namespace quorvel

@@ -1,0 +1,198 @@
+#include "ui/review/reviewer.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <utility>
+
+#include "core/setting_list.h"
+#include "ui/context.h"
+#include "ui/review/entry_words.h"
+#include "ui/review/setting_map.h"
+#include "ui/review/unseen_editors.h"
+
+namespace quorvel {
+
+namespace {
+
+/// The setting that the menu gives a value of its own on devices that cannot be locked by hand.
+std::optional<std::size_t> KeptByMenu(const SettingList& settings, const Context& context) {
+  const bool lockable = context.host.MenuHostCommId != 0 || context.device.env.identity.IsTriplex();
+  return lockable ? std::nullopt : settings.Find("LockKeyBoard");
+}
+
+/// The settings that differ, as numbers.
+std::vector<std::size_t> Differing(const Side& one, const Side& other,
+                                   std::optional<std::size_t> but) {
+  std::vector<std::size_t> settings;
+  for (std::size_t i = 0; i < one.values.size(); ++i) {
+    if (i != but && Differ(one, other, i)) settings.push_back(i);
+  }
+  return settings;
+}
+
+/// True where no entry shows all of what differs of a setting.
+bool IsLeftOver(std::size_t setting, const SettingMap& map, const Side& one, const Side& other) {
+  int left = -1;
+  for (const std::size_t number : map.Showing(setting)) {
+    for (const MapEntry::Part& part : map.Entries().at(number).parts) {
+      if (part.setting == setting) left &= part.bit < 0 ? 0 : ~(1 << part.bit);
+    }
+  }
+  return Differ(one, other, setting, left) && (left != 0);
+}
+
+/// A setting that no editor shows, as an entry without a place.
+MapEntry Unplaced(std::size_t setting, const SettingList& settings) {
+  MapEntry entry;
+  entry.names = {settings.At(setting).name};
+  entry.parts = {{setting}};
+  entry.line = static_cast<std::size_t>(-1);
+  return entry;
+}
+
+/// Two lines of one control that read alike are one.
+bool Join(ReviewLine& line, const ReviewLine& next, const std::string& camera) {
+  const bool alike = line.at.window == next.at.window && line.at.control == next.at.control &&
+                     line.old_value == next.old_value && line.new_value == next.new_value;
+  if (!alike) return false;
+  line.at.line += ", " + camera;
+  line.settings.insert(line.settings.end(), next.settings.begin(), next.settings.end());
+  line.stored.insert(line.stored.end(), next.stored.begin(), next.stored.end());
+  std::set<Byte> blocks(line.blocks.begin(), line.blocks.end());
+  blocks.insert(next.blocks.begin(), next.blocks.end());
+  line.blocks.assign(blocks.begin(), blocks.end());
+  return true;
+}
+
+}  // namespace
+
+/// What is known for the present image and its texts.
+struct Reviewer::Known {
+  int generation;
+  int text_source;
+  HostStatements host;
+  std::shared_ptr<TextCatalogue::KnownTexts> texts = std::make_shared<TextCatalogue::KnownTexts>();
+  std::optional<SettingList> settings = {};
+  std::unique_ptr<UnseenEditors> present = {};
+  std::unique_ptr<UnseenEditors> other = {};
+  std::optional<SettingMap> map = {};  ///< of the present editors
+};
+
+Reviewer::Reviewer(Context& context) : context_(context) {}
+Reviewer::~Reviewer() = default;
+
+bool Reviewer::IsUpToDate() const {
+  return known_ != nullptr && known_->generation == context_.device.ImageGeneration() &&
+         known_->text_source == context_.texts.SourceNumber() && known_->host == context_.host;
+}
+
+bool Reviewer::Prepare() {
+  if (asking_ || !context_.device.HasImage()) return false;
+  asking_ = true;
+  const struct Over {
+    bool& asking;
+    ~Over() { asking = false; }
+  } over{asking_};
+  // What was being made while another image came is that of none.
+  constexpr int kTries = 3;
+  for (int tries = 0; tries < kTries && !(IsUpToDate() && known_->present != nullptr &&
+                                          known_->present->Show(context_.device.Record()));
+       ++tries) {
+    MuxData& record = context_.device.Record();
+    if (!IsUpToDate()) {
+      known_ = std::make_unique<Known>(
+          Known{context_.device.ImageGeneration(), context_.texts.SourceNumber(), context_.host});
+      known_->settings.emplace(
+          Configuration{record, context_.device.env.identity, context_.device.BlkImage.BlkCount()});
+    }
+    known_->present = std::make_unique<UnseenEditors>(context_, record, known_->texts);
+    if (IsUpToDate()) known_->map.emplace(*known_->present, *known_->settings);
+  }
+  return IsUpToDate() && known_->map.has_value();
+}
+
+Side Reviewer::Present() {
+  const DeviceState& device = known_->present->Surroundings().device;
+  return {known_->settings->Values(
+              {known_->present->Record(), device.env.identity, device.BlkImage.BlkCount()}),
+          {},
+          known_->present.get()};
+}
+
+/// Its values are looked for where the present device has its own.
+Side Reviewer::Other(const Configuration& other) {
+  const DeviceState& device = known_->present->Surroundings().device;
+  const int blocks = device.BlkImage.BlkCount();
+  Side side{known_->settings->Values({other.rec, device.env.identity, blocks})};
+  if (other.blocks != blocks || other.id.MaxCam != device.env.identity.MaxCam) {
+    const SettingList its_own(other);
+    for (std::size_t i = 0; i < known_->settings->Count(); ++i) {
+      side.lacks.push_back(!its_own.Find(known_->settings->At(i).name));
+    }
+  }
+  return side;
+}
+
+std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
+  const SettingList& settings = *known_->settings;
+  const SettingMap& map = *known_->map;
+  const Side is = Present();
+  Side was = Other(other);
+  const auto differing = Differing(is, was, KeptByMenu(settings, context_));
+  if (differing.empty()) return {};
+  if (known_->other == nullptr || !known_->other->Show(other.rec)) {
+    known_->other = std::make_unique<UnseenEditors>(context_, other.rec, known_->texts);
+  }
+  was.editors = known_->other.get();
+
+  std::set<std::size_t> entries;
+  std::vector<MapEntry> unplaced;
+  for (const std::size_t setting : differing) {
+    for (const std::size_t number : map.Showing(setting)) {
+      const MapEntry& entry = map.Entries().at(number);
+      if (entry.is_first && Differ(was, is, entry)) entries.insert(number);
+    }
+    if (IsLeftOver(setting, map, was, is)) unplaced.push_back(Unplaced(setting, settings));
+  }
+  std::vector<ReviewLine> lines;
+  lines.reserve(entries.size() + unplaced.size());
+  const EntryWords words(settings, context_);
+  const auto add = [&](const MapEntry& entry) {
+    auto [old_value, new_value] = words.Of(entry, was, is);
+    ReviewLine line{words.Place(entry, is), entry.names,
+                    StoredIn(entry, was),   std::move(old_value),
+                    std::move(new_value),   BlocksOf(entry, settings, is, &was)};
+    const std::string camera = std::to_string(entry.camera + 1);
+    if (entry.shared && !lines.empty() && Join(lines.back(), line, camera)) return;
+    lines.push_back(std::move(line));
+  };
+  for (const std::size_t number : entries) add(map.Entries()[number]);
+  for (const MapEntry& entry : unplaced) add(entry);
+  return lines;
+}
+
+std::vector<SettingRow> Reviewer::AllSettings(const Configuration& device,
+                                              const Configuration& factory) {
+  const SettingList& settings = *known_->settings;
+  const SettingMap& map = *known_->map;
+  const Side is = Present();
+  const Side of_device = Other(device);
+  const Side of_factory = Other(factory);
+  const EntryWords words(settings, context_);
+  std::vector<SettingRow> rows;
+  const auto add = [&](const MapEntry& entry) {
+    rows.push_back({words.Place(entry, is), entry.names, StoredIn(entry, is), words.Of(entry, is),
+                    BlocksOf(entry, settings, is), Differ(is, of_device, entry),
+                    Differ(is, of_factory, entry)});
+  };
+  for (const MapEntry& entry : map.Entries()) {
+    if (entry.is_first) add(entry);
+  }
+  for (std::size_t setting = 0; setting < settings.Count(); ++setting) {
+    if (map.Showing(setting).empty()) add(Unplaced(setting, settings));
+  }
+  return rows;
+}
+
+}  // namespace quorvel
