@@ -3,28 +3,9 @@
 #include <algorithm>
 
 #include "apps/quorvel/trouble.h"
+#include "settings_files/comparison.h"
 
 namespace quorvel::tool {
-
-namespace {
-
-/// What is told of a device beside its settings, by name and value.
-std::vector<SettingLine> DeviceLines(const FileParts& parts) {
-  std::vector<SettingLine> lines;
-  const auto device = DeviceOf(parts);
-  lines.push_back({"model", device ? ModelInWords(device->model) : ""});
-  lines.push_back({"cameras", device ? std::to_string(device->cameras) : ""});
-  lines.push_back({"variant", VariantOf(parts).value_or("")});
-  lines.push_back({"blocks", std::to_string(parts.image.size() / kBlockSize)});
-  return lines;
-}
-
-std::string Change(const std::string& name, const std::string& from, const std::string& to) {
-  const auto shown = [](const std::string& value) { return value.empty() ? "none" : value; };
-  return name + ": " + shown(from) + " -> " + shown(to) + '\n';
-}
-
-}  // namespace
 
 Reference::Reference(const std::string& file) {
   Reader reader;
@@ -49,14 +30,9 @@ void Comparer::Compare(const Reference& reference, const std::string& file, Told
     told.status = kFound;
   };
 
-  const auto theirs = DeviceLines(reference.Parts());
-  const auto mine = DeviceLines(parts);
-  for (std::size_t i = 0; i < mine.size(); ++i) {
-    if (mine[i] != theirs[i]) tell(Change(mine[i].name, theirs[i].value, mine[i].value));
-  }
-  const auto differences = desk_.Control().DifferencesFrom(reference.Parts().image);
+  const auto differences = files::DifferencesFrom(reference.Parts(), desk_.Control(), parts);
   if (!differences) throw Trouble(name, "cannot be compared");
-  for (const SettingDifference& it : *differences) tell(Change(it.name, it.other, it.value));
+  for (const auto& it : *differences) tell(files::InWords(it) + '\n');
 }
 
 }  // namespace quorvel::tool

@@ -3,11 +3,15 @@
 #include <optional>
 #include <string>
 
-#include "apps/quorvel/file_parts.h"
 #include "quorvel/headless_platform.h"
 #include "quorvel/main_menu_ctrl.h"
+#include "settings_files/file_parts.h"
 
 namespace quorvel::tool {
+
+using files::ByteSpan;
+using files::FileParts;
+using files::PartsOf;
 
 /// A control without a screen or a device, into which settings files are loaded. Each thread has
 /// one of its own.
@@ -29,10 +33,5 @@ class Desk {
 
 /// A sentence of the control as it stands behind a colon: "cut short: it ends at block 3".
 [[nodiscard]] std::string AsClause(std::string sentence);
-
-/// What FillComboInfo takes, of the header of a combined array: sizes of macros and blocks, and the
-/// firmware version, which the header holds in the same order.
-inline constexpr std::size_t kSizesAt = 6;
-inline constexpr std::size_t kSizesLength = 7;
 
 }  // namespace quorvel::tool

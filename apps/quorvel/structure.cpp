@@ -51,7 +51,7 @@ void CheckCombined(ByteSpan file, const FileParts& parts, Findings& findings) {
 }
 
 void CheckDevice(const FileParts& parts, Findings& findings) {
-  const auto device = DeviceOf(parts);
+  const auto device = files::DeviceOf(parts);
   if (!device) {
     findings.push_back("ends before block 185, which says what device it belongs to");
     return;

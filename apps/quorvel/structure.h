@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/quorvel/file_parts.h"
+#include "apps/quorvel/desk.h"
 
 namespace quorvel::tool {
 

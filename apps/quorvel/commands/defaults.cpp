@@ -58,7 +58,7 @@ std::vector<std::uint8_t> Sizes(const Options& options) {
   if (!major || !minor || *major > 255 || *minor > 99) {
     throw Trouble("'" + options.firmware + "' is no firmware version, as 5.06");
   }
-  std::vector<std::uint8_t> sizes(kSizesLength);
+  std::vector<std::uint8_t> sizes(files::kSizesLength);
   sizes.at(4) = static_cast<std::uint8_t>(options.blocks);
   sizes.at(5) = static_cast<std::uint8_t>(*major);
   sizes.at(6) = static_cast<std::uint8_t>(*minor);
@@ -81,8 +81,8 @@ int Defaults(const Options& options) {
   const auto image = control.Image();
   const std::size_t blocks = image.size() / kBlockSize;
   if (options.blocks != 0 && blocks != static_cast<std::size_t>(options.blocks)) {
-    throw Trouble("a device of model " + ModelInWords(model) + " has " + std::to_string(blocks) +
-                  " blocks");
+    throw Trouble("a device of model " + files::ModelInWords(model) + " has " +
+                  std::to_string(blocks) + " blocks");
   }
   StoreOutput(options.out, options.combined ? control.SaveSettings() : image);
   return kDone;

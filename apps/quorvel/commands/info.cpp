@@ -27,11 +27,11 @@ int Info(const Options& options) {
             << "\nkind: " << (parts.combined ? "combined array" : "plain image") << ", "
             << file.Bytes().size() << " bytes\nblocks: " << parts.image.size() / kBlockSize << '\n';
   if (parts.combined) PrintCombined(parts.header);
-  if (const auto device = DeviceOf(parts)) {
-    std::cout << "model: " << ModelInWords(device->model) << "\nname: " << device->name
+  if (const auto device = files::DeviceOf(parts)) {
+    std::cout << "model: " << files::ModelInWords(device->model) << "\nname: " << device->name
               << "\ncameras: " << device->cameras << '\n';
   }
-  if (const auto variant = VariantOf(parts)) std::cout << "variant: " << *variant << '\n';
+  if (const auto variant = files::VariantOf(parts)) std::cout << "variant: " << *variant << '\n';
   std::cout << "settings: " << file.Control().Settings().size() << "\nfindings: "
             << StructureFindings(file.Bytes(), parts).size() +
                    file.Control().SettingFindings().size()

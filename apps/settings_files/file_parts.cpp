@@ -1,11 +1,13 @@
-#include "apps/quorvel/file_parts.h"
+#include "settings_files/file_parts.h"
 
 #include <algorithm>
+#include <cctype>
+#include <utility>
 
 #include "quorvel/code_page.h"
 #include "quorvel/identity.h"
 
-namespace quorvel::tool {
+namespace quorvel::files {
 
 namespace {
 
@@ -30,6 +32,19 @@ std::string Printable(std::span<const std::uint8_t> bytes) {
     printable += is_control ? "?" : character;
   }
   return printable;
+}
+
+/// Why a combined array has no image, as a sentence; empty when it has one.
+std::string LackOfImage(ByteSpan file, const FileParts& parts) {
+  if (parts.header.Agrees() && parts.image.size() == parts.header.DataLen) return {};
+  try {
+    CombinedArray::Parse(file, ComboHeader()).RequireImage();
+  } catch (const ImageError& error) {
+    std::string why = std::string(error.what()) + '.';
+    why.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(why.front())));
+    return why;
+  }
+  return {};
 }
 
 }  // namespace
@@ -75,4 +90,15 @@ std::string ModelInWords(int model) {
   return std::to_string(model) + ' ' + std::string(text.empty() ? "unknown" : text);
 }
 
-}  // namespace quorvel::tool
+LoadAnswer LoadAsItIs(MainMenuCtrl& control, ByteSpan file, const FileParts& parts) {
+  if (parts.combined) {
+    // The control goes by the length alone, and a part of an array is as short as a plain image. Of
+    // a whole one it must know how many blocks there are.
+    if (std::string why = LackOfImage(file, parts); !why.empty()) return {false, std::move(why)};
+    control.FillComboInfo(file.subspan(kSizesAt, kSizesLength));
+  }
+  control.HostCommId(kNotInteractive);
+  return control.LoadSettings(file);
+}
+
+}  // namespace quorvel::files

@@ -6,8 +6,9 @@
 #include <string>
 
 #include "quorvel/combined_array.h"
+#include "quorvel/main_menu_ctrl.h"
 
-namespace quorvel::tool {
+namespace quorvel::files {
 
 using ByteSpan = std::span<const std::uint8_t>;
 
@@ -44,4 +45,17 @@ struct NamedDevice {
 /// "6 Triplex NTSC", "77 unknown".
 [[nodiscard]] std::string ModelInWords(int model);
 
-}  // namespace quorvel::tool
+/// A HostCommId under which nothing is locked: that of an interactive host locks the keyboard of
+/// some models in what it loads.
+inline constexpr std::uint8_t kNotInteractive = 1;
+
+/// What FillComboInfo takes, of the header of a combined array: sizes of macros and blocks, and the
+/// firmware version, which the header holds in the same order.
+inline constexpr std::size_t kSizesAt = 6;
+inline constexpr std::size_t kSizesLength = 7;
+
+/// Loads a settings file into a control to which no device was stated, as what it is, and as it is.
+/// The control's HostCommId is kNotInteractive after that.
+[[nodiscard]] LoadAnswer LoadAsItIs(MainMenuCtrl& control, ByteSpan file, const FileParts& parts);
+
+}  // namespace quorvel::files
