@@ -2,6 +2,7 @@
 
 #include "core/settings_by_name.h"
 #include "host/component.h"
+#include "host/send_checks.h"
 #include "host/settings_file.h"
 
 namespace quorvel {
@@ -108,6 +109,14 @@ bool MainMenuCtrl::StartSend(const SendChoice& choice) {
 
 void MainMenuCtrl::CancelTransfer() {
   component_->Call("CancelTransfer", [&it = *component_] { it.CancelTransfer(); });
+}
+
+std::string MainMenuCtrl::DeviceMismatch() const {
+  std::string why;
+  component_->Call("DeviceMismatch", [&it = *component_, &why] {
+    if (it.context.device.HasImage()) why = WhyDataDoesNotFit(it.context);
+  });
+  return why;
 }
 
 ControlState MainMenuCtrl::State() const { return component_->State(); }

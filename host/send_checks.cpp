@@ -15,16 +15,6 @@ std::string DoesNotMatch(const std::string& reason) {
   return std::string(BuiltInText(txt::kDataDoesNotMatch)) + ": " + reason + ".";
 }
 
-std::string WhyDataDoesNotFit(const Context& context) {
-  if (!FamilyFits(context)) {
-    return DoesNotMatch("model code " + std::to_string(context.device.env.identity.ModelCode) +
-                        " is none of device family " + std::to_string(context.host.HostType));
-  }
-  const auto mismatch = FindIdentityMismatch(context);
-  if (!mismatch) return {};
-  return DoesNotMatch("it is of " + mismatch->of_image + ", the device is " + mismatch->connected);
-}
-
 /// What the send dialog does not let its user choose.
 std::string WhyNotChosen(const Context& context, const SendChoice& choice) {
   if (!choice.IncludeData && !context.host.ComboMode) {
@@ -63,6 +53,16 @@ bool FamilyFits(const Context& context) {
 
 bool MacroSizeDiffers(const Context& context) {
   return context.host.combo_sizes.ComboMacroSize != context.device.ComboArray.Header().MacroRecSize;
+}
+
+std::string WhyDataDoesNotFit(const Context& context) {
+  if (!FamilyFits(context)) {
+    return DoesNotMatch("model code " + std::to_string(context.device.env.identity.ModelCode) +
+                        " is none of device family " + std::to_string(context.host.HostType));
+  }
+  const auto mismatch = FindIdentityMismatch(context);
+  if (!mismatch) return {};
+  return DoesNotMatch("it is of " + mismatch->of_image + ", the device is " + mismatch->connected);
 }
 
 std::string WhyNotSent(Context& context, const SendChoice& choice) {

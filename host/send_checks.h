@@ -29,6 +29,10 @@ struct SendBasis {
 /// there after ProvideComboArray.
 [[nodiscard]] bool MacroSizeDiffers(const Context& context);
 
+/// Why the image cannot be sent to the connected device, whatever is chosen, as a sentence that
+/// names both; empty when it can.
+[[nodiscard]] std::string WhyDataDoesNotFit(const Context& context);
+
 /// Why this cannot be sent to the connected device without asking a user, as a sentence; empty when
 /// it can.
 [[nodiscard]] std::string WhyNotSent(Context& context, const SendChoice& choice);

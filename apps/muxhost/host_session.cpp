@@ -1,9 +1,11 @@
 #include "muxhost/host_session.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "muxhost/script/report.h"
 #include "quorvel/platform.h"
+#include "settings_files/file_parts.h"
 
 namespace quorvel::muxhost {
 
@@ -29,30 +31,88 @@ HostSession::HostSession(Platform& platform, Scheduler scheduler, SimulatedDevic
   link_.on_fault = [this](const Fault& fault) { Log("the link fails: " + Describe(fault)); };
   link_.interrupt = [this](const Interruption& what) { LogInterruption(what); };
   link_.SetPace(settings_.sync, settings_.latency_ms);
-  PlaceControl();
+  PlaceControl(NewControl());
 }
 
 void HostSession::Connect(SimulatedDevice device) {
-  exchange_ = std::make_shared<Exchange>();
+  auto control = NewControl();
   link_.Connect(std::move(device));
-  PlaceControl();
+  has_device_ = true;
+  PlaceControl(std::move(control));
   if (on_change) on_change();
 }
 
-void HostSession::PlaceControl() {
-  control_ = std::make_unique<MainMenuCtrl>(platform_, *this);
-  control_->InitProperties();
+std::unique_ptr<MainMenuCtrl> HostSession::NewControl() {
+  auto control = std::make_unique<MainMenuCtrl>(platform_, *this);
+  control->InitProperties();
+  if (!text_class_.empty()) control->CustomWithString(kTextSource, 0, 0, text_class_);
+  return control;
+}
+
+void HostSession::PlaceControl(std::unique_ptr<MainMenuCtrl> control) {
+  exchange_ = std::make_shared<Exchange>();
+  if (on_control_leaves) on_control_leaves();
+  control_ = std::move(control);
   StateSettings();
-  if (!text_class_.empty()) control_->CustomWithString(kTextSource, 0, 0, text_class_);
   StateIdentity();
 }
 
 void HostSession::UseTexts(std::string class_id) {
   text_class_ = std::move(class_id);
-  exchange_ = std::make_shared<Exchange>();
   link_.BeginTransfer();
-  PlaceControl();
+  PlaceControl(NewControl());
   if (on_change) on_change();
+}
+
+LoadAnswer HostSession::Open(std::span<const Byte> file) {
+  const files::FileParts parts = files::PartsOf(file);
+  auto control = NewControl();
+  LoadAnswer answer = files::LoadAsItIs(*control, file, parts);
+  if (!answer) return answer;
+  std::vector<Byte> sizes;
+  if (parts.combined) {
+    const auto stated = file.subspan(files::kSizesAt, files::kSizesLength);
+    sizes.assign(stated.begin(), stated.end());
+  }
+  GoOnWithout(std::move(control), std::move(sizes));
+  return answer;
+}
+
+LoadAnswer HostSession::OpenDefaults(const DeviceSetup& setup) {
+  const BlockImage factory = FactoryImage(setup);
+  const auto identity = factory.Block(kIdentityBlock).subspan<2>();
+  auto control = NewControl();
+  LoadAnswer answer =
+      control->LoadDefaults(static_cast<Byte>(setup.cameras), static_cast<Byte>(setup.model),
+                            std::string(identity.begin(), identity.end()), VariantOf(factory));
+  if (answer) GoOnWithout(std::move(control), {});
+  return answer;
+}
+
+/// Bytes behind the blocks that an image counts belong to none, and no device has them.
+void HostSession::GoOnWithout(std::unique_ptr<MainMenuCtrl> control, std::vector<Byte> sizes) {
+  auto image = control->Image();
+  image.resize(std::size_t{image.at(kBlockCountByte)} * kBlockSize);
+  link_.Connect(SimulatedDevice(std::move(image)));
+  has_device_ = false;
+  open_sizes_ = std::move(sizes);
+  PlaceControl(std::move(control));
+  if (on_change) on_change();
+}
+
+std::string HostSession::ConnectToOpen(SimulatedDevice device) {
+  SimulatedDevice stand_in = link_.Device();
+  const auto state = [this](SimulatedDevice stated, bool is_device) {
+    link_.Connect(std::move(stated));
+    has_device_ = is_device;
+    StateSettings();
+    StateIdentity();
+  };
+  state(std::move(device), true);
+  std::string mismatch = control_->DeviceMismatch();
+  if (!mismatch.empty()) state(std::move(stand_in), false);
+  if (on_change) on_change();
+  return mismatch;
 }
 
 void HostSession::Configure(const HostSettings& settings) {
@@ -73,8 +133,8 @@ void HostSession::SwitchLink(bool on) {
 }
 
 bool HostSession::LinkIsOff() {
-  if (link_.IsOn()) return false;
-  Log("nothing crosses the link: it is off");
+  if (LinkIsOn()) return false;
+  Log(has_device_ ? "nothing crosses the link: it is off" : "no device is connected");
   return true;
 }
 
@@ -85,11 +145,15 @@ void HostSession::StateSettings() {
 }
 
 /// Stating sizes selects the combined exchange and leaves the identity, which settings files need.
+/// No device at all is stated as one of no cameras, which no configuration is of.
 void HostSession::StateIdentity() {
   std::vector<Byte> info{0};
   info.insert(info.end(), Device().IdentityBytes().begin(), Device().IdentityBytes().end());
+  if (!has_device_) std::fill(info.begin(), info.end(), Byte{0});
   control_->SaveConnectedInfo(info);
-  if (Device().IsCombined()) control_->FillComboInfo(Device().Sizes());
+  const auto sizes = Device().IsCombined() ? Device().Sizes() : std::vector<Byte>();
+  const auto& stated = has_device_ ? sizes : open_sizes_;
+  if (!stated.empty()) control_->FillComboInfo(stated);
 }
 
 void HostSession::BeginExchange() {

@@ -41,6 +41,17 @@ class HostSession final : public MainMenuEvents {
 
   /// Replaces the device; a new control comes with it.
   void Connect(SimulatedDevice device);
+  /// Takes a settings file, or the factory defaults of a device, without a device: the one that is
+  /// connected is left, and a new control holds them. As long as no device is connected nothing
+  /// crosses the link, and what the control held at first stands in for a device. When they are
+  /// refused nothing changes. OpenDefaults throws std::invalid_argument, naming the value, for a
+  /// setup that no device has; it has no use for the setup's exchange and number of blocks.
+  [[nodiscard]] LoadAnswer Open(std::span<const Byte> file);
+  [[nodiscard]] LoadAnswer OpenDefaults(const DeviceSetup& setup);
+  /// Connects a device to what was opened without one: the control stays. When the two do not match
+  /// the answer says why, and all is as before; else it is empty.
+  [[nodiscard]] std::string ConnectToOpen(SimulatedDevice device);
+  [[nodiscard]] bool HasDevice() const { return has_device_; }
   /// Replaces the settings and states them to the control.
   void Configure(const HostSettings& settings);
   /// The class of the platform that has the component's texts; none: they are English. A new
@@ -52,7 +63,7 @@ class HostSession final : public MainMenuEvents {
 
   /// Switches the link to the device off or on. Off, nothing is answered and nothing is written.
   void SwitchLink(bool on);
-  [[nodiscard]] bool LinkIsOn() const { return link_.IsOn(); }
+  [[nodiscard]] bool LinkIsOn() const { return has_device_ && link_.IsOn(); }
   /// Reads the device without the control, as for a backup. Not while a transfer runs, which it
   /// would break off. The session must outlive the reader.
   [[nodiscard]] std::unique_ptr<DeviceReader> NewReader() {
@@ -80,6 +91,7 @@ class HostSession final : public MainMenuEvents {
   void WriteZones(int camera, std::span<const Byte> zones);
 
   [[nodiscard]] MainMenuCtrl& Control() { return *control_; }
+  /// The device, or what stands in for it.
   [[nodiscard]] const SimulatedDevice& Device() const { return link_.Device(); }
   /// Cameras of the control's configuration; of the device while there is none.
   [[nodiscard]] int Cameras() const;
@@ -94,6 +106,8 @@ class HostSession final : public MainMenuEvents {
   /// Called after each entry of the log, and when the device, the settings or the fault were
   /// replaced. May take the log; must not replace the device or start a transfer.
   std::function<void()> on_change;
+  /// Called before the control is replaced: what shows its surface has to let go.
+  std::function<void()> on_control_leaves;
   /// The fault of the link has the user press a button of the transfer's dialog or close it: does
   /// that, by the dialog's user verbs. False when there is no such dialog or it refuses.
   std::function<bool(const Interruption&)> interrupt;
@@ -113,7 +127,10 @@ class HostSession final : public MainMenuEvents {
   void DblClick() override;
 
  private:
-  void PlaceControl();
+  [[nodiscard]] std::unique_ptr<MainMenuCtrl> NewControl();
+  /// Goes on with a control that holds a configuration of no device.
+  void GoOnWithout(std::unique_ptr<MainMenuCtrl> control, std::vector<Byte> sizes);
+  void PlaceControl(std::unique_ptr<MainMenuCtrl> control);
   void StateSettings();
   void StateIdentity();
   void BeginExchange();
@@ -127,6 +144,8 @@ class HostSession final : public MainMenuEvents {
 
   Platform& platform_;
   Link link_;
+  bool has_device_ = true;
+  std::vector<Byte> open_sizes_;  ///< without a device: what the combined array that is open states
   HostSettings settings_;
   std::string text_class_;
   std::vector<std::string> log_;

@@ -118,6 +118,11 @@ class QUORVEL_API MainMenuCtrl {
   [[nodiscard]] LoadAnswer LoadDefaults(std::uint8_t cameras, std::uint8_t model_code,
                                         std::string_view model_name, char variant);
 
+  /// Why the configuration cannot be sent to the device that the host has stated, as a sentence
+  /// that names both: what a send compares first. A host that backs the device up before a send
+  /// asks before that. Empty when it can, or when there is no configuration.
+  [[nodiscard]] std::string DeviceMismatch() const;
+
   /// Whether the device's clock takes the computer's time when its block, 61, is built for a send:
   /// because the user has ticked it in the time and date editor, which then has OK set it and
   /// begins anew when it opens, or because the host has set it here.

@@ -81,6 +81,10 @@ BlockImage FactoryImage(const DeviceSetup& setup) {
   return image;
 }
 
+char VariantOf(const BlockImage& image) {
+  return static_cast<char>(image.Block(kVariantBlock)[kVariantByte]);
+}
+
 int BlocksOf(const DeviceSetup& setup) {
   return setup.blocks.value_or(setup.model >= kFirstTriplexModel ? 225 : 185);
 }

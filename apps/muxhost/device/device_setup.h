@@ -39,6 +39,8 @@ void CheckSetup(const CombinedSetup& setup);
 /// the setup says of them. Throws std::invalid_argument, naming the value, for a setup that no
 /// device has.
 [[nodiscard]] BlockImage FactoryImage(const DeviceSetup& setup);
+/// The variant character of such a configuration.
+[[nodiscard]] char VariantOf(const BlockImage& image);
 /// Blocks that a device of this setup has.
 [[nodiscard]] int BlocksOf(const DeviceSetup& setup);
 

@@ -22,6 +22,12 @@ constexpr Command kCommands[] = {
     {"device [model=N] [cameras=N] [blocks=N] [variant=C] [name=TEXT] [image=FILE] "
      "[combined] [macros=NxM] [firmware=N.NN]",
      0, kAny, commands::Device},
+    {"connect [model=N] [cameras=N] [blocks=N] [variant=C] [name=TEXT] [image=FILE] "
+     "[combined] [macros=NxM] [firmware=N.NN]",
+     0, kAny, commands::Connect},
+    {"open FILE", 1, 1, commands::Open},
+    {"new [model=N] [cameras=N] [variant=C] [name=TEXT]", 0, kAny, commands::New},
+    {"compare FILE FILE", 2, 2, commands::Compare},
     {"host [family=N] [dvr=N] [commid=N] [link=N] [sync] [latency=MS]", 0, kAny, commands::Host},
     {"language CODE|system|FILE", 1, 1, commands::SpeakLanguage},
     {"download [hold]", 0, 1, commands::Download},

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "muxhost/script/desk.h"
+#include "muxhost/script/parser.h"
 
 namespace quorvel::muxhost {
 
@@ -26,6 +27,10 @@ void PcTime(Desk& desk, Words words);
 void Save(Desk& desk, Words words);
 void Restore(Desk& desk, Words words);
 void Defaults(Desk& desk, Words words);
+void Open(Desk& desk, Words words);
+void New(Desk& desk, Words words);
+void Connect(Desk& desk, Words words);
+void Compare(Desk& desk, Words words);
 void FaultOnLink(Desk& desk, Words words);
 void Zones(Desk& desk, Words words);
 void Undo(Desk& desk, Words words);
@@ -69,6 +74,13 @@ void Messages(Desk& desk, Words words);
 
 /// Throws ScriptError while a modal dialog locks the host's window.
 void RequireUnlocked(const Desk& desk);
+/// Throws ScriptError without a device.
+void RequireDevice(const Desk& desk);
+
+/// The device that a line describes by its keys; what of it no device can be throws. TakeSetup
+/// takes what a device is from the factory, and leaves the rest.
+[[nodiscard]] SimulatedDevice TakeDevice(Desk& desk, Words words);
+[[nodiscard]] DeviceSetup TakeSetup(const Desk& desk, Options& options);
 
 }  // namespace commands
 

@@ -65,32 +65,35 @@ std::optional<CombinedSetup> TakeCombined(Options& options) {
   return combined;
 }
 
+}  // namespace
+
 DeviceSetup TakeSetup(const Desk& desk, Options& options) {
   DeviceSetup setup;
   setup.model = options.TakeNumber("model").value_or(setup.model);
   setup.cameras = options.TakeNumber("cameras").value_or(setup.cameras);
-  setup.blocks = options.TakeNumber("blocks");
   setup.variant = TakeVariant(desk, options);
   if (const auto name = options.Take("name")) setup.name = ToDeviceBytes(desk, "name", *name);
   return setup;
 }
 
-}  // namespace
-
-void Device(Desk& desk, Words words) {
-  RequireUnlocked(desk);
+SimulatedDevice TakeDevice(Desk& desk, Words words) {
   Options options(words);
   const auto combined = TakeCombined(options);
   if (const auto file = options.Take("image")) {
     // The file says what the device is; a key that contradicted it would have no effect.
     options.Finish(" with image=");
-    desk.session.Connect(SimulatedDevice(desk.platform.ReadFile(*file), combined));
-    return;
+    return SimulatedDevice(desk.platform.ReadFile(*file), combined);
   }
   DeviceSetup setup = TakeSetup(desk, options);
+  setup.blocks = options.TakeNumber("blocks");
   setup.combined = combined;
   options.Finish();
-  desk.session.Connect(SimulatedDevice(setup));
+  return SimulatedDevice(setup);
+}
+
+void Device(Desk& desk, Words words) {
+  RequireUnlocked(desk);
+  desk.session.Connect(TakeDevice(desk, words));
 }
 
 void Host(Desk& desk, Words words) {

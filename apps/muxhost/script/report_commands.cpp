@@ -107,6 +107,7 @@ void Check(Desk& desk, Words /*words*/) {
 
 /// The control's settings against the device's, or against those of an image in a file.
 void Diff(Desk& desk, Words words) {
+  if (words.size() == 1) RequireDevice(desk);
   const auto device = desk.session.Device().Bytes();
   const auto image = words.size() > 1 ? desk.platform.ReadFile(words[1])
                                       : std::vector<std::uint8_t>(device.begin(), device.end());
@@ -126,6 +127,7 @@ void Diff(Desk& desk, Words words) {
 }
 
 void DeviceBlock(Desk& desk, Words words) {
+  RequireDevice(desk);
   PrintBlock(desk, words, desk.session.Device().Bytes(), "the device");
 }
 

@@ -65,6 +65,7 @@ SendChoice TakeChoice(Words words) {
 
 void Download(Desk& desk, Words words) {
   RequireUnlocked(desk);
+  RequireDevice(desk);
   if (HasHold(words, 1)) {
     desk.session.Download();
     return;
@@ -76,6 +77,7 @@ void Download(Desk& desk, Words words) {
 
 void Upload(Desk& desk, Words words) {
   RequireUnlocked(desk);
+  RequireDevice(desk);
   if (words.size() == 2 && words[1] == "hold") {
     desk.session.Upload();
     return;
@@ -88,6 +90,7 @@ void Upload(Desk& desk, Words words) {
 }
 
 void GoesAlong(Desk& desk, Words words) {
+  RequireDevice(desk);
   const SendChoice choice = TakeChoice(words);
   const LocalTime now = desk.platform.Now();
   const GoingAlong along = WhatGoesAlong(desk.session, !choice.modified, choice.macros, now);
@@ -110,6 +113,7 @@ void Save(Desk& desk, Words words) {
 
 void Restore(Desk& desk, Words words) {
   RequireUnlocked(desk);
+  RequireDevice(desk);
   desk.platform.named_file = words[1];
   Receiver receiver;
   RunAttended(desk, receiver, &HostSession::Restore);
@@ -121,6 +125,7 @@ void Restore(Desk& desk, Words words) {
 
 void Defaults(Desk& desk, Words /*words*/) {
   RequireUnlocked(desk);
+  RequireDevice(desk);
   desk.session.BuildDefaults();
   desk.platform.RunUntilIdle();
   desk.out << (desk.session.LastExchange().arrived ? "defaults loaded\n" : "defaults not loaded\n");
