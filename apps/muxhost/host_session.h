@@ -106,6 +106,9 @@ class HostSession final : public MainMenuEvents {
   /// Called after each entry of the log, and when the device, the settings or the fault were
   /// replaced. May take the log; must not replace the device or start a transfer.
   std::function<void()> on_change;
+  /// Called when the control has reported a configuration's arrival: the device's, a file's that
+  /// was restored, or the factory defaults.
+  std::function<void()> on_arrival;
   /// Called before the control is replaced: what shows its surface has to let go.
   std::function<void()> on_control_leaves;
   /// The fault of the link has the user press a button of the transfer's dialog or close it: does
@@ -134,6 +137,7 @@ class HostSession final : public MainMenuEvents {
   void StateSettings();
   void StateIdentity();
   void BeginExchange();
+  void NoteArrival();
   void Log(std::string entry);
   /// Logs that it is, too.
   [[nodiscard]] bool LinkIsOff();

@@ -92,14 +92,19 @@ void HostSession::SendComboBlocks(std::span<std::uint8_t> cb_data) {
   if (!exchange_->array_taken) Log("not written: the device does not take the array");
 }
 
-void HostSession::UploadSucceeded() {
+void HostSession::NoteArrival() {
   exchange_->arrived = true;
+  if (on_arrival) on_arrival();
+}
+
+void HostSession::UploadSucceeded() {
+  NoteArrival();
   Log("UploadSucceeded");
 }
 
 void HostSession::ULSucceededWithStr(std::string_view mname, std::uint8_t param1,
                                      std::uint8_t param2) {
-  exchange_->arrived = true;
+  NoteArrival();
   Log("ULSucceededWithStr " + platform_.ToUtf8(WithoutPadding(mname)) + " " +
       std::to_string(param1) + " " + std::to_string(param2));
 }

@@ -186,6 +186,11 @@ class MuxhostOnScreen : public testing::Test {
     return window;
   }
 
+  /// What the window remembers, in a file of the test's own.
+  [[nodiscard]] std::unique_ptr<QSettings> Kept() const {
+    return std::make_unique<QSettings>(backups_.filePath("muxhost.ini"), QSettings::IniFormat);
+  }
+
   QString told_;  ///< by the last message box that was answered
   QTemporaryDir backups_;
   QtPlatform platform_;
@@ -193,7 +198,7 @@ class MuxhostOnScreen : public testing::Test {
   HostSession session_{platform_, [this](int milliseconds, std::function<void()> task) {
                          QTimer::singleShot(milliseconds, &turns_, std::move(task));
                        }};
-  MainWindow window_{platform_, session_};
+  MainWindow window_{platform_, session_, Kept()};
   QListView& map_ = *Find<QListView>(&window_, "Blocks");
 };
 

@@ -13,6 +13,7 @@ namespace {
 struct CommandButton {
   const char* text;
   const char* tool_tip;
+  bool needs_device;  ///< an upload asks for one
   bool needs_link;
   bool needs_data;
   bool needs_screen;  ///< no other window may be open; else none that locks the others
@@ -23,14 +24,15 @@ struct CommandButton {
 // By Command. Beside an editor the menu opens, and files are saved; what replaces the data, or
 // edits the same, needs it closed.
 constexpr CommandButton kButtons[] = {
-    {"Download", "Reads the device's configuration", true, false, true, 0, 0},
-    {"Menu", "Opens the configuration menu with its editors", false, true, false, 0, 1},
-    {"Zones", "Opens the editor of the cameras' active zones", false, true, true, 0, 2},
-    {"Upload modified", "Writes the modified blocks to the device", true, true, true, 1, 0},
-    {"Upload all", "Writes the whole configuration to the device", true, true, true, 1, 1},
-    {"Save file", "Saves the configuration, with its changes, in a file", false, true, false, 2, 0},
-    {"Restore file", "Takes the configuration from a file", false, false, true, 2, 1},
-    {"Defaults", "Takes the factory defaults for the device", true, false, true, 2, 2},
+    {"Download", "Reads the device's configuration", true, true, false, true, 0, 0},
+    {"Menu", "Opens the configuration menu with its editors", false, false, true, false, 0, 1},
+    {"Zones", "Opens the editor of the cameras' active zones", false, false, true, true, 0, 2},
+    {"Upload modified", "Writes the modified blocks to the device", false, true, true, true, 1, 0},
+    {"Upload all", "Writes the whole configuration to the device", false, true, true, true, 1, 1},
+    {"Save file", "Saves the configuration, with its changes, in a file", false, false, true, false,
+     2, 0},
+    {"Restore file", "Takes the configuration from a file", true, false, false, true, 2, 1},
+    {"Defaults", "Takes the factory defaults for the device", true, true, false, true, 2, 2},
 };
 
 QString WhyNot(const CommandButton& about, const CommandBox::State& state) {
@@ -38,7 +40,9 @@ QString WhyNot(const CommandButton& about, const CommandBox::State& state) {
     const QString busy = CommandBox::Busy(state);
     if (!busy.isEmpty()) return busy;
   }
-  if (about.needs_link && !state.link_on) return "The link to the device is off";
+  if (about.needs_device && !state.has_device) return "Connect a device first (at the left)";
+  if (about.needs_link && state.has_device && !state.link_on)
+    return "The link to the device is off";
   if (about.needs_data && !state.loaded) return "Download the device's configuration first";
   return {};
 }

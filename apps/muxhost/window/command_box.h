@@ -27,6 +27,7 @@ class CommandBox : public QGroupBox {
  public:
   /// What commands depend on.
   struct State {
+    bool has_device = true;
     bool link_on = true;
     bool loaded = false;            ///< the control holds a configuration
     bool modified = false;          ///< the control lists modified blocks

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMetaProperty>
 #include <QRegularExpressionValidator>
 #include <cmath>
 
@@ -116,6 +117,51 @@ DeviceSetup DevicePicker::Setup() const {
   if (!name_->text().isEmpty()) setup.name = platform_.FromUtf8(name_->text().toStdString());
   if (exchange_->currentIndex() == 1) setup.combined = Combined();
   return setup;
+}
+
+void DevicePicker::AskForDefaults() {
+  setTitle("Device");
+  connect_->setText("New");
+  exchange_->setCurrentIndex(0);
+  for (QWidget* const field : {static_cast<QWidget*>(blocks_), static_cast<QWidget*>(exchange_)}) {
+    form_->setRowVisible(field, false);
+  }
+}
+
+std::array<std::pair<const char*, QWidget*>, 9> DevicePicker::Fields() const {
+  return {{{"model", model_},
+           {"cameras", cameras_},
+           {"blocks", blocks_},
+           {"variant", variant_},
+           {"name", name_},
+           {"exchange", exchange_},
+           {"macros", macros_},
+           {"macroSize", macro_size_},
+           {"firmware", firmware_}}};
+}
+
+QVariantMap DevicePicker::Choice() const {
+  QVariantMap choice;
+  for (const auto& [name, field] : Fields()) {
+    choice[name] = field->metaObject()->userProperty().read(field);
+  }
+  return choice;
+}
+
+void DevicePicker::Choose(const QVariantMap& choice) {
+  for (const auto& [name, field] : Fields()) {
+    if (choice.contains(name)) field->metaObject()->userProperty().write(field, choice[name]);
+  }
+}
+
+void DevicePicker::ChooseDeviceOf(int model, int cameras, const QString& name) {
+  const auto choose = [](QComboBox& list, int value) {
+    const int place = list.findData(value);
+    if (place >= 0) list.setCurrentIndex(place);
+  };
+  choose(*model_, model);
+  choose(*cameras_, cameras);
+  name_->setText(name);
 }
 
 void DevicePicker::AllowConnect(bool allowed, const QString& why_not) {

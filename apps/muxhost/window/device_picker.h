@@ -7,7 +7,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QVariantMap>
+#include <array>
 #include <functional>
+#include <utility>
 
 #include "muxhost/device/simulated_device.h"
 #include "quorvel/platform.h"
@@ -25,12 +28,21 @@ class DevicePicker : public QGroupBox {
 
   /// As chosen; SimulatedDevice says what of it no device can be.
   [[nodiscard]] DeviceSetup Setup() const;
+  /// Asks for the factory defaults of a device, which need no link: what belongs to one is hidden.
+  void AskForDefaults();
+  /// What is chosen, by the names of the fields, to be kept.
+  [[nodiscard]] QVariantMap Choice() const;
+  /// Chooses that again. Fields without a value stay; what a list does not have is not chosen.
+  void Choose(const QVariantMap& choice);
+  /// Chooses what a configuration says of its device.
+  void ChooseDeviceOf(int model, int cameras, const QString& name);
   /// Whether the button can be pressed, and why not.
   void AllowConnect(bool allowed, const QString& why_not);
 
  private:
   [[nodiscard]] QWidget* MakeMacroRow();
   [[nodiscard]] CombinedSetup Combined() const;
+  [[nodiscard]] std::array<std::pair<const char*, QWidget*>, 9> Fields() const;
   /// What belongs to the combined exchange takes no space without it.
   void ShowCombined();
 

@@ -5,9 +5,12 @@
 #include <QHBoxLayout>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
+#include <QUrl>
+#include <algorithm>
 #include <stdexcept>
 
 #include "muxhost/window/desktop.h"
@@ -17,7 +20,7 @@
 
 namespace quorvel::muxhost {
 
-MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
+MainWindow::MainWindow(QtPlatform& platform, HostSession& session, std::unique_ptr<QSettings> kept)
     : platform_(platform),
       session_(session),
       picker_(new DevicePicker(platform)),
@@ -29,6 +32,10 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
       blocks_(new BlockMapBox(session)),
       log_(new EventLog),
       identity_(new QLabel),
+      memory_(std::move(kept)),
+      files_(new FileMenu({platform, session, *this, memory_, *log_})),
+      rows_(new QSplitter(Qt::Vertical)),
+      below_(new QSplitter(Qt::Horizontal)),
       silence_([this](const std::string& sentence) {
         log_->Add(sentence);
         if (std::exchange(awaits_answer_, false)) NoteOutcome();
@@ -36,6 +43,7 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
       uploader_({platform, session, *this, *backups_, *log_, silence_}) {
   constexpr int kWatchInterval = 150;
   setWindowTitle("muxhost");
+  setAcceptDrops(true);
   auto* const sides = new QHBoxLayout;
   sides->addWidget(MakeLeftSide());
   sides->addWidget(MakeRightSide(), 1);
@@ -49,7 +57,9 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
   AddEditMenu();
   platform_.SetHostWindow(this);
   platform_.SetMenuButton(&commands_->MenuButton());
+  RememberDevice();
   AttachToSession();
+  AttachFiles();
   // Edits raise no event, so the window looks for them.
   QObject::connect(&watch_, &QTimer::timeout, this, [this] { ShowState(); });
   watch_.start(kWatchInterval);
@@ -58,12 +68,15 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session)
   commands_->FocusDefault();
   const QSize borders(16, 48);
   resize(QSize(1180, 700).expandedTo(sizeHint()).boundedTo(screen()->availableSize() - borders));
+  RememberPlaces();
 }
 
 void MainWindow::AttachToSession() {
   session_.on_change = [this] { ShowLog(); };
+  session_.on_control_leaves = [this] { LeaveControl(); };
   session_.interrupt = &Interrupt;
   uploader_.run = [this] { Run(&HostSession::Upload); };
+  uploader_.connect = [this] { return AskForDevice(); };
   // Not from within the menu's own event.
   session_.on_zones_wanted = [this](int cameras) {
     zones_wanted_ = cameras;
@@ -73,8 +86,23 @@ void MainWindow::AttachToSession() {
   QObject::connect(&zones_request_, &QTimer::timeout, this, [this] { EditZones(zones_wanted_); });
 }
 
+void MainWindow::AttachFiles() {
+  files_->may_lose = [this](const QString& by) { return MayLoseChanges(by); };
+  files_->on_opened = [this](bool from_file) {
+    loaded_ = true;
+    brought_ = from_file ? Command::kRestore : Command::kDefaults;
+    PlaceSurface();
+    ShowState();
+    commands_->FocusDefault();
+  };
+  // What comes from elsewhere is in no file of the user's.
+  session_.on_arrival = [this] { files_->Opened().Forget(); };
+}
+
 MainWindow::~MainWindow() {
   session_.on_change = nullptr;
+  session_.on_control_leaves = nullptr;
+  session_.on_arrival = nullptr;
   session_.interrupt = nullptr;
   session_.on_zones_wanted = nullptr;
 }
@@ -128,13 +156,18 @@ QWidget* MainWindow::MakeRightSide() {
   hint_->setFont(bold);
   commands_->on_command = [this](Command command) { Do(command); };
   column->addWidget(commands_);
-  column->addWidget(blocks_, 5);
-  auto* const row = new QHBoxLayout;
   auto* const events = new QGroupBox("Events");
   (new QVBoxLayout(events))->addWidget(log_);
-  row->addWidget(events, 4);
-  row->addWidget(blocks_->ContentsBox(), 3);
-  column->addLayout(row, 3);
+  const auto divide = [](QSplitter& between, QWidget* first, int share, QWidget* second, int rest) {
+    between.setChildrenCollapsible(false);
+    between.addWidget(first);
+    between.addWidget(second);
+    between.setStretchFactor(0, share);
+    between.setStretchFactor(1, rest);
+  };
+  divide(*below_, events, 4, blocks_->ContentsBox(), 3);
+  divide(*rows_, blocks_, 5, below_, 3);
+  column->addWidget(rows_, 1);
   // The hint is not scrolled away.
   auto* const right = new QWidget;
   auto* const whole = new QVBoxLayout(right);
@@ -147,52 +180,6 @@ QWidget* MainWindow::MakeRightSide() {
 void MainWindow::PlaceSurface() {
   surface_ = new ControlSurfaceWidget(session_.Control().Surface(), this);
   commands_->SurfacePlace().addWidget(surface_);
-}
-
-bool MainWindow::MayLoseChanges(const QString& by) {
-  blocks_->Update(transfer_runs_, true);
-  const auto changed = blocks_->States().Unwritten().size();
-  QString question;
-  if (changed > 0) {
-    question = QString("%1 modified %2 not been sent to the device. ")
-                   .arg(changed)
-                   .arg(changed == 1 ? "block has" : "blocks have");
-  }
-  // A transfer's dialog locks the window, an editor does not.
-  const bool locked = IsLocked();
-  if (locked) {
-    question += "A transfer or a question is still open. ";
-  } else if (OthersAreOpen(this)) {
-    question += "A window of the menu is open. ";
-  }
-  if (question.isEmpty()) return true;
-  question += by + (locked ? " breaks it off and loses the changes." : " loses the changes.");
-  return QMessageBox::question(this, windowTitle(), question,
-                               QMessageBox::Discard | QMessageBox::Cancel,
-                               QMessageBox::Cancel) == QMessageBox::Discard;
-}
-
-void MainWindow::Connect() {
-  if (!MayLoseChanges("Connecting another device")) return;
-  try {
-    SimulatedDevice device(picker_->Setup());
-    silence_.End();
-    awaits_answer_ = false;
-    surface_->Detach();
-    delete surface_;
-    surface_ = nullptr;
-    loaded_ = false;
-    asked_.reset();
-    brought_.reset();
-    missed_.reset();
-    blocks_->Forget();
-    session_.Connect(std::move(device));
-    PlaceSurface();
-    log_->Add("a new device is connected");
-  } catch (const std::invalid_argument& error) {
-    QMessageBox::warning(this, windowTitle(), QString::fromStdString(error.what()));
-  }
-  ShowState();
 }
 
 void MainWindow::Do(Command command) {
@@ -303,15 +290,23 @@ void MainWindow::ShowLog() {
 
 Situation MainWindow::PresentSituation() const {
   const BlockStates& states = blocks_->States();
-  return {{.link_on = session_.LinkIsOn(),
+  const auto unwritten = states.Unwritten();
+  const auto listed = session_.Control().ModifiedBlocks();
+  const bool all_listed = std::all_of(unwritten.begin(), unwritten.end(), [&](Byte block) {
+    return std::find(listed.begin(), listed.end(), block) != listed.end();
+  });
+  return {{.has_device = session_.HasDevice(),
+           .link_on = session_.LinkIsOn(),
            .loaded = loaded_,
-           .modified = !session_.Control().ModifiedBlocks().empty(),
+           .modified = !listed.empty(),
            .others_open = OthersAreOpen(this),
            .locked = IsLocked(),
            .waiting = awaits_answer_},
-          states.Unwritten().size(),
+          unwritten.size(),
           states.In(BlockState::kFailed).size(),
           states.In(BlockState::kVerified).size(),
+          all_listed,
+          files_->IsUnsaved(),
           blocks_->OnlyMacrosAreLeft(),
           brought_,
           missed_,
@@ -331,8 +326,28 @@ void MainWindow::ShowState() {
   picker_->AllowConnect(busy.isEmpty(), busy);
   options_->AllowExchange(busy.isEmpty(), busy);
   link_->ShowPending(session_.PendingFault());
-  identity_->setText(Describe(session_.Device(), platform_));
+  identity_->setText((session_.HasDevice() ? "" : "Without a device:  ") +
+                     Describe(session_.Device(), platform_));
+  files_->Show(busy, situation.commands.loaded);
   ShowSteps();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  const bool one = event->mimeData()->urls().size() == 1;
+  const bool busy = !CommandBox::Busy(PresentSituation().commands).isEmpty();
+  if (one && !busy && event->mimeData()->urls().front().isLocalFile()) {
+    event->acceptProposedAction();
+  }
+}
+
+/// The program that it was dragged from waits until this returns, so that no question is asked
+/// here.
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  QMetaObject::invokeMethod(
+      this,
+      [this, path = event->mimeData()->urls().front().toLocalFile()] { files_->OpenFile(path); },
+      Qt::QueuedConnection);
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
@@ -349,6 +364,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   const QScopedValueRollback<bool> closing(closing_, true);
   if (!MayLoseChanges("Closing")) return;
   if (zones_ != nullptr) zones_->Abandon();
+  NotePlaces();
   // A command that waits for them in a loop of its own comes to its end.
   CloseLockingWindows();
   event->accept();

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
+#include <QSplitter>
 #include <QTimer>
 
 #include "muxhost/host_session.h"
@@ -11,8 +12,10 @@
 #include "muxhost/window/command_box.h"
 #include "muxhost/window/device_picker.h"
 #include "muxhost/window/event_log.h"
+#include "muxhost/window/file_menu.h"
 #include "muxhost/window/host_options.h"
 #include "muxhost/window/link_box.h"
+#include "muxhost/window/memory.h"
 #include "muxhost/window/next_step.h"
 #include "muxhost/window/silence_watch.h"
 #include "muxhost/window/upload.h"
@@ -29,7 +32,8 @@ namespace quorvel::muxhost {
 class MainWindow : public QMainWindow {
  public:
   /// Both must outlive the window.
-  MainWindow(QtPlatform& platform, HostSession& session);
+  /// `kept` is what is remembered between runs; without it nothing is.
+  MainWindow(QtPlatform& platform, HostSession& session, std::unique_ptr<QSettings> kept = nullptr);
   ~MainWindow() override;
 
   /// Where the device's configuration is kept before an upload.
@@ -39,14 +43,29 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   /// Return presses the default button where nothing in the window has the focus.
   void keyPressEvent(QKeyEvent* event) override;
+  /// A settings file that is dropped is opened.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void AttachToSession();
+  void AttachFiles();
+  // What is kept between runs: the device chosen last, and where things are.
+  void RememberDevice();
+  void RememberPlaces();
+  void NotePlaces();
   [[nodiscard]] QWidget* MakeLeftSide();
   [[nodiscard]] QWidget* MakeRightSide();
   void PlaceSurface();
 
   void Connect();
+  /// The device does not match the settings that are open: asks whether to go on without these.
+  [[nodiscard]] bool MayGoOnWithout(const std::string& mismatch);
+  void NoteConnected(const char* what, const DevicePicker& chosen);
+  /// Asks which device; false when none is connected after that.
+  [[nodiscard]] bool AskForDevice();
+  /// Another control comes: nothing is known of it.
+  void LeaveControl();
   void Do(Command command);
   /// Gives the session a command, which may run a loop of its own.
   void Run(void (HostSession::*command)());
@@ -84,9 +103,13 @@ class MainWindow : public QMainWindow {
   BlockMapBox* const blocks_;
   EventLog* const log_;
   QLabel* const identity_;
+  Memory memory_;
+  FileMenu* const files_;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
   QPointer<ZoneEditor> zones_;
+  QSplitter* const rows_;
+  QSplitter* const below_;
   QTimer watch_;
   QTimer zones_request_;
   SilenceWatch silence_;

@@ -22,7 +22,9 @@ QString Lacking(const Situation& situation) {
 }
 
 NextStep StepToWrite(const Situation& situation) {
-  const bool listed = situation.commands.modified && !situation.only_macros;
+  // What a file brought need not be listed.
+  const bool listed = situation.commands.modified && !situation.only_macros &&
+                      (situation.all_listed || Origin(situation).isEmpty());
   const QString all = situation.only_macros ? "Upload all, with macros" : "Upload all";
   const QString how = QString(" Next: %1.").arg(listed ? "Upload modified" : all);
   const QString origin = Origin(situation);
@@ -51,6 +53,17 @@ NextStep StepAfterNone(const Situation& situation) {
   }
 }
 
+NextStep StepWithoutDevice(const Situation& situation) {
+  if (situation.unsaved) {
+    return {
+        "Edited without a device. Next: Save (File menu), or an upload, which asks for the "
+        "device.",
+        {}};
+  }
+  return {"Open without a device. Next: Menu opens the editors; an upload asks for the device.",
+          Command::kMenu};
+}
+
 }  // namespace
 
 NextStep NextStepIn(const Situation& situation) {
@@ -60,6 +73,7 @@ NextStep NextStepIn(const Situation& situation) {
   if (state.others_open) {
     return {"Next: change what you like; OK takes it over, and the map shows its blocks.", {}};
   }
+  if (!state.has_device) return StepWithoutDevice(situation);
   if (!state.link_on) return {"Next: switch the link on (Host, at the left).", {}};
   if (situation.missed) return StepAfterNone(situation);
   if (!state.loaded)

@@ -13,6 +13,8 @@ struct Situation {
   std::size_t unwritten = 0;  ///< blocks with changes that the device has not got
   std::size_t failed = 0;
   std::size_t verified = 0;
+  bool all_listed = true;    ///< unwritten blocks are listed as modified
+  bool unsaved = false;      ///< an open file was edited since it was saved
   bool only_macros = false;  ///< unwritten and failed are blocks that come with the macros alone
   /// What has brought the configuration: kDownload, kRestore or kDefaults.
   std::optional<Command> brought = {};

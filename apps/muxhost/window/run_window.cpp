@@ -12,6 +12,7 @@ namespace quorvel::muxhost {
 
 int RunWindow(int argc, char** argv, std::shared_ptr<const Language> language) {
   const QApplication application(argc, argv);
+  QApplication::setOrganizationName("Quorvel");
   QApplication::setApplicationName("muxhost");
   QtPlatform platform;
   QObject turns;  // what is still scheduled ends with it
@@ -25,7 +26,7 @@ int RunWindow(int argc, char** argv, std::shared_ptr<const Language> language) {
     timer->start(milliseconds);
   });
   Speak(platform, session, std::move(language));
-  MainWindow window(platform, session);
+  MainWindow window(platform, session, std::make_unique<QSettings>());
   window.show();
   return QApplication::exec();
 }

@@ -10,6 +10,9 @@
 namespace quorvel::muxhost {
 
 void Uploader::Upload(bool all, bool macros) {
+  if (!at_.session.HasDevice() && !connect()) return;
+  // The control compares before it opens its dialog, and tells the two: nothing is read before.
+  if (!at_.session.Control().DeviceMismatch().empty()) return run();
   if (all && !MayLeaveOut()) return;
   if (!MayBring(WhatGoesAlong(at_.session, all, macros, at_.platform.Now()))) return;
   if (at_.backups.Wanted() && !BackUp()) return;

@@ -29,6 +29,9 @@ class Uploader {
   /// Has the session upload.
   std::function<void()> run;
 
+  /// Has the user connect a device, without one; false when there is none after that.
+  std::function<bool()> connect;
+
   /// All blocks, or the modified ones. The choice is made in the send dialog, whose START is the
   /// user's.
   void Upload(bool all, bool macros);

@@ -1,0 +1,132 @@
+// How the host's window goes from one device, or file, to another.
+#include <QMessageBox>
+#include <stdexcept>
+
+#include "muxhost/window/desktop.h"
+#include "muxhost/window/device_box.h"
+#include "muxhost/window/main_window.h"
+#include "muxhost/window/words.h"
+
+namespace quorvel::muxhost {
+
+namespace {
+
+const QString kDevice = "device";
+
+}  // namespace
+
+bool MainWindow::MayLoseChanges(const QString& by) {
+  blocks_->Update(transfer_runs_, true);
+  const bool unsaved = files_->IsUnsaved();
+  // Without a device there is none that could lack them, and what a file holds is not lost.
+  const bool counts = session_.HasDevice() && !files_->IsKept();
+  const auto changed = counts ? blocks_->States().Unwritten().size() : 0;
+  QString question;
+  if (unsaved) question = files_->Opened().Name() + " has changes that are not saved. ";
+  if (changed > 0) {
+    question += QString("%1 modified %2 not been sent to the device. ")
+                    .arg(changed)
+                    .arg(changed == 1 ? "block has" : "blocks have");
+  }
+  // A transfer's dialog locks the window, an editor does not.
+  const bool locked = IsLocked();
+  if (locked) {
+    question += "A transfer or a question is still open. ";
+  } else if (OthersAreOpen(this)) {
+    question += "A window of the menu is open. ";
+  }
+  if (question.isEmpty()) return true;
+  question += by + (locked ? " breaks it off and loses the changes." : " loses the changes.");
+  QMessageBox::StandardButtons buttons = QMessageBox::Discard | QMessageBox::Cancel;
+  if (!locked && (unsaved || changed > 0)) buttons |= QMessageBox::Save;
+  const auto answer =
+      QMessageBox::question(this, windowTitle(), question, buttons,
+                            unsaved && !locked ? QMessageBox::Save : QMessageBox::Cancel);
+  return answer == QMessageBox::Save ? files_->Save() : answer == QMessageBox::Discard;
+}
+
+void MainWindow::LeaveControl() {
+  silence_.End();
+  awaits_answer_ = false;
+  surface_->Detach();
+  delete surface_;
+  surface_ = nullptr;
+  loaded_ = false;
+  asked_.reset();
+  brought_.reset();
+  missed_.reset();
+  blocks_->Forget();
+  files_->Opened().Forget();
+}
+
+void MainWindow::Connect() {
+  try {
+    SimulatedDevice device(picker_->Setup());
+    if (!session_.HasDevice()) {
+      const std::string mismatch = session_.ConnectToOpen(device);
+      if (mismatch.empty()) return NoteConnected("a device is connected to what is open", *picker_);
+      if (!MayGoOnWithout(mismatch)) return;
+    }
+    if (!MayLoseChanges("Connecting another device")) return;
+    session_.Connect(std::move(device));
+    PlaceSurface();
+    NoteConnected("a new device is connected", *picker_);
+  } catch (const std::invalid_argument& error) {
+    QMessageBox::warning(this, windowTitle(), QString::fromStdString(error.what()));
+  }
+}
+
+void MainWindow::NoteConnected(const char* what, const DevicePicker& chosen) {
+  log_->Add(what);
+  memory_.SetValue(kDevice, chosen.Choice());
+  ShowState();
+}
+
+bool MainWindow::MayGoOnWithout(const std::string& mismatch) {
+  QMessageBox box(QMessageBox::Warning, windowTitle(), QString::fromStdString(mismatch),
+                  QMessageBox::Cancel, this);
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(
+      "What is open stays as it is, and without a device. Close it and connect "
+      "the device without it?");
+  const auto* const without = box.addButton("Connect without it", QMessageBox::AcceptRole);
+  box.setDefaultButton(QMessageBox::Cancel);
+  box.exec();
+  return box.clickedButton() == without;
+}
+
+bool MainWindow::AskForDevice() {
+  DeviceBox box(DeviceBox::For::kConnecting, platform_, this);
+  box.Picker().Choose(picker_->Choice());
+  const SimulatedDevice& open = session_.Device();
+  box.Picker().ChooseDeviceOf(open.ModelCode(), open.IdentityBytes().at(0),
+                              NameOf(open, platform_));
+  const auto setup = box.Ask();
+  if (!setup) return false;
+  std::string trouble;
+  try {
+    trouble = session_.ConnectToOpen(SimulatedDevice(*setup));
+  } catch (const std::invalid_argument& error) {
+    trouble = error.what();
+  }
+  if (!trouble.empty()) {
+    QMessageBox::warning(this, windowTitle(), QString::fromStdString(trouble).toHtmlEscaped());
+    return false;
+  }
+  picker_->Choose(box.Picker().Choice());
+  NoteConnected("a device is connected to what is open", *picker_);
+  return true;
+}
+
+void MainWindow::RememberDevice() {
+  const QVariantMap choice = memory_.Value(kDevice).toMap();
+  if (choice.isEmpty()) return;
+  picker_->Choose(choice);
+  try {
+    session_.Connect(SimulatedDevice(picker_->Setup()));
+  } catch (const std::invalid_argument&) {
+    // What was kept was changed by other hands: the usual device stays.
+  }
+}
+
+}  // namespace quorvel::muxhost
