@@ -77,7 +77,9 @@ TEST_F(MuxhostFiles, AreEditedAndSavedWithoutADeviceAndSentLater) {
 
   Choose("mnu_CSetup");
   QWidget& editor = *OnScreen("frm_CameraSetup");
-  QTest::keyClicks(Find<QLineEdit>(&editor, "m_CameraTitle(2)"), "x");
+  auto* const title = Find<QLineEdit>(&editor, "m_CameraTitle(2)");
+  title->selectAll();
+  QTest::keyClicks(title, "Yard");
   QTest::mouseClick(Find<QPushButton>(&editor, "cmd_OK"), Qt::LeftButton);
   DismissMenu();
   EXPECT_TRUE(IsMarked(true));
@@ -90,20 +92,19 @@ TEST_F(MuxhostFiles, AreEditedAndSavedWithoutADeviceAndSentLater) {
   EXPECT_TRUE(IsMarked(false));
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.read(35).mid(32), "x  ") << "the title of the third camera";
+  EXPECT_EQ(file.read(38).mid(32), "Yard  ") << "the title of the third camera";
 
   // Another model is refused before it is read, let alone written.
   Click("Upload all", Connecting(8), Answering("OK"));
   EXPECT_TRUE(told_.contains("TX16 (16 ch, Triplex NTSC, Lite/EZ)")) << told_.toStdString();
   EXPECT_FALSE(session_.HasDevice());
   EXPECT_EQ(BackupFiles().size(), 0);
-  EXPECT_EQ(TitleOf(2).substr(0, 2), "\"x");
+  EXPECT_EQ(TitleOf(2), "\"Yard\"");
 
-  Click(
-      "Upload all", Connecting(6), [] { return StartSending("Select all data blocks"); },
-      [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
+  Click("Upload modified", Connecting(6), SendListed,
+        [this] { return session_.LastExchange().end_written && Press("CLOSE"); });
   EXPECT_EQ(BackupFiles().size(), 1);
-  EXPECT_EQ(session_.Device().ReadBlock(3)->at(0), 'x');
+  EXPECT_EQ(session_.Device().ReadBlock(3)->at(0), 'Y');
   EXPECT_TRUE(window_.close()) << "nothing is lost";
 }
 

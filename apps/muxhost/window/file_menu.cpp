@@ -151,6 +151,7 @@ bool FileMenu::SaveInto(const QString& path) {
   }
   at_.memory.AddRecent(path);
   document_.Begin(at_.session.Control(), QFileInfo(path).absoluteFilePath(), {});
+  ShowTitle();
   at_.log.Add("saved: " + std::to_string(bytes.size()) + " bytes in " + path.toStdString());
   if (bytes.size() >= kRestoreLimit) {
     Warn("The file is too long to be opened again.",
@@ -189,6 +190,10 @@ void FileMenu::ShowComparison(const QString& what, const Comparison& comparison)
 void FileMenu::Show(const QString& why_not, bool loaded) {
   for (QAction* const action : opening_) action->setEnabled(why_not.isEmpty());
   for (QAction* const action : keeping_) action->setEnabled(loaded);
+  ShowTitle();
+}
+
+void FileMenu::ShowTitle() {
   at_.window.setWindowTitle(document_.IsOpen() ? document_.Name() + "[*] - muxhost" : "muxhost");
   at_.window.setWindowModified(IsUnsaved());
 }

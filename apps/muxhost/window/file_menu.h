@@ -47,6 +47,7 @@ class FileMenu : public QObject {
   void Show(const QString& why_not, bool loaded);
 
  private:
+  void ShowTitle();
   void AddActions(QMenu& menu);
   void ListRecent();
   void New();
