@@ -17,6 +17,7 @@
 #include <cstdlib>
 
 #include "muxhost/gallery/gallery.h"
+#include "muxhost/report/pdf.h"
 #include "muxhost/window/run_window.h"
 #endif
 
@@ -55,6 +56,9 @@ int RunScript(const std::string& path, bool echo, const Texts& texts) {
   }
   quorvel::muxhost::ScriptRunner runner(path == "-" ? std::cin : file, std::cout, std::cerr, echo,
                                         texts);
+#ifdef MUXHOST_WITH_QT
+  runner.MakePdfWith(quorvel::muxhost::PdfOf);
+#endif
   return runner.Run();
 }
 

@@ -2,6 +2,13 @@
 
 namespace quorvel::muxhost {
 
+std::string LabelText(const std::string& label) {
+  constexpr const char* kAround = " :";
+  const auto first = label.find_first_not_of(kAround);
+  if (first == std::string::npos) return label;
+  return label.substr(first, label.find_last_not_of(kAround) - first + 1);
+}
+
 std::string Place(const SettingPosition& at, std::span<const std::string> settings) {
   std::string place;
   const auto add = [&place](const std::string& part, const char* separator) {
@@ -14,8 +21,8 @@ std::string Place(const SettingPosition& at, std::span<const std::string> settin
     return place;
   }
   add(at.editor, "");
-  if (at.page != at.editor) add(at.page, " > ");
-  add(at.label, " > ");
+  if (at.page != at.editor) add(LabelText(at.page), " > ");
+  add(LabelText(at.label), " > ");
   add(at.line, " > ");
   return place;
 }

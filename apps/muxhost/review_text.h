@@ -7,6 +7,8 @@
 
 namespace quorvel::muxhost {
 
+/// What a label says without the colon and the blanks around it: "Dwell" of "Dwell :".
+[[nodiscard]] std::string LabelText(const std::string& label);
 /// "Camera Setup > Gain > Camera 3 "Front door""; the names of what no editor shows.
 [[nodiscard]] std::string Place(const SettingPosition& at, std::span<const std::string> settings);
 /// "4 -> 7", with "" for nothing.

@@ -246,6 +246,7 @@ class OctetsField final : public Field {
       setting_.Access().AddNames(record, i, shown.settings);
     }
     shown.control = &boxes_(0);
+    shown.caption = boxes_(0).SurroundingCaption();
     shown.is = Dotted(Present());
   }
   [[nodiscard]] bool LineDiffers(int /*line*/) const override { return Present() != opened_; }

@@ -60,6 +60,7 @@ constexpr Command kCommands[] = {
     {"wait MS", 1, 1, commands::Wait},
     {"show [WINDOW|WINDOW.CONTROL]", 0, 1, commands::Show},
     {"pages [WINDOW [PAGE...]]", 0, kAny, commands::Pages},
+    {"report FILE", 1, 1, commands::Report},
     {"help CONTROL [ROW COLUMN]", 1, 3, commands::Help},
     {"menu-items", 0, 0, commands::MenuItems},
     {"modified", 0, 0, commands::Modified},

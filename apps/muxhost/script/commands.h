@@ -59,6 +59,7 @@ void Wait(Desk& desk, Words words);
 void Show(Desk& desk, Words words);
 void Pages(Desk& desk, Words words);
 void Help(Desk& desk, Words words);
+void Report(Desk& desk, Words words);
 void MenuItems(Desk& desk, Words words);
 void Modified(Desk& desk, Words words);
 void Settings(Desk& desk, Words words);

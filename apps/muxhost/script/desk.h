@@ -1,6 +1,7 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -50,6 +51,8 @@ struct Desk {
   HostSession session;
   /// Message boxes shown since the script last asked.
   std::vector<Message> messages;
+  /// Makes a PDF file of HTML; a build without a window cannot.
+  std::function<std::vector<std::uint8_t>(const std::string& html)> make_pdf;
   /// What `review` has shown last.
   std::vector<ReviewLine> review;
   /// Works the modal dialog of the running command; without one, the script's next lines do.

@@ -24,6 +24,11 @@ class ScriptRunner {
   ScriptRunner(std::istream& in, std::ostream& out, std::ostream& err, bool echo = false,
                std::shared_ptr<const Language> language = nullptr);
 
+  /// What makes a PDF file of HTML, for `report`.
+  void MakePdfWith(std::vector<std::uint8_t> (*make)(const std::string& html)) {
+    desk_.make_pdf = make;
+  }
+
   /// Runs the script to its end, or to the first line that cannot be carried out, which is told on
   /// `err` as "line N: REASON". Returns the exit status, 0 or 1.
   int Run();
