@@ -46,11 +46,13 @@ BlockContents ContentsOf(const MainMenuCtrl& control, std::span<const Byte> devi
   return contents;
 }
 
-std::string InWords(const BlockContents& contents) {
+std::string InWords(const BlockContents& contents, bool has_device) {
   const bool alike = contents.in_control == contents.in_device;
-  std::string text = alike ? Line("In control and device", contents.in_control)
-                           : Line("In the control", contents.in_control) +
-                                 Line("In the device", contents.in_device);
+  std::string text = alike
+                         ? Line(has_device ? "In control and device" : "In the control, as opened",
+                                contents.in_control)
+                         : Line("In the control", contents.in_control) +
+                               Line(has_device ? "In the device" : "As opened", contents.in_device);
   for (const SettingLine& line : contents.settings) text += line.name + " = " + line.value + '\n';
   if (contents.in_control.empty()) {
     text += "Its settings are known when the device's configuration has been downloaded.\n";

@@ -20,7 +20,8 @@ struct BlockContents {
 /// What block `n` (from 1) holds. `device` is the device's image.
 [[nodiscard]] BlockContents ContentsOf(const MainMenuCtrl& control, std::span<const Byte> device,
                                        int n);
-/// The same in lines of text: "In the control:", "01 02 ...", "AlarmMode = 2".
-[[nodiscard]] std::string InWords(const BlockContents& contents);
+/// The same in lines of text: "In the control:", "01 02 ...", "AlarmMode = 2". Without a device,
+/// what stands in for it is what the control held at first: "As opened:".
+[[nodiscard]] std::string InWords(const BlockContents& contents, bool has_device = true);
 
 }  // namespace quorvel::muxhost

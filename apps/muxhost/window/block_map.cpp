@@ -225,7 +225,7 @@ void BlockMapBox::ShowContents() {
   contents_box_->setTitle(
       model_->index(looked_at_ - 1).data(Qt::AccessibleTextRole).toString().replace(",", ":"));
   const auto contents = ContentsOf(session_.Control(), session_.Device().Bytes(), looked_at_);
-  const QString text = QString::fromStdString(InWords(contents)).trimmed();
+  const QString text = QString::fromStdString(InWords(contents, session_.HasDevice())).trimmed();
   if (text == contents_->toPlainText()) return;
   contents_->setPlainText(text);
 }

@@ -164,9 +164,9 @@ void DevicePicker::ChooseDeviceOf(int model, int cameras, const QString& name) {
   name_->setText(name);
 }
 
-void DevicePicker::AllowConnect(bool allowed, const QString& why_not) {
+void DevicePicker::AllowConnect(bool allowed, const QString& tip) {
   connect_->setEnabled(allowed);
-  connect_->setToolTip(allowed ? "Replaces the device by a new one" : why_not);
+  connect_->setToolTip(tip);
 }
 
 }  // namespace quorvel::muxhost

@@ -36,8 +36,8 @@ class DevicePicker : public QGroupBox {
   void Choose(const QVariantMap& choice);
   /// Chooses what a configuration says of its device.
   void ChooseDeviceOf(int model, int cameras, const QString& name);
-  /// Whether the button can be pressed, and why not.
-  void AllowConnect(bool allowed, const QString& why_not);
+  /// Whether the button can be pressed; the tool tip says why not, or what it does.
+  void AllowConnect(bool allowed, const QString& tip);
 
  private:
   [[nodiscard]] QWidget* MakeMacroRow();

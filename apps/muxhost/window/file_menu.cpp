@@ -43,13 +43,13 @@ void FileMenu::AddActions(QMenu& menu) {
   keeping_.push_back(add(
       "&Save", [this] { Save(); }, QKeySequence::Save));
   keeping_.push_back(add(
-      "Save &as...", [this] { SaveAs(); }, QKeySequence::SaveAs));
+      "Save &as...", [this] { SaveAs(); }, QKeySequence("Ctrl+Shift+S")));
   menu.addSeparator();
   keeping_.push_back(add("&Compare with file...", [this] { CompareWithFile(); }));
   add("Compare &two files...", [this] { CompareTwoFiles(); });
   menu.addSeparator();
   add(
-      "&Quit", [this] { at_.window.close(); }, QKeySequence::Quit);
+      "&Quit", [this] { at_.window.close(); }, QKeySequence("Ctrl+Q"));
   ListRecent();
 }
 

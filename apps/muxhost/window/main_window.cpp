@@ -323,7 +323,9 @@ void MainWindow::ShowState() {
   commands_->Show(situation.commands);
   hint_->setText(step.hint);
   const QString busy = CommandBox::Busy(situation.commands);
-  picker_->AllowConnect(busy.isEmpty(), busy);
+  const QString connects = session_.HasDevice() ? "Replaces the device by a new one"
+                                                : "Connects the device to what is open";
+  picker_->AllowConnect(busy.isEmpty(), busy.isEmpty() ? connects : busy);
   options_->AllowExchange(busy.isEmpty(), busy);
   link_->ShowPending(session_.PendingFault());
   identity_->setText((session_.HasDevice() ? "" : "Without a device:  ") +
