@@ -142,6 +142,8 @@ int Run(int argc, char** argv) {
   }
   reporter.PrintTime("find_unallowed", 20);
   reporter.PrintTime("compare_alike", 50);
+  reporter.PrintTime("review_1000", 2000);
+  reporter.PrintTime("review_1000_after_edit", 2000);
   reporter.PrintTime("open_and_leave_alarms", 88);
   reporter.PrintTime("open_and_leave_record", 60);
   return ReportAllocations() ? 0 : 1;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <stdexcept>
+#include <string>
 #include <utility>
 
 #include "bench/ratio_reporter.h"
@@ -107,6 +108,20 @@ void RegisterTransfers() {
   on_control("compare_alike", [](MainMenuCtrl& it) {
     static const BlockImage image = TriplexImage();
     benchmark::DoNotOptimize(it.DifferencesFrom(image.Bytes()));
+  });
+  // Against a file that differs in more than 1,000 settings; then with the editors of the present
+  // settings made anew, as after every edit.
+  static const BlockImage random = [] {
+    ImageRandom engine(1);
+    return RandomImage({6, 16, 225}, engine);
+  }();
+  on_control("review_1000", [](MainMenuCtrl& it) {
+    if (it.Review(random.Bytes()).lines.size() < 1000) throw std::logic_error("too few differ");
+  });
+  on_control("review_1000_after_edit", [](MainMenuCtrl& it) {
+    static int mode = 0;
+    it.SetSetting("AlarmMode", std::to_string(mode = 1 - mode));
+    benchmark::DoNotOptimize(it.Review(random.Bytes()));
   });
   constexpr std::pair<const char*, const char*> kEditors[] = {
       {"open_and_leave_alarms", "mnu_Alarm"}, {"open_and_leave_record", "mnu_Record"}};

@@ -43,6 +43,7 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   }
   record_ = std::move(fresh);
   arrived_ = std::move(arrived);
+  MenuLocksKeyboard = false;
   BlkImage = std::move(image);
   ComboArray = std::move(array);
   LoadedFromFile =

@@ -45,7 +45,9 @@ class DeviceState {
   RecordEnvironment env;            ///< commit flags, modified-block list, identity of the image
   CombinedArray ComboArray;         ///< the image's own, received, restored or built; or empty
   bool LoadedFromFile = false;      ///< what is sent is compared with the connected device first
-  bool UsePcTime = false;           ///< block 61 takes the computer's clock when it is encoded
+  /// The menu has locked the device's keyboard by itself: that is no edit, and no difference.
+  bool MenuLocksKeyboard = false;
+  bool UsePcTime = false;  ///< block 61 takes the computer's clock when it is encoded
 
   /// The record; created at first use.
   [[nodiscard]] MuxData& Record();

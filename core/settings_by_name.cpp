@@ -283,10 +283,10 @@ SetAnswer StoreAgain(const Slot& slot, AnySetting& setting, std::string_view sto
   const auto wanted = WholeNumber(stored);
   if (!wanted) return SetAnswer::kNotAValue;
   const int number = (held.number & ~mask) | (*wanted & mask);
-  if (!slot.storable.Holds(number)) return SetAnswer::kNotAValue;
   if (number == held.number) return SetAnswer::kUnchanged;
   setting.SetNumber(number);
-  return SetAnswer::kSet;
+  // What does not fit into the setting has become another number.
+  return setting.Holds().number == number ? SetAnswer::kSet : SetAnswer::kNotAValue;
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "core/change_marks.h"
+#include "core/codec.h"
 #include "core/device_state.h"
-#include "core/setting_list.h"
 #include "core/settings_by_name.h"
 
 namespace quorvel {
@@ -24,18 +24,15 @@ bool AreOfOneKind(const BlockImage& one, const BlockImage& other) {
   return a.ModelCode == b.ModelCode && a.MaxCam == b.MaxCam;
 }
 
-/// The blocks that carry a setting of which two configurations of one device hold another value.
-std::set<Byte> DifferingBlocks(const Configuration& one, const Configuration& other) {
-  const SettingList list(one);
-  const auto values = list.Values(one);
-  const auto others = list.Values(other);
-  std::set<Byte> blocks;
-  for (std::size_t i = 0; i < list.Count(); ++i) {
-    if (!(values[i] == others[i])) {
-      blocks.insert(list.At(i).blocks.begin(), list.At(i).blocks.end());
-    }
+/// True when a block, its clock included, is in `now` as the device has it.
+bool HasAll(const BlockImage& device, const BlockImage& now, int number, const Identity& id) {
+  const auto had = device.Block(number);
+  const auto has = now.Block(number);
+  for (int at = 0; at < kBlockSize; ++at) {
+    const auto place = static_cast<std::size_t>(at);
+    if (IsClockByte(number, at) && had[place] != has[place]) return false;
   }
-  return blocks;
+  return DeviceHasBlock(number, had, has, id);
 }
 
 }  // namespace
@@ -44,7 +41,13 @@ std::unique_ptr<DecodedImage> DeviceState::OfDevice() const {
   const bool of_device = device_image_ != nullptr && AreOfOneKind(*device_image_, BlkImage);
   BlockImage image = of_device ? *device_image_ : arrived_ != nullptr ? *arrived_ : BlkImage;
   if (of_device || device_image_ == nullptr) PutTaken(image);
-  return std::make_unique<DecodedImage>(std::move(image));
+  auto device = std::make_unique<DecodedImage>(std::move(image));
+  if (MenuLocksKeyboard && record_ != nullptr) {
+    constexpr int kLockBlock = 60;
+    device->record.LockKeyBoard.Load(record_->LockKeyBoard());
+    EncodeBlock(kLockBlock, device->image, device->env, device->record);
+  }
+  return device;
 }
 
 bool DeviceState::TakeBack(StepName name, std::span<const std::string> settings,
@@ -72,19 +75,20 @@ bool DeviceState::TakeBack(StepName name, std::span<const std::string> settings,
 void DeviceState::UnlistWhatDeviceHas(const std::set<Byte>& blocks) {
   const auto device = OfDevice();
   const BlockImage now = EncodedImage();
-  const int count = BlkImage.BlkCount();
-  const std::set<Byte> differing =
-      DifferingBlocks({Record(), env.identity, count}, {device->record, env.identity, count});
+  const auto stays = [&](int number) {
+    if (number == kClockBlock && UsePcTime) return true;
+    return !now.Counts(number) || !HasAll(device->image, now, number, env.identity);
+  };
+  bool differs = false;
+  for (int number = 1; now.Counts(number) && !differs; ++number) {
+    differs = !IsDeviceBlock(number) && stays(number);
+  }
   const clsBlkSave listed = env.blocks;
   env.blocks.SetMaxBlk(0);
   for (Byte i = 0; i < listed.BlkSavIdx(); ++i) {
     const Byte number = listed.BlkNumSav(i);
-    const bool meant = differing.empty() || blocks.contains(number);
-    const bool stays = differing.contains(number) || (number == kClockBlock && UsePcTime);
-    if (!meant || stays || !now.Counts(number) ||
-        !DeviceHasBlock(number, device->image.Block(number), now.Block(number), env.identity)) {
-      env.blocks.AddBlk(number);
-    }
+    const bool meant = !differs || blocks.contains(number);
+    if (!meant || stays(number)) env.blocks.AddBlk(number);
   }
   for (const Byte number : blocks) {
     if (!now.Counts(number) || (number == kClockBlock && UsePcTime)) continue;

@@ -128,7 +128,10 @@ void frm_Menu::SetUpKeyboardLock() {
     // These devices keep their keyboard locked while a host is connected; no flag is raised, so
     // this is not an edit.
     menu_->Item("mnu_UnLock").enabled = false;
-    if (record.LockKeyBoard() == 0) record.LockKeyBoard(1);
+    if (record.LockKeyBoard() == 0) {
+      record.LockKeyBoard(1);
+      context_.device.MenuLocksKeyboard = true;
+    }
   }
 }
 

@@ -15,10 +15,9 @@ namespace quorvel {
 
 namespace {
 
-/// The setting that the menu gives a value of its own on devices that cannot be locked by hand.
+/// The setting that the menu gives a value of its own, where it does.
 std::optional<std::size_t> KeptByMenu(const SettingList& settings, const Context& context) {
-  const bool lockable = context.host.MenuHostCommId != 0 || context.device.env.identity.IsTriplex();
-  return lockable ? std::nullopt : settings.Find("LockKeyBoard");
+  return context.device.MenuLocksKeyboard ? settings.Find("LockKeyBoard") : std::nullopt;
 }
 
 /// The settings that differ, as numbers.
