@@ -8,8 +8,11 @@
 #include <stdexcept>
 
 #include "muxhost/file_name.h"
+#include "muxhost/report/pdf.h"
+#include "muxhost/report/report.h"
 #include "muxhost/window/compare_box.h"
 #include "muxhost/window/device_box.h"
+#include "muxhost/window/report_box.h"
 #include "muxhost/window/words.h"
 #include "quorvel/settings_file.h"
 
@@ -19,6 +22,7 @@ namespace {
 
 const QString kFilter = "Settings files (*.bin);;All files (*)";
 const QString kSettings = "settings";
+const QString kReports = "reports";
 const QString kComparing = "comparing";
 const QString kNewDevice = "newDevice";
 
@@ -47,6 +51,10 @@ void FileMenu::AddActions(QMenu& menu) {
   menu.addSeparator();
   keeping_.push_back(add("&Compare with file...", [this] { CompareWithFile(); }));
   add("Compare &two files...", [this] { CompareTwoFiles(); });
+  menu.addSeparator();
+  keeping_.push_back(add(
+      "&Print report...", [this] { PreviewReport(at_.window, Report()); }, QKeySequence::Print));
+  keeping_.push_back(add("Save r&eport...", [this] { SaveReport(); }));
   menu.addSeparator();
   add(
       "&Quit", [this] { at_.window.close(); }, QKeySequence("Ctrl+Q"));
@@ -129,13 +137,39 @@ void FileMenu::OpenFile(const QString& path) {
 
 bool FileMenu::Save() { return document_.Path().isEmpty() ? SaveAs() : SaveInto(document_.Path()); }
 
-bool FileMenu::SaveAs() {
+QString FileMenu::ProposedName(const QString& purpose, const QString& ending) {
   const auto image = at_.session.Control().EditedImage();
   QString proposed = QString::fromStdString(ProposedFileName(image, at_.platform.Now().date));
-  const QString folder = at_.memory.Folder(kSettings);
-  if (!folder.isEmpty()) proposed = QDir(folder).filePath(proposed);
+  if (!ending.isEmpty()) proposed.replace(proposed.lastIndexOf('.'), proposed.size(), ending);
+  const QString folder = at_.memory.Folder(purpose);
+  return folder.isEmpty() ? proposed : QDir(folder).filePath(proposed);
+}
+
+std::string FileMenu::Report() {
+  const std::string source = document_.IsOpen() ? document_.Name().toStdString() : "the device";
+  return HtmlReport(at_.session.Control(), {source, at_.platform.Now()});
+}
+
+void FileMenu::SaveReport() {
   const QString path =
-      QFileDialog::getSaveFileName(&at_.window, "Save the settings", proposed, kFilter);
+      QFileDialog::getSaveFileName(&at_.window, "Save a report", ProposedName(kReports, ".pdf"),
+                                   "PDF files (*.pdf);;HTML files (*.html)");
+  if (path.isEmpty()) return;
+  at_.memory.NoteFolderOf(kReports, path);
+  const std::string html = Report();
+  const bool is_html = path.endsWith(".html", Qt::CaseInsensitive);
+  try {
+    at_.platform.StoreFile(path.toStdString(),
+                           is_html ? std::vector<Byte>(html.begin(), html.end()) : PdfOf(html));
+    at_.log.Add("report: " + path.toStdString());
+  } catch (const std::exception& error) {
+    Warn("The report is not saved.", error.what());
+  }
+}
+
+bool FileMenu::SaveAs() {
+  const QString path = QFileDialog::getSaveFileName(&at_.window, "Save the settings",
+                                                    ProposedName(kSettings), kFilter);
   if (path.isEmpty()) return false;
   at_.memory.NoteFolderOf(kSettings, path);
   return SaveInto(path);

@@ -54,6 +54,10 @@ class FileMenu : public QObject {
   void AskForFile();
   bool SaveAs();
   bool SaveInto(const QString& path);
+  /// What `purpose` files are saved by, in their last folder, with another ending than ".bin".
+  [[nodiscard]] QString ProposedName(const QString& purpose, const QString& ending = {});
+  [[nodiscard]] std::string Report();
+  void SaveReport();
   void CompareWithFile();
   void CompareTwoFiles();
   /// Empty when the user would rather not.
