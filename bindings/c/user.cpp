@@ -131,6 +131,27 @@ quorvel_result quorvel_user_paste(quorvel_platform* platform, const char* name, 
   });
 }
 
+quorvel_result quorvel_user_undo(quorvel_platform* platform, const char* window) {
+  return Run([&] {
+    const auto held = Of(platform);
+    Require(held->User().Undo(OrEmpty(window)));
+  });
+}
+
+quorvel_result quorvel_user_redo(quorvel_platform* platform, const char* window) {
+  return Run([&] {
+    const auto held = Of(platform);
+    Require(held->User().Redo(OrEmpty(window)));
+  });
+}
+
+quorvel_result quorvel_user_put_back(quorvel_platform* platform, const char* name,
+                                     int32_t to_device) {
+  const PutBackTo to = to_device != 0 ? PutBackTo::kDevice : PutBackTo::kOpened;
+  return Act(platform, name,
+             [to](const auto& user, const char* at) { return user.PutBack(at, to); });
+}
+
 quorvel_result quorvel_user_close_window(quorvel_platform* platform, const char* window) {
   return Run([&] {
     const auto held = Of(platform);

@@ -126,6 +126,14 @@ QUORVEL_C_API quorvel_result quorvel_user_mark(quorvel_platform* platform, const
 QUORVEL_C_API quorvel_result quorvel_user_empty(quorvel_platform* platform, const char* name);
 QUORVEL_C_API quorvel_result quorvel_user_paste(quorvel_platform* platform, const char* name,
                                                 const char* text);
+// Takes back what the user has done last in an editor, or does it again, gesture by gesture;
+// `window` NULL: in the one in front. QUORVEL_NO_SUCH_PLACE when there is nothing.
+QUORVEL_C_API quorvel_result quorvel_user_undo(quorvel_platform* platform, const char* window);
+QUORVEL_C_API quorvel_result quorvel_user_redo(quorvel_platform* platform, const char* window);
+// Puts back what a control edits, of a grid the selected cells of the current column: to what it was
+// when the window opened, or with `to_device` not 0 to what the device has.
+QUORVEL_C_API quorvel_result quorvel_user_put_back(quorvel_platform* platform, const char* name,
+                                                   int32_t to_device);
 // The close button of a window; `window` NULL: of the one in front.
 QUORVEL_C_API quorvel_result quorvel_user_close_window(quorvel_platform* platform,
                                                        const char* window);

@@ -41,6 +41,7 @@ struct Message {
   std::string title;
   Buttons buttons = Buttons::kOk;
   Kind kind = Kind::kInformation;
+  bool ok_without_user = false;  ///< where no user is there to answer, the question means OK
 };
 
 /// How much a line of the log matters.

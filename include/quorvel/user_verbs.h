@@ -57,6 +57,14 @@ class QUORVEL_API NamedUser {
 
   /// The window's own close button; without a name that of the window in front.
   VerbAnswer CloseWindow(std::string_view name = {}) const;
+  /// Takes back what the user has done last in an editor, or does it again; without a name in the
+  /// window in front.
+  VerbAnswer Undo(std::string_view window = {}) const;
+  VerbAnswer Redo(std::string_view window = {}) const;
+  /// Puts back what a control edits: see Dialog::PutBack. In a grid, a cell that is pressed first.
+  VerbAnswer PutBack(std::string_view control, PutBackTo to = PutBackTo::kOpened) const;
+  VerbAnswer PutBackCell(std::string_view grid, int row, int column,
+                         PutBackTo to = PutBackTo::kOpened) const;
 
  private:
   const std::vector<Dialog*>& windows_;

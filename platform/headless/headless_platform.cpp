@@ -180,7 +180,9 @@ void HeadlessPlatform::TakeDown(const PopupMenu& menu) noexcept {
 
 bool HeadlessPlatform::Ask(const Message& message) {
   messages_.push_back(message);
-  if (answers_.empty()) return message.buttons == Message::Buttons::kOk;
+  if (answers_.empty()) {
+    return message.buttons == Message::Buttons::kOk || message.ok_without_user;
+  }
   const bool ok = answers_.front();
   answers_.pop_front();
   return ok;

@@ -47,7 +47,8 @@ TEST(CInterface, RefusesNullInEveryPlace) {
       quorvel_user_choose_menu, quorvel_user_dismiss_menu, quorvel_user_click, quorvel_user_type,
       quorvel_user_select, quorvel_user_slide, quorvel_user_pick, quorvel_user_turn_page,
       quorvel_user_press, quorvel_user_release, quorvel_user_drag, quorvel_user_mark,
-      quorvel_user_empty, quorvel_user_paste, quorvel_user_close_window);
+      quorvel_user_empty, quorvel_user_paste, quorvel_user_undo, quorvel_user_redo,
+      quorvel_user_put_back, quorvel_user_close_window);
   EXPECT_EQ(quorvel_platform_new(nullptr, nullptr), QUORVEL_INVALID);
   EXPECT_EQ(quorvel_control_new(host.platform, nullptr, nullptr), QUORVEL_INVALID);
   quorvel_control_free(nullptr);
@@ -149,6 +150,12 @@ TEST(CInterface, AnswersTheUser) {
             "45 m_CameraTitle(0) is nothing to click");
   EXPECT_EQ(user(quorvel_user_type, "m_CameraTitle(9)", "x"), "40 m_CameraTitle(9) is hidden");
   EXPECT_EQ(user(quorvel_user_turn_page, "SSTab1", 99), "42 SSTab1 has no such place");
+  EXPECT_EQ(user(quorvel_user_undo, nullptr), "42 nothing can be taken back in frm_CameraSetup");
+  EXPECT_EQ(user(quorvel_user_click, "m_CameraCovert(0)"), "0 ");
+  EXPECT_EQ(user(quorvel_user_undo, "frm_CameraSetup"), "0 ");
+  EXPECT_EQ(user(quorvel_user_redo, nullptr), "0 ");
+  EXPECT_EQ(user(quorvel_user_put_back, "m_CameraCovert(0)", 1), "0 ");
+  EXPECT_EQ(user(quorvel_user_put_back, "cmd_OK", 0), "45 cmd_OK is nothing to put back");
   EXPECT_EQ(user(quorvel_user_close_window, "frm_None"), "5 no window frm_None is open");
   EXPECT_EQ(user(quorvel_user_close_window, nullptr), "0 ");
   EXPECT_EQ(user(quorvel_user_close_window, nullptr), "5 no window is open");

@@ -12,6 +12,7 @@
 #include "tests/ui/editor_items.h"
 #include "tests/ui/use.h"
 #include "ui/editing/editor.h"
+#include "ui/widgets/gestures.h"
 
 namespace quorvel {
 namespace {
@@ -423,6 +424,69 @@ TEST(EditorSuite, ARandomUserChangesWhatIsListed) {
       bench.ExpectListedWhatChanged(turn > 0);
       if (turn == 0) ExpectTheSameByName(bench);
     }
+  });
+}
+
+/// All that an editor shows, and what has been edited of it.
+std::string Told(const Editor& editor) {
+  std::string told;
+  for (const Widget* const it : editor.Widgets()) {
+    told += it->Name() + " " + it->Caption() + " " + it->SpokenName() + " [" + it->SpokenNote() +
+            "] " + it->ValueText() + (it->Enabled() ? "" : " off") + (it->Showing() ? "\n" : " -\n");
+    if (const auto* box = dynamic_cast<const TextBox*>(it)) told += box->Note() + "\n";
+    if (const auto* grid = dynamic_cast<const Grid*>(it)) told += std::to_string(grid->RowSel());
+  }
+  for (const EditedValue& value : editor.GetGestures()->What().Values()) {
+    told += " " + std::to_string(value.number) + value.text;
+  }
+  return told;
+}
+
+/// Does something of the user's to any control.
+void DoSomething(Bench& bench, Editor& editor) {
+  const auto& widgets = editor.Widgets();
+  Widget& widget = *widgets.at(static_cast<std::size_t>(bench.Below(std::ssize(widgets))));
+  if (bench.Below(5) == 0) {
+    editor.PutBack(widget, bench.Below(2) == 0 ? PutBackTo::kOpened : PutBackTo::kDevice);
+  } else if (&widget != editor.DefaultButton() && &widget != editor.CancelButton() &&
+             widget.Name() != "cmdActGrid") {
+    Use(widget, bench);
+  }
+}
+
+TEST(EditorSuite, WhatTheUserDoesIsTakenBackStepByStep) {
+  ForEveryModel([](Bench& bench, const std::string& item) {
+    Editor& editor = bench.Open(item);
+    std::vector<std::string> before, after;  // of each step
+    const Gestures& steps = *editor.GetGestures();
+    const auto go = [&](bool back, std::size_t done) {
+      const bool can = back ? done > 0 : done < after.size();
+      EXPECT_EQ(back ? editor.Undo() : editor.Redo(), can ? Answer::kDone : Answer::kNoSuchPlace);
+      if (!can) return;
+      EXPECT_EQ(Told(editor), back ? before.at(done - 1) : after.at(done));
+    };
+    for (int turn = 0; turn < 60 && !testing::Test::HasFailure(); ++turn) {
+      const std::size_t done = steps.Done();
+      if (const int way = bench.Below(6); way < 2) {
+        go(way == 0, done);
+        continue;
+      }
+      const std::string was = Told(editor);
+      DoSomething(bench, editor);
+      if (steps.Done() == done) {
+        if (steps.GoesOn()) after.back() = Told(editor);
+        continue;
+      }
+      before.resize(done);
+      after.resize(done);
+      before.push_back(was);
+      after.push_back(Told(editor));
+    }
+    while (editor.CanUndo() && !testing::Test::HasFailure()) go(true, steps.Done());
+    EXPECT_FALSE(editor.IsChanged() || editor.Differs());
+    while (editor.CanRedo() && !testing::Test::HasFailure()) go(false, steps.Done());
+    bench.Accept();
+    bench.ExpectListedWhatChanged();
   });
 }
 

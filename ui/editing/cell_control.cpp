@@ -20,6 +20,7 @@ class List {
   /// Shows a value among lines of its own, which the list then offers.
   void ShowIn(const Choices& choices, int value) {
     if (!choices.AreTexts(list_.Items())) list_.SetItems(choices.Texts());
+    list_.Owner().Remember(offered_);
     offered_ = &choices == &choices_ ? Choices() : choices;
     list_.Select(choices.LineShowing(value));
   }
@@ -110,6 +111,7 @@ class SliderCells : public CellControl {
     return value >= slider_.Minimum() && value <= slider_.Maximum();
   }
   void Show(int /*row*/, const std::vector<int>& values) override {
+    slider_.Owner().Remember(blank_);
     blank_ = values.front() == kNone;
     slider_.SetValue(blank_ ? slider_.Minimum() : values.front());
     shown_.SetCaption(TextOf(0, values.front()));

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -36,6 +37,9 @@ class CheckField final : public ValueField {
   }
   [[nodiscard]] bool Offers(int value) const override { return value == 0 || value == 1; }
   [[nodiscard]] std::string TextOf(int value) const override { return value == 1 ? "x" : "-"; }
+  void TellChanges(int line, std::vector<FieldChange>& changes) const override {
+    changes.push_back({.control = &ControlOf(line)});
+  }
   [[nodiscard]] const Widget& ControlOf(int line) const override { return ControlAt(boxes_, line); }
 
  private:
@@ -73,6 +77,15 @@ class OptionsField final : public ChoiceField {
     return Lines().ValueAt(options_.Selected());
   }
   [[nodiscard]] const Widget& ControlOf(int /*line*/) const override { return options_(0); }
+  void TellChanges(int line, std::vector<FieldChange>& changes) const override {
+    ValueField::TellChanges(line, changes);
+    const int selected = options_.Selected();
+    if (selected >= 0) changes.back().control = &options_(selected);
+  }
+  [[nodiscard]] bool EditedBy(const Widget& control, int /*line*/) const override {
+    return std::any_of(options_.begin(), options_.end(),
+                       [&control](const OptionButton& option) { return &option == &control; });
+  }
   void TellPlace(int /*line*/, ShownSetting& shown) const override {
     shown.caption = name_.empty() ? options_(0).SurroundingCaption() : name_;
   }
@@ -110,6 +123,7 @@ class SliderField final : public ValueField {
  protected:
   void Show(int line, int /*value*/) override {
     const int common = CommonUpTo(line);
+    slider_.Owner().Remember(blank_);
     blank_ = common == kNone;
     slider_.SetValue(blank_ ? slider_.Minimum() : common);
     shown_.SetCaption(TextOf(common));
@@ -176,6 +190,9 @@ class DateField final : public ValueField {
  public:
   DateField(DatePicker& picker, SettingRef setting)
       : ValueField(std::move(setting)), picker_(picker) {}
+  void TakeFrom(MuxData& record, int line) override {
+    picker_.Pick(NearestDate(DateOfValue(StoredIn(record, line))));
+  }
 
  protected:
   void Show(int /*line*/, int value) override { picker_.SetDate(NearestDate(DateOfValue(value))); }
@@ -226,6 +243,11 @@ class OctetsField final : public Field {
   [[nodiscard]] std::optional<std::string> OpenedText(int /*line*/) const override {
     return Dotted(opened_);
   }
+  void TakeFrom(MuxData& record, int /*line*/) override {
+    for (int i = 0; i < boxes_.Count(); ++i) {
+      octets_.Show(i, static_cast<Byte>(setting_.Access().Get(record, i)));
+    }
+  }
 
  protected:
   void Fill(MuxData& record, int line) override {
@@ -250,6 +272,18 @@ class OctetsField final : public Field {
     shown.is = Dotted(Present());
   }
   [[nodiscard]] bool LineDiffers(int /*line*/) const override { return Present() != opened_; }
+  [[nodiscard]] EditedValue ValueOf(int /*line*/) const override { return {0, Dotted(Present())}; }
+  void TellChanges(int /*line*/, std::vector<FieldChange>& changes) const override {
+    for (int i = 0; i < boxes_.Count(); ++i) {
+      const Byte was = opened_.at(static_cast<std::size_t>(i));
+      if (octets_.Octet(i) == was) continue;
+      changes.push_back({.control = &boxes_(i), .was = std::to_string(was)});
+    }
+  }
+  [[nodiscard]] bool EditedBy(const Widget& control, int /*line*/) const override {
+    return std::any_of(boxes_.begin(), boxes_.end(),
+                       [&control](const TextBox& box) { return &box == &control; });
+  }
 
  private:
   [[nodiscard]] std::vector<Byte> Present() const {
@@ -285,6 +319,10 @@ class TextsField final : public Field {
   [[nodiscard]] std::optional<std::string> OpenedText(int line) const override {
     return At(line).Shown();
   }
+  void TakeFrom(MuxData& record, int line) override {
+    const std::string text = setting_->Get(record, line);
+    At(line).Type(Editable(text));
+  }
 
  protected:
   void Fill(MuxData& record, int line) override {
@@ -300,6 +338,15 @@ class TextsField final : public Field {
     shown.is = boxes_(line).Text();
   }
   [[nodiscard]] bool LineDiffers(int line) const override { return At(line).Typed().has_value(); }
+  [[nodiscard]] EditedValue ValueOf(int line) const override {
+    return {LineDiffers(line) ? 1 : 0, boxes_(line).Text()};
+  }
+  void TellChanges(int line, std::vector<FieldChange>& changes) const override {
+    changes.push_back({.control = &boxes_(line), .was = At(line).Shown()});
+  }
+  [[nodiscard]] bool EditedBy(const Widget& control, int line) const override {
+    return &control == &boxes_(line);
+  }
 
  private:
   [[nodiscard]] DeviceText& At(int line) { return texts_.at(static_cast<std::size_t>(line)); }

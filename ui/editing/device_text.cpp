@@ -17,6 +17,10 @@ DeviceText::DeviceText(TextBox& box, const Platform& platform, NoteLine& notes)
 
 void DeviceText::Show(std::string_view bytes) {
   shown_ = platform_.ToUtf8(bytes);
+  PutBack();
+}
+
+void DeviceText::PutBack() {
   box_.SetText(shown_);
   Tell({});
 }

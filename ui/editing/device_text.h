@@ -27,7 +27,9 @@ class DeviceText {
 
   void Show(std::string_view bytes);
   /// Shows again what it was filled with.
-  void PutBack() { box_.SetText(shown_); }
+  void PutBack();
+  /// Types a text of the device's as the user does.
+  void Type(std::string_view bytes) { box_.Type(platform_.ToUtf8(bytes)); }
   /// What the box was last filled with, UTF-8.
   [[nodiscard]] const std::string& Shown() const { return shown_; }
   /// What the box shows, as the device would hold it.

@@ -7,6 +7,7 @@
 #include "resources/icon.h"
 #include "resources/text_table.h"
 #include "ui/context.h"
+#include "ui/editing/editor_steps.h"
 #include "ui/editing/line_grid.h"
 
 namespace quorvel {
@@ -42,7 +43,11 @@ Editor::Editor(Context& context, std::string name, int caption,
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
   SetEditsCellWords(Text(kTextEditsCells));
   SetDisabledWords(Text(kTextNotOnThisModel));
+  SetContextWords(
+      {Text(kTextUndo), Text(kTextRedo), Text(kTextPutBack), Text(kTextPutBackToDevice)});
   choose_a_value_ = Text(kTextChooseAValue);
+  close_changed_ = Text(kTextCloseChanged);
+  change_words_ = {Text(kTextChanged), Text(kTextChangedFrom), Text(kTextChangedFromNothing)};
   help_words_ = {Text(kTextRange), Text(kTextMostCharacters), Text(kTextStored), Text(kTextBlocks)};
 }
 
@@ -74,6 +79,8 @@ void Editor::Open(Button& ok, Button& cancel, TabStrip* tabs) {
   if (BelongsToImage()) fields_.Fill(Record());
   for (const Handler& handler : after_fill_) handler();
   for (LineGrid* const grid : grids_) grid->GoToStart();
+  for (CountedBox& it : counted_boxes_) it.opened = it.box->Checked();
+  KeepSteps(std::make_unique<EditorSteps>(*this));
   if (tabs == nullptr) return;
   if (tabs->SpokenName() == tabs->Name()) tabs->SetSpokenName(Caption());
   tabs->on_change = [this] {
@@ -115,6 +122,14 @@ bool Editor::DoubtsAreSettled() {
   const bool goes_on = context_.platform.Ask(question);
   if (!goes_on && Shown()) MoveFocus(*first);
   return goes_on;
+}
+
+bool Editor::MayClose() {
+  if (!IsChanged() || !BelongsToImage()) return true;
+  Message question{close_changed_, context_.texts.Objects().objstWarn, Message::Buttons::kOkCancel,
+                   Message::Kind::kQuestion};
+  question.ok_without_user = true;
+  return context_.platform.Ask(question);
 }
 
 void Editor::Ok() {

@@ -60,11 +60,20 @@ class Editor : public Dialog, public EditorPart {
   /// False refuses OK; the editor has told why.
   virtual bool MayWrite() { return true; }
 
+  /// Names a box whose tick OK asks for, though no setting is bound to it, and a number that it
+  /// asks for besides: as the settings, they are what the user edits.
+  void Counts(CheckBox& box) { counted_boxes_.push_back({&box, false}); }
+  void Counts(std::function<int()> number) { counted_.push_back(std::move(number)); }
+
+  /// Asks whether what the user has changed may be lost.
+  bool MayClose() override;
+
   /// False once another image has arrived: then nothing may be written any more.
   [[nodiscard]] bool BelongsToImage() const;
 
  private:
   friend class EditorPart;
+  friend class EditorSteps;
   friend class LineGrid;
   void Ok();
   void Write();
@@ -85,6 +94,12 @@ class Editor : public Dialog, public EditorPart {
     Doubt doubt;
   };
   std::vector<DoubtOf> doubts_;
+  struct CountedBox {
+    CheckBox* box;
+    bool opened;  ///< whether it was ticked when the editor opened
+  };
+  std::vector<CountedBox> counted_boxes_;
+  std::vector<std::function<int()>> counted_;
   std::string store_like_this_;
   std::string choose_a_value_;
   /// The words of HelpOf, which asks for no texts.
@@ -92,6 +107,10 @@ class Editor : public Dialog, public EditorPart {
     std::string range, most_characters, stored, blocks;
   };
   HelpWords help_words_;
+  std::string close_changed_;
+  struct ChangeWords {
+    std::string plain, from, from_nothing;
+  } change_words_;
 };
 
 }  // namespace quorvel

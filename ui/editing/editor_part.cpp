@@ -33,4 +33,6 @@ void EditorPart::AfterFill(Handler handler) const {
   editor_.after_fill_.push_back(std::move(handler));
 }
 
+void EditorPart::Counts(CheckBox& box) const { editor_.Counts(box); }
+
 }  // namespace quorvel

@@ -51,6 +51,8 @@ class EditorPart {
 
   /// What the device calls a camera, from 0; UTF-8.
   [[nodiscard]] std::string TitleOf(int camera) const;
+  /// See Editor::Counts.
+  void Counts(CheckBox& box) const;
 
   /// Choices of 0 and 1.
   [[nodiscard]] Choices OffOn() const { return {{0, Words().cnstrOFF}, {1, Words().cnstrON}}; }

@@ -25,6 +25,9 @@ class EmailAddressField : public Field {
   [[nodiscard]] std::optional<std::string> OpenedText(int /*line*/) const override {
     return half_stored_ ? std::nullopt : std::optional(text_.Shown());
   }
+  void TakeFrom(MuxData& record, int /*line*/) override {
+    text_.Type(record.AlmEmailNotify.EmailString(address_));
+  }
 
  protected:
   void Fill(MuxData& record, int line) override;
@@ -32,6 +35,15 @@ class EmailAddressField : public Field {
   void Tell(MuxData& record, int line, ShownSetting& shown) const override;
   [[nodiscard]] bool LineDiffers(int /*line*/) const override {
     return text_.Typed().has_value() || Cleared();
+  }
+  [[nodiscard]] EditedValue ValueOf(int line) const override {
+    return {LineDiffers(line) ? 1 : 0, box_.Text()};
+  }
+  void TellChanges(int /*line*/, std::vector<FieldChange>& changes) const override {
+    changes.push_back({.control = &box_, .was = text_.Shown()});
+  }
+  [[nodiscard]] bool EditedBy(const Widget& control, int /*line*/) const override {
+    return &control == &box_;
   }
 
  private:

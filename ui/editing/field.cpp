@@ -65,16 +65,29 @@ int ValueField::OfferedOr(int value, int instead) const {
   return instead == value || Offers(value) ? value : instead;
 }
 
-void ValueField::Fill(MuxData& record, int line) {
-  Filled filled{setting_.Access().Get(record, line), kNone};
+ValueField::Filled ValueField::FilledFrom(MuxData& record, int line) const {
+  Filled filled{StoredIn(record, line), kNone};
   if (HasLine(line)) {
     filled.shown = OfferedOr(filled.stored, setting_.ShownFor(filled.stored));
   }
+  return filled;
+}
+
+void ValueField::Fill(MuxData& record, int line) {
+  const Filled filled = FilledFrom(record, line);
   const auto place = static_cast<std::size_t>(line);
   if (filled_.capacity() == 0) filled_.reserve(kMostCameras);
   if (filled_.size() <= place) filled_.resize(place + 1);
   filled_[place] = filled;
   Show(line, filled.shown);
+}
+
+/// A control of several lines shows what they have in common, so that all up to this one count.
+void ValueField::TakeFrom(MuxData& record, int line) {
+  const std::vector<Filled> opened = filled_;
+  for (int i = 0; i <= line; ++i) filled_.at(static_cast<std::size_t>(i)) = FilledFrom(record, i);
+  Show(line, Opened(line));
+  filled_ = opened;
 }
 
 void ValueField::Write(MuxData& record, int line) {

@@ -10,6 +10,7 @@
 #include "quorvel/widgets.h"
 #include "ui/editing/choices.h"
 #include "ui/editing/setting_ref.h"
+#include "ui/widgets/gestures.h"
 
 namespace quorvel {
 
@@ -31,11 +32,20 @@ struct ShownSetting {
 };
 
 class Field;
+class GridEditing;
 
 /// One line of a field.
 struct FieldLine {
   const Field* field;
   int line;
+};
+
+/// Where something was changed, and how it read before.
+struct FieldChange {
+  const Widget* control = nullptr;
+  int row = Grid::kNone;  ///< of a cell
+  int column = Grid::kNone;
+  std::optional<std::string> was = {};  ///< nothing where the change tells it
 };
 
 /// A control, or a column of a grid, bound to a setting: one description that fills the control and
@@ -68,6 +78,25 @@ class Field {
   [[nodiscard]] virtual std::optional<std::string> OpenedText(int line) const = 0;
   [[nodiscard]] bool Differs(int line) const { return exists_ && LineDiffers(line); }
   [[nodiscard]] bool Exists() const { return exists_; }
+  /// Appends what has changed in a line.
+  void AddChanges(int line, std::vector<FieldChange>& changes) const {
+    if (Differs(line)) TellChanges(line, changes);
+  }
+  /// Whether a choice in `control` is one for a line now; of a grid, for its selected cells.
+  [[nodiscard]] bool IsEditedBy(const Widget& control, int line) const {
+    return exists_ && EditedBy(control, line);
+  }
+  /// Makes it stand at what another record holds, as the user does.
+  virtual void TakeFrom(MuxData& record, int line) = 0;
+  /// Of a column: what edits its grid; and the row of a line.
+  [[nodiscard]] virtual GridEditing* Editing() const { return nullptr; }
+  [[nodiscard]] virtual int RowOf(int /*line*/) const { return Grid::kNone; }
+  /// True for a cell that a choice elsewhere in its row has emptied.
+  [[nodiscard]] virtual bool WasEmptied(int /*line*/) const { return false; }
+  /// Appends what it stands at in a line.
+  void AddValue(int line, EditedValues& values) const {
+    if (exists_) values.push_back(ValueOf(line));
+  }
 
  protected:
   virtual void Fill(MuxData& record, int line) = 0;
@@ -75,6 +104,9 @@ class Field {
   /// Names, control, present text and value; the rest is added.
   virtual void Tell(MuxData& record, int line, ShownSetting& shown) const = 0;
   [[nodiscard]] virtual bool LineDiffers(int line) const = 0;
+  [[nodiscard]] virtual EditedValue ValueOf(int line) const = 0;
+  virtual void TellChanges(int line, std::vector<FieldChange>& changes) const = 0;
+  [[nodiscard]] virtual bool EditedBy(const Widget& control, int line) const = 0;
 
  private:
   bool exists_ = true;
@@ -90,6 +122,7 @@ class ValueField : public Field {
   static constexpr int kNone = Choices::kNone;
   void PutBack(int line) override { Show(line, Opened(line)); }
   [[nodiscard]] std::optional<std::string> OpenedText(int line) const override;
+  void TakeFrom(MuxData& record, int line) override;
 
  protected:
   explicit ValueField(SettingRef setting) : setting_(std::move(setting)) {}
@@ -113,6 +146,16 @@ class ValueField : public Field {
   void Write(MuxData& record, int line) override;
   void Tell(MuxData& record, int line, ShownSetting& shown) const override;
   [[nodiscard]] bool LineDiffers(int line) const override;
+  [[nodiscard]] EditedValue ValueOf(int line) const override { return {Standing(line), {}}; }
+  void TellChanges(int line, std::vector<FieldChange>& changes) const override {
+    changes.push_back({&ControlOf(line), Grid::kNone, Grid::kNone, TextOf(Opened(line))});
+  }
+  [[nodiscard]] bool EditedBy(const Widget& control, int line) const override {
+    return &control == &ControlOf(line);
+  }
+  [[nodiscard]] int StoredIn(MuxData& record, int line) const {
+    return setting_.Access().Get(record, line);
+  }
   /// What the control was filled with; kNone for a line that had no such setting.
   [[nodiscard]] int Opened(int line) const;
   /// What lines 0 to `line` were filled with, kNone where they differ: what one control for all
@@ -130,6 +173,8 @@ class ValueField : public Field {
     int stored = kNone;  ///< the setting's value
     int shown = kNone;   ///< what the control was made to stand at
   };
+  [[nodiscard]] Filled FilledFrom(MuxData& record, int line) const;
+
   SettingRef setting_;
   std::vector<Filled> filled_;
 };

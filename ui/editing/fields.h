@@ -68,6 +68,13 @@ class FieldGroup {
   /// Appends the lines of its fields, in the order in which they are told.
   void List(std::vector<FieldLine>& lines) const;
   [[nodiscard]] bool Differs() const;
+  /// Calls `act` for each of its fields in each line.
+  template <class Act>
+  void ForEach(const Act& act) const {
+    for (int line = 0; line < lines_; ++line) {
+      for (const auto& field : fields_) act(*field, line);
+    }
+  }
 
  private:
   const Context& context_;
@@ -92,6 +99,10 @@ class Fields {
   [[nodiscard]] std::vector<ShownSetting> Tell(MuxData& record) const;
   [[nodiscard]] std::vector<FieldLine> Lines() const;
   [[nodiscard]] bool Differ() const;
+  template <class Act>
+  void ForEach(const Act& act) const {
+    for (const FieldGroup& group : groups_) group.ForEach(act);
+  }
 
  private:
   const Context& context_;

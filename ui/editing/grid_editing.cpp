@@ -129,6 +129,11 @@ void GridEditing::GoTo(int row, int column) {
 
 void GridEditing::Show(const Binding& binding, int row, std::vector<int> values) {
   binding.control->Show(row, values);
+  PutShown(binding, row, std::move(values));
+}
+
+void GridEditing::PutShown(const Binding& binding, int row, std::vector<int> values) {
+  grid_.Owner().Remember(shown_);
   shown_[&binding.control->Control()] = {&binding, row, std::move(values)};
 }
 
@@ -216,7 +221,7 @@ void GridEditing::WriteSelectedRows(const Binding& binding, Alike alike) {
     values.push_back(binding.control->Chosen(part));
   }
   if (values.front() == Grid::kNone) return;
-  shown_[&binding.control->Control()] = {&binding, grid_.Row(), values};
+  PutShown(binding, grid_.Row(), values);
   PutIntoRows(binding, values, grid_.FirstSelected(), grid_.LastSelected(), alike);
   // Where the current row has not taken it, the control goes on showing what is there.
   if (ValuesIn(binding, grid_.Row()) != values) ShowRow(binding);
@@ -245,6 +250,10 @@ void GridEditing::PutIntoRows(const Binding& binding, const std::vector<int>& va
 
 void GridEditing::FollowUp(const Binding& binding, int row) {
   if (binding.rules.written) binding.rules.written(row);
+  EmptyLacking(row);
+}
+
+void GridEditing::EmptyLacking(int row) {
   for (const Binding& it : bindings_) {
     if (it.Has(row)) continue;
     for (const int column : it.columns) SetValue(row, column, Grid::kNone);
@@ -256,6 +265,31 @@ void GridEditing::MoveTo(const Binding& binding) {
   if (!binding.rules.moves || binding.PartOf(grid_.Column()) != kNoPart) return;
   grid_.SetColumn(binding.columns.front());
   MarkControls();
+}
+
+bool GridEditing::IsPutBackBy(const Widget& control, int row, int column) const {
+  if (row < grid_.FirstSelected() || row > grid_.LastSelected()) return false;
+  const auto edits = [&](const Binding& it) {
+    const bool here = whole_rows_ || it.PartOf(column) != kNoPart;
+    if (!here || !it.Takes(row)) return false;
+    if (&control == &grid_) return whole_rows_ || it.PartOf(grid_.Column()) != kNoPart;
+    return it.control->Is(control) && WritesNow(it, grid_.Column());
+  };
+  return std::any_of(bindings_.begin(), bindings_.end(), edits);
+}
+
+void GridEditing::FollowPutBack(const std::set<int>& rows) {
+  for (const int row : rows) {
+    if (whole_rows_) break;  // nothing is left to follow
+    for (const Binding& binding : bindings_) {
+      if (binding.rules.written && binding.Has(row)) binding.rules.written(row);
+    }
+    EmptyLacking(row);
+  }
+  for (const Binding& binding : bindings_) {
+    if (binding.rules.chosen) binding.rules.chosen();
+  }
+  ShowCell();
 }
 
 void GridEditing::ChooseInAllRows(int column, int value) {

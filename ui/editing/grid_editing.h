@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -81,6 +82,8 @@ class GridEditing {
   void BindPair(int column, ChoiceWidget& list, Choices choices, int other_column,
                 ChoiceWidget& other_list, Choices other_choices, ColumnRules rules = {});
   void SetEmpties(Empties what) { empties_ = what; }
+  /// A row is put back whole: what one of its cells can hold depends on the others.
+  void SetRowsAreWhole() { whole_rows_ = true; }
 
   /// Called after a press, before the controls show the cell; may make another cell current.
   Handler before_show;
@@ -102,6 +105,10 @@ class GridEditing {
   [[nodiscard]] bool Has(int row, int column) const;
   /// True where OK has to wait for a choice.
   [[nodiscard]] bool Waits(int row, int column) const;
+  /// Whether a cell is among those that are put back by `control`: the grid, or one that edits them.
+  [[nodiscard]] bool IsPutBackBy(const Widget& control, int row, int column) const;
+  /// After cells of these rows were put back: what follows from a choice follows.
+  void FollowPutBack(const std::set<int>& rows);
   /// The control that edits a column, the first of two; none for a column that is not bound.
   [[nodiscard]] const Widget* ControlOf(int column) const;
   /// How a value reads in a cell of a bound column.
@@ -128,6 +135,7 @@ class GridEditing {
   /// True when a choice is written while this column is current.
   [[nodiscard]] static bool WritesNow(const Binding& binding, int column);
   void Show(const Binding& binding, int row, std::vector<int> values);
+  void PutShown(const Binding& binding, int row, std::vector<int> values);
   /// Makes a control that shows the current row show it again.
   void ShowRow(const Binding& binding);
   /// Renews lines that depend on the selection.
@@ -146,6 +154,8 @@ class GridEditing {
   [[nodiscard]] bool ReadsAlike(int row, int column, int value) const;
   /// After a cell of the row was written.
   void FollowUp(const Binding& binding, int row);
+  /// Empties the cells of columns that a row lacks now.
+  void EmptyLacking(int row);
   void MoveTo(const Binding& binding);
   /// The value that a pasted text puts into a column, if it can be put there. Where Delete empties
   /// whole rows, no cell is emptied alone.
@@ -165,6 +175,7 @@ class GridEditing {
 
   Grid& grid_;
   Empties empties_ = Empties::kCells;
+  bool whole_rows_ = false;
   std::deque<Binding> bindings_;  // stay where they are
   std::vector<const Binding*> by_column_;
   std::map<const Widget*, Shown> shown_;

@@ -88,6 +88,7 @@ void RecordTimers::AddColumns(const Choices& statuses) {
   if (statuses.Has(kDelete)) lines.Then(RemoveDeletedTimers);
   timers_.emplace(*this, grid_, lines, Text(txt::kIndex), GridEditing::Release::kSelects);
   timers_->Editing().SetEmpties(GridEditing::Empties::kRows);
+  timers_->Editing().SetRowsAreWhole();
   const auto time = [](auto hour, auto minute) {
     return OfValidTimer(TimeOf(OfRecTimer(hour), OfRecTimer(minute)));
   };

@@ -105,6 +105,9 @@ void frm_TimeDate::FollowPickers() {
   Calendar.on_change = [this] { KeepDateInReach(); };
   DTPicker1.on_change = [this] { chkPCTD.SetChecked(false); };
   chkPCTD.on_click = [this] { UsePcClock(); };
+  Counts(chkPCTD);
+  // A date or time that is picked again is taken by the device, too.
+  Counts([this] { return (Calendar.Edited() ? 1 : 0) + (DTPicker1.Edited() ? 2 : 0); });
 }
 
 void frm_TimeDate::ShowTimeFormat() {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/widgets/gestures.h"
+
 namespace quorvel {
 
 const std::string& ChoiceWidget::CurrentText() const {
@@ -20,12 +22,15 @@ std::string ChoiceWidget::ValueText() const {
 }
 
 void ChoiceWidget::SetItems(std::vector<std::string> items) {
+  Remember(Aspect::kContent, items_);
+  Remember(Aspect::kSelection, current_);
   items_ = std::move(items);
   current_ = kNone;
   Redraw(Aspect::kContent);
 }
 
 void ChoiceWidget::Select(int index) {
+  Remember(Aspect::kSelection, current_);
   current_ = index >= 0 && index < Count() ? index : kNone;
   Redraw(Aspect::kSelection);
 }
@@ -34,6 +39,7 @@ Answer ChoiceWidget::Choose(int index) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (index < 0 || index >= Count()) return Answer::kNoSuchPlace;
+  const Gesture gesture(*this);
   Select(index);
   Raise(on_click);
   return refusal;

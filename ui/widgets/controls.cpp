@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/widgets/gestures.h"
+
 namespace quorvel {
 
 Label::Label(Dialog& dialog, std::string name, std::string caption)
@@ -21,7 +23,9 @@ Button::Button(Dialog& dialog, std::string name, std::string caption)
 
 Answer Button::Click() {
   const Answer refusal = Refusal();
-  if (refusal == Answer::kDone) Raise(on_click);
+  if (refusal != Answer::kDone) return refusal;
+  const Gesture gesture(*this);
+  Raise(on_click);
   return refusal;
 }
 
@@ -33,6 +37,7 @@ CheckBox::CheckBox(Dialog& dialog, std::string name, std::string caption)
 std::string CheckBox::ValueText() const { return checked_ ? "on" : "off"; }
 
 void CheckBox::SetChecked(bool checked) {
+  Remember(Aspect::kSelection, checked_);
   checked_ = checked;
   Redraw(Aspect::kSelection);
 }
@@ -40,6 +45,7 @@ void CheckBox::SetChecked(bool checked) {
 Answer CheckBox::Click() {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
+  const Gesture gesture(*this);
   SetChecked(!checked_);
   Raise(on_click);
   return refusal;
@@ -55,15 +61,20 @@ std::string OptionButton::ValueText() const { return selected_ ? "on" : "off"; }
 /// The whole group is drawn anew: how an option is reached depends on where the selection is.
 void OptionButton::Select() {
   if (group_ != nullptr) {
-    for (OptionButton& option : *group_) option.selected_ = false;
+    for (OptionButton& option : *group_) option.PutSelected(false);
   }
-  selected_ = true;
+  PutSelected(true);
   RedrawGroup();
 }
 
 void OptionButton::Deselect() {
-  selected_ = false;
+  PutSelected(false);
   RedrawGroup();
+}
+
+void OptionButton::PutSelected(bool selected) {
+  Remember(Aspect::kSelection, selected_);
+  selected_ = selected;
 }
 
 void OptionButton::RedrawGroup() const {
@@ -74,6 +85,7 @@ void OptionButton::RedrawGroup() const {
 Answer OptionButton::Click() {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
+  const Gesture gesture(*this);
   Select();
   Raise(on_click);
   return refusal;

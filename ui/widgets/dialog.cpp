@@ -5,6 +5,7 @@
 
 #include "quorvel/platform.h"
 #include "ui/widgets/failure.h"
+#include "ui/widgets/gestures.h"
 
 namespace quorvel {
 
@@ -101,7 +102,10 @@ void Dialog::Close() {
 Answer Dialog::CloseWindow() {
   if (!shown_) return Answer::kHidden;
   if (!platform_.TakesInput(*this)) return Answer::kDisabled;
-  Close();
+  bool closes = true;
+  const auto keep = weak_from_this().lock();
+  RunHandler("CloseWindow", [&] { closes = MayClose(); });
+  if (closes) Close();
   return Answer::kDone;
 }
 

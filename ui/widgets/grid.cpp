@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "ui/widgets/gestures.h"
+
 namespace quorvel {
 
 Grid::Grid(Dialog& dialog, std::string name) : Widget(dialog, WidgetKind::kGrid, std::move(name)) {}
@@ -37,7 +39,19 @@ std::string Grid::ValueText() const {
   return text;
 }
 
+const ChangeMark* Grid::CellChange(int row, int column) const {
+  const auto found = changes_.find({row, column});
+  return found == changes_.end() ? nullptr : &found->second;
+}
+
+void Grid::SetCellChanges(CellChanges changes) {
+  if (changes == changes_) return;
+  changes_ = std::move(changes);
+  Redraw(Aspect::kContent);
+}
+
 void Grid::SetHeaderRows(int rows) {
+  RememberCells();
   header_rows_ = std::clamp(rows, 1, 2);
   Redraw(Aspect::kContent);
 }
@@ -48,6 +62,7 @@ void Grid::SetMergedHeader(bool merged) {
 }
 
 void Grid::SetSize(int rows, int columns) {
+  RememberCells();
   rows_ = std::max(rows, header_rows_);
   columns_ = std::max(columns, 1);
   cells_.assign(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns_), {});
@@ -58,6 +73,7 @@ void Grid::SetSize(int rows, int columns) {
 
 int Grid::AddColumns(int count) {
   const int first = columns_;
+  RememberCells();
   columns_ += std::max(count, 0);
   cells_.resize(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns_));
   least_widths_.resize(static_cast<std::size_t>(columns_));
@@ -81,11 +97,20 @@ void Grid::SetRange(Range range) {
 }
 
 void Grid::SetCell(int row, int column, std::string text, int value) {
-  cells_[Place(row, column)] = {std::move(text), value};
+  const std::size_t place = Place(row, column);
+  RememberCells();
+  cells_[place] = {std::move(text), value};
   Redraw(Aspect::kContent);
 }
 
+void Grid::RememberCells() {
+  Remember(Aspect::kContent, rows_, columns_, header_rows_, cells_, least_widths_);
+}
+
+void Grid::RememberSelection() { Remember(Aspect::kSelection, row_, column_, row_sel_); }
+
 void Grid::SetCurrent(int row, int column) {
+  RememberSelection();
   row_ = std::clamp(row, 0, rows_ - 1);
   column_ = std::clamp(column, 0, columns_ - 1);
   row_sel_ = row_;
@@ -93,6 +118,7 @@ void Grid::SetCurrent(int row, int column) {
 }
 
 void Grid::SetColumn(int column) {
+  RememberSelection();
   column_ = std::clamp(column, 0, columns_ - 1);
   Redraw(Aspect::kSelection);
 }
@@ -101,6 +127,7 @@ Answer Grid::Press(int row, int column) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsCell(row, column)) return Answer::kNoSuchPlace;
+  const Gesture gesture(*this);
   SetCurrent(row, column);
   Raise(on_press);
   return refusal;
@@ -110,6 +137,8 @@ Answer Grid::Release(int first, int last) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsCell(first, column_) || !IsCell(last, column_)) return Answer::kNoSuchPlace;
+  const Gesture gesture(*this);
+  RememberSelection();
   if (range_ == Range::kRows) row_ = first;
   row_sel_ = range_ == Range::kRows ? last : row_;
   Redraw(Aspect::kSelection);
@@ -121,6 +150,7 @@ Answer Grid::Empty() {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!can_empty || !can_empty()) return Answer::kNotAChoice;
+  const Gesture gesture(*this);
   Raise(on_empty);
   return refusal;
 }
@@ -129,6 +159,8 @@ Answer Grid::Mark(int row) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsCell(row_, column_) || !IsCell(row, column_)) return Answer::kNoSuchPlace;
+  const Gesture gesture(*this);
+  RememberSelection();
   if (range_ == Range::kRows) row_sel_ = row;
   Redraw(Aspect::kSelection);
   Raise(on_mark);

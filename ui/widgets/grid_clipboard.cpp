@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "quorvel/widgets/grid.h"
+#include "ui/widgets/gestures.h"
 #include "ui/widgets/pasted.h"
 
 namespace quorvel {
@@ -42,6 +43,7 @@ Answer Grid::Paste(std::string_view lines) {
     return IsCell(cell.row, cell.column) && (range_ == Range::kRows || cell.row == row_);
   });
   if (!fits) return Answer::kNoSuchPlace;
+  const Gesture gesture(*this);
   Answer answer = Answer::kNotAChoice;
   Raise([&] {
     const auto taken = [this](const Pasted& cell) {

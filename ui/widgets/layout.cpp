@@ -1,5 +1,9 @@
 #include "quorvel/widgets/layout.h"
 
+#include <utility>
+
+#include "ui/widgets/gestures.h"
+
 namespace quorvel {
 
 Frame::Frame(Dialog& dialog, std::string name, std::string caption)
@@ -34,14 +38,23 @@ void TabStrip::SetPages(std::vector<Page> pages) {
 }
 
 void TabStrip::SetPageCaption(int page, std::string caption) {
-  pages_.at(static_cast<std::size_t>(page)).caption = std::move(caption);
+  Page& it = pages_.at(static_cast<std::size_t>(page));
+  Remember(Aspect::kState, it.caption);
+  it.caption = std::move(caption);
   Redraw(Aspect::kState);
 }
 
 void TabStrip::SetPageVisible(int page, bool visible) {
-  pages_.at(static_cast<std::size_t>(page)).visible = visible;
+  Page& it = pages_.at(static_cast<std::size_t>(page));
+  Remember(Aspect::kState, it.visible);
+  it.visible = visible;
   Redraw(Aspect::kState);
   LeaveHiddenPage();
+}
+
+void TabStrip::SetPageChanged(int page, bool changed) {
+  Page& it = pages_.at(static_cast<std::size_t>(page));
+  if (std::exchange(it.changed, changed) != changed) Redraw(Aspect::kState);
 }
 
 void TabStrip::LeaveHiddenPage() {
@@ -53,6 +66,7 @@ void TabStrip::LeaveHiddenPage() {
 
 void TabStrip::SetCurrent(int page) {
   if (!CanBeInFront(page)) return;
+  Remember(Aspect::kSelection, current_);
   current_ = page;
   Redraw(Aspect::kSelection);
 }
@@ -62,6 +76,7 @@ Answer TabStrip::Choose(int page) {
   if (refusal != Answer::kDone) return refusal;
   if (!CanBeInFront(page)) return Answer::kNoSuchPlace;
   if (page == current_) return refusal;
+  const Gesture gesture(*this);
   SetCurrent(page);
   Raise(on_change);
   return refusal;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/widgets/gestures.h"
+
 namespace quorvel {
 
 TimePicker::TimePicker(Dialog& dialog, std::string name)
@@ -10,6 +12,7 @@ TimePicker::TimePicker(Dialog& dialog, std::string name)
 std::string TimePicker::ValueText() const { return time_ ? TimeText(format_, *time_) : ""; }
 
 void TimePicker::SetFormat(ClockFormat format) {
+  Remember(Aspect::kState, format_);
   format_ = format;
   Redraw(Aspect::kState);
   Redraw(Aspect::kSelection);
@@ -19,6 +22,7 @@ void TimePicker::SetTime(const ClockTime& time) { Put(time, false); }
 void TimePicker::Clear() { Put(std::nullopt, false); }
 
 void TimePicker::Put(std::optional<ClockTime> time, bool edited) {
+  Remember(Aspect::kSelection, time_, edited_);
   time_ = time;
   edited_ = edited;
   Redraw(Aspect::kSelection);
@@ -28,6 +32,7 @@ Answer TimePicker::Pick(ClockTime time) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsTime(time)) return Answer::kNotAChoice;
+  const Gesture gesture(*this);
   if (format_ == ClockFormat::kHoursMinutes) time.second = 0;
   time.minute = std::min(time.minute, last_minute_);
   Put(time, true);
@@ -44,6 +49,7 @@ void DatePicker::SetDate(const CalendarDate& date) { Put(date, false); }
 void DatePicker::Clear() { Put(std::nullopt, false); }
 
 void DatePicker::Put(std::optional<CalendarDate> date, bool edited) {
+  Remember(Aspect::kSelection, date_, edited_);
   date_ = date;
   edited_ = edited;
   Redraw(Aspect::kSelection);
@@ -53,6 +59,7 @@ Answer DatePicker::Pick(const CalendarDate& date) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsDate(date)) return Answer::kNotAChoice;
+  const Gesture gesture(*this);
   Put(date, true);
   Raise(on_change);
   return refusal;

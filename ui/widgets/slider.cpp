@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ui/widgets/gestures.h"
+
 namespace quorvel {
 
 Slider::Slider(Dialog& dialog, std::string name)
@@ -13,6 +15,7 @@ std::string Slider::ValueText() const {
 }
 
 void Slider::SetRange(int minimum, int maximum) {
+  Remember(Aspect::kState, minimum_, maximum_);
   minimum_ = minimum;
   maximum_ = std::max(minimum, maximum);
   Redraw(Aspect::kState);
@@ -25,6 +28,7 @@ void Slider::SetSteps(int step, int large_step) {
 }
 
 void Slider::SetValue(int value) {
+  Remember(Aspect::kSelection, value_, edited_);
   value_ = value;
   edited_ = false;
   Redraw(Aspect::kSelection);
@@ -34,6 +38,8 @@ Answer Slider::Slide(int value) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (value < minimum_ || value > maximum_) return Answer::kNoSuchPlace;
+  const Gesture gesture(*this, Gesture::Kind::kGoesOn);
+  Remember(Aspect::kSelection, value_, edited_);
   value_ = value;
   edited_ = true;
   Redraw(Aspect::kSelection);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "quorvel/widgets/text_series.h"
+#include "ui/widgets/gestures.h"
 #include "ui/widgets/utf8.h"
 
 namespace quorvel {
@@ -45,6 +46,7 @@ TextBox::TextBox(Dialog& dialog, std::string name)
 char TextBox::GoesOnWith() const { return series_ == nullptr ? '\0' : series_->GoesOnWith(); }
 
 void TextBox::SetNote(std::string note) {
+  Remember(Aspect::kState, note_);
   note_ = std::move(note);
   Redraw(Aspect::kState);
 }
@@ -70,19 +72,26 @@ void TextBox::SetSelectOnFocus(int characters, bool on_click) {
 }
 
 void TextBox::Put(std::string text, int selected) {
+  RememberText();
   text_ = std::move(text);
   selected_ = std::min(selected, CountCharacters(text_));
   Redraw(Aspect::kSelection);
 }
 
 void TextBox::SetText(std::string text) {
+  RememberText();
   edited_ = false;
   Put(std::move(text), 0);
 }
 
 void TextBox::RewriteText(std::string text) { Put(std::move(text), select_on_focus_); }
 
+void TextBox::RememberText() {
+  Remember(Aspect::kSelection, text_, selected_, edited_, not_taken_);
+}
+
 void TextBox::TakeFocus(bool by_click) {
+  RememberText();
   selected_ =
       by_click && !select_on_click_ ? 0 : std::min(select_on_focus_, CountCharacters(text_));
   Redraw(Aspect::kSelection);
@@ -100,6 +109,7 @@ void TextBox::Take(std::string_view text, std::string_view after, bool lines_lef
   if (fresh.ends_with('\n')) fresh.remove_suffix(1);  // a line is often copied with its end
   if (fresh.ends_with('\r')) fresh.remove_suffix(1);
   const std::string typed = WithoutControls(fresh);
+  RememberText();
   not_taken_ = {typed.size() < fresh.size() || behind.size() < after.size(), lines_left_over};
   std::string kept = before + typed;
   if (max_length_ > 0) {
@@ -114,6 +124,7 @@ void TextBox::Take(std::string_view text, std::string_view after, bool lines_lef
 Answer TextBox::Type(std::string_view text, std::string_view after) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
+  const Gesture gesture(*this, Gesture::Kind::kGoesOn);
   if (series_ == nullptr || !series_->Spread(*this, text, after)) Take(text, after);
   return refusal;
 }

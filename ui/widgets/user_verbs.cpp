@@ -149,6 +149,34 @@ VerbAnswer NamedUser::CloseWindow(std::string_view name) const {
   return Told(closed, dialog->CloseWindow());
 }
 
+VerbAnswer NamedUser::Undo(std::string_view window) const {
+  Dialog* const dialog = FindWindow(window);
+  if (dialog == nullptr) return {Answer::kNoSuchControl, NoWindow(window)};
+  const Answer answer = dialog->Undo();
+  if (answer != Answer::kNoSuchPlace) return Told(dialog->Name(), answer);
+  return {answer, "nothing can be taken back in " + dialog->Name()};
+}
+
+VerbAnswer NamedUser::Redo(std::string_view window) const {
+  Dialog* const dialog = FindWindow(window);
+  if (dialog == nullptr) return {Answer::kNoSuchControl, NoWindow(window)};
+  const Answer answer = dialog->Redo();
+  if (answer != Answer::kNoSuchPlace) return Told(dialog->Name(), answer);
+  return {answer, "nothing can be done again in " + dialog->Name()};
+}
+
+VerbAnswer NamedUser::PutBack(std::string_view control, PutBackTo to) const {
+  Widget* const widget = FindControl(control);
+  if (widget == nullptr) return {Answer::kNoSuchControl, NotFound(control)};
+  const Answer answer = widget->Owner().PutBack(*widget, to);
+  return answer == Answer::kOtherKind ? OtherKind(control, "put back") : Told(control, answer);
+}
+
+VerbAnswer NamedUser::PutBackCell(std::string_view grid, int row, int column, PutBackTo to) const {
+  VerbAnswer pressed = Press(grid, row, column);
+  return pressed.answer == Answer::kDone ? PutBack(grid, to) : pressed;
+}
+
 std::vector<std::string> ItemsOf(const Widget& widget) {
   if (const auto* list = dynamic_cast<const ChoiceWidget*>(&widget)) return list->Items();
   std::vector<std::string> items;

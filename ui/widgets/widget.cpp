@@ -4,6 +4,7 @@
 #include "quorvel/widgets/controls.h"
 #include "quorvel/widgets/dialog.h"
 #include "quorvel/widgets/layout.h"
+#include "ui/widgets/gestures.h"
 
 namespace quorvel {
 
@@ -87,20 +88,27 @@ bool Widget::IsInside(const Widget& container) const {
 }
 
 void Widget::SetCaption(std::string caption) {
+  Remember(Aspect::kState, caption_);
   caption_ = std::move(caption);
-  Redraw(Aspect::kState);
-  if (view_ == nullptr) return;
+  DrawAgain(Aspect::kState);
+}
+
+void Widget::DrawAgain(Aspect what) const {
+  Redraw(what);
+  if (view_ == nullptr || what != Aspect::kState) return;
   for (const Widget* other : dialog_.Widgets()) {  // those that are called by this caption
     if (other->label_ == this || other->IsInside(*this)) other->Redraw(Aspect::kState);
   }
 }
 
 void Widget::SetSpokenName(std::string name) {
+  Remember(Aspect::kState, spoken_name_);
   spoken_name_ = std::move(name);
   Redraw(Aspect::kState);
 }
 
 void Widget::SetLabel(const Label& label) {
+  Remember(Aspect::kState, label_);
   label_ = &label;
   Redraw(Aspect::kState);
 }
@@ -112,14 +120,23 @@ const std::string& Widget::WhyDisabled() const {
 }
 
 std::string Widget::SpokenNote() const {
-  if (!enabled_) return WhyDisabled();
-  return edits_cell_ ? dialog_.EditsCellWords() + edited_column_ : std::string();
+  std::string note = WhyDisabled();
+  if (enabled_ && edits_cell_) note = dialog_.EditsCellWords() + edited_column_;
+  if (change_) note += (note.empty() ? "" : ". ") + change_->note;
+  return note;
 }
 
 void Widget::SetEditsCell(bool edits, std::string column) {
   if (edits == edits_cell_ && column == edited_column_) return;
+  Remember(Aspect::kState, edits_cell_, edited_column_);
   edits_cell_ = edits;
   edited_column_ = std::move(column);
+  Redraw(Aspect::kState);
+}
+
+void Widget::SetChange(std::optional<ChangeMark> change) {
+  if (change == change_) return;
+  change_ = std::move(change);
   Redraw(Aspect::kState);
 }
 
@@ -138,16 +155,20 @@ void Widget::BringToFront() {
 
 Answer Widget::Focus(bool by_click) {
   const Answer refusal = Refusal();
-  if (refusal == Answer::kDone) TakeFocus(by_click);
+  if (refusal != Answer::kDone) return refusal;
+  const Gesture gesture(*this, by_click ? Gesture::Kind::kClick : Gesture::Kind::kFocus);
+  TakeFocus(by_click);
   return refusal;
 }
 
 void Widget::SetVisible(bool visible) {
+  Remember(Aspect::kState, visible_);
   visible_ = visible;
   Redraw(Aspect::kState);
 }
 
 void Widget::SetEnabled(bool enabled, std::string why) {
+  Remember(Aspect::kState, enabled_);
   enabled_ = enabled;
   why_disabled_ = std::move(why);
   Redraw(Aspect::kState);
@@ -161,6 +182,17 @@ Answer Widget::Refusal() const {
   }
   return Answer::kDone;
 }
+
+bool Widget::IsToBeKept(const void* place) const {
+  const Gestures* const gestures = dialog_.GetGestures();
+  return gestures != nullptr && gestures->IsToBeKept(place);
+}
+
+void Widget::Keep(const void* place, std::unique_ptr<Kept> kept, Aspect what) {
+  dialog_.GetGestures()->Keep(place, std::move(kept), this, what);
+}
+
+void Widget::ForgetSteps() { dialog_.GetGestures()->Forget(); }
 
 void Widget::Raise(const Handler& handler) { dialog_.RunHandler(name_, handler); }
 

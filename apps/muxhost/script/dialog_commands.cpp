@@ -69,6 +69,27 @@ void Empty(Desk& desk, Words words) { Require(desk.platform.User().Empty(words[1
 
 void Paste(Desk& desk, Words words) { Require(desk.platform.User().Paste(words[1], words[2])); }
 
+void StepBack(Desk& desk, Words words) {
+  if (words.size() > 1) return Undo(desk, words);
+  Require(desk.platform.User().Undo());
+}
+
+void StepForth(Desk& desk, Words words) {
+  if (words.size() > 1) return Redo(desk, words);
+  Require(desk.platform.User().Redo());
+}
+
+void PutBack(Desk& desk, Words words) {
+  const bool to_device = words.back() == "device";
+  const PutBackTo to = to_device ? PutBackTo::kDevice : PutBackTo::kOpened;
+  if (to_device) words = words.first(words.size() - 1);
+  const NamedUser user = desk.platform.User();
+  if (words.size() == 2) return Require(user.PutBack(words[1], to));
+  if (words.size() != 4) throw ScriptError("a cell is told by its row and column");
+  const int row = Place("row", words[2]);
+  Require(user.PutBackCell(words[1], row, Place("column", words[3]), to));
+}
+
 void Tab(Desk& desk, Words words) {
   Require(desk.platform.User().TurnPage(words[1], Place("page", words[2])));
 }

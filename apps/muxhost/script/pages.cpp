@@ -86,6 +86,10 @@ std::string List(Texts texts) {
   return list;
 }
 
+std::string ChangeOf(const Widget& widget) {
+  return widget.Change() ? " [" + widget.Change()->note + "]" : "";
+}
+
 /// What a control says of itself among others of its array: caption and value.
 std::string Shortly(const Widget& widget) {
   const bool box = widget.Kind() == WidgetKind::kCheckBox;
@@ -102,7 +106,9 @@ std::vector<std::string> Columns(const Grid& grid) {
   for (int column = 0; column < grid.Columns(); ++column) {
     std::vector<std::string> cells;
     for (int row = grid.HeaderRows(); row < grid.Rows(); ++row) {
-      cells.push_back(Quoted(grid.Cell(row, column)));
+      const ChangeMark* const change = grid.CellChange(row, column);
+      const std::string mark = change == nullptr ? "" : " [" + change->note + "]";
+      cells.push_back(Quoted(grid.Cell(row, column)) + mark);
     }
     lines.push_back(std::to_string(column) + " " + Quoted(grid.ColumnName(column)) + " wide " +
                     std::to_string(grid.LeastWidth(column)) + ": " + List(cells));
@@ -183,9 +189,9 @@ std::string Describe(const Controls& group, const Widget* label) {
   const bool single = Index(first).empty();
   if (single && !first.Caption().empty()) line += " " + Quoted(first.Caption());
   line += Marks(first) + Measures(first) + Spoken(group);
-  if (single) return line + Value(first);
+  if (single) return line + ChangeOf(first) + Value(first);
   std::vector<std::string> values;
-  for (const Widget* it : group) values.push_back(Shortly(*it));
+  for (const Widget* it : group) values.push_back(Shortly(*it) + ChangeOf(*it));
   return line + " = " + List(values);
 }
 
@@ -203,7 +209,7 @@ std::vector<std::string> Inside(const Widget& widget, const std::set<int>& pages
   for (int i = 0; tabs != nullptr && i < tabs->Count(); ++i) {
     const Page& page = tabs->Pages()[static_cast<std::size_t>(i)];
     lines.push_back((i == tabs->Current() ? "*" : "") + std::to_string(i) + " " +
-                    Quoted(page.caption) + (page.visible ? "" : " [hidden]"));
+                    Quoted(page.caption) + (page.visible ? "" : " [hidden]") + (page.changed ? " [changed]" : ""));
     if (!page.visible || !(pages.empty() || pages.contains(i))) continue;
     for (const std::string& line : Contents(page.content, pages)) lines.push_back(kStep + line);
   }

@@ -21,7 +21,24 @@ std::string Marks(const Widget& widget) {
     marks += " [off screen]";
   }
   if (!widget.Enabled()) marks += " [disabled]";
+  if (widget.Change()) marks += " [" + widget.Change()->note + "]";
   return marks;
+}
+
+/// A line for each changed cell of a grid.
+std::string CellMarks(const Widget& widget) {
+  std::string lines;
+  const auto* const grid = dynamic_cast<const Grid*>(&widget);
+  if (grid == nullptr || !grid->HasChanges()) return lines;
+  for (int row = 0; row < grid->Rows(); ++row) {
+    for (int column = 0; column < grid->Columns(); ++column) {
+      const ChangeMark* const change = grid->CellChange(row, column);
+      if (change == nullptr) continue;
+      lines += "\n    " + std::to_string(row) + "," + std::to_string(column) + " " +
+               Quoted(grid->Cell(row, column)) + " [" + change->note + "]";
+    }
+  }
+  return lines;
 }
 
 std::string Value(const Widget& widget) {
@@ -103,7 +120,7 @@ std::string DescribeMessage(const Message& message) {
 std::string DescribeWidget(const Widget& widget) {
   std::string line = widget.Name() + " " + KindName(widget.Kind());
   if (!widget.Caption().empty()) line += " " + Quoted(widget.Caption());
-  return line + Marks(widget) + Value(widget);
+  return line + Marks(widget) + Value(widget) + CellMarks(widget);
 }
 
 std::string DescribeDialog(const Dialog& dialog) {

@@ -72,6 +72,19 @@ class User:
         """Puts cells in from the current one on: a tab between columns, a line for each row."""
         c.user_paste(self._platform._handle, name, text)
 
+    def undo(self, window: str | None = None) -> None:
+        """Takes back what was done last in an editor; None: in the window in front."""
+        c.user_undo(self._platform._handle, window)
+
+    def redo(self, window: str | None = None) -> None:
+        """Does again what was taken back last."""
+        c.user_redo(self._platform._handle, window)
+
+    def put_back(self, name: str, *, to_device: bool = False) -> None:
+        """Puts back what a control edits, of a grid the selected cells of the current column: to
+        what it was when the window opened, or to what the device has."""
+        c.user_put_back(self._platform._handle, name, int(to_device))
+
     def close_window(self, window: str | None = None) -> None:
         """The close button of a window; None: of the one in front."""
         c.user_close_window(self._platform._handle, window)

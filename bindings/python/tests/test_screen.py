@@ -64,6 +64,11 @@ class Screen(unittest.TestCase):
         self.assertEqual(
             showing, ["SSTab1", "MSFG_SnlGain", "lbSnlGain", "lstSnlGain", "cmd_OK", "cmd_Cancel"]
         )
+        self.user.undo()
+        self.user.redo("frm_CameraSetup")
+        self.user.put_back(grid, to_device=True)
+        with self.assertRaisesRegex(quorvel.RefusedError, "can be done again"):
+            self.user.redo()
         self.user.close_window()
         with self.assertRaisesRegex(quorvel.NotFoundError, "no window is open"):
             self.platform.widgets()

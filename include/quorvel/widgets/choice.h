@@ -31,6 +31,7 @@ class QUORVEL_API ChoiceWidget : public Widget {
   /// A click on item `index`, also on the current one.
   Answer Choose(int index);
   Handler on_click;
+  void RaiseChosen() override { Raise(on_click); }
 
  protected:
   using Widget::Widget;

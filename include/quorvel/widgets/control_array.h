@@ -70,6 +70,8 @@ class ControlArray {
 
   [[nodiscard]] auto begin() { return controls_.begin(); }
   [[nodiscard]] auto end() { return controls_.end(); }
+  [[nodiscard]] auto begin() const { return controls_.begin(); }
+  [[nodiscard]] auto end() const { return controls_.end(); }
 
  private:
   std::deque<Control> controls_;

@@ -40,6 +40,7 @@ class QUORVEL_API CheckBox : public Widget {
   /// Toggles the tick.
   Answer Click();
   Handler on_click;
+  void RaiseChosen() override { Raise(on_click); }
 
  private:
   bool checked_ = false;
@@ -59,11 +60,13 @@ class QUORVEL_API OptionButton : public Widget {
   void Deselect();
   Answer Click();
   Handler on_click;
+  void RaiseChosen() override { Raise(on_click); }
   void JoinGroup(Group* group) { group_ = group; }
   /// The options of the group in their order, this one among them; none outside a control array.
   [[nodiscard]] Group* GetGroup() const { return group_; }
 
  private:
+  void PutSelected(bool selected);
   void RedrawGroup() const;
   bool selected_ = false;
   Group* group_ = nullptr;

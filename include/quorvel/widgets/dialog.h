@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,8 +13,23 @@
 
 namespace quorvel {
 
+class Edited;
+class Gestures;
 class Platform;
 struct Picture;
+
+/// A line of the menu that a control of an editor has.
+struct ContextEntry {
+  std::string text;
+  std::function<Answer()> choose;
+  bool enabled = true;
+};
+
+/// What a changed control is put back to.
+enum class PutBackTo {
+  kOpened,  ///< as it was when its window opened
+  kDevice,  ///< as the device has it
+};
 
 /// A window as a value: its controls, their layout, and whether it is on screen. Editors derive
 /// from it and hold their controls as members. A dialog lives in a std::shared_ptr; while one of
@@ -66,6 +82,12 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
                                            int column = -1) const;
 
   void SetDisabledWords(std::string words) { disabled_words_ = std::move(words); }
+  /// What the lines of a control's menu are called.
+  struct ContextWords {
+    std::string undo, redo, put_back, put_back_to_device;
+  };
+  void SetContextWords(ContextWords words) { context_words_ = std::move(words); }
+
   void SetEditsCellWords(std::string words) { edits_cell_words_ = std::move(words); }
   void SetPasteRefusals(std::string not_a_choice, std::string does_not_fit);
   void SetCaption(std::string caption);
@@ -82,8 +104,27 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
   /// Takes the dialog off the screen and raises on_closed; nothing when it is not shown.
   void Close();
 
-  /// What the user does with the window's own close button, or Escape.
+  /// What the user does with the window's own close button, or Escape. A dialog whose changes would
+  /// be lost asks first; kDone also when the user stays.
   Answer CloseWindow();
+
+  /// Takes back what the user has done last, or does it again; the control that was used has the
+  /// focus then. kNoSuchPlace when there is nothing, kOutdated once the dialog belongs to settings
+  /// that are gone. Only dialogs that edit have steps.
+  Answer Undo();
+  Answer Redo();
+  [[nodiscard]] bool CanUndo() const;
+  [[nodiscard]] bool CanRedo() const;
+  /// Whether anything that the user edits differs from when the dialog opened.
+  [[nodiscard]] bool IsChanged() const;
+  /// Puts back what a control edits: of a grid, and of a control that edits its cells, the selected
+  /// cells of the current column. What follows from a choice of the user's follows here, too.
+  /// kOtherKind for a control that edits nothing, kNoSuchPlace where it is not known what the
+  /// device has.
+  Answer PutBack(Widget& control, PutBackTo to = PutBackTo::kOpened);
+  /// The lines of a control's own menu: undo, redo, and to put it back. None in dialogs without
+  /// steps. They stay valid as long as the dialog.
+  [[nodiscard]] std::vector<ContextEntry> ContextEntries(Widget& control);
 
   /// Raised each time the dialog leaves the screen, whatever closed it.
   Handler on_closed;
@@ -99,8 +140,32 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
   /// For widgets, as they are constructed.
   void Register(Widget& widget) { widgets_.push_back(&widget); }
   [[nodiscard]] Platform& GetPlatform() const { return platform_; }
+  /// The user's steps; a null pointer in a dialog that keeps none.
+  [[nodiscard]] Gestures* GetGestures() const { return gestures_.get(); }
+  /// What KeepAliveWith has named.
+  [[nodiscard]] std::shared_ptr<const void> Life() const { return life_.lock(); }
+  /// For parts of a dialog that hold a value beside their widgets: see Widget::Remember.
+  template <class First, class... Rest>
+  void Remember(First& first, Rest&... rest) {
+    if (!IsToBeKept(&first)) return;
+    try {
+      Keep(&first, std::make_unique<KeptValues<First, Rest...>>(first, rest...));
+    } catch (...) {
+      ForgetSteps();
+    }
+  }
+
+ protected:
+  /// From now on what the user does can be taken back.
+  void KeepSteps(std::unique_ptr<Edited> edited);
+  /// Asked before the window is closed by its own button or Escape; false keeps it open.
+  virtual bool MayClose() { return true; }
 
  private:
+  [[nodiscard]] bool IsToBeKept(const void* place) const;
+  void Keep(const void* place, std::unique_ptr<Kept> kept);
+  void ForgetSteps();
+  [[nodiscard]] Answer StepRefusal() const;
   [[noreturn]] void ThrowNoControl(std::string_view name) const;
   void Place(const Layout& layout, Widget* container, int page);
 
@@ -111,6 +176,7 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
   std::string does_not_fit_;
   std::string edits_cell_words_;
   std::string disabled_words_;
+  ContextWords context_words_;
   const Picture* icon_ = nullptr;
   Layout layout_;
   std::vector<Widget*> widgets_;
@@ -119,6 +185,7 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
   const Widget* focus_sent_to_ = nullptr;
   WidgetView* view_ = nullptr;
   std::weak_ptr<const void> life_;
+  std::unique_ptr<Gestures> gestures_;
   bool shown_ = false;
 };
 

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "quorvel/export.h"
@@ -56,6 +57,9 @@ class QUORVEL_API Grid : public Widget {
   /// What is told of a row beside its name, such as a camera's title; it is no part of the cells.
   [[nodiscard]] const std::string& RowNote(int row) const;
   [[nodiscard]] std::string ValueText() const override;
+  /// What the user has changed of a cell, or a null pointer while it is as it was when the window
+  /// opened. Views mark it, not by colour alone.
+  [[nodiscard]] const ChangeMark* CellChange(int row, int column) const;
 
   /// Sets the number of header rows, 1 or 2; before the size.
   void SetHeaderRows(int rows);
@@ -73,6 +77,10 @@ class QUORVEL_API Grid : public Widget {
   void SetAlign(Align align);
   void SetRange(Range range);
   void SetCell(int row, int column, std::string text, int value = kNone);
+  /// The changed cells, by row and column.
+  using CellChanges = std::map<std::pair<int, int>, ChangeMark>;
+  void SetCellChanges(CellChanges changes);
+  [[nodiscard]] bool HasChanges() const { return !changes_.empty(); }
   /// Makes one cell current, without a selection beyond it.
   void SetCurrent(int row, int column);
   /// Makes another column current; the selected rows stay.
@@ -122,6 +130,8 @@ class QUORVEL_API Grid : public Widget {
   [[nodiscard]] const CellValue& At(int row, int column) const {
     return cells_[Place(row, column)];
   }
+  void RememberCells();
+  void RememberSelection();
   [[nodiscard]] bool MergedDown(int column) const;
   [[nodiscard]] std::vector<Pasted> Placed(std::string_view text) const;
 
@@ -138,6 +148,7 @@ class QUORVEL_API Grid : public Widget {
   std::vector<int> least_widths_{0};
   std::map<int, std::string> row_notes_;
   std::map<int, std::string> column_names_;  ///< of columns that were given one
+  CellChanges changes_;
 };
 
 }  // namespace quorvel

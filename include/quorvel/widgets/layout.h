@@ -102,6 +102,7 @@ struct Page {
   std::string caption;
   Layout content;
   bool visible = true;
+  bool changed = false;  ///< something on it is not as it was when the window opened
 };
 
 /// Pages behind one another, numbered from 0; one is in front.
@@ -123,6 +124,11 @@ class QUORVEL_API TabStrip : public Widget {
   /// Shows or hides a page. When the one in front is hidden, the first that is not comes to the
   /// front.
   void SetPageVisible(int page, bool visible);
+  /// Whether something on a page is not as it was when the window opened. Views mark its tab.
+  [[nodiscard]] bool PageChanged(int page) const {
+    return pages_.at(static_cast<std::size_t>(page)).changed;
+  }
+  void SetPageChanged(int page, bool changed);
   /// Brings a page to the front; nothing happens for a hidden one.
   void SetCurrent(int page);
 

@@ -34,6 +34,7 @@ class QUORVEL_API TimePicker : public Widget {
   /// minute behind the last becomes the last. What no clock shows is kNotAChoice.
   Answer Pick(ClockTime time);
   Handler on_change;
+  void RaiseChosen() override { Raise(on_change); }
 
  private:
   void Put(std::optional<ClockTime> time, bool edited);
@@ -63,6 +64,7 @@ class QUORVEL_API DatePicker : public Widget {
   /// Picks a date, also the present one. What no calendar has is kNotAChoice.
   Answer Pick(const CalendarDate& date);
   Handler on_change;
+  void RaiseChosen() override { Raise(on_change); }
 
  private:
   void Put(std::optional<CalendarDate> date, bool edited);

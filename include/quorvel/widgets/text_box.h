@@ -69,6 +69,7 @@ class QUORVEL_API TextBox : public Widget {
  private:
   friend class TextSeries;
   void TakeFocus(bool by_click) override;
+  void RememberText();
   /// Bytes at the start of a text that the box holds as well: what was typed comes behind them.
   [[nodiscard]] std::size_t HeldBefore(std::string_view text) const;
   void Take(std::string_view text, std::string_view after, bool lines_left_over = false);

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include "quorvel/export.h"
+#include "quorvel/widgets/kept.h"
 
 namespace quorvel {
 
@@ -63,6 +66,13 @@ enum class WidgetKind {
 
 using Handler = std::function<void()>;
 
+/// What the user has changed since the window opened.
+struct ChangeMark {
+  std::string was;   ///< how it read then; empty also where that is not told
+  std::string note;  ///< the change in words, for screen readers
+  bool operator==(const ChangeMark&) const = default;
+};
+
 /// A control of a dialog: its state and value, without any drawing.
 ///
 /// Program verbs (SetCaption, SetText, Select, ...) change the model and redraw; they never call
@@ -106,8 +116,11 @@ class QUORVEL_API Widget {
   [[nodiscard]] bool EditsCell() const { return edits_cell_; }
   /// Why the control is disabled, in words; empty while it is enabled, or for want of a reason.
   [[nodiscard]] const std::string& WhyDisabled() const;
-  /// What screen readers add to the name: why it is disabled or, of a control that edits the
-  /// current cell, the dialog's words for it and the column.
+  /// What the user has changed of it; nothing while it is as it was when the window opened. Of a
+  /// grid, see its cells. Views mark it, not by colour alone.
+  [[nodiscard]] const std::optional<ChangeMark>& Change() const { return change_; }
+  /// What screen readers add to the name: why it is disabled, of a control that edits the current
+  /// cell the dialog's words for it and the column, of a changed one what it was.
   [[nodiscard]] std::string SpokenNote() const;
   /// What the user can change, as one line of text: "" for kinds without a value.
   [[nodiscard]] virtual std::string ValueText() const { return {}; }
@@ -125,6 +138,9 @@ class QUORVEL_API Widget {
   /// Whether the control edits the current cell of a grid, and its column's name.
   void SetEditsCell(bool edits, std::string column = {});
 
+  /// Marks the control as changed, or with nothing as it was.
+  void SetChange(std::optional<ChangeMark> change);
+
   /// The keyboard focus comes here; `by_click`, the user clicks where it is already.
   Answer Focus(bool by_click = false);
 
@@ -136,8 +152,29 @@ class QUORVEL_API Widget {
     container_ = container;
     page_ = page;
   }
+  /// What PlaceIn has said.
+  [[nodiscard]] Widget* Container() const { return container_; }
+  [[nodiscard]] int PageInContainer() const { return page_; }
+
+  /// Raises the handler that follows a choice of the user's; nothing where a choice has no other
+  /// consequence than the value.
+  virtual void RaiseChosen() {}
+  /// Draws it anew after values were put back; `what` is the aspect of theirs.
+  void DrawAgain(Aspect what) const;
 
  protected:
+  friend class Dialog;
+  /// Called before these values change, always the same together. What the user does can be taken
+  /// back: the first call of a gesture keeps them. `what` is the aspect that shows them.
+  template <class First, class... Rest>
+  void Remember(Aspect what, First& first, Rest&... rest) {
+    if (!IsToBeKept(&first)) return;
+    try {
+      Keep(&first, std::make_unique<KeptValues<First, Rest...>>(first, rest...), what);
+    } catch (...) {
+      ForgetSteps();
+    }
+  }
   [[nodiscard]] Answer Refusal() const;
   void Redraw(Aspect what) const {
     if (view_ != nullptr) view_->Refresh(what);
@@ -149,6 +186,9 @@ class QUORVEL_API Widget {
 
  private:
   [[nodiscard]] bool IsInside(const Widget& container) const;
+  [[nodiscard]] bool IsToBeKept(const void* place) const;
+  void Keep(const void* place, std::unique_ptr<Kept> kept, Aspect what);
+  void ForgetSteps();
 
   Dialog& dialog_;
   WidgetKind kind_;
@@ -161,6 +201,7 @@ class QUORVEL_API Widget {
   std::string why_disabled_;
   bool edits_cell_ = false;
   std::string edited_column_;
+  std::optional<ChangeMark> change_;
   WidgetView* view_ = nullptr;
   const Widget* label_ = nullptr;
   Widget* container_ = nullptr;

@@ -31,6 +31,9 @@ class CameraColumn final : public ColumnField {
   [[nodiscard]] const Widget& ControlOf(int line) const override {
     return shared_ ? for_all_ : ColumnField::ControlOf(line);
   }
+  [[nodiscard]] bool EditedBy(const Widget& control, int line) const override {
+    return shared_ ? &control == &for_all_ : ColumnField::EditedBy(control, line);
+  }
   void TellPlace(int line, ShownSetting& shown) const override {
     if (!shared_) ColumnField::TellPlace(line, shown);
   }
@@ -84,6 +87,7 @@ LiteCameraSettings::LiteCameraSettings(Editor& editor, const LiteRecordFeatures&
   BindTable();
   BindForAll();
   AfterFill([this] { ShowOpened(); });
+  Counts(chkIndividual);
 }
 
 /// Other stored rates read as the device takes them.
@@ -115,7 +119,8 @@ void LiteCameraSettings::BindTable() {
          RulesOfRate(kTimeLapse));
   };
   // What two controls edit is shown by both at once.
-  const ColumnRules rules_of_quality{.chosen = [this] { table_.Editing().ShowCell(); }};
+  const ColumnRules rules_of_quality{.written = [this](int row) { ShowRates(row); },
+                                     .chosen = [this] { table_.Editing().ShowCell(); }};
   Bind(kQuality, lstRecQuality, quality_, cbRecQuality, OfCamera(&Cameras::Compress),
        rules_of_quality);
   if (features_.event_settings) {
@@ -205,6 +210,8 @@ void LiteCameraSettings::ShowOpened() {
 }
 
 void LiteCameraSettings::SetShared(bool shared) {
+  Dialog& window = *this;
+  window.Remember(shared_);
   shared_ = shared;
   chkIndividual.SetChecked(!shared);
   SetVisible(

@@ -65,6 +65,7 @@ Choices SubmacroPage::StepCodes() {
 
 void SubmacroPage::BindSteps() {
   const Choices codes = StepCodes();
+  submacros_.Editing().SetRowsAreWhole();
   for (int step = 0; step < clsSubMacro::kLongest; ++step) {
     const int column = submacros_.AddColumn(" ");
     MSFG_SubMacro.SetColumnName(column, lbSubmacro.Caption() + " " + std::to_string(step + 1));

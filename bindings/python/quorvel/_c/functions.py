@@ -96,6 +96,9 @@ RESULTS: dict[str, list[Any]] = {
     "quorvel_user_mark": [_P, Text, _I],
     "quorvel_user_empty": [_P, Text],
     "quorvel_user_paste": [_P, Text, Text],
+    "quorvel_user_undo": [_P, Text],
+    "quorvel_user_redo": [_P, Text],
+    "quorvel_user_put_back": [_P, Text, _I],
     "quorvel_user_close_window": [_P, Text],
 }
 OTHERS: dict[str, tuple[Any, list[Any]]] = {
