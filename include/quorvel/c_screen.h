@@ -130,8 +130,8 @@ QUORVEL_C_API quorvel_result quorvel_user_paste(quorvel_platform* platform, cons
 // `window` NULL: in the one in front. QUORVEL_NO_SUCH_PLACE when there is nothing.
 QUORVEL_C_API quorvel_result quorvel_user_undo(quorvel_platform* platform, const char* window);
 QUORVEL_C_API quorvel_result quorvel_user_redo(quorvel_platform* platform, const char* window);
-// Puts back what a control edits, of a grid the selected cells of the current column: to what it was
-// when the window opened, or with `to_device` not 0 to what the device has.
+// Puts back what a control edits, of a grid the selected cells of the current column: to what it
+// was when the window opened, or with `to_device` not 0 to what the device has.
 QUORVEL_C_API quorvel_result quorvel_user_put_back(quorvel_platform* platform, const char* name,
                                                    int32_t to_device);
 // The close button of a window; `window` NULL: of the one in front.

@@ -1,5 +1,6 @@
 #include "platform/qt/container_views.h"
 
+#include <QPainter>
 #include <QTabBar>
 #include <algorithm>
 
@@ -59,6 +60,27 @@ void FrameView::Draw(Aspect) {
   GetBody()->ShowCaption(empty ? QStringLiteral(" ") : caption);
 }
 
+void MarkedTabBar::Mark(int tab, bool marked) {
+  if (tabData(tab).toBool() == marked) return;
+  setTabData(tab, marked);
+  setAccessibleTabName(tab, marked ? tabText(tab) + QStringLiteral(" *") : QString());
+  update();
+}
+
+void MarkedTabBar::paintEvent(QPaintEvent* event) {
+  QTabBar::paintEvent(event);
+  QPainter painter(this);
+  for (int tab = 0; tab < count(); ++tab) {
+    if (!tabData(tab).toBool() || !isTabVisible(tab)) continue;
+    DrawChangeCorner(painter, tabRect(tab).adjusted(3, 3, 0, 0),
+                     palette().color(QPalette::WindowText));
+  }
+}
+
+WideTabs::WideTabs(QWidget& parent) : QTabWidget(&parent), bar_(new MarkedTabBar(this)) {
+  setTabBar(bar_);
+}
+
 QSize WideTabs::sizeHint() const {
   constexpr int kEnds = 8;
   return QTabWidget::sizeHint().expandedTo({tabBar()->sizeHint().width() + kEnds, 0});
@@ -84,6 +106,7 @@ void TabStripView::Draw(Aspect) {
     const Page& page = GetModel()->Pages()[static_cast<std::size_t>(i)];
     if (tabs.tabText(i) != Captioned(page.caption)) tabs.setTabText(i, Captioned(page.caption));
     tabs.setTabVisible(i, page.visible);
+    tabs.Mark(i, page.changed);
     tabs.setTabEnabled(i, page.visible);  // Ctrl+Tab would reach a tab that is only hidden
     tabs.widget(i)->setAccessibleName(Shown(page.caption));
     // A hidden page does not make the window larger.

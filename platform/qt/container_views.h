@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QGroupBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <vector>
 
@@ -36,11 +37,25 @@ class FrameView : public ViewOf<Frame, GroupBox> {
   void Draw(Aspect what) override;
 };
 
-/// The toolkit's tabs, wide enough to show every tab.
+/// The toolkit's tabs; those of pages that hold a change have a filled corner.
+class MarkedTabBar : public QTabBar {
+ public:
+  using QTabBar::QTabBar;
+  void Mark(int tab, bool marked);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+/// The toolkit's tabs and pages, wide enough to show every tab.
 class WideTabs : public QTabWidget {
  public:
-  explicit WideTabs(QWidget& parent) : QTabWidget(&parent) {}
+  explicit WideTabs(QWidget& parent);
   [[nodiscard]] QSize sizeHint() const override;
+  void Mark(int page, bool marked) { bar_->Mark(page, marked); }
+
+ private:
+  MarkedTabBar* const bar_;
 };
 
 /// Pages behind one another.

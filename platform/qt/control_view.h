@@ -52,6 +52,7 @@ class ViewOf : public ControlView {
     if (model_lives) model_->AttachView(nullptr);
     model_ = nullptr;
     delete mark_;
+    delete change_;
     body_->setObjectName({});  // it is not found any more while it waits to be deleted
   }
 
@@ -102,16 +103,18 @@ class ViewOf : public ControlView {
     body_->setObjectName(Shown(model_->Name()));
     body_->setAccessibleName(Shown(model_->SpokenName()));
     body_->setAccessibleDescription(Shown(model_->SpokenNote()));
-    MarkCellEditor();
+    Mark<CellMark>(mark_, model_->EditsCell());
+    Mark<ChangeBar>(change_, model_->Change().has_value());
     NameByLabel(*model_, *body_);
   }
 
-  void MarkCellEditor() {
+  template <class Kind>
+  void Mark(QPointer<Kind>& mark, bool marked) {
     // A frame around what is hidden would stand at the window's corner.
-    if (!model_->EditsCell() || !model_->Visible()) {
-      delete mark_;
-    } else if (mark_ == nullptr) {
-      mark_ = new CellMark(*body_);
+    if (!marked || !model_->Visible()) {
+      delete mark;
+    } else if (mark == nullptr) {
+      mark = new Kind(*body_);
     }
   }
 
@@ -125,6 +128,7 @@ class ViewOf : public ControlView {
   Model* model_;
   QtWidget* const body_;
   QPointer<CellMark> mark_;
+  QPointer<ChangeBar> change_;
   QObject context_;
 };
 

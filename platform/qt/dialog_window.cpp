@@ -1,7 +1,10 @@
 #include "platform/qt/dialog_window.h"
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
@@ -10,9 +13,26 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/looks.h"
+#include "platform/qt/step_keys.h"
 #include "platform/qt/view_builder.h"
 
 namespace quorvel::qt {
+
+namespace {
+
+/// Cut, copy, paste and the like of a text box; its own undo knows that box alone.
+void AddClipboard(QMenu& menu, QWidget* part) {
+  auto* const line = qobject_cast<QLineEdit*>(part);
+  if (line == nullptr) return;
+  QMenu* const standard = line->createStandardContextMenu();
+  standard->setParent(&menu);
+  menu.addSeparator();
+  constexpr int kUndoRedoAndLine = 3;
+  const auto actions = standard->actions();
+  for (QAction* const action : actions.mid(kUndoRedoAndLine)) menu.addAction(action);
+}
+
+}  // namespace
 
 Contents::Contents(QWidget& parent, const Layout& layout, VerbsUnderWay& verbs)
     : FittedScrollArea(parent) {
@@ -208,15 +228,64 @@ void DialogWindow::PressKeyButton(Button* button) {
   button->Click();
 }
 
+Widget* DialogWindow::ControlOf(const QWidget* part) const {
+  for (; part != nullptr && part != this; part = part->parentWidget()) {
+    if (part->objectName().isEmpty()) continue;
+    if (Widget* const control = dialog_->FindWidget(Stored(part->objectName()))) return control;
+  }
+  return nullptr;
+}
+
+void DialogWindow::TakeStepKey(const QKeyEvent& event) {
+  if (dialog_->GetGestures() == nullptr || !HandOverTyped()) return;
+  const VerbsUnderWay::Scope scope(verbs_);
+  if (IsPutBackKey(event)) {
+    if (Widget* const control = ControlOf(focusWidget())) dialog_->PutBack(*control);
+  } else if (IsRedoKey(event)) {
+    dialog_->Redo();
+  } else {
+    dialog_->Undo();
+  }
+}
+
+/// The lines of the model, and behind them those of a text box for the clipboard.
+void DialogWindow::contextMenuEvent(QContextMenuEvent* event) {
+  QWidget* const part =
+      event->reason() == QContextMenuEvent::Keyboard ? focusWidget() : childAt(event->pos());
+  if (dialog_ == nullptr || !HandOverTyped()) return;
+  Widget* const control = ControlOf(part);
+  if (control == nullptr) return;
+  const auto entries = dialog_->ContextEntries(*control);
+  if (entries.empty()) return;
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const ContextEntry& entry : entries) {
+    QAction* const action = menu->addAction(Shown(entry.text));
+    action->setEnabled(entry.enabled);
+    connect(action, &QAction::triggered, this, [this, choose = entry.choose] {
+      if (dialog_ == nullptr) return;
+      const VerbsUnderWay::Scope scope(verbs_);
+      choose();
+    });
+  }
+  AddClipboard(*menu, part);
+  menu->popup(event->globalPos());
+  event->accept();
+}
+
 void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (dialog_ == nullptr) return;
   if (event->key() == Qt::Key_Escape) {
-    if (Button* const cancel = dialog_->CancelButton()) {
+    // What was changed is not lost by a key alone: the window asks as it is closed.
+    Button* const cancel = dialog_->CancelButton();
+    if (cancel != nullptr && !dialog_->IsChanged()) {
       PressKeyButton(cancel);
     } else {
       reject();
     }
+  } else if (IsStepKey(*event)) {
+    TakeStepKey(*event);
   } else if (enter && (event->modifiers() & Qt::ControlModifier) != 0) {
     if (Button* const button = dialog_->DefaultButton()) PressKeyButton(button);
   } else if (enter) {

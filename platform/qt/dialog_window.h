@@ -38,6 +38,7 @@ class DialogWindow : public QDialog, public WidgetView {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool event(QEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
@@ -60,6 +61,10 @@ class DialogWindow : public QDialog, public WidgetView {
   /// Gives it to the control that the model has sent it to.
   void FollowFocus();
   [[nodiscard]] bool HandOverTyped();
+  /// Undo, redo and put back, as their keys say.
+  void TakeStepKey(const QKeyEvent& event);
+  /// The control that a part of the window belongs to, or none.
+  [[nodiscard]] Widget* ControlOf(const QWidget* part) const;
   void PressKeyButton(Button* button);
 
   Dialog* dialog_;

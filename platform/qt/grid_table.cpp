@@ -9,6 +9,7 @@
 #include <numeric>
 #include <utility>
 
+#include "platform/qt/cell_mark.h"
 #include "platform/qt/widest.h"
 #include "quorvel/widgets/placement.h"
 
@@ -20,6 +21,17 @@ namespace {
 class GridDelegate : public FocusDelegate {
  public:
   using FocusDelegate::FocusDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    FocusDelegate::paint(painter, option, index);
+    if (!index.data(GridTexts::kChangedRole).toBool()) return;
+    const bool selected = (option.state & QStyle::State_Selected) != 0;
+    const auto role = selected && option.widget != nullptr && option.widget->hasFocus()
+                          ? QPalette::HighlightedText
+                          : QPalette::Text;
+    DrawChangeCorner(*painter, option.rect, option.palette.color(role));
+  }
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {

@@ -51,7 +51,18 @@ QVariant GridTexts::Text(int grid_row, int column) const {
   return text.leftJustified(digits, kFigureSpace) + "  " + Shown(grid_->RowNote(grid_row));
 }
 
+const ChangeMark* GridTexts::Change(int grid_row, int column) const {
+  return grid_ == nullptr ? nullptr : grid_->CellChange(grid_row, column);
+}
+
 QVariant GridTexts::data(const QModelIndex& index, int role) const {
+  if (role == kChangedRole || role == Qt::AccessibleTextRole) {
+    const ChangeMark* const change = Change(index.row() + header_rows_, index.column());
+    if (role == kChangedRole) return change != nullptr;
+    if (change == nullptr) return {};
+    const QString text = Text(index.row() + header_rows_, index.column()).toString();
+    return QString(text + QStringLiteral(". ") + Shown(change->note));
+  }
   if (role == Qt::DisplayRole) return Text(index.row() + header_rows_, index.column());
   if (role == Qt::ToolTipRole && grid_ != nullptr) {
     return Shown(grid_->Owner().HelpOf(*grid_, index.row() + header_rows_, index.column()));

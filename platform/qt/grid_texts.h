@@ -13,6 +13,9 @@ class GridTexts : public QAbstractTableModel {
  public:
   explicit GridTexts(const Grid& grid) : grid_(&grid) { TakeSize(); }
 
+  /// True for a cell that the user has changed.
+  static constexpr int kChangedRole = Qt::UserRole;
+
   /// Tells the table a new size, which it must know at once; true when there is one.
   bool Resize();
   /// Tells the table that texts changed.
@@ -37,6 +40,7 @@ class GridTexts : public QAbstractTableModel {
  private:
   void TakeSize();
   [[nodiscard]] QVariant Text(int grid_row, int column) const;
+  [[nodiscard]] const ChangeMark* Change(int grid_row, int column) const;
 
   const Grid* grid_;
   int header_rows_ = 1;

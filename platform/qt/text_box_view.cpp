@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "platform/qt/step_keys.h"
+
 namespace quorvel::qt {
 
 namespace {
@@ -18,10 +20,22 @@ bool Erases(const QKeyEvent& event) {
 }  // namespace
 
 TextLine::TextLine(QWidget& parent) : QLineEdit(&parent) {
+  setContextMenuPolicy(Qt::NoContextMenu);  // the window has one
   setDragEnabled(false);  // dragging text runs a loop in which the window could go
 }
 
+/// Steps are the window's, which knows them of all controls.
+bool TextLine::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride &&
+      IsStepKey(static_cast<const QKeyEvent&>(*event))) {
+    event->ignore();
+    return false;
+  }
+  return QLineEdit::event(event);
+}
+
 void TextLine::keyPressEvent(QKeyEvent* event) {
+  if (IsStepKey(*event)) return event->ignore();
   if (!on_key(*event)) QLineEdit::keyPressEvent(event);
 }
 
@@ -103,7 +117,9 @@ void TextBoxView::Draw(Aspect what) {
     edit.setText(text);
     edit.setCursorPosition(static_cast<int>(std::max<qsizetype>(text.size() - from_end, 0)));
   }
-  edit.setAccessibleDescription(Shown(GetModel()->Note()));
+  QStringList notes{Shown(GetModel()->Note()), Shown(GetModel()->SpokenNote())};
+  notes.removeAll(QString());
+  edit.setAccessibleDescription(notes.join(QStringLiteral(". ")));
   if (what == Aspect::kState) FitWidth();
 }
 

@@ -18,6 +18,7 @@ class TextLine : public QLineEdit {
   std::function<bool(const QKeyEvent& event)> on_key;
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

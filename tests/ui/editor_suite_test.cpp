@@ -432,7 +432,8 @@ std::string Told(const Editor& editor) {
   std::string told;
   for (const Widget* const it : editor.Widgets()) {
     told += it->Name() + " " + it->Caption() + " " + it->SpokenName() + " [" + it->SpokenNote() +
-            "] " + it->ValueText() + (it->Enabled() ? "" : " off") + (it->Showing() ? "\n" : " -\n");
+            "] " + it->ValueText() + (it->Enabled() ? "" : " off") +
+            (it->Showing() ? "\n" : " -\n");
     if (const auto* box = dynamic_cast<const TextBox*>(it)) told += box->Note() + "\n";
     if (const auto* grid = dynamic_cast<const Grid*>(it)) told += std::to_string(grid->RowSel());
   }

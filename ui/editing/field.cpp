@@ -25,7 +25,7 @@ Field& Field::Lists(std::function<int(int)> block) {
 }
 
 void Field::WriteLine(MuxData& record, int line) {
-  if (!exists_ || !written_ || (written_while_ && !written_while_())) return;
+  if (!exists_ || !IsWritten()) return;
   Write(record, line);
   if (block_ && LineDiffers(line)) record.MarkModified(block_(line));
 }

@@ -78,9 +78,9 @@ class Field {
   [[nodiscard]] virtual std::optional<std::string> OpenedText(int line) const = 0;
   [[nodiscard]] bool Differs(int line) const { return exists_ && LineDiffers(line); }
   [[nodiscard]] bool Exists() const { return exists_; }
-  /// Appends what has changed in a line.
+  /// Appends what has changed in a line and is written so.
   void AddChanges(int line, std::vector<FieldChange>& changes) const {
-    if (Differs(line)) TellChanges(line, changes);
+    if (IsWritten() && Differs(line)) TellChanges(line, changes);
   }
   /// Whether a choice in `control` is one for a line now; of a grid, for its selected cells.
   [[nodiscard]] bool IsEditedBy(const Widget& control, int line) const {
@@ -106,6 +106,7 @@ class Field {
   [[nodiscard]] virtual bool LineDiffers(int line) const = 0;
   [[nodiscard]] virtual EditedValue ValueOf(int line) const = 0;
   virtual void TellChanges(int line, std::vector<FieldChange>& changes) const = 0;
+  [[nodiscard]] bool IsWritten() const { return written_ && (!written_while_ || written_while_()); }
   [[nodiscard]] virtual bool EditedBy(const Widget& control, int line) const = 0;
 
  private:

@@ -105,7 +105,8 @@ class GridEditing {
   [[nodiscard]] bool Has(int row, int column) const;
   /// True where OK has to wait for a choice.
   [[nodiscard]] bool Waits(int row, int column) const;
-  /// Whether a cell is among those that are put back by `control`: the grid, or one that edits them.
+  /// Whether a cell is among those that are put back by `control`: the grid, or one that edits
+  /// them.
   [[nodiscard]] bool IsPutBackBy(const Widget& control, int row, int column) const;
   /// After cells of these rows were put back: what follows from a choice follows.
   void FollowPutBack(const std::set<int>& rows);

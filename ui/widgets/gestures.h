@@ -98,8 +98,8 @@ class Gestures {
   std::unique_ptr<Edited> edited_;
   std::deque<Step> steps_;
   std::size_t done_ = 0;
-  Parts moved_;               ///< since the last step, or since one was taken back
-  bool next_moved_ = false;   ///< `moved` of the next step has not been taken back
+  Parts moved_;                 ///< since the last step, or since one was taken back
+  bool next_moved_ = false;     ///< `moved` of the next step has not been taken back
   Widget* going_on_ = nullptr;  ///< where the last step goes on when its control is used again
 
   // The gesture that is under way.

@@ -209,7 +209,8 @@ std::vector<std::string> Inside(const Widget& widget, const std::set<int>& pages
   for (int i = 0; tabs != nullptr && i < tabs->Count(); ++i) {
     const Page& page = tabs->Pages()[static_cast<std::size_t>(i)];
     lines.push_back((i == tabs->Current() ? "*" : "") + std::to_string(i) + " " +
-                    Quoted(page.caption) + (page.visible ? "" : " [hidden]") + (page.changed ? " [changed]" : ""));
+                    Quoted(page.caption) + (page.visible ? "" : " [hidden]") +
+                    (page.changed ? " [changed]" : ""));
     if (!page.visible || !(pages.empty() || pages.contains(i))) continue;
     for (const std::string& line : Contents(page.content, pages)) lines.push_back(kStep + line);
   }
