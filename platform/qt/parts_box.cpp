@@ -6,6 +6,8 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "platform/qt/step_keys.h"
+
 namespace quorvel::qt {
 
 PartsBox::PartsBox(QWidget& parent) : QAbstractSpinBox(&parent) { setFocusPolicy(Qt::StrongFocus); }
@@ -53,6 +55,7 @@ void PartsBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void PartsBox::keyPressEvent(QKeyEvent* event) {
+  if (IsStepKey(*event)) return event->ignore();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter) {
     QAbstractSpinBox::keyPressEvent(event);
