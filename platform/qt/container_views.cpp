@@ -100,7 +100,7 @@ TabStripView::TabStripView(ViewBuilder& builder, TabStrip& model, QWidget& paren
 }
 
 void TabStripView::Draw(Aspect) {
-  QTabWidget& tabs = *GetBody();
+  WideTabs& tabs = *GetBody();
   const int pages = std::min(GetModel()->Count(), tabs.count());
   for (int i = 0; i < pages; ++i) {
     const Page& page = GetModel()->Pages()[static_cast<std::size_t>(i)];

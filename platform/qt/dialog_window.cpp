@@ -25,7 +25,7 @@ void AddClipboard(QMenu& menu, QWidget* part) {
   auto* const line = qobject_cast<QLineEdit*>(part);
   if (line == nullptr) return;
   QMenu* const standard = line->createStandardContextMenu();
-  standard->setParent(&menu);
+  standard->setParent(&menu, standard->windowFlags());
   menu.addSeparator();
   constexpr int kUndoRedoAndLine = 3;
   const auto actions = standard->actions();
