@@ -147,7 +147,7 @@ quorvel_result quorvel_user_redo(quorvel_platform* platform, const char* window)
 
 quorvel_result quorvel_user_put_back(quorvel_platform* platform, const char* name,
                                      int32_t to_device) {
-  const PutBackTo to = to_device != 0 ? PutBackTo::kDevice : PutBackTo::kOpened;
+  const auto to = to_device != 0 ? quorvel::PutBackTo::kDevice : quorvel::PutBackTo::kOpened;
   return Act(platform, name,
              [to](const auto& user, const char* at) { return user.PutBack(at, to); });
 }
