@@ -48,6 +48,8 @@ FileReview Component::Review(std::span<const Byte> file) {
           ", not " + std::string(ModelText(present.ModelCode));
       return review;
     }
+    // A file that is read locks the keyboard, whatever it was saved with.
+    other.record.LockKeyBoard.Load(context.device.Record().LockKeyBoard());
     review.lines = reviewer_.Review(Of(other));
     review.compared = true;
   } catch (...) {

@@ -12,10 +12,12 @@ namespace quorvel {
 
 /// Where an installer finds a setting. One that no editor of the menu shows has an empty `item`.
 struct SettingPosition {
-  std::string item;     ///< of the menu: "mnu_CSetup"
-  std::string window;   ///< the editor's name: "frm_CameraSetup"
-  std::string editor;   ///< its caption: "Camera Setup"
-  std::string page;     ///< caption of the page; empty in an editor without pages
+  std::string item;    ///< of the menu: "mnu_CSetup"
+  std::string window;  ///< the editor's name: "frm_CameraSetup"
+  std::string editor;  ///< its caption: "Camera Setup"
+  /// Caption of the page; empty in an editor without pages. This and the label come with single
+  /// blanks and without a colon at the end.
+  std::string page;
   std::string label;    ///< what the control or the column is called: "Gain"
   std::string line;     ///< what the row is called: "Camera 3 "Front door"", "Event 1"; else empty
   std::string control;  ///< its name: "MSFG_Cam"; the grid's for a cell

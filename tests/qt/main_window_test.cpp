@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QMenuBar>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include "muxhost/window/event_log.h"
 #include "tests/qt/muxhost_on_screen.h"
@@ -49,7 +50,7 @@ TEST_F(MuxhostWindow, TakesBackWhatWasAccepted) {
     return text;
   };
   Download();
-  EXPECT_EQ(steps(), "&Undo (off); &Redo (off); ");
+  EXPECT_EQ(steps(), "&Undo (off); &Redo (off); Re&view changes...; ");
   Choose("mnu_CSetup");
   QWidget& editor = *OnScreen("frm_CameraSetup");
   QTest::keyClicks(Find<QLineEdit>(&editor, "m_CameraTitle(2)"), "x");
@@ -57,12 +58,44 @@ TEST_F(MuxhostWindow, TakesBackWhatWasAccepted) {
   EXPECT_TRUE(QTest::qWaitFor([&] {
     // The menu pops up again.
     if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
-    return steps() == "&Undo \"Camera Setup\"; &Redo (off); ";
+    return steps() == "&Undo \"Camera Setup\"; &Redo (off); Re&view changes...; ";
   }));
   window_.menuBar()->actions().at(1)->menu()->actions().front()->trigger();
-  EXPECT_EQ(steps(), "&Undo (off); &Redo \"Camera Setup\"; ");
+  EXPECT_EQ(steps(), "&Undo (off); &Redo \"Camera Setup\"; Re&view changes...; ");
   EXPECT_TRUE(DeviceIsAsEdited());
   EXPECT_TRUE(session_.Control().ModifiedBlocks().empty());
+}
+
+TEST_F(MuxhostWindow, ChangesAreReviewedAndTakenBackBeforeTheyGo) {
+  window_.Backups().SetReviewWanted(true);
+  Download();
+  session_.Control().SetSetting("CamInfo(2).title", "Gate");
+  session_.Control().SetSetting("TDInfo.TimeFormat", "12 HOUR");
+  session_.Control().SetSetting("MuxLang", "2");
+  std::string told;
+  const auto review = [&] {
+    QWidget* const box = QApplication::activeModalWidget();
+    auto* const tree = box == nullptr ? nullptr : Find<QTreeWidget>(box, "Changes");
+    if (tree == nullptr || !tree->hasFocus()) return false;
+    told.clear();
+    for (QTreeWidgetItemIterator it(tree); *it != nullptr; ++it) {
+      for (int i = 0; i < tree->columnCount(); ++i) told += (*it)->text(i).toStdString() + '|';
+      told += '\n';
+    }
+    if (tree->topLevelItemCount() == 3) {
+      QTest::keyClick(tree, Qt::Key_Backspace, Qt::ControlModifier);
+      return false;
+    }
+    QTest::keyClick(tree, Qt::Key_Return);
+    return true;
+  };
+  Click("Upload modified", review);
+  EXPECT_EQ(told,
+            "Camera Setup||||\nTitle 3|Camera 03|Gate|3|\nIn no editor||||\nMuxLang|0|2|60|\n");
+  EXPECT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{3, 60}));
+  QWidget* const editor = OnScreen("frm_CameraSetup");
+  ASSERT_NE(editor, nullptr);
+  EXPECT_EQ(editor->focusWidget()->objectName(), "m_CameraTitle(2)");
 }
 
 TEST_F(MuxhostWindow, NewcomerDownloadsEditsUploadsAndSeesItVerified) {

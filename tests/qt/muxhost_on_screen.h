@@ -51,6 +51,7 @@ class MuxhostOnScreen : public testing::Test {
     session_.Configure({.latency_ms = 0});
     window_.Backups().SetFolder(backups_.filePath("kept"));
     window_.Backups().SetWanted(false);  // a fault of the link would strike it
+    window_.Backups().SetReviewWanted(false);
     window_.show();
   }
 

@@ -491,5 +491,62 @@ TEST(EditorSuite, WhatTheUserDoesIsTakenBackStepByStep) {
   });
 }
 
+/// The settings that differ from the device, but for what the menu locks and what only marks.
+std::set<std::string> DifferingNames(Bench& bench) {
+  std::set<std::string> names;
+  const auto differences = bench.Host().control->DifferencesFrom(bench.Host().device.Bytes());
+  for (const SettingDifference& it : *differences) {
+    if (it.name != "LockKeyBoard") names.insert(it.name);
+  }
+  return names;
+}
+
+/// Every setting of the editor has a place, which opens it; what was changed in it reads in the
+/// review as in the editor.
+void ExpectReviewed(Bench& bench, const std::vector<ShownSetting>& shown) {
+  std::map<std::string, ReviewLine> lines;
+  auto missing = DifferingNames(bench);
+  for (const ReviewLine& line : bench.Host().control->Review()) {
+    for (const std::string& name : line.settings) {
+      lines[name] = line;
+      missing.erase(name.substr(0, name.find(" bit ")));
+    }
+  }
+  for (const std::string& name : missing) ADD_FAILURE() << "not in the review: " << name;
+  for (const ShownSetting& it : shown) {
+    // Where a timer was deleted others move; a time reads in the format that was chosen.
+    const std::string& name = it.settings.front();
+    if (name.starts_with("MRecTimer") || name.starts_with("TDInfo.CurrentHour")) continue;
+    if (!it.differs || it.was == it.is || it.was.empty() || it.is.empty()) continue;
+    const auto line = lines.find(it.settings.front());
+    if (line == lines.end() || line->second.settings != it.settings) continue;
+    if (line->second.at.column != it.column) continue;  // of one setting in two columns
+    EXPECT_TRUE(line->second.old_value.starts_with(it.was)) << Names(it) << " was " << it.was;
+  }
+}
+
+TEST(EditorSuite, WhatIsReviewedIsTakenBackLineByLine) {
+  ForEveryModel([](Bench& bench, const std::string& item) {
+    MainMenuCtrl& control = *bench.Host().control;
+    Editor& editor = bench.Open(item);
+    ChooseEverywhere(bench, editor);
+    auto shown = editor.ShownSettings();
+    std::erase_if(shown,
+                  [](const auto& it) { return it.control->Kind() == WidgetKind::kCheckBox; });
+    bench.Accept();
+    ExpectReviewed(bench, shown);
+    for (const ReviewLine& line : control.Review()) {
+      EXPECT_TRUE(control.TakeBack(line)) << line.settings.front();
+    }
+    EXPECT_EQ(DifferingNames(bench), std::set<std::string>{});
+    EXPECT_EQ(bench.Host().Modified(), std::vector<int>{});
+    for (const SettingRow& row : control.AllSettings()) {
+      if (row.at.item != item || testing::Test::HasFailure()) continue;
+      EXPECT_TRUE(control.OpenAt(row.at) || !row.at.control.empty()) << row.at.control;
+      break;
+    }
+  });
+}
+
 }  // namespace
 }  // namespace quorvel

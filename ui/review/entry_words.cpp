@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <optional>
-#include <set>
 
 #include "ui/context.h"
 
@@ -59,13 +58,16 @@ std::vector<std::string> StoredIn(const MapEntry& entry, const Side& side) {
 
 std::vector<Byte> BlocksOf(const MapEntry& entry, const SettingList& settings, const Side& side,
                            const Side* other) {
-  std::set<Byte> blocks;
+  std::vector<Byte> blocks;
   for (const MapEntry::Part& part : entry.parts) {
     if (other != nullptr && !Differ(side, *other, part)) continue;
     const std::vector<Byte>& carriers = settings.At(part.setting).blocks;
-    blocks.insert(carriers.begin(), carriers.end());
+    blocks.insert(blocks.end(), carriers.begin(), carriers.end());
   }
-  return {blocks.begin(), blocks.end()};
+  std::ranges::sort(blocks);
+  const auto [first, last] = std::ranges::unique(blocks);
+  blocks.erase(first, last);
+  return blocks;
 }
 
 EntryWords::EntryWords(const SettingList& settings, Context& context)

@@ -106,7 +106,11 @@ bool Reviewer::Prepare() {
           Configuration{record, context_.device.env.identity, context_.device.BlkImage.BlkCount()});
     }
     known_->present = std::make_unique<UnseenEditors>(context_, record, known_->texts);
-    if (IsUpToDate()) known_->map.emplace(*known_->present, *known_->settings);
+    // The record of a lite model decides which controls show its cameras; of others, nothing moves.
+    const bool moves = context_.device.env.identity.LiteRecordModel;
+    if (IsUpToDate() && (moves || !known_->map)) {
+      known_->map.emplace(*known_->present, *known_->settings);
+    }
   }
   return IsUpToDate() && known_->map.has_value();
 }
@@ -145,17 +149,17 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
   }
   was.editors = known_->other.get();
 
-  std::set<std::size_t> entries;
+  std::vector<bool> meant(map.Entries().size());
   std::vector<MapEntry> unplaced;
   for (const std::size_t setting : differing) {
     for (const std::size_t number : map.Showing(setting)) {
       const MapEntry& entry = map.Entries().at(number);
-      if (entry.is_first && Differ(was, is, entry)) entries.insert(number);
+      if (entry.is_first && Differ(was, is, entry)) meant.at(number) = true;
     }
     if (IsLeftOver(setting, map, was, is)) unplaced.push_back(Unplaced(setting, settings));
   }
   std::vector<ReviewLine> lines;
-  lines.reserve(entries.size() + unplaced.size());
+  lines.reserve(differing.size());
   const EntryWords words(settings, context_);
   const auto add = [&](const MapEntry& entry) {
     auto [old_value, new_value] = words.Of(entry, was, is);
@@ -166,7 +170,9 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
     if (entry.shared && !lines.empty() && Join(lines.back(), line, camera)) return;
     lines.push_back(std::move(line));
   };
-  for (const std::size_t number : entries) add(map.Entries()[number]);
+  for (std::size_t number = 0; number < meant.size(); ++number) {
+    if (meant[number]) add(map.Entries()[number]);
+  }
   for (const MapEntry& entry : unplaced) add(entry);
   return lines;
 }

@@ -24,6 +24,16 @@ std::optional<int> WholeNumber(std::string_view text) {
   return error == std::errc() && end == last ? std::optional(number) : std::nullopt;
 }
 
+/// A caption as it reads in a line of text: single blanks, and no colon at its end.
+std::string Tidy(std::string_view caption) {
+  std::string tidy;
+  for (const char letter : caption) {
+    if (letter != ' ' || (!tidy.empty() && tidy.back() != ' ')) tidy += letter;
+  }
+  while (!tidy.empty() && (tidy.back() == ' ' || tidy.back() == ':')) tidy.pop_back();
+  return tidy;
+}
+
 /// The number and the bit of a setting's name.
 std::optional<MapEntry::Part> PartOf(const std::string& name, const SettingList& settings) {
   constexpr std::string_view kBit = " bit ";
@@ -65,6 +75,8 @@ class EditorReader {
                 shown.control->Name(),
                 shown.row,
                 shown.column};
+    entry.at.page = Tidy(entry.at.page);
+    entry.at.label = Tidy(entry.at.label);
     entry.names = shown.settings;
     entry.ticks = shown.control->Kind() == WidgetKind::kCheckBox;
     if (shown.row != Grid::kNone) {
@@ -95,7 +107,7 @@ class EditorReader {
   static void NameTick(const Widget& box, MapEntry& entry) {
     const std::string& around = box.SurroundingCaption();
     if (around != box.Name() && around != entry.at.label) {
-      entry.at.label = around + ", " + entry.at.label;
+      entry.at.label = Tidy(around) + ", " + entry.at.label;
     }
   }
 

@@ -9,16 +9,21 @@
 namespace quorvel::muxhost {
 
 BackupBox::BackupBox(QWidget* parent)
-    : QGroupBox("Backup", parent),
-      wanted_(new QCheckBox("Of the device, before each upload")),
+    : QGroupBox("Before each upload", parent),
+      review_(new QCheckBox("Show what goes")),
+      wanted_(new QCheckBox("Back up the device")),
       folder_(new QLineEdit),
       change_(new QPushButton("Folder...")) {
+  review_->setChecked(true);
+  review_->setToolTip(
+      "Lists the changes, in the words of the editors, and lets you take them back");
   wanted_->setChecked(true);
   wanted_->setToolTip("Restore file brings a backup back");
   folder_->setReadOnly(true);
   folder_->setAccessibleName("Backup folder");
   change_->setToolTip("Chooses where backups are kept");
   auto* const column = new QVBoxLayout(this);
+  column->addWidget(review_);
   column->addWidget(wanted_);
   auto* const row = new QHBoxLayout;
   row->addWidget(folder_, 1);

@@ -7,13 +7,16 @@
 
 namespace quorvel::muxhost {
 
-/// Whether, and where, the device's configuration is kept before an upload.
+/// What is done before an upload: whether the changes are shown once more, and whether and where
+/// the device's configuration is kept.
 class BackupBox : public QGroupBox {
  public:
   explicit BackupBox(QWidget* parent = nullptr);
 
   [[nodiscard]] bool Wanted() const { return wanted_->isChecked(); }
   void SetWanted(bool wanted) { wanted_->setChecked(wanted); }
+  [[nodiscard]] bool ReviewWanted() const { return review_->isChecked(); }
+  void SetReviewWanted(bool wanted) { review_->setChecked(wanted); }
   /// At first a folder of its own among the user's documents.
   [[nodiscard]] QString Folder() const { return folder_->text(); }
   void SetFolder(const QString& folder);
@@ -21,6 +24,7 @@ class BackupBox : public QGroupBox {
  private:
   void AskForFolder();
 
+  QCheckBox* const review_;
   QCheckBox* const wanted_;
   QLineEdit* const folder_;
   QPushButton* const change_;

@@ -15,6 +15,7 @@
 
 #include "muxhost/window/desktop.h"
 #include "muxhost/window/interruption.h"
+#include "muxhost/window/review_box.h"
 #include "muxhost/window/side_area.h"
 #include "muxhost/window/words.h"
 
@@ -77,6 +78,7 @@ void MainWindow::AttachToSession() {
   session_.interrupt = &Interrupt;
   uploader_.run = [this] { Run(&HostSession::Upload); };
   uploader_.connect = [this] { return AskForDevice(); };
+  uploader_.open = [this](const SettingPosition& at) { OpenAt(at); };
   // Not from within the menu's own event.
   session_.on_zones_wanted = [this](int cameras) {
     zones_wanted_ = cameras;
@@ -117,6 +119,20 @@ void MainWindow::AddEditMenu() {
     session_.Control().Redo();
     ShowState();
   });
+  review_ = menu->addAction("Re&view changes...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
+                            this, [this] { ReviewChanges(); });
+}
+
+void MainWindow::ReviewChanges() {
+  ReviewBox box(session_, std::nullopt, this);
+  box.exec();
+  ShowState();
+  if (box.Wanted() && isVisible()) OpenAt(*box.Wanted());
+}
+
+void MainWindow::OpenAt(const SettingPosition& at) {
+  if (!session_.Control().OpenAt(at)) log_->Add("the control is not to be seen: " + at.control);
+  ShowState();
 }
 
 /// An editor that is open shows what it has read: nothing is taken back behind it.
@@ -128,6 +144,7 @@ void MainWindow::ShowSteps() {
   };
   show(*undo_, "&Undo", session_.Control().UndoText());
   show(*redo_, "&Redo", session_.Control().RedoText());
+  review_->setEnabled(free && loaded_);
 }
 
 QWidget* MainWindow::MakeLeftSide() {

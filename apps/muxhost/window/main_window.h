@@ -89,6 +89,8 @@ class MainWindow : public QMainWindow {
   void ShowState();
   [[nodiscard]] Situation PresentSituation() const;
   void AddEditMenu();
+  void ReviewChanges();
+  void OpenAt(const SettingPosition& at);
   void ShowSteps();
 
   QtPlatform& platform_;
@@ -107,6 +109,7 @@ class MainWindow : public QMainWindow {
   FileMenu* const files_;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
+  QAction* review_ = nullptr;
   QPointer<ZoneEditor> zones_;
   QSplitter* const rows_;
   QSplitter* const below_;

@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "muxhost/window/backup.h"
+#include "muxhost/window/review_box.h"
 #include "muxhost/window/send_choice.h"
 #include "muxhost/window/words.h"
 
@@ -13,6 +14,7 @@ void Uploader::Upload(bool all, bool macros) {
   if (!at_.session.HasDevice() && !connect()) return;
   // The control compares before it opens its dialog, and tells the two: nothing is read before.
   if (!at_.session.Control().DeviceMismatch().empty()) return run();
+  if (at_.backups.ReviewWanted() && !MayGo(all, macros)) return;
   if (all && !MayLeaveOut()) return;
   if (!MayBring(WhatGoesAlong(at_.session, all, macros, at_.platform.Now()))) return;
   if (at_.backups.Wanted() && !BackUp()) return;
@@ -28,6 +30,22 @@ void Uploader::Upload(bool all, bool macros) {
     run();
     at_.silence.End();
   } while (WantsToSendAgain());
+}
+
+bool Uploader::MayGo(bool all, bool macros) {
+  const LocalTime now = at_.platform.Now();
+  const GoingAlong along = WhatGoesAlong(at_.session, all, macros, now);
+  QStringList lines;
+  if (along.clock_goes) lines << QString::fromStdString(ClockInWords(along.clock, now));
+  if (!along.ports.empty()) lines << QString::fromStdString(PortsInWords(along.ports));
+  const QString lacking = all ? LackingBlocks(at_.session) : QString();
+  if (!lacking.isEmpty()) {
+    lines << QString("The configuration has nothing for %1 of the device.").arg(lacking);
+  }
+  ReviewBox box(at_.session, ReviewBox::Sending{all, lines.join('\n')}, &at_.window);
+  const bool goes = box.exec() == QDialog::Accepted && at_.window.isVisible();
+  if (!goes && box.Wanted() && open) open(*box.Wanted());
+  return goes;
 }
 
 bool Uploader::MayLeaveOut() {

@@ -28,6 +28,8 @@ class Uploader {
 
   /// Has the session upload.
   std::function<void()> run;
+  /// Opens an editor that the user has asked for instead.
+  std::function<void(const SettingPosition& at)> open;
 
   /// Has the user connect a device, without one; false when there is none after that.
   std::function<bool()> connect;
@@ -37,9 +39,11 @@ class Uploader {
   void Upload(bool all, bool macros);
 
  private:
+  /// Shows what goes, and what goes along; false when the user would rather not.
+  [[nodiscard]] bool MayGo(bool all, bool macros);
   /// Keeps what the device holds; false when there is to be no upload.
   [[nodiscard]] bool BackUp();
-  /// Tells of a clock and of ports that go along; false when the user would rather not.
+  /// Asks about a clock and ports that go along; false when the user would rather not.
   [[nodiscard]] bool MayBring(const GoingAlong& along);
   /// The same, of more than was chosen before: at START.
   [[nodiscard]] bool MayBringAfterAll(bool all, bool macros);
