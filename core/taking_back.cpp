@@ -74,6 +74,10 @@ bool DeviceState::TakeBack(StepName name, std::span<const std::string> settings,
 
 void DeviceState::UnlistWhatDeviceHas(const std::set<Byte>& blocks) {
   const auto device = OfDevice();
+  auto& macros = Record().AllSubMacros();
+  for (std::size_t i = 0; i < macros.size(); ++i) {
+    macros.at(i).SettleLike(device->record.AllSubMacros().at(i));
+  }
   const BlockImage now = EncodedImage();
   const auto stays = [&](int number) {
     if (number == kClockBlock && UsePcTime) return true;

@@ -59,6 +59,12 @@ class clsSubMacro : public SettingOwner {
 
   /// Whether byte k was set since the record was decoded, be it back to what it was.
   [[nodiscard]] bool WasSet(int k) const { return (set_bytes_ >> k & 1U) != 0; }
+  /// Where it holds what another does, no byte of it counts as set that is not set in the other.
+  void SettleLike(const clsSubMacro& other) {
+    if (SMacroByte == other.SMacroByte && SMacroLen == other.SMacroLen) {
+      set_bytes_ = other.set_bytes_;
+    }
+  }
 
   SettingArray<"SMacroByte", Byte, kLongest, ScriptByte> SMacroByte{*this};
   /// Bytes in the script.
