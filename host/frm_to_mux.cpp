@@ -49,7 +49,7 @@ void frm_ToMux::ArrangeControls() {
   cmdClearBlk.SetCaption(context_.GetText(txt::kClearBlocks));
   cmdClearBlk.SetVisible(false);
   StatusBar1.SetPanel(kStatus, Caption());
-  SetLayout(Column(chkMacro, Row(Column(optBlk, Stretch()), lstBlkSav),
+  SetLayout(Column(chkMacro, Row(Column(optBlk, Stretch()), lstBlkSav), lblPace,
                    Row(cmdClearBlk, Stretch(), cmdStop, cmdOK, cmdCancel), StatusBar1));
   Recommend(cmdOK);
 }
@@ -142,14 +142,16 @@ void frm_ToMux::Recommend(Button& button) { SetKeyButtons(&button, &cmdCancel); 
 
 void frm_ToMux::ShowSending() {
   sending_ = true;
+  words_.Begin();
   Recommend(cmdOK);
   cmdStop.SetVisible(true);
 }
 
-void frm_ToMux::ShowBlock(int number, bool last) {
+void frm_ToMux::ShowBlock(int number, int done, int total) {
+  lblPace.SetCaption(words_.Of(done, total));
   StatusBar1.SetPanel(kBlock, std::to_string(number));
   if (!AllBlocks()) lstBlkSav.Select(lstBlkSav.IndexOf(ThreeDigits(number)));
-  if (last) {
+  if (done == total) {
     ShowFinished();
   } else {
     StatusBar1.SetPanel(kResult, {});
@@ -164,6 +166,7 @@ void frm_ToMux::ShowFinished() {
 
 void frm_ToMux::ShowEnded() {
   sending_ = false;
+  lblPace.SetCaption({});
   cmdClearBlk.SetVisible(true);
   cmdStop.SetVisible(false);
   Recommend(cmdCancel);

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "host/progress_words.h"
 #include "quorvel/transfer.h"
 #include "quorvel/widgets.h"
 
@@ -25,8 +26,8 @@ class frm_ToMux : public Dialog {
 
   /// A block-by-block send has begun.
   void ShowSending();
-  /// Block `number` is on its way; `last` when nothing follows it.
-  void ShowBlock(int number, bool last);
+  /// Block `number` is on its way, the `done`th of `total`.
+  void ShowBlock(int number, int done, int total);
   /// Everything has been sent.
   void ShowFinished();
   /// The end packet has been sent.
@@ -68,7 +69,9 @@ class frm_ToMux : public Dialog {
   Button cmdStop{*this, "cmdStop"};
   Button cmdClearBlk{*this, "cmdClearBlk"};
   Button cmdCancel{*this, "cmdCancel"};
+  Label lblPace{*this, "lblPace"};
   StatusBar StatusBar1{*this, "StatusBar1", 3};
+  ProgressWords words_{context_};
 };
 
 }  // namespace quorvel

@@ -19,11 +19,12 @@ frm_ULFrMux::frm_ULFrMux(Context& context)
   Label2.SetCaption(context.GetText(txt::kStatus) + ":");
   lblSilent.SetCaption(context.GetText(kTextDeviceSilent));
   lblSilent.SetVisible(false);
+  lblPace.SetKeepsPlace(true);
   lblSilent.SetKeepsPlace(true);
   cmdOK.SetCaption(context.texts.Constants().cnstrOK);
   cmdCancel.SetCaption(context.texts.Constants().cnstrCancel);
   cmdSaveFile.SetCaption(context.GetText(txt::kSaveFile));
-  SetLayout(Column(Row(Label1, Label3, Stretch()), Row(Label2, Label4, Stretch()), prgBar1,
+  SetLayout(Column(Row(Label1, Label3, Stretch()), Row(Label2, Label4, Stretch()), prgBar1, lblPace,
                    lblSilent, Row(Stretch(), cmdSaveFile, cmdOK, cmdCancel)));
   SetKeyButtons(&cmdOK, nullptr);
   tmSilence = context.platform.NewTimer([this] {
@@ -48,6 +49,7 @@ frm_ULFrMux::frm_ULFrMux(Context& context)
 void frm_ULFrMux::ShowProgress(const ReceiveProgress& progress) {
   prgBar1.SetMaximum(progress.maximum);
   prgBar1.SetValue(progress.value);
+  lblPace.SetCaption(progress.finished ? "" : words_.Of(progress.value, progress.maximum));
   Label3.SetCaption(std::to_string(progress.bytes));
   Label4.SetCaption(progress.status);
   cmdOK.SetEnabled(progress.finished);

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "host/progress_words.h"
 #include "quorvel/platform.h"
 #include "quorvel/widgets.h"
 
@@ -44,6 +45,8 @@ class frm_ULFrMux : public Dialog {
   Label Label2{*this, "Label2"};
   Label Label4{*this, "Label4"};
   ProgressBar prgBar1{*this, "prgBar1"};
+  Label lblPace{*this, "lblPace"};
+  ProgressWords words_{context_};
   Label lblSilent{*this, "lblSilent"};
   Button cmdSaveFile{*this, "cmdSaveFile"};
   Button cmdOK{*this, "cmdOK"};

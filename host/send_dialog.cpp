@@ -69,8 +69,8 @@ void SendDialog::ListedBlocksGo() {
   if (frmDL != nullptr) frmDL->ShowClearBlocks();
 }
 
-void SendDialog::BlockGoes(int number, bool last) {
-  if (frmDL != nullptr) frmDL->ShowBlock(number, last);
+void SendDialog::BlockGoes(int number, int done, int total) {
+  if (frmDL != nullptr) frmDL->ShowBlock(number, done, total);
 }
 
 void SendDialog::EndPacketGoes() {

@@ -24,7 +24,7 @@ class SendDialog final : public UploadListener {
   void Over() override;
   void BlocksGo() override;
   void ListedBlocksGo() override;
-  void BlockGoes(int number, bool last) override;
+  void BlockGoes(int number, int done, int total) override;
   void EndPacketGoes() override;
   void AllIsSent() override;
   void DoesNotMatch() override;

@@ -270,7 +270,9 @@ void Upload::SendNextBlock() {
   const HandedOver block = HandOver(number);
   std::array<Byte, kPacketSize> packet{number};
   std::ranges::copy(block.bytes, packet.begin() + 1);
-  if (!quiet_) dialog_.BlockGoes(number, next_ == plan_.size());
+  if (!quiet_) {
+    dialog_.BlockGoes(number, static_cast<int>(next_), static_cast<int>(plan_.size()));
+  }
   unacknowledged_ = block;
   SendPacket(packet);
 }

@@ -25,8 +25,8 @@ class UploadListener {
   virtual void BlocksGo() = 0;
   /// The blocks that go are the listed ones: the list can be emptied.
   virtual void ListedBlocksGo() = 0;
-  /// Block `number` is on its way; `last` when nothing follows it.
-  virtual void BlockGoes(int number, bool last) = 0;
+  /// Block `number` is on its way, the `done`th of `total`.
+  virtual void BlockGoes(int number, int done, int total) = 0;
   virtual void EndPacketGoes() = 0;
   /// Everything has been sent.
   virtual void AllIsSent() = 0;

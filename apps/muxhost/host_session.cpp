@@ -53,8 +53,17 @@ void HostSession::PlaceControl(std::unique_ptr<MainMenuCtrl> control) {
   exchange_ = std::make_shared<Exchange>();
   if (on_control_leaves) on_control_leaves();
   control_ = std::move(control);
+  control_->Observe(this);
   StateSettings();
   StateIdentity();
+}
+
+void HostSession::Progress(TransferKind /*which*/, int done, int total) {
+  if (on_progress) on_progress(done, total);
+}
+
+void HostSession::Ended(TransferKind /*which*/, TransferEnd /*end*/, std::string_view /*cause*/) {
+  if (on_progress) on_progress(0, 0);
 }
 
 void HostSession::UseTexts(std::string class_id) {

@@ -32,7 +32,7 @@ struct HostSettings {
 /// logged and not acknowledged. Answers still under way when the device is replaced or another
 /// transfer begins are dropped. After an upload the session reads back what the control handed over
 /// and logs how the device holds it.
-class HostSession final : public MainMenuEvents {
+class HostSession final : public MainMenuEvents, private TransferObserver {
  public:
   using Scheduler = Link::Scheduler;
 
@@ -111,6 +111,8 @@ class HostSession final : public MainMenuEvents {
   std::function<void()> on_arrival;
   /// Called before the control is replaced: what shows its surface has to let go.
   std::function<void()> on_control_leaves;
+  /// A transfer has come so far; 0 of 0: none is under way any more.
+  std::function<void(int done, int total)> on_progress;
   /// The fault of the link has the user press a button of the transfer's dialog or close it: does
   /// that, by the dialog's user verbs. False when there is no such dialog or it refuses.
   std::function<bool(const Interruption&)> interrupt;
@@ -130,6 +132,8 @@ class HostSession final : public MainMenuEvents {
   void DblClick() override;
 
  private:
+  void Progress(TransferKind which, int done, int total) override;
+  void Ended(TransferKind which, TransferEnd end, std::string_view cause) override;
   [[nodiscard]] std::unique_ptr<MainMenuCtrl> NewControl();
   /// Goes on with a control that holds a configuration of no device.
   void GoOnWithout(std::unique_ptr<MainMenuCtrl> control, std::vector<Byte> sizes);

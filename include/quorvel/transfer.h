@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "quorvel/clock_time.h"
 #include "quorvel/export.h"
 
 namespace quorvel {
@@ -63,6 +65,19 @@ struct LoadAnswer {
   /// In words, UTF-8: why it was not loaded, or what is missing from what was; else empty.
   std::string cause;
   explicit operator bool() const { return loaded; }
+};
+
+/// How long a transfer will take, for those who show it. The link is taken to go on as fast as it
+/// has been.
+class QUORVEL_API TransferPace {
+ public:
+  /// A transfer begins.
+  void Begin(const LocalTime& now) { begun_ = now; }
+  /// Nothing in its first two seconds, before its first block, and when it is over.
+  [[nodiscard]] std::optional<int> SecondsLeft(const LocalTime& now, int done, int total) const;
+
+ private:
+  LocalTime begun_;
 };
 
 }  // namespace quorvel

@@ -45,9 +45,10 @@ class FileMenu : public QObject {
   /// Enables what can be done, and shows the file in the window's title. `why_not`, unless empty,
   /// is why nothing else can be opened now.
   void Show(const QString& why_not, bool loaded);
+  /// Shows the file in the window's title.
+  void ShowTitle();
 
  private:
-  void ShowTitle();
   void AddActions(QMenu& menu);
   void ListRecent();
   void New();

@@ -75,6 +75,7 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session, std::unique_p
 void MainWindow::AttachToSession() {
   session_.on_change = [this] { ShowLog(); };
   session_.on_control_leaves = [this] { LeaveControl(); };
+  session_.on_progress = [this](int done, int total) { ShowProgress(done, total); };
   session_.interrupt = &Interrupt;
   uploader_.run = [this] { Run(&HostSession::Upload); };
   uploader_.connect = [this] { return AskForDevice(); };
@@ -101,9 +102,24 @@ void MainWindow::AttachFiles() {
   session_.on_arrival = [this] { files_->Opened().Forget(); };
 }
 
+void MainWindow::ShowProgress(int done, int total) {
+  if (total <= 1) {
+    pace_.reset();
+    return files_->ShowTitle();
+  }
+  const LocalTime now = platform_.Now();
+  if (!pace_) pace_.emplace().Begin(now);
+  QString progress = QString("%1 of %2").arg(done).arg(total);
+  if (const auto left = pace_->SecondsLeft(now, done, total)) {
+    progress += QString(", %1 s left").arg(*left);
+  }
+  setWindowTitle(progress + " - muxhost");
+}
+
 MainWindow::~MainWindow() {
   session_.on_change = nullptr;
   session_.on_control_leaves = nullptr;
+  session_.on_progress = nullptr;
   session_.on_arrival = nullptr;
   session_.interrupt = nullptr;
   session_.on_zones_wanted = nullptr;

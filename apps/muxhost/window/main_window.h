@@ -50,6 +50,8 @@ class MainWindow : public QMainWindow {
  private:
   void AttachToSession();
   void AttachFiles();
+  /// The window's title tells how far a transfer has come: the window may be small, or behind.
+  void ShowProgress(int done, int total);
   // What is kept between runs: the device chosen last, and where things are.
   void RememberDevice();
   void RememberPlaces();
@@ -115,6 +117,7 @@ class MainWindow : public QMainWindow {
   QSplitter* const below_;
   QTimer watch_;
   QTimer zones_request_;
+  std::optional<TransferPace> pace_;  ///< of the transfer that is under way
   SilenceWatch silence_;
   Uploader uploader_;
   int zones_wanted_ = 0;            ///< cameras
