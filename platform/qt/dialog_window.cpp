@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/looks.h"
+#include "platform/qt/page_help.h"
 #include "platform/qt/step_keys.h"
 #include "platform/qt/view_builder.h"
 
@@ -284,6 +285,9 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
     } else {
       reject();
     }
+  } else if (event->key() == Qt::Key_F1) {
+    const std::string help = dialog_->PageHelp();
+    if (!help.empty()) ShowPageHelp(*this, windowTitle(), Shown(help));
   } else if (IsStepKey(*event)) {
     TakeStepKey(*event);
   } else if (enter && (event->modifiers() & Qt::ControlModifier) != 0) {

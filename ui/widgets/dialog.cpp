@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "quorvel/platform.h"
+#include "quorvel/widgets/grid.h"
 #include "ui/widgets/failure.h"
 #include "ui/widgets/gestures.h"
 
@@ -119,6 +120,23 @@ void Dialog::RunHandler(const std::string& place, const Handler& handler) {
   } catch (...) {
     ReportFailure(platform_, name_, place);
   }
+}
+
+std::string Dialog::PageHelp() const {
+  std::string page;
+  for (const Widget* const control : widgets_) {
+    if (!control->Showing()) continue;
+    const auto* const grid = dynamic_cast<const Grid*>(control);
+    std::string help =
+        grid == nullptr ? HelpOf(*control) : HelpOf(*control, grid->Row(), grid->Column());
+    if (help.empty()) continue;
+    for (auto end = help.find('\n'); end != std::string::npos; end = help.find('\n', end)) {
+      help.replace(end, 1, "; ");
+    }
+    const std::string& name = control->SpokenName();
+    page += name.substr(0, name.find_last_not_of(" :") + 1) + ": " + help + "\n";
+  }
+  return page;
 }
 
 std::string Dialog::HelpOf(const Widget& control, int /*row*/, int /*column*/) const {

@@ -62,7 +62,7 @@ constexpr Command kCommands[] = {
     {"show [WINDOW|WINDOW.CONTROL]", 0, 1, commands::Show},
     {"pages [WINDOW [PAGE...]]", 0, kAny, commands::Pages},
     {"report FILE", 1, 1, commands::Report},
-    {"help CONTROL [ROW COLUMN]", 1, 3, commands::Help},
+    {"help [CONTROL [ROW COLUMN]]", 0, 3, commands::Help},
     {"menu-items", 0, 0, commands::MenuItems},
     {"modified", 0, 0, commands::Modified},
     {"settings [PATTERN]", 0, 1, commands::Settings},

@@ -47,6 +47,12 @@ void Pages(Desk& desk, Words words) {
 }
 
 void Help(Desk& desk, Words words) {
+  if (words.size() == 1) {
+    const Dialog* const window = desk.platform.User().FindWindow({});
+    if (window == nullptr) throw ScriptError(NamedUser::NoWindow({}));
+    desk.out << window->PageHelp();
+    return;
+  }
   const Widget* const control = desk.platform.User().FindControl(words[1]);
   if (control == nullptr) throw ScriptError(desk.platform.User().NotFound(words[1]));
   std::string help;

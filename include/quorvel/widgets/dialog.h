@@ -80,6 +80,9 @@ class QUORVEL_API Dialog : public std::enable_shared_from_this<Dialog> {
   /// what it sets, what is stored and where. Lines of text, empty for nothing.
   [[nodiscard]] virtual std::string HelpOf(const Widget& control, int row = -1,
                                            int column = -1) const;
+  /// The same of all controls of the page in front, a line each: "Gain: Range: 50 - 150; ...". Of a
+  /// grid, its current cell.
+  [[nodiscard]] std::string PageHelp() const;
 
   void SetDisabledWords(std::string words) { disabled_words_ = std::move(words); }
   /// What the lines of a control's menu are called.
