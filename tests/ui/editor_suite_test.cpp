@@ -535,11 +535,23 @@ TEST(EditorSuite, WhatIsReviewedIsTakenBackLineByLine) {
                   [](const auto& it) { return it.control->Kind() == WidgetKind::kCheckBox; });
     bench.Accept();
     ExpectReviewed(bench, shown);
+    const auto accepted = DifferingNames(bench);
+    const auto listed = bench.Host().Modified();
+    const auto expect_nothing = [&] {
+      EXPECT_EQ(DifferingNames(bench), std::set<std::string>{});
+      EXPECT_EQ(bench.Host().Modified(), std::vector<int>{});
+    };
+    while (control.Undo()) {
+    }
+    expect_nothing();
+    while (control.Redo()) {
+    }
+    EXPECT_EQ(DifferingNames(bench), accepted);
+    EXPECT_EQ(bench.Host().Modified(), listed);
     for (const ReviewLine& line : control.Review()) {
       EXPECT_TRUE(control.TakeBack(line)) << line.settings.front();
     }
-    EXPECT_EQ(DifferingNames(bench), std::set<std::string>{});
-    EXPECT_EQ(bench.Host().Modified(), std::vector<int>{});
+    expect_nothing();
     for (const SettingRow& row : control.AllSettings()) {
       if (row.at.item != item || testing::Test::HasFailure()) continue;
       EXPECT_TRUE(control.OpenAt(row.at) || !row.at.control.empty()) << row.at.control;
