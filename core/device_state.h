@@ -126,6 +126,7 @@ class DeviceState {
   /// Puts the blocks that the device has taken into an image.
   void PutTaken(BlockImage& image) const;
   /// Takes those of `blocks` off the list that the device has as they are.
+  [[nodiscard]] bool CanHold(std::span<const std::string> settings);
   void UnlistWhatDeviceHas(const std::set<Byte>& blocks);
 
   struct Flags {

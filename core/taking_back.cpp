@@ -60,6 +60,7 @@ bool DeviceState::TakeBack(StepName name, std::span<const std::string> settings,
       for (std::size_t i = 0; i < settings.size(); ++i) {
         if (!SetStored(present, env, settings[i], stored[i], blocks)) throw CannotBeSet();
       }
+      if (!CanHold(settings)) throw CannotBeSet();
       const auto is_of_clock = [](const std::string& it) {
         return it.starts_with("TDInfo.Current");
       };
@@ -72,11 +73,30 @@ bool DeviceState::TakeBack(StepName name, std::span<const std::string> settings,
   return true;
 }
 
+/// What a setting cannot have is taken only where the device holds just that.
+bool DeviceState::CanHold(std::span<const std::string> settings) {
+  const Configuration present{Record(), env.identity, BlkImage.BlkCount()};
+  const auto findings = FindUnallowed(present);
+  if (findings.empty()) return true;
+  const auto device = OfDevice();
+  const Configuration of_device{device->record, device->env.identity, device->image.BlkCount()};
+  return std::ranges::all_of(findings, [&](const SettingFinding& it) {
+    return std::ranges::find(settings, it.name) == settings.end() ||
+           GetSetting(of_device, it.name) == it.value;
+  });
+}
+
 void DeviceState::UnlistWhatDeviceHas(const std::set<Byte>& blocks) {
   const auto device = OfDevice();
   auto& macros = Record().AllSubMacros();
   for (std::size_t i = 0; i < macros.size(); ++i) {
-    macros.at(i).SettleLike(device->record.AllSubMacros().at(i));
+    constexpr int kFirstMacroBlock = 69;
+    constexpr std::size_t kScript = 1 + clsSubMacro::kLongest;
+    const int number = kFirstMacroBlock + static_cast<int>(i);
+    if (!macros.at(i).SettleLike(device->record.AllSubMacros().at(i))) continue;
+    if (!BlkImage.Counts(number)) continue;
+    // Bytes behind its end are the device's again, too.
+    std::ranges::copy(device->image.Block(number).first<kScript>(), BlkImage.Block(number).begin());
   }
   const BlockImage now = EncodedImage();
   const auto stays = [&](int number) {

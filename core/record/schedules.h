@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <utility>
+
 #include "core/record/meanings/recording.h"
 #include "core/setting.h"
 
@@ -60,10 +63,10 @@ class clsSubMacro : public SettingOwner {
   /// Whether byte k was set since the record was decoded, be it back to what it was.
   [[nodiscard]] bool WasSet(int k) const { return (set_bytes_ >> k & 1U) != 0; }
   /// Where it holds what another does, no byte of it counts as set that is not set in the other.
-  void SettleLike(const clsSubMacro& other) {
-    if (SMacroByte == other.SMacroByte && SMacroLen == other.SMacroLen) {
-      set_bytes_ = other.set_bytes_;
-    }
+  /// True where one did.
+  bool SettleLike(const clsSubMacro& other) {
+    if (!(SMacroByte == other.SMacroByte) || !(SMacroLen == other.SMacroLen)) return false;
+    return std::exchange(set_bytes_, other.set_bytes_) != other.set_bytes_;
   }
 
   SettingArray<"SMacroByte", Byte, kLongest, ScriptByte> SMacroByte{*this};

@@ -26,6 +26,9 @@ class ColumnField : public ValueField {
     return editing_.ValueAt(RowOf(line), column_);
   }
   [[nodiscard]] bool Offers(int value) const override { return editing_.Offers(column_, value); }
+  [[nodiscard]] bool MeansEmpty(int value) const override {
+    return editing_.MeansEmpty(column_, value);
+  }
   [[nodiscard]] std::string TextOf(int value) const override {
     return editing_.TextOf(column_, value);
   }

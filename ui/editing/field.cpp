@@ -111,7 +111,7 @@ void ValueField::Tell(MuxData& record, int line, ShownSetting& shown) const {
 std::optional<std::string> ValueField::OpenedText(int line) const {
   const int opened = Opened(line);
   std::string text = TextOf(opened);
-  if (text.empty() && HasLine(line) && !Offers(opened)) return std::nullopt;
+  if (text.empty() && HasLine(line) && !Offers(opened) && !MeansEmpty(opened)) return std::nullopt;
   return text;
 }
 

@@ -138,6 +138,8 @@ class ValueField : public Field {
   [[nodiscard]] virtual const Widget& ControlOf(int line) const = 0;
   /// False while the line has no such setting: it shows nothing and is not written.
   [[nodiscard]] virtual bool HasLine(int /*line*/) const { return true; }
+  /// True for a value that an emptied cell stands for.
+  [[nodiscard]] virtual bool MeansEmpty(int /*value*/) const { return false; }
   /// True while the user must choose before it can be written.
   [[nodiscard]] virtual bool Waits(int /*line*/) const { return false; }
   /// Adds what a cell tells of its place.

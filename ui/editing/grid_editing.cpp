@@ -95,6 +95,11 @@ bool GridEditing::Offers(int column, int value) const {
   return binding != nullptr && binding->control->Offers(binding->PartOf(column), value);
 }
 
+bool GridEditing::MeansEmpty(int column, int value) const {
+  const Binding* const binding = BindingOf(column);
+  return binding != nullptr && binding->rules.empty == value;
+}
+
 bool GridEditing::Has(int row, int column) const {
   const Binding* const binding = BindingOf(column);
   return binding == nullptr || binding->Has(row);

@@ -101,6 +101,8 @@ class GridEditing {
   /// The value that a cell stands for, or Grid::kNone; and whether a column's control offers one.
   [[nodiscard]] int ValueAt(int row, int column) const { return grid_.Value(row, column); }
   [[nodiscard]] bool Offers(int column, int value) const;
+  /// True for the value of a cell of the column that was emptied.
+  [[nodiscard]] bool MeansEmpty(int column, int value) const;
   /// False where the row lacks the column.
   [[nodiscard]] bool Has(int row, int column) const;
   /// True where OK has to wait for a choice.

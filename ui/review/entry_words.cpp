@@ -1,7 +1,9 @@
 #include "ui/review/entry_words.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
+#include <cstdio>
 #include <optional>
 
 #include "ui/context.h"
@@ -14,6 +16,21 @@ bool IsBareNumber(std::string_view text) {
   return !text.empty() && std::ranges::all_of(text, [](char it) {
     return std::isdigit(static_cast<unsigned char>(it)) != 0;
   });
+}
+
+/// Control characters of a device's text as \xHH: a line stays one.
+std::string InOneLine(const std::string& text) {
+  std::string line;
+  for (const char character : text) {
+    if (static_cast<unsigned char>(character) >= ' ') {
+      line += character;
+      continue;
+    }
+    std::array<char, 8> code{};
+    std::snprintf(code.data(), code.size(), "\\x%02X", static_cast<unsigned>(character));
+    line += code.data();
+  }
+  return line;
 }
 
 int BitOf(const layout::SettingValue& value, int bit) { return value.number >> bit & 1; }
@@ -96,7 +113,7 @@ std::string EntryWords::Of(const MapEntry& entry, const Side& side) const {
     return ticked == 0 ? no_ : *shown == "x" ? yes_ : Listed(entry, side);
   }
   const bool alone = entry.parts.size() == 1;
-  if (!alone || !IsBareNumber(*shown)) return *shown;
+  if (!alone || !IsBareNumber(*shown)) return InOneLine(*shown);
   return *shown + std::string(settings_.At(entry.parts.front().setting).unit);
 }
 
@@ -107,6 +124,11 @@ std::pair<std::string, std::string> EntryWords::Of(const MapEntry& entry, const 
   return words;
 }
 
+bool EntryWords::ReadAlike(const MapEntry& entry, const Side& one, const Side& other) {
+  const auto shown = ShownOn(one, entry);
+  return shown && shown == ShownOn(other, entry);
+}
+
 SettingPosition EntryWords::Place(const MapEntry& entry, const Side& side) const {
   SettingPosition at = entry.at;
   const Cameras* const camera =
@@ -115,7 +137,7 @@ SettingPosition EntryWords::Place(const MapEntry& entry, const Side& side) const
   std::string_view title = camera->title();
   title = title.substr(0, title.find('\0'));
   title = title.substr(0, title.find_last_not_of(' ') + 1);
-  if (!title.empty()) at.line += " \"" + platform_.ToUtf8(title) + '"';
+  if (!title.empty()) at.line += " \"" + InOneLine(platform_.ToUtf8(title)) + '"';
   return at;
 }
 

@@ -37,6 +37,8 @@ class EntryWords {
 
   /// How an entry reads. What its control has no words for reads as settings are listed.
   [[nodiscard]] std::string Of(const MapEntry& entry, const Side& side) const;
+  /// Whether its control shows the same on both sides.
+  [[nodiscard]] static bool ReadAlike(const MapEntry& entry, const Side& one, const Side& other);
   /// How it reads on two sides that differ: told apart also where the control does not.
   [[nodiscard]] std::pair<std::string, std::string> Of(const MapEntry& entry, const Side& one,
                                                        const Side& other) const;

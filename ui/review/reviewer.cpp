@@ -64,6 +64,18 @@ bool Join(ReviewLine& line, const ReviewLine& next, const std::string& camera) {
   return true;
 }
 
+/// While it lives, a text source that is asked for a text gets no review: what is known stays.
+class Asking {
+ public:
+  explicit Asking(bool& asking) : asking_(asking) { asking_ = true; }
+  ~Asking() { asking_ = false; }
+  Asking(const Asking&) = delete;
+  Asking& operator=(const Asking&) = delete;
+
+ private:
+  bool& asking_;
+};
+
 }  // namespace
 
 /// What is known for the present image and its texts.
@@ -88,11 +100,7 @@ bool Reviewer::IsUpToDate() const {
 
 bool Reviewer::Prepare() {
   if (asking_ || !context_.device.HasImage()) return false;
-  asking_ = true;
-  const struct Over {
-    bool& asking;
-    ~Over() { asking = false; }
-  } over{asking_};
+  const Asking asks(asking_);
   // What was being made while another image came is that of none.
   constexpr int kTries = 3;
   for (int tries = 0; tries < kTries && !(IsUpToDate() && known_->present != nullptr &&
@@ -137,7 +145,35 @@ Side Reviewer::Other(const Configuration& other) {
   return side;
 }
 
+/// A setting may stand behind several cells, as the end of a macro does behind all its steps: a
+/// cell that reads as it did is no line where others tell of all that differs behind it.
+void Reviewer::LeaveOutWhatReadsAlike(const EntryWords& words, const Side& was, const Side& is,
+                                      std::vector<bool>& meant) const {
+  const auto& entries = known_->map->Entries();
+  std::vector<std::size_t> alike;
+  std::set<std::pair<std::size_t, int>> told;
+  const auto tell = [&](const MapEntry& entry) {
+    for (const MapEntry::Part& part : entry.parts) told.insert({part.setting, part.bit});
+  };
+  for (std::size_t number = 0; number < meant.size(); ++number) {
+    if (!meant[number]) continue;
+    if (entries[number].parts.size() > 1 && words.ReadAlike(entries[number], was, is)) {
+      alike.push_back(number);
+    } else {
+      tell(entries[number]);
+    }
+  }
+  for (const std::size_t number : alike) {
+    const auto is_told = [&](const MapEntry::Part& part) {
+      return !Differ(was, is, part) || told.contains({part.setting, part.bit});
+    };
+    meant[number] = !std::ranges::all_of(entries[number].parts, is_told);
+    if (meant[number]) tell(entries[number]);
+  }
+}
+
 std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
+  const Asking asks(asking_);
   const SettingList& settings = *known_->settings;
   const SettingMap& map = *known_->map;
   const Side is = Present();
@@ -161,6 +197,7 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
   std::vector<ReviewLine> lines;
   lines.reserve(differing.size());
   const EntryWords words(settings, context_);
+  LeaveOutWhatReadsAlike(words, was, is, meant);
   const auto add = [&](const MapEntry& entry) {
     auto [old_value, new_value] = words.Of(entry, was, is);
     ReviewLine line{words.Place(entry, is), entry.names,
@@ -179,6 +216,7 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
 
 std::vector<SettingRow> Reviewer::AllSettings(const Configuration& device,
                                               const Configuration& factory) {
+  const Asking asks(asking_);
   const SettingList& settings = *known_->settings;
   const SettingMap& map = *known_->map;
   const Side is = Present();

@@ -9,6 +9,7 @@
 namespace quorvel {
 
 struct Context;
+class EntryWords;
 struct Side;
 
 /// Tells what of the present record differs from another, and where an installer finds each
@@ -37,6 +38,8 @@ class Reviewer {
   [[nodiscard]] bool IsUpToDate() const;
   [[nodiscard]] Side Present();
   [[nodiscard]] Side Other(const Configuration& other);
+  void LeaveOutWhatReadsAlike(const EntryWords& words, const Side& was, const Side& is,
+                              std::vector<bool>& meant) const;
 
   Context& context_;
   std::unique_ptr<Known> known_;

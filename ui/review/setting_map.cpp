@@ -106,7 +106,7 @@ class EditorReader {
   /// A box among others is called by what is around them, too.
   static void NameTick(const Widget& box, MapEntry& entry) {
     const std::string& around = box.SurroundingCaption();
-    if (around != box.Name() && around != entry.at.label) {
+    if (around != box.Name() && !entry.at.label.starts_with(around)) {
       entry.at.label = Tidy(around) + ", " + entry.at.label;
     }
   }
