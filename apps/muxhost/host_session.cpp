@@ -148,6 +148,7 @@ bool HostSession::LinkIsOff() {
 }
 
 void HostSession::StateSettings() {
+  ++generation_;
   const int usual = Device().ModelCode() < kFirstTriplexModel ? kDuplexFamily : kTriplexFamily;
   control_->HostCommId(static_cast<std::uint8_t>(settings_.comm_id));
   control_->Custom(kStateHost, settings_.family.value_or(usual), settings_.dvr ? 1 : 0);
@@ -246,6 +247,7 @@ void HostSession::WriteZones(int camera, std::span<const Byte> zones) {
 }
 
 void HostSession::Log(std::string entry) {
+  ++generation_;
   log_.push_back(std::move(entry));
   if (on_change) on_change();
 }

@@ -100,6 +100,9 @@ class HostSession final : public MainMenuEvents, private TransferObserver {
   [[nodiscard]] std::vector<Byte> LackingBlocks() const;
   [[nodiscard]] const HostSettings& Settings() const { return settings_; }
   [[nodiscard]] const Exchange& LastExchange() const { return *exchange_; }
+  /// Another number than before: something has crossed the link, or the device, its control or the
+  /// settings were replaced.
+  [[nodiscard]] int Generation() const { return generation_; }
   /// Events raised and what the host could not do, in plain words, oldest first; since last taken.
   [[nodiscard]] std::vector<std::string> TakeLog() { return std::exchange(log_, {}); }
 
@@ -156,6 +159,7 @@ class HostSession final : public MainMenuEvents, private TransferObserver {
   std::vector<Byte> open_sizes_;  ///< without a device: what the combined array that is open states
   HostSettings settings_;
   std::string text_class_;
+  int generation_ = 0;
   std::vector<std::string> log_;
   std::shared_ptr<Exchange> exchange_ = std::make_shared<Exchange>();
   std::vector<Byte> zones_;  ///< what ActGridData brought last

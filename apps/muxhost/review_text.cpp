@@ -2,11 +2,19 @@
 
 namespace quorvel::muxhost {
 
-std::string LabelText(const std::string& label) {
+namespace {
+
+std::string Shown(std::string_view value) {
+  return value.empty() ? std::string(R"("")") : std::string(value);
+}
+
+}  // namespace
+
+std::string LabelText(std::string_view label) {
   constexpr const char* kAround = " :";
   const auto first = label.find_first_not_of(kAround);
-  if (first == std::string::npos) return label;
-  return label.substr(first, label.find_last_not_of(kAround) - first + 1);
+  if (first == std::string_view::npos) return std::string(label);
+  return std::string(label.substr(first, label.find_last_not_of(kAround) - first + 1));
 }
 
 std::string Place(const SettingPosition& at, std::span<const std::string> settings) {
@@ -28,8 +36,7 @@ std::string Place(const SettingPosition& at, std::span<const std::string> settin
 }
 
 std::string Change(const ReviewLine& line) {
-  const auto value = [](const std::string& text) { return text.empty() ? "\"\"" : text; };
-  return value(line.old_value) + " -> " + value(line.new_value);
+  return Shown(line.old_value) + " -> " + Shown(line.new_value);
 }
 
 std::string BlocksInWords(std::span<const std::uint8_t> blocks) {
@@ -41,6 +48,17 @@ std::string BlocksInWords(std::span<const std::uint8_t> blocks) {
 std::string InWords(const ReviewLine& line) {
   return Place(line.at, line.settings) + ": " + Change(line) + " (" + BlocksInWords(line.blocks) +
          ")";
+}
+
+std::string InWords(const SettingRow& row, std::optional<std::string_view> in_file) {
+  return Place(row.at, row.settings) + ": " + (in_file ? Shown(*in_file) + " -> " : "") +
+         Shown(row.value) + " (" + BlocksInWords(row.blocks) +
+         (row.differs_from_device ? ", changed)" : ")");
+}
+
+std::string DiffersFrom(const SettingRow& row) {
+  if (!row.differs_from_device) return row.differs_from_factory ? "factory" : "";
+  return row.differs_from_factory ? "device, factory" : "device";
 }
 
 }  // namespace quorvel::muxhost

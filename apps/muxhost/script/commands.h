@@ -71,6 +71,9 @@ void DescribeThem(Desk& desk, Words words);
 void Check(Desk& desk, Words words);
 void Diff(Desk& desk, Words words);
 void Review(Desk& desk, Words words);
+void Find(Desk& desk, Words words);
+void List(Desk& desk, Words words);
+void Export(Desk& desk, Words words);
 void DeviceBlock(Desk& desk, Words words);
 void ImageBlock(Desk& desk, Words words);
 void Events(Desk& desk, Words words);
@@ -85,6 +88,8 @@ void RequireDevice(const Desk& desk);
 /// takes what a device is from the factory, and leaves the rest.
 [[nodiscard]] SimulatedDevice TakeDevice(Desk& desk, Words words);
 [[nodiscard]] DeviceSetup TakeSetup(const Desk& desk, Options& options);
+/// Opens the editor in which these settings stand, and prints where the focus is then.
+void OpenEditorAt(Desk& desk, const SettingPosition& at, std::span<const std::string> settings);
 
 }  // namespace commands
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "muxhost/find/setting_table.h"
 #include "muxhost/host_session.h"
 #include "quorvel/headless_platform.h"
 
@@ -55,6 +56,9 @@ struct Desk {
   std::function<std::vector<std::uint8_t>(const std::string& html)> make_pdf;
   /// What `review` has shown last.
   std::vector<ReviewLine> review;
+  SettingTable table{session};
+  /// What `find` or `list` has shown last.
+  std::vector<SettingRow> found;
   /// Works the modal dialog of the running command; without one, the script's next lines do.
   Attendant* attendant = nullptr;
   /// What the attendant failed at; it cannot be thrown through the control.

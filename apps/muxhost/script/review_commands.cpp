@@ -27,13 +27,15 @@ void TakeBack(Desk& desk, const ReviewLine& line) {
            << Place(line.at, line.settings) << '\n';
 }
 
-void Open(Desk& desk, const ReviewLine& line) {
+}  // namespace
+
+void OpenEditorAt(Desk& desk, const SettingPosition& at, std::span<const std::string> settings) {
   RequireUnlocked(desk);
-  if (!desk.session.Control().OpenAt(line.at)) {
-    desk.out << "not opened: " << Place(line.at, line.settings) << '\n';
+  if (!desk.session.Control().OpenAt(at)) {
+    desk.out << "not opened: " << Place(at, settings) << '\n';
     return;
   }
-  const Dialog& window = desk.platform.Window(line.at.window);
+  const Dialog& window = desk.platform.Window(at.window);
   const Widget* const control = window.FocusSentTo();
   desk.out << "opened " << window.Name();
   if (control != nullptr) desk.out << ", at " << control->Name();
@@ -42,8 +44,6 @@ void Open(Desk& desk, const ReviewLine& line) {
   }
   desk.out << '\n';
 }
-
-}  // namespace
 
 void Review(Desk& desk, Words words) {
   if (words.size() == 1) return ShowLines(desk, desk.session.Control().Review());
@@ -54,7 +54,8 @@ void Review(Desk& desk, Words words) {
   if (desk.review.empty()) throw ScriptError("the last review has no lines");
   const int number = ToNumber("line", words[2], 1, static_cast<int>(desk.review.size()));
   const ReviewLine& line = desk.review.at(static_cast<std::size_t>(number - 1));
-  return words[1] == "open" ? Open(desk, line) : TakeBack(desk, line);
+  if (words[1] == "take-back") return TakeBack(desk, line);
+  OpenEditorAt(desk, line.at, line.settings);
 }
 
 }  // namespace quorvel::muxhost::commands
