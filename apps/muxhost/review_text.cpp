@@ -24,10 +24,7 @@ std::string Place(const SettingPosition& at, std::span<const std::string> settin
     if (!place.empty()) place += separator;
     place += part;
   };
-  if (at.item.empty()) {
-    for (const std::string& name : settings) add(name, ", ");
-    return place;
-  }
+  if (at.item.empty()) return NamesIn(settings);
   add(at.editor, "");
   if (at.page != at.editor) add(LabelText(at.page), " > ");
   add(LabelText(at.label), " > ");
@@ -35,14 +32,24 @@ std::string Place(const SettingPosition& at, std::span<const std::string> settin
   return place;
 }
 
+std::string NamesIn(std::span<const std::string> settings) {
+  std::string names;
+  for (const std::string& name : settings) names += (names.empty() ? "" : ", ") + name;
+  return names;
+}
+
 std::string Change(const ReviewLine& line) {
   return Shown(line.old_value) + " -> " + Shown(line.new_value);
 }
 
+std::string Numbers(std::span<const std::uint8_t> blocks) {
+  std::string numbers;
+  for (const int block : blocks) numbers += (numbers.empty() ? "" : " ") + std::to_string(block);
+  return numbers;
+}
+
 std::string BlocksInWords(std::span<const std::uint8_t> blocks) {
-  std::string words = blocks.size() == 1 ? "block" : "blocks";
-  for (const int block : blocks) words += ' ' + std::to_string(block);
-  return words;
+  return (blocks.size() == 1 ? "block " : "blocks ") + Numbers(blocks);
 }
 
 std::string InWords(const ReviewLine& line) {

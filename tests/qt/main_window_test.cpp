@@ -50,7 +50,7 @@ TEST_F(MuxhostWindow, TakesBackWhatWasAccepted) {
     return text;
   };
   Download();
-  EXPECT_EQ(steps(), "&Undo (off); &Redo (off); Re&view changes...; ");
+  EXPECT_EQ(steps(), "&Undo (off); &Redo (off); Re&view changes...; &Find...; ");
   Choose("mnu_CSetup");
   QWidget& editor = *OnScreen("frm_CameraSetup");
   QTest::keyClicks(Find<QLineEdit>(&editor, "m_CameraTitle(2)"), "x");
@@ -58,10 +58,10 @@ TEST_F(MuxhostWindow, TakesBackWhatWasAccepted) {
   EXPECT_TRUE(QTest::qWaitFor([&] {
     // The menu pops up again.
     if (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
-    return steps() == "&Undo \"Camera Setup\"; &Redo (off); Re&view changes...; ";
+    return steps() == "&Undo \"Camera Setup\"; &Redo (off); Re&view changes...; &Find...; ";
   }));
   window_.menuBar()->actions().at(1)->menu()->actions().front()->trigger();
-  EXPECT_EQ(steps(), "&Undo (off); &Redo \"Camera Setup\"; Re&view changes...; ");
+  EXPECT_EQ(steps(), "&Undo (off); &Redo \"Camera Setup\"; Re&view changes...; &Find...; ");
   EXPECT_TRUE(DeviceIsAsEdited());
   EXPECT_TRUE(session_.Control().ModifiedBlocks().empty());
 }

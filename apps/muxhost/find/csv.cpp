@@ -31,13 +31,6 @@ std::string Quoted(std::string_view text) {
   return '"' + cell + '"';
 }
 
-template <class Parts, class Text>
-std::string Joined(const Parts& parts, const char* between, Text text) {
-  std::string all;
-  for (const auto& part : parts) all += (all.empty() ? "" : between) + text(part);
-  return all;
-}
-
 void AddLine(std::string& csv, std::span<const std::string> cells) {
   const char* separator = "";
   for (const std::string& cell : cells) {
@@ -69,10 +62,8 @@ std::string CsvOf(const SettingTable& table, std::span<const std::size_t> rows) 
     const SettingRow& row = table.Rows().at(number);
     cells = {row.at.editor, row.at.page, LabelText(row.at.label), row.at.line, row.value};
     if (table.HasFile()) cells.emplace_back(table.InFile(row).value_or(row.value));
-    cells.insert(cells.end(),
-                 {Joined(row.blocks, " ", [](Byte block) { return std::to_string(block); }),
-                  yes(row.differs_from_device), yes(row.differs_from_factory),
-                  Joined(row.settings, ", ", [](const std::string& name) { return name; })});
+    cells.insert(cells.end(), {Numbers(row.blocks), yes(row.differs_from_device),
+                               yes(row.differs_from_factory), NamesIn(row.settings)});
     AddLine(csv, cells);
   }
   return csv;

@@ -32,6 +32,7 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session, std::unique_p
       hint_(new QLabel),
       blocks_(new BlockMapBox(session)),
       log_(new EventLog),
+      find_(new FindBox(platform, session, this)),
       identity_(new QLabel),
       memory_(std::move(kept)),
       files_(new FileMenu({platform, session, *this, memory_, *log_})),
@@ -137,6 +138,7 @@ void MainWindow::AddEditMenu() {
   });
   review_ = menu->addAction("Re&view changes...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
                             this, [this] { ReviewChanges(); });
+  AddFinding(*menu);
 }
 
 void MainWindow::ReviewChanges() {
@@ -149,6 +151,17 @@ void MainWindow::ReviewChanges() {
 void MainWindow::OpenAt(const SettingPosition& at) {
   if (!session_.Control().OpenAt(at)) log_->Add("the control is not to be seen: " + at.control);
   ShowState();
+}
+
+void MainWindow::AddFinding(QMenu& edit) {
+  edit.addAction("&Find...", QKeySequence::Find, find_, [this] { find_->Begin(); });
+  addDockWidget(Qt::BottomDockWidgetArea, find_);
+  find_->hide();
+  // What is waited for replaces the settings.
+  find_->on_open = [this](const SettingPosition& at) {
+    return !awaits_answer_ && session_.Control().OpenAt(at);
+  };
+  find_->on_close = [this] { commands_->FocusDefault(); };
 }
 
 /// An editor that is open shows what it has read: nothing is taken back behind it.
@@ -365,6 +378,7 @@ void MainWindow::ShowState() {
                      Describe(session_.Device(), platform_));
   files_->Show(busy, situation.commands.loaded);
   ShowSteps();
+  if (!transfer_runs_) find_->Update();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

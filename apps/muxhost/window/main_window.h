@@ -13,6 +13,7 @@
 #include "muxhost/window/device_picker.h"
 #include "muxhost/window/event_log.h"
 #include "muxhost/window/file_menu.h"
+#include "muxhost/window/find_box.h"
 #include "muxhost/window/host_options.h"
 #include "muxhost/window/link_box.h"
 #include "muxhost/window/memory.h"
@@ -93,6 +94,7 @@ class MainWindow : public QMainWindow {
   void AddEditMenu();
   void ReviewChanges();
   void OpenAt(const SettingPosition& at);
+  void AddFinding(QMenu& edit);
   void ShowSteps();
 
   QtPlatform& platform_;
@@ -106,6 +108,7 @@ class MainWindow : public QMainWindow {
   QLabel* const hint_;
   BlockMapBox* const blocks_;
   EventLog* const log_;
+  FindBox* const find_;
   QLabel* const identity_;
   Memory memory_;
   FileMenu* const files_;
