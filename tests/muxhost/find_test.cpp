@@ -29,6 +29,29 @@ TEST(Find, KnowsHowNearAWordIs) {
   for (const auto& it : cases) EXPECT_EQ(FoldedText(it.text).Distance(it.word), it.distance);
 }
 
+TEST(Find, ListsTheNearestFirst) {
+  std::vector<SettingRow> rows(4);
+  const std::pair<const char*, const char*> places[] = {{"Event 3", "Camera 1"},
+                                                        {"Regain", "Camera 13"},
+                                                        {"Old gain", "Camera 3"},
+                                                        {"Gain", "Camera 30"}};
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    rows[i].at.label = places[i].first;
+    rows[i].at.line = places[i].second;
+  }
+  rows[3].blocks = {47, 48};
+  rows[1].value = "47";
+  const SettingSearch search(rows);
+  using Numbers = std::vector<std::size_t>;
+  EXPECT_EQ(search.Find("GAIN"), (Numbers{3, 2, 1}));
+  EXPECT_EQ(search.Find("camera 3"), (Numbers{2, 3, 0}));
+  EXPECT_EQ(search.Find("3 camera"), (Numbers{0, 2, 3}));
+  EXPECT_EQ(search.Find("47"), (Numbers{1, 3}));
+  EXPECT_EQ(search.Find("gain Blocks 47"), (Numbers{3}));
+  EXPECT_EQ(search.Find("Gain > Camera 3"), (Numbers{3, 2}));
+  EXPECT_EQ(search.Find(" "), (Numbers{0, 1, 2, 3}));
+}
+
 TEST(Find, ExportsWhatSpreadsheetsReadAsItIs) {
   const std::pair<const char*, const char*> cells[] = {
       {"-3", "-3"},    {"0.5", "0.5"},    {"+4", "+4"},  {"-09:00", "'-09:00"},

@@ -22,6 +22,9 @@ constexpr int kWeights = 7;
 /// A block fits as a whole word that is not the first of its text.
 constexpr int kBlockDistance = 2;
 
+/// Rows that have the words one behind the other come before all others.
+constexpr int kApart = 1'000'000;
+
 std::optional<int> BlockIn(std::string_view word) {
   int number = 0;
   const char* const end = word.data() + word.size();
@@ -81,8 +84,18 @@ std::optional<int> SettingSearch::Distance(const Row& row, const Word& word) {
   return nearest;
 }
 
+bool SettingSearch::HasPhrase(const Row& row, const std::string& phrase) {
+  return std::ranges::any_of(row.texts, [&](const Text& text) {
+    return !phrase.empty() && text.text.Distance(phrase).has_value();
+  });
+}
+
 std::vector<std::size_t> SettingSearch::Find(std::string_view words) const {
   const auto wanted = Split(words);
+  std::string phrase;
+  for (const Word& word : wanted) {
+    if (!word.only_block) phrase += (phrase.empty() ? "" : " ") + word.text;
+  }
   std::vector<std::pair<int, std::size_t>> found;
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     int distance = 0;
@@ -91,7 +104,9 @@ std::vector<std::size_t> SettingSearch::Find(std::string_view words) const {
       distance += it.value_or(0);
       return it.has_value();
     });
-    if (fits) found.emplace_back(distance, i);
+    if (!fits) continue;
+    if (wanted.size() > 1 && !HasPhrase(rows_[i], phrase)) distance += kApart;
+    found.emplace_back(distance, i);
   }
   std::ranges::sort(found);
   std::vector<std::size_t> numbers;

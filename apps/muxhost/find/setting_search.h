@@ -18,9 +18,9 @@ class SettingSearch {
   explicit SettingSearch(std::span<const SettingRow> rows);
 
   /// The rows, by number, that have each of the words somewhere, in any order; case and accents
-  /// aside. Rows that are called by the words come first, those that have them in the middle of
-  /// some word last; among equals, and without words, they stay in their order. "47" is block 47,
-  /// too, and "block 47" nothing else.
+  /// aside. Rows that have them one behind the other come first, then those that are called by them
+  /// before those that have them in the middle of some word; among equals, and without words, they
+  /// stay in their order. "47" is block 47, too, and "block 47" nothing else.
   [[nodiscard]] std::vector<std::size_t> Find(std::string_view words) const;
 
  private:
@@ -40,6 +40,7 @@ class SettingSearch {
 
   [[nodiscard]] static std::vector<Word> Split(std::string_view words);
   [[nodiscard]] static std::optional<int> Distance(const Row& row, const Word& word);
+  [[nodiscard]] static bool HasPhrase(const Row& row, const std::string& phrase);
 
   std::vector<Row> rows_;
 };

@@ -48,7 +48,7 @@ QWidget* FindBox::MakeContents() {
   words_->setClearButtonEnabled(true);
   words_->installEventFilter(this);
   filter_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  filter_->setMinimumContentsLength(24);
+  filter_->setMinimumContentsLength(16);
   auto* const find = new QLabel("&Find:");
   find->setBuddy(words_);
   words_->setAccessibleName("Find");
@@ -69,10 +69,9 @@ QWidget* FindBox::MakeContents() {
   grid->addWidget(filter_, 1, 1);
   grid->addWidget(export_, 1, 2);
   grid->addWidget(list_, 2, 0, 1, 3);
-  grid->addWidget(nothing_, 3, 0, 1, 3);
+  grid->addWidget(nothing_, 2, 0, 1, 3);  // one of the two is to be seen
   grid->setColumnStretch(1, 1);
   grid->setRowStretch(2, 1);
-  grid->setRowStretch(3, 1);
   return contents;
 }
 
@@ -82,6 +81,7 @@ void FindBox::SetUpList() {
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
+  list_->setTextElideMode(Qt::ElideMiddle);  // a place ends with its camera
   list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   list_->setTabKeyNavigation(false);
   list_->installEventFilter(this);
@@ -92,9 +92,9 @@ void FindBox::SetUpList() {
 }
 
 void FindBox::Measure() {
-  constexpr int kLines = 4;
+  constexpr int kLines = 3;
   // In letters; the last column takes the rest.
-  constexpr int kWidths[] = {46, 16, 16, 8, 14};
+  constexpr int kWidths[] = {70, 16, 16, 8, 19};
   const int letter = list_->fontMetrics().averageCharWidth();
   for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column) {
     list_->setColumnWidth(column, kWidths[column] * letter);
