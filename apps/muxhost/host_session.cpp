@@ -234,6 +234,18 @@ std::optional<std::vector<Byte>> HostSession::ReadZones(int camera) {
   return zones_;
 }
 
+std::string HostSession::TitleOf(int camera) const {
+  constexpr std::size_t kTitleLength = 13;
+  const auto image = control_->EditedImage();
+  const std::size_t at = static_cast<std::size_t>(camera) * kBlockSize;
+  if (at + kTitleLength > image.size()) return {};
+  std::string title(image.begin() + static_cast<std::ptrdiff_t>(at),
+                    image.begin() + static_cast<std::ptrdiff_t>(at + kTitleLength));
+  title.resize(std::min(title.find('\0'), title.size()));
+  title.erase(title.find_last_not_of(' ') + 1);
+  return platform_.ToUtf8(title);
+}
+
 bool HostSession::DetectsMotion(int camera) const {
   const auto lines = control_->Settings("ActivityEnable(" + std::to_string(camera) + ")");
   return lines.empty() || lines.front().value != "0";

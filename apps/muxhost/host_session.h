@@ -86,6 +86,8 @@ class HostSession final : public MainMenuEvents, private TransferObserver {
   [[nodiscard]] std::optional<std::vector<Byte>> ReadZones(int camera);
   /// Whether a camera detects motion, as the control holds it: otherwise its zones mean nothing. Of
   /// a camera that there is not, it does.
+  /// What the device calls a camera, from 0; UTF-8.
+  [[nodiscard]] std::string TitleOf(int camera) const;
   [[nodiscard]] bool DetectsMotion(int camera) const;
   /// Hands an edited grid of 32 bytes to the control, which lists the blocks that change.
   void WriteZones(int camera, std::span<const Byte> zones);

@@ -65,7 +65,7 @@ TEST_F(MuxhostZones, CellsThatAreClickedReachTheBlocksOfTheirCamera) {
   EXPECT_EQ(Bytes(), "0=80 1=01 17=40");
   cameras_->setCurrentRow(3);
   Click(15, 15);
-  EXPECT_EQ(cameras_->item(2)->text(), "Camera 3, changed");
+  EXPECT_EQ(cameras_->item(2)->text(), "Camera 3  Camera 03, changed");
   cameras_->setCurrentRow(2);
   EXPECT_EQ(Bytes(), "0=80 1=01 17=40");
   EXPECT_TRUE(session_.Control().ModifiedBlocks().empty());
@@ -105,7 +105,7 @@ TEST_F(MuxhostZones, DragPaintsWithTheStateOfItsFirstCell) {
   EXPECT_EQ(Bytes(), "4=1f 5=c0 8=08 10=08 12=08");
   while (Find(editor_.data(), "Undo")->isEnabled()) Press("Undo");
   EXPECT_EQ(Bytes(), "");
-  EXPECT_EQ(cameras_->item(2)->text(), "Camera 3");
+  EXPECT_EQ(cameras_->item(2)->text(), "Camera 3  Camera 03");
   Press("OK");
   EXPECT_TRUE(session_.Control().ModifiedBlocks().empty());
 }
@@ -185,16 +185,16 @@ TEST_F(MuxhostZones, CamerasWithoutMotionDetectionAreMarkedAndItsEditorOpensTheZ
     cameras_ = Find<QListWidget>(editor_, "Cameras");
   };
   open_from_editor();
-  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1") << "the window has not been accepted";
+  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1  Camera 01") << "the window has not been accepted";
   EXPECT_FALSE(note()->isVisible());
   Press("Cancel");
   QTest::mouseClick(Find(OnScreen("frm_MDetect"), "OK"), Qt::LeftButton);
   Choose("mnuMTSetup");
   open_from_editor();
-  EXPECT_EQ(cameras_->item(15)->text(), "Camera 16, motion off");
+  EXPECT_EQ(cameras_->item(15)->text(), "Camera 16  Camera 16, motion off");
   EXPECT_TRUE(note()->isVisible());
   QTest::keyClick(grid_, Qt::Key_Space);
-  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1, motion off, changed");
+  EXPECT_EQ(cameras_->item(0)->text(), "Camera 1  Camera 01, motion off, changed");
   Press("OK");
   EXPECT_EQ(session_.Control().ModifiedBlocks(), (std::vector<Byte>{49, 85}));
 }

@@ -52,7 +52,9 @@ std::string LineGrid::GoToWaitingCell() {
     for (int column = 1; column < grid_.Columns(); ++column) {
       if (!editing_.Waits(row, column)) continue;
       editing_.GoTo(row, column);
-      return grid_.Cell(0, 0) + " " + grid_.Cell(row, 0) + ": " + grid_.ColumnName(column);
+      const std::string& title = grid_.RowNote(row);
+      return grid_.Cell(0, 0) + " " + grid_.Cell(row, 0) +
+             (title.empty() ? "" : " \"" + title + '"') + ": " + grid_.ColumnName(column);
     }
   }
   return {};

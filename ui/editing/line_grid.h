@@ -54,8 +54,8 @@ class LineGrid {
   void NameByTitles(std::function<std::string(int camera)> title_of = {});
   /// Makes the first cell current, as when the page comes to the front.
   void GoToStart();
-  /// Makes the first cell current that waits for a choice, and tells which: "Camera 3: Target
-  /// Size". Empty when there is none.
+  /// Makes the first cell current that waits for a choice, and tells which: "Camera 3 "Door":
+  /// Target Size". Empty when there is none.
   [[nodiscard]] std::string GoToWaitingCell();
   [[nodiscard]] Grid& Cells() { return grid_; }
   [[nodiscard]] bool Showing() const { return grid_.Showing(); }

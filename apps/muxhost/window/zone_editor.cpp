@@ -16,8 +16,6 @@ namespace {
 constexpr const char* kWithoutMotion = ", motion off";
 constexpr const char* kChanged = ", changed";
 
-QString NameOf(int camera) { return QString("Camera %1").arg(camera + 1); }
-
 QPushButton* MakeButton(const char* text, const char* tool_tip) {
   auto* const button = new QPushButton(text);
   button->setToolTip(tool_tip);
@@ -58,6 +56,12 @@ ZoneEditor::ZoneEditor(HostSession& session, int cameras, QWidget* parent)
   resize(sizeHint().boundedTo(screen()->availableSize() - borders));
 }
 
+QString ZoneEditor::NameOf(int camera) const {
+  const QString name = QString("Camera %1").arg(camera + 1);
+  const std::string title = session_.TitleOf(camera);
+  return title.empty() ? name : name + "  " + QString::fromStdString(title);
+}
+
 QWidget* ZoneEditor::MakeCameraSide() {
   auto* const side = new QWidget;
   auto* const column = new QVBoxLayout(side);
@@ -66,9 +70,12 @@ QWidget* ZoneEditor::MakeCameraSide() {
   column->addWidget(cameras_);
   cameras_->setAccessibleName("Cameras");
   constexpr int kBesideText = 40;  // the scroll bar and the list's borders
-  cameras_->setFixedWidth(cameras_->fontMetrics().horizontalAdvance(NameOf(kMostCameras - 1) +
-                                                                    kWithoutMotion + kChanged) +
-                          kBesideText);
+  int width = 0;
+  for (int camera = 0; camera < kMostCameras; ++camera) {
+    const QString longest = NameOf(camera) + kWithoutMotion + kChanged;
+    width = std::max(width, cameras_->fontMetrics().horizontalAdvance(longest));
+  }
+  cameras_->setFixedWidth(width + kBesideText);
   return side;
 }
 

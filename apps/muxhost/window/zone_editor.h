@@ -49,6 +49,9 @@ class ZoneEditor : public QDialog {
   void Fill(bool active);
   void Undo();
 
+  /// "Camera 3  Front door"
+  [[nodiscard]] QString NameOf(int camera) const;
+
   HostSession& session_;
   std::vector<std::optional<Camera>> grids_;
   QListWidget* const cameras_;
