@@ -13,6 +13,7 @@
 #include <stdexcept>
 
 #include "muxhost/texts/languages.h"
+#include "muxhost/window/review_box.h"
 
 namespace quorvel::muxhost {
 
@@ -100,6 +101,7 @@ void Tour::Go() {
   Receive();
   TakeHost("2-received");
   GoThroughMenu();
+  TakeChanges();
   constexpr std::size_t kZoneBytes = 32;
   session_.WriteZones(0, std::vector<Byte>(kZoneBytes, 0xA5));
   TakeHost("3-changed");
@@ -176,6 +178,30 @@ QWidget* Tour::OpenedWindow() const {
     if (it->isVisible() && it != &window_ && qobject_cast<QMenu*>(it) == nullptr) return it;
   }
   return nullptr;
+}
+
+void Tour::TakeChanges() {
+  session_.OpenMenu();
+  Album::WaitFor("the menu", [] { return QApplication::activePopupWidget() != nullptr; });
+  QApplication::activePopupWidget()->close();
+  platform_.menu->Choose("mnu_CSetup");
+  Album::WaitFor("Camera Setup", [this] { return OpenedWindow() != nullptr; });
+  QWidget& window = *OpenedWindow();
+  Dialog& dialog = *platform_.DialogIn(window);
+  dialog.Find<TextBox>("m_CameraTitle(0)").Type("Lobby");
+  dialog.Find<TextBox>("m_CameraTitle(2)").Type("Gate");
+  album_.Take(window, "marks-1");
+  dialog.Find<TabStrip>("SSTab1").Choose(1);
+  auto& gains = dialog.Find<ListBox>("lstSnlGain");
+  gains.Choose(gains.Count() / 4);
+  album_.Take(window, "marks-2");
+  dialog.Find<Button>("cmd_OK").Click();
+  Album::WaitFor("the menu", [] { return QApplication::activePopupWidget() != nullptr; });
+  QApplication::activePopupWidget()->close();
+  platform_.menu->Choose("mnu_Exit");
+  ReviewBox box(session_, ReviewBox::Sending{}, &window_);
+  box.show();
+  album_.Take(box, "review");
 }
 
 void Tour::TakeWhatOpens(const std::string& item) {

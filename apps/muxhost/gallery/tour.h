@@ -42,6 +42,8 @@ class Tour {
   /// Opens what a menu item opens, and closes it again.
   void TakeWhatOpens(const std::string& item);
   [[nodiscard]] QWidget* OpenedWindow() const;
+  /// Changes an editor, and takes its marks and what lists the changes.
+  void TakeChanges();
   /// Does something to a modal dialog; a failure in there is thrown once the dialog has gone.
   void WithModal(std::function<void(Dialog&)> act, void (HostSession::*command)());
 
