@@ -21,10 +21,11 @@ bool IsTicked(const QWidget& dialog, const char* name) {
 
 /// A press of START, with the mouse or a key, that it would take.
 bool StartsSending(const QWidget& pressed, const QEvent& event) {
+  // Other events come also while the window is destroyed: it must not be looked through then.
+  if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::KeyPress) return false;
   const auto* const start = pressed.window()->findChild<QAbstractButton*>("cmdOK");
   if (start == nullptr || !start->isEnabled() || !start->isVisible()) return false;
   if (event.type() == QEvent::MouseButtonPress) return &pressed == start;
-  if (event.type() != QEvent::KeyPress) return false;
   const int key = static_cast<const QKeyEvent&>(event).key();
   const bool button = qobject_cast<const QAbstractButton*>(&pressed) != nullptr;
   if (key == Qt::Key_Space) return &pressed == start;
