@@ -78,6 +78,7 @@ void MarkedTabBar::paintEvent(QPaintEvent* event) {
 }
 
 WideTabs::WideTabs(QWidget& parent) : QTabWidget(&parent), bar_(new MarkedTabBar(this)) {
+  bar_->setObjectName("qt_tabwidget_tabbar");  // as the toolkit names its own
   setTabBar(bar_);
 }
 

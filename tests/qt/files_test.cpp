@@ -198,7 +198,7 @@ TEST_F(MuxhostFiles, BeginWithFactoryDefaultsAndAreComparedWithOthers) {
 
 TEST_F(MuxhostFiles, ConnectLeavesThemOnlyWhenToldTo) {
   Give("&Open...", Naming(FactoryFile("gate.bin")));
-  window_.findChildren<QComboBox*>().at(0)->setCurrentIndex(3);
+  window_.centralWidget()->findChildren<QComboBox*>().at(0)->setCurrentIndex(3);
   Click("Connect", Answering("Cancel"));
   EXPECT_EQ(window_.windowTitle(), "gate.bin[*] - muxhost");
   Click("Connect", Answering("Connect without it"));

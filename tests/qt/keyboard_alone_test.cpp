@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QKeySequence>
+#include <QMenuBar>
 #include <QTableView>
 #include <QTreeWidget>
 
@@ -16,6 +17,7 @@ struct Step {
   QString reach;
   QStringList keys;                   ///< as "Ctrl+Z"; what begins with a quote is typed
   std::function<void()> before = {};  ///< done before the keys
+  std::function<bool()> ready = {};   ///< waits for it
 };
 
 class KeyboardAlone : public MuxhostOnScreen {
@@ -99,6 +101,7 @@ class KeyboardAlone : public MuxhostOnScreen {
     const bool in_window = (step.window.isEmpty() && Popup() != nullptr) ||
                            (!step.window.isEmpty() && Window().startsWith(step.window));
     if (!in_window) return;
+    if (step.ready && !step.ready()) return;
     if (step.at.isEmpty() || Focus() == step.at) {
       if (step.before) step.before();
       keys_ = OneByOne(step.keys);
@@ -119,6 +122,11 @@ TEST_F(KeyboardAlone, FromTheFirstKeyToAVerifiedUpload) {
       spoken[at] = Spoken(*Find<QTableView>(QApplication::activeWindow(), "MSFG_SnlGain"), 1, 1);
     };
   };
+  // The window looks from time to time whether the menu has gone.
+  const auto can_review = [this] {
+    const auto& actions = window_.menuBar()->actions().at(1)->menu()->actions();
+    return actions.at(2)->isEnabled();
+  };
   const QString receive = "Downloading Data", editor = "Camera Setup", send = "Uploading Data";
   Do({{"muxhost", "Download", {}, {"Return"}},
       {receive, "OK", {}, {"Return"}},
@@ -132,7 +140,7 @@ TEST_F(KeyboardAlone, FromTheFirstKeyToAVerifiedUpload) {
       {editor, "lstSnlGain", {}, {"Ctrl+Y"}, listen(1)},
       {editor, "OK", "Tab", {"Return"}, listen(2)},
       {{}, {}, {}, {"Esc"}},
-      {"muxhost", "Upload modified", {}, {"Ctrl+Shift+R"}},
+      {"muxhost", "Upload modified", {}, {"Ctrl+Shift+R"}, {}, can_review},
       {"Review changes", "Changes", {}, {"Esc"}},
       {"muxhost", "Upload modified", {}, {"Return"}},
       {"Before it is sent", "Changes", {}, {"Alt+G"}},

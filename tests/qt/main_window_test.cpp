@@ -147,8 +147,8 @@ TEST_F(MuxhostWindow, NewcomerDownloadsEditsUploadsAndSeesItVerified) {
 }
 
 TEST_F(MuxhostWindow, AnotherDeviceIsConnectedWithTheButton) {
-  auto* const model = window_.findChildren<QComboBox*>().at(0);
-  auto* const cameras = window_.findChildren<QComboBox*>().at(1);
+  auto* const model = window_.centralWidget()->findChildren<QComboBox*>().at(0);
+  auto* const cameras = window_.centralWidget()->findChildren<QComboBox*>().at(1);
   EXPECT_EQ(model->itemText(14), "14  Triplex NTSC, Matrix");
   EXPECT_EQ(model->count(), 21);
   model->setCurrentIndex(3);
@@ -164,7 +164,7 @@ TEST_F(MuxhostWindow, AnotherDeviceIsConnectedWithTheButton) {
 TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
   auto* const macros = Find<QSpinBox>(&window_, "Macro records");
   EXPECT_FALSE(macros->isVisible());
-  auto* const exchange = window_.findChildren<QComboBox*>().at(2);
+  auto* const exchange = window_.centralWidget()->findChildren<QComboBox*>().at(2);
   exchange->setCurrentText("Combined array");
   EXPECT_TRUE(macros->isVisible());
   macros->setValue(3);
@@ -193,7 +193,7 @@ TEST_F(MuxhostWindow, CombinedDeviceIsReadAndWrittenInOnePiece) {
 }
 
 TEST_F(MuxhostWindow, ReturnGoesOnAfterEachTransfer) {
-  window_.findChildren<QComboBox*>().at(2)->setCurrentText("Combined array");
+  window_.centralWidget()->findChildren<QComboBox*>().at(2)->setCurrentText("Combined array");
   Click("Connect");
   session_.Configure({.sync = true});  // the array is there before the receive dialog
   /// Presses Return in a dialog, where it strikes this button.
@@ -353,7 +353,7 @@ TEST_F(MuxhostWindow, HeadlineTellsWhereTheConfigurationComesFrom) {
 }
 
 TEST_F(MuxhostWindow, PortsOfTheLinkAndAnOldClockAreToldBeforeAnUpload) {
-  window_.findChildren<QComboBox*>().at(0)->setCurrentIndex(1);
+  window_.centralWidget()->findChildren<QComboBox*>().at(0)->setCurrentIndex(1);
   Click("Connect");
   Download();
   Choose("mnu_Comm");
@@ -383,7 +383,7 @@ TEST_F(MuxhostWindow, PortsOfTheLinkAndAnOldClockAreToldBeforeAnUpload) {
 }
 
 TEST_F(MuxhostWindow, KeyboardLockOfTheMenuIsNotToBeUploaded) {
-  window_.findChildren<QComboBox*>().at(0)->setCurrentIndex(3);
+  window_.centralWidget()->findChildren<QComboBox*>().at(0)->setCurrentIndex(3);
   Click("Connect");
   Download();
   Click("Menu");
@@ -441,7 +441,7 @@ TEST_F(MuxhostWindow, NothingCanBeEditedUntilTheAnswerIsThere) {
 }
 
 TEST_F(MuxhostWindow, BoxesKeepTheirListsAndPassTheWheelOn) {
-  auto* const box = window_.findChildren<QComboBox*>().at(3);
+  auto* const box = window_.centralWidget()->findChildren<QComboBox*>().at(3);
   ASSERT_EQ(box->itemText(1), "Image in one call");
   box->showPopup();
   QTest::qWait(300);
