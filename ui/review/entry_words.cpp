@@ -82,8 +82,7 @@ std::vector<Byte> BlocksOf(const MapEntry& entry, const SettingList& settings, c
     blocks.insert(blocks.end(), carriers.begin(), carriers.end());
   }
   std::ranges::sort(blocks);
-  const auto [first, last] = std::ranges::unique(blocks);
-  blocks.erase(first, last);
+  blocks.erase(std::unique(blocks.begin(), blocks.end()), blocks.end());
   return blocks;
 }
 
