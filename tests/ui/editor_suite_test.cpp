@@ -521,6 +521,9 @@ void ExpectReviewed(Bench& bench, const std::vector<ShownSetting>& shown) {
     const auto line = lines.find(it.settings.front());
     if (line == lines.end() || line->second.settings != it.settings) continue;
     if (line->second.at.column != it.column) continue;  // of one setting in two columns
+    // Control characters of a title are shown by their codes.
+    const auto is_control = [](char byte) { return static_cast<unsigned char>(byte) < ' '; };
+    if (std::ranges::any_of(it.was, is_control)) continue;
     EXPECT_TRUE(line->second.old_value.starts_with(it.was)) << Names(it) << " was " << it.was;
   }
 }
