@@ -1,11 +1,9 @@
 #include "muxhost/window/main_window.h"
 
-#include <QAbstractItemView>
 #include <QMenuBar>
 #include <QToolButton>
 #include <QTreeWidget>
 
-#include "muxhost/window/event_log.h"
 #include "tests/qt/muxhost_on_screen.h"
 #include "tests/qt/on_screen.h"
 
@@ -440,22 +438,6 @@ TEST_F(MuxhostWindow, NothingCanBeEditedUntilTheAnswerIsThere) {
   EXPECT_EQ(Enabled(), "CDoMZUaSRDe");
 }
 
-TEST_F(MuxhostWindow, BoxesKeepTheirListsAndPassTheWheelOn) {
-  auto* const box = window_.centralWidget()->findChildren<QComboBox*>().at(3);
-  ASSERT_EQ(box->itemText(1), "Image in one call");
-  box->showPopup();
-  QTest::qWait(300);
-  EXPECT_TRUE(box->view()->isVisible());
-  box->hidePopup();
-  for (const bool focus : {false, true}) {
-    if (focus) box->setFocus();
-    if (focus) window_.activateWindow();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return box->hasFocus() == focus; }));
-    TurnWheel(*box, {5, 5}, {0, -120});
-    EXPECT_EQ(box->currentIndex(), focus ? 1 : 0);
-  }
-}
-
 TEST_F(MuxhostWindow, ClosingAsksBeforeChangesAreLost) {
   Download();
   ChangeZones();
@@ -498,32 +480,6 @@ TEST_F(MuxhostWindow, ClosedInTheMiddleOfATransferItEndsTheTransfer) {
     EXPECT_FALSE(window_.isVisible());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   }
-}
-
-TEST(MuxhostEventLog, TellsEventsInWordsAndRunsInOneLine) {
-  EventLog log;
-  for (const char* const entry :
-       {"RequestBlk 1", "RequestBlk 2", "RequestBlk 3", "RequestBlk 3", "UploadSucceeded",
-        "DownLoadData 9", "DownLoadData end", "not written: the device refuses block 9",
-        "block 12 is not as sent", "block 13 is not as sent", "SendComboBlocks 3613 bytes",
-        "ULSucceededWithStr TX 16 6 9", "the link fails: late at 3 by 300 ms",
-        "nobody could press cmdStop of frm_ToMux"}) {
-    log.Add(entry);
-  }
-  const char* const lines[] = {
-      "The control asks for blocks 1 to 3.",
-      "The control asks for block 3.",
-      "The device's configuration has arrived in the control.",
-      "The control hands over block 9.",
-      "The control has handed over everything.",
-      "Not written: the device refuses block 9.",
-      "Blocks 12 to 13 are not as sent.",
-      "The control hands over the whole configuration: 3613 bytes.",
-      "The configuration of TX 16 (model 6, 9 cameras) has arrived in one piece.",
-      "The link fails at number 3: it takes longer, by 300 ms.",
-      "Nobody could press STOP of the send dialog."};
-  ASSERT_EQ(log.count(), static_cast<int>(std::size(lines)));
-  for (int i = 0; i < log.count(); ++i) EXPECT_EQ(log.item(i)->text().mid(11), lines[i]);
 }
 
 }  // namespace
