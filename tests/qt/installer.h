@@ -66,6 +66,11 @@ class Installer : public QtPlatform, private MainMenuEvents {
     opened_ = &dialog;
     QtPlatform::Show(dialog);
   }
+  /// Leaves a window without what was changed there; other questions are not expected.
+  bool Ask(const Message& message) override {
+    EXPECT_TRUE(message.ok_without_user) << message.text;
+    return true;
+  }
 
  private:
   std::shared_ptr<PopupMenu> menu_;
