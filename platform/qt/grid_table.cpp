@@ -33,15 +33,48 @@ class GridDelegate : public FocusDelegate {
     DrawChangeCorner(*painter, option.rect, option.palette.color(role));
   }
 
+  /// Notes need no space, they only take it.
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const override {
+    QStyleOptionViewItem no_room = option;
+    no_room.rect = {};
+    return FocusDelegate::sizeHint(no_room, index);
+  }
+
+  /// Width of a cell that shows a text and a note beside it.
+  static int WidthWith(const QString& text, const QString& note, const QTableView& table) {
+    return table.fontMetrics().horizontalAdvance(WithNote(text, note)) + Margins(table) + kSlack;
+  }
+
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     FocusDelegate::initStyleOption(option, index);
+    AddNote(*option, index.data(GridTexts::kNoteRole).toString());
     if (index.column() > 0) return;
     QPalette& colours = option->palette;
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
       colours.setBrush(group, QPalette::Text, colours.brush(group, QPalette::ButtonText));
     }
     option->backgroundBrush = colours.button();
+  }
+
+ private:
+  /// For the grid's line, and parts of pixels.
+  static constexpr int kSlack = 6;
+
+  static int Margins(const QWidget& table) {
+    return 2 * (table.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &table) + 2);
+  }
+  /// A note is cut where it does not fit, and left out where nothing of it could be read; the text
+  /// never.
+  static void AddNote(QStyleOptionViewItem& option, const QString& note) {
+    constexpr int kLeastCharacters = 6;
+    if (note.isEmpty() || option.widget == nullptr) return;
+    const QFontMetrics& metrics = option.fontMetrics;
+    const int room = option.rect.width() - Margins(*option.widget) -
+                     metrics.horizontalAdvance(WithNote(option.text, {}));
+    if (room < kLeastCharacters * metrics.averageCharWidth()) return;
+    option.text = WithNote(option.text, metrics.elidedText(note, Qt::ElideRight, room));
   }
 };
 
@@ -274,6 +307,7 @@ void GridTable::GiveUpRange() {
 
 void GridTable::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
+  SpreadNotes();
   DrawNames();
   EndWithContent();
   if (row_ > 0 && row_ == row_sel_) scrollTo(CellAt(row_, column_));
@@ -282,21 +316,56 @@ void GridTable::resizeEvent(QResizeEvent* event) {
 int GridTable::NeededWidth(int column) const {
   constexpr int kPadding = 10;
   const int least = texts_.LeastWidth(column) * fontMetrics().averageCharWidth();
-  return header_->WidthOf(column, kPadding + std::max(least, WidestCell(*this, column)));
+  const int cells = kPadding + std::max(least, WidestCell(*this, column));
+  return std::max(header_->WidthOf(column, cells), header_->minimumSectionSize());
+}
+
+int GridTable::WidthWithNotes(int column) const {
+  const QAbstractItemModel& cells = *model();
+  int width = 0;
+  for (int row = 0; row < cells.rowCount(); ++row) {
+    const QModelIndex cell = cells.index(row, column);
+    const QString note = cell.data(GridTexts::kNoteRole).toString();
+    if (note.isEmpty()) continue;
+    width = std::max(width, GridDelegate::WidthWith(cell.data().toString(), note, *this));
+  }
+  return width;
+}
+
+int GridTable::NotesWidth() const {
+  return std::accumulate(note_widths_.begin(), note_widths_.end(), 0);
+}
+
+void GridTable::SpreadNotes() {
+  const auto& widths = header_->Widths();
+  const int all = NotesWidth();
+  if (all == 0 || widths.size() != note_widths_.size()) return;
+  const int columns = std::accumulate(widths.begin(), widths.end(), 0);
+  const int room = std::clamp(viewport()->width() - columns, 0, all);
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    if (note_widths_[i] == 0) continue;
+    setColumnWidth(static_cast<int>(i), widths[i] + note_widths_[i] * room / all);
+  }
+  updateGeometries();
 }
 
 void GridTable::FitColumns(bool anew) {
   std::vector<int> widths = anew ? std::vector<int>() : header_->Widths();
   widths.resize(static_cast<std::size_t>(model()->columnCount()));
+  if (anew) note_widths_.clear();
+  note_widths_.resize(widths.size());
   int column = 0;
   for (int& width : widths) {
     // Columns grow only: a grid whose columns move as texts change cannot be read.
     width = std::max(width, NeededWidth(column));
     if (anew || width > columnWidth(column)) setColumnWidth(column, width);
+    int& notes = note_widths_.at(static_cast<std::size_t>(column));
+    notes = std::max(notes, WidthWithNotes(column) - width);
     ++column;
   }
   header_->SetWidths(std::move(widths));
   updateGeometries();
+  SpreadNotes();
   updateGeometry();
   EndWithContent();
 }
@@ -315,7 +384,7 @@ void GridTable::EndWithContent() {
   const QSize whole = SizeOfRows(model()->rowCount());
   const bool scrolls = width() < whole.width() - verticalScrollBar()->sizeHint().width();
   const int bar = scrolls ? horizontalScrollBar()->sizeHint().height() : 0;
-  setMaximumSize(whole + QSize(0, bar));
+  setMaximumSize(whole + QSize(NotesWidth(), bar));
 }
 
 QSize GridTable::sizeHint() const {
@@ -323,7 +392,7 @@ QSize GridTable::sizeHint() const {
   const int most = kMostCharacters * fontMetrics().averageCharWidth();
   QSize size = SizeOfRows(std::min(model()->rowCount(), kMostGridRows));
   if (size.width() > most) size.rheight() += horizontalScrollBar()->sizeHint().height();
-  return {std::min(size.width(), most), size.height()};
+  return {std::min(size.width() + NotesWidth(), most), size.height()};
 }
 
 QSize GridTable::minimumSizeHint() const {

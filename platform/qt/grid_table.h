@@ -86,9 +86,16 @@ class GridTable : public FocusShown<QTableView> {
   void EndWithContent();
   /// Width that a column needs for its header and its texts.
   [[nodiscard]] int NeededWidth(int column) const;
+  /// Width at which a column shows all its notes beside its texts; 0 for one without notes.
+  [[nodiscard]] int WidthWithNotes(int column) const;
+  /// Width that all columns would have on top for their notes.
+  [[nodiscard]] int NotesWidth() const;
+  /// Gives the columns what there is of it: before anything has to be scrolled, notes are cut.
+  void SpreadNotes();
 
   const GridTexts& texts_;
   GridHeader* const header_;
+  std::vector<int> note_widths_;  ///< of the columns, on top of those of the header
   int row_ = 0;
   int column_ = 0;
   int row_sel_ = 0;

@@ -5,6 +5,11 @@
 
 namespace quorvel::qt {
 
+QString WithNote(const QString& text, const QString& note, int digits) {
+  constexpr QChar kFigureSpace(0x2007);  // as wide as a digit
+  return text.leftJustified(digits, kFigureSpace) + QStringLiteral("  ") + note;
+}
+
 void GridTexts::TakeSize() {
   header_rows_ = grid_ == nullptr ? 1 : grid_->HeaderRows();
   rows_ = grid_ == nullptr ? 0 : grid_->Rows() - header_rows_;
@@ -45,10 +50,21 @@ QVariant GridTexts::Text(int grid_row, int column) const {
   if (grid_ == nullptr || grid_row >= grid_->Rows() || column >= grid_->Columns()) return {};
   const QString text = Shown(grid_->Cell(grid_row, column));
   if (column > 0 || grid_->RowNote(grid_row).empty()) return text;
-  // A blank as wide as a digit: notes stand below one another.
-  constexpr QChar kFigureSpace(0x2007);
   const auto digits = static_cast<int>(grid_->Cell(grid_->Rows() - 1, 0).size());
-  return text.leftJustified(digits, kFigureSpace) + "  " + Shown(grid_->RowNote(grid_row));
+  return WithNote(text, Shown(grid_->RowNote(grid_row)), digits);
+}
+
+QString GridTexts::Note(int grid_row, int column) const {
+  if (grid_ == nullptr || column < 1 || column >= grid_->Columns()) return {};
+  return Shown(grid_->CellNote(grid_row, column));
+}
+
+/// A cell as it is drawn, and from what it was changed.
+QString GridTexts::Spoken(int grid_row, int column) const {
+  QString words = Text(grid_row, column).toString();
+  if (const QString note = Note(grid_row, column); !note.isEmpty()) words += ' ' + note;
+  const ChangeMark* const change = Change(grid_row, column);
+  return change == nullptr ? words : words + QStringLiteral(". ") + Shown(change->note);
 }
 
 const ChangeMark* GridTexts::Change(int grid_row, int column) const {
@@ -56,22 +72,22 @@ const ChangeMark* GridTexts::Change(int grid_row, int column) const {
 }
 
 QVariant GridTexts::data(const QModelIndex& index, int role) const {
-  if (role == kChangedRole || role == Qt::AccessibleTextRole) {
-    const ChangeMark* const change = Change(index.row() + header_rows_, index.column());
-    if (role == kChangedRole) return change != nullptr;
-    if (change == nullptr) return {};
-    const QString text = Text(index.row() + header_rows_, index.column()).toString();
-    return QString(text + QStringLiteral(". ") + Shown(change->note));
+  const int row = index.row() + header_rows_;
+  const int column = index.column();
+  if (grid_ == nullptr) return {};
+  switch (role) {
+    case Qt::DisplayRole: return Text(row, column);
+    case Qt::AccessibleTextRole: return Spoken(row, column);
+    case Qt::ToolTipRole: return Shown(grid_->Owner().HelpOf(*grid_, row, column));
+    case kChangedRole: return Change(row, column) != nullptr;
+    case kNoteRole: return Note(row, column);
+    case Qt::TextAlignmentRole: {
+      const bool centred =
+          grid_->Alignment() == Grid::Align::kCentre && !grid_->HasValueNotes(column);
+      return QVariant::fromValue(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
+    }
+    default: return {};
   }
-  if (role == Qt::DisplayRole) return Text(index.row() + header_rows_, index.column());
-  if (role == Qt::ToolTipRole && grid_ != nullptr) {
-    return Shown(grid_->Owner().HelpOf(*grid_, index.row() + header_rows_, index.column()));
-  }
-  if (role == Qt::TextAlignmentRole && grid_ != nullptr) {
-    const bool centred = grid_->Alignment() == Grid::Align::kCentre;
-    return QVariant::fromValue(Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft));
-  }
-  return {};
 }
 
 QVariant GridTexts::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -7,6 +7,10 @@
 
 namespace quorvel::qt {
 
+/// A text and what is told beside it. Notes stand below one another beside numbers of up to so many
+/// digits.
+[[nodiscard]] QString WithNote(const QString& text, const QString& note, int digits = 2);
+
 /// A grid's texts for the toolkit's table, read where they are. The grid's header rows are the
 /// table's header, so the table's row 0 is the grid's first row of data.
 class GridTexts : public QAbstractTableModel {
@@ -15,6 +19,8 @@ class GridTexts : public QAbstractTableModel {
 
   /// True for a cell that the user has changed.
   static constexpr int kChangedRole = Qt::UserRole;
+  /// What is told beside a cell's text, where there is room.
+  static constexpr int kNoteRole = Qt::UserRole + 1;
 
   /// Tells the table a new size, which it must know at once; true when there is one.
   bool Resize();
@@ -40,6 +46,9 @@ class GridTexts : public QAbstractTableModel {
  private:
   void TakeSize();
   [[nodiscard]] QVariant Text(int grid_row, int column) const;
+  /// Beside cells that are no row's name: those have theirs in the text.
+  [[nodiscard]] QString Note(int grid_row, int column) const;
+  [[nodiscard]] QString Spoken(int grid_row, int column) const;
   [[nodiscard]] const ChangeMark* Change(int grid_row, int column) const;
 
   const Grid* grid_;

@@ -144,10 +144,12 @@ class Fits {
       const int width = table.columnWidth(column);
       EXPECT_GE(width, needed) << column;
       EXPECT_GE(table.horizontalHeader()->height(), metrics.height() * (one_line > width ? 2 : 1));
+      if (grid.HasValueNotes(column)) continue;             // as wide as its notes may be
       const bool last = column + 1 == cells.columnCount();  // it has the space of a scroll bar
       const int bar = table.verticalScrollBar()->sizeHint().width();
       if (last) {
-        EXPECT_LE(width, std::max(needed, one_line) + kMargins + bar);
+        const int least = table.horizontalHeader()->minimumSectionSize();
+        EXPECT_LE(width, std::max({needed, one_line, least}) + kMargins + bar);
       }
       if (!last && std::max(needed, two_lines) + kMargins < one_line) {
         EXPECT_LT(width, one_line) << "in two lines it is narrower";
@@ -324,6 +326,42 @@ TEST_F(QtSizes, AListOfTenIsShownWhole) {
   const auto& list = *platform_.WindowOf(*dialog)->findChild<QListView*>("list");
   EXPECT_FALSE(list.verticalScrollBar()->isVisible());
   EXPECT_GE(list.viewport()->height(), 10 * list.visualRect(list.model()->index(0, 0)).height());
+}
+
+/// A grid alone, one of whose columns holds cameras.
+class Titles : public Dialog {
+ public:
+  explicit Titles(Platform& platform) : Dialog(platform, "frm_Titles") {
+    grid.SetSize(17, 4);
+    grid.SetCell(1, 1, "7", 6);
+    grid.SetCell(2, 1, "--", 16);
+    grid.SetValueNotes(1, {{6, "Goods entrance of the building"}});
+    SetLayout(Column(grid));
+  }
+  Grid grid{*this, "grid"};
+};
+
+TEST_F(QtSizes, NotesStandBesideNumbersAndAreCutBeforeAnythingScrolls) {
+  const auto dialog = std::make_shared<Titles>(platform_);
+  dialog->Show();
+  QWidget& window = *platform_.WindowOf(*dialog);
+  const auto& table = *window.findChild<QTableView*>("grid");
+  const auto spoken = [&](int row) {
+    return table.model()->index(row, 1).data(Qt::AccessibleTextRole).toString();
+  };
+  const QString text = "7    Goods entrance of the building";
+  const int whole = table.fontMetrics().horizontalAdvance(text);
+  EXPECT_GE(table.columnWidth(1), whole);
+  EXPECT_EQ(table.model()->index(0, 1).data(), "7");
+  EXPECT_EQ(spoken(0), "7 Goods entrance of the building");
+  EXPECT_EQ(spoken(1), "--");
+  for (const int less : {whole / 3, whole / 2}) {
+    window.resize(window.width() - less, window.height());
+    QTest::qWait(50);  // bars follow columns a turn later
+    EXPECT_LT(table.columnWidth(1), whole);
+    EXPECT_GE(table.columnWidth(1), table.fontMetrics().horizontalAdvance("--"));
+    EXPECT_EQ(table.horizontalScrollBar()->maximum(), 0) << less;
+  }
 }
 
 /// The toolkit takes its scale when it starts, so this starts the tests above anew.

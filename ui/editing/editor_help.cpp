@@ -62,7 +62,7 @@ std::string Numbers(const SettingDescription& setting) {
 }  // namespace
 
 std::string Editor::HelpOf(const Widget& control, int row, int column) const {
-  std::string help = control.WhyDisabled();
+  std::string help = Dialog::HelpOf(control, row, column);
   if (!BelongsToImage()) return help;
   DeviceState& device = context_.device;
   const Configuration present{device.Record(), device.env.identity, device.BlkImage.BlkCount()};

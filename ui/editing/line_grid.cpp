@@ -34,6 +34,14 @@ int LineGrid::AddColumn(const std::string& header, const std::string& below) {
   return column;
 }
 
+Field& LineGrid::CameraColumn(const std::string& header, ChoiceWidget& list, Choices cameras,
+                              SettingRef setting, ColumnRules rules) {
+  cameras.OthersRead([](int value) { return std::to_string(value + 1); });
+  camera_columns_.push_back(AddColumn(header));
+  return Bind(camera_columns_.back(), list, std::move(cameras), std::move(setting),
+              std::move(rules));
+}
+
 void LineGrid::NameByTitles(std::function<std::string(int)> title_of) {
   title_of_ = title_of ? std::move(title_of) : [this](int camera) { return part_.TitleOf(camera); };
 }
@@ -43,6 +51,13 @@ void LineGrid::GoToStart() {
     for (int row = grid_.HeaderRows(); row < grid_.Rows(); ++row) {
       grid_.SetRowNote(row, title_of_(row - grid_.HeaderRows()));
     }
+  }
+  if (!camera_columns_.empty()) {
+    Grid::ValueNotes titles;
+    for (int camera = 0; camera < part_.Id().MaxCam; ++camera) {
+      titles.emplace(camera, part_.TitleOf(camera));
+    }
+    for (const int column : camera_columns_) grid_.SetValueNotes(column, titles);
   }
   editing_.GoTo(grid_.HeaderRows(), 1);
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "ui/editing/editor_part.h"
 
@@ -49,6 +50,11 @@ class LineGrid {
     return Bind(AddColumn(header), list, std::move(choices), std::move(setting), std::move(rules));
   }
 
+  /// Adds a column whose cells hold cameras, from 0, told by their titles beside the numbers. A
+  /// camera that the model lacks keeps its number in sight.
+  Field& CameraColumn(const std::string& header, ChoiceWidget& list, Choices cameras,
+                      SettingRef setting, ColumnRules rules = {});
+
   /// Has the lines, which are cameras, told by their titles beside their numbers. `title_of` gives
   /// that of a camera, from 0, in UTF-8; without it, it is the one that the device shows.
   void NameByTitles(std::function<std::string(int camera)> title_of = {});
@@ -69,6 +75,7 @@ class LineGrid {
   FieldGroup& group_;
   GridEditing editing_;
   std::function<std::string(int)> title_of_;
+  std::vector<int> camera_columns_;
 };
 
 }  // namespace quorvel

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <charconv>
 #include <cstdio>
 #include <optional>
 
@@ -16,6 +17,13 @@ bool IsBareNumber(std::string_view text) {
   return !text.empty() && std::ranges::all_of(text, [](char it) {
     return std::isdigit(static_cast<unsigned char>(it)) != 0;
   });
+}
+
+/// The camera of a cell's number, from 0; -1 for a text that is none.
+int CameraCalled(std::string_view text) {
+  int number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return IsBareNumber(text) ? number - 1 : -1;
 }
 
 /// Control characters of a device's text as \xHH: a line stays one.
@@ -111,6 +119,7 @@ std::string EntryWords::Of(const MapEntry& entry, const Side& side) const {
     const int ticked = part.bit < 0 ? value.number : BitOf(value, part.bit);
     return ticked == 0 ? no_ : *shown == "x" ? yes_ : Listed(entry, side);
   }
+  if (entry.names_camera) return *shown + TitleOn(side, CameraCalled(*shown));
   const bool alone = entry.parts.size() == 1;
   if (!alone || !IsBareNumber(*shown)) return InOneLine(*shown);
   return *shown + std::string(settings_.At(entry.parts.front().setting).unit);
@@ -130,14 +139,17 @@ bool EntryWords::ReadAlike(const MapEntry& entry, const Side& one, const Side& o
 
 SettingPosition EntryWords::Place(const MapEntry& entry, const Side& side) const {
   SettingPosition at = entry.at;
-  const Cameras* const camera =
-      entry.shared ? nullptr : side.editors->Record().CamInfo(entry.camera);
-  if (camera == nullptr || at.line.empty()) return at;
-  std::string_view title = camera->title();
+  if (!entry.shared && !at.line.empty()) at.line += TitleOn(side, entry.camera);
+  return at;
+}
+
+std::string EntryWords::TitleOn(const Side& side, int camera) const {
+  const Cameras* const of = side.editors->Record().CamInfo(camera);
+  if (of == nullptr) return {};
+  std::string_view title = of->title();
   title = title.substr(0, title.find('\0'));
   title = title.substr(0, title.find_last_not_of(' ') + 1);
-  if (!title.empty()) at.line += " \"" + InOneLine(platform_.ToUtf8(title)) + '"';
-  return at;
+  return title.empty() ? "" : " \"" + InOneLine(platform_.ToUtf8(title)) + '"';
 }
 
 }  // namespace quorvel

@@ -46,6 +46,8 @@ class EntryWords {
   [[nodiscard]] SettingPosition Place(const MapEntry& entry, const Side& side) const;
 
  private:
+  /// The title of a camera, from 0, behind its number: " "Door""; empty for one that is not there.
+  [[nodiscard]] std::string TitleOn(const Side& side, int camera) const;
   [[nodiscard]] static std::string Listed(const MapEntry& entry, const Side& side);
 
   const SettingList& settings_;

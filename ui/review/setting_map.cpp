@@ -96,6 +96,7 @@ class EditorReader {
  private:
   /// "Camera 3", "Event 1"; a row that has a name of its own is called by it.
   void NameRow(const Grid& grid, MapEntry& entry) const {
+    entry.names_camera = grid.HasValueNotes(entry.at.column);
     const auto number = WholeNumber(entry.at.line);
     if (!number) return;
     const std::string& head = grid.Cell(0, 0);

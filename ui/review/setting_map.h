@@ -20,11 +20,12 @@ struct MapEntry {
   SettingPosition at;
   std::vector<std::string> names;  ///< of the parts
   std::vector<Part> parts;
-  std::size_t line = 0;   ///< of UnseenEditors::Lines()
-  int camera = -1;        ///< of a camera's line: which, 0-based
-  bool shared = false;    ///< one control stands for the lines of several cameras
-  bool ticks = false;     ///< a check box
-  bool is_first = false;  ///< no earlier entry shows any of its settings, or not all of them
+  std::size_t line = 0;       ///< of UnseenEditors::Lines()
+  int camera = -1;            ///< of a camera's line: which, 0-based
+  bool shared = false;        ///< one control stands for the lines of several cameras
+  bool ticks = false;         ///< a check box
+  bool names_camera = false;  ///< its cell holds a camera's number, from 1
+  bool is_first = false;      ///< no earlier entry shows any of its settings, or not all of them
 };
 
 /// Where the settings of a device stand in the editors of the menu, in the menu's order, then by

@@ -139,8 +139,11 @@ std::string Dialog::PageHelp() const {
   return page;
 }
 
-std::string Dialog::HelpOf(const Widget& control, int /*row*/, int /*column*/) const {
-  return control.WhyDisabled();
+std::string Dialog::HelpOf(const Widget& control, int row, int column) const {
+  const auto* const grid = dynamic_cast<const Grid*>(&control);
+  const std::string note = grid == nullptr ? "" : grid->CellNote(row, column);
+  const std::string& why = control.WhyDisabled();
+  return note + (note.empty() || why.empty() ? "" : "\n") + why;
 }
 
 }  // namespace quorvel

@@ -29,16 +29,36 @@ std::vector<Grid::HeaderCell> Grid::Header() const {
   return header;
 }
 
-const std::string& Grid::RowNote(int row) const {
+namespace {
+
+const std::string& NoteOf(const std::map<int, std::string>& notes, int key) {
   static const std::string kNothing;
-  const auto it = row_notes_.find(row);
-  return it == row_notes_.end() ? kNothing : it->second;
+  const auto it = notes.find(key);
+  return it == notes.end() ? kNothing : it->second;
+}
+
+}  // namespace
+
+const std::string& Grid::RowNote(int row) const { return NoteOf(row_notes_, row); }
+
+const std::string& Grid::CellNote(int row, int column) const {
+  const auto notes = value_notes_.find(column);
+  const bool has_value = notes != value_notes_.end() && row >= header_rows_ && row < rows_;
+  return has_value ? NoteOf(notes->second, Value(row, column))
+                   : NoteOf(row_notes_, column == 0 ? row : kNone);
 }
 
 void Grid::SetRowNote(int row, std::string note) {
   std::string& there = row_notes_[row];
   if (there == note) return;
   there = std::move(note);
+  Redraw(Aspect::kContent);
+}
+
+void Grid::SetValueNotes(int column, ValueNotes notes) {
+  ValueNotes& there = value_notes_[column];
+  if (there == notes) return;
+  there = std::move(notes);
   Redraw(Aspect::kContent);
 }
 

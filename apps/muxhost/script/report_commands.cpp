@@ -60,10 +60,6 @@ void Help(Desk& desk, Words words) {
     constexpr int kMostPlaces = 1000;
     const int row = ToNumber("row", words[2], 0, kMostPlaces);
     help = control->Owner().HelpOf(*control, row, ToNumber("column", words[3], 0, kMostPlaces));
-    const auto* const grid = dynamic_cast<const Grid*>(control);
-    if (grid != nullptr && row < grid->Rows() && !grid->RowNote(row).empty()) {
-      help = grid->RowNote(row) + (help.empty() ? "" : "\n") + help;
-    }
   } else {
     help = control->Owner().HelpOf(*control);
   }

@@ -56,6 +56,11 @@ class QUORVEL_API Grid : public Widget {
   [[nodiscard]] std::string ColumnName(int column) const;
   /// What is told of a row beside its name, such as a camera's title; it is no part of the cells.
   [[nodiscard]] const std::string& RowNote(int row) const;
+  /// What is told beside the text of one cell: in column 0 of its row, else of its value, such as
+  /// the title of the camera whose number the cell holds. Nothing outside the table.
+  [[nodiscard]] const std::string& CellNote(int row, int column) const;
+  /// Whether values of a column were given notes.
+  [[nodiscard]] bool HasValueNotes(int column) const { return value_notes_.contains(column); }
   [[nodiscard]] std::string ValueText() const override;
   /// What the user has changed of a cell, or a null pointer while it is as it was when the window
   /// opened. Views mark it, not by colour alone.
@@ -72,6 +77,9 @@ class QUORVEL_API Grid : public Widget {
   /// Names a column of which the header says nothing.
   void SetColumnName(int column, std::string name);
   void SetRowNote(int row, std::string note);
+  /// Notes by the value that a cell stands for.
+  using ValueNotes = std::map<int, std::string>;
+  void SetValueNotes(int column, ValueNotes notes);
   /// Makes a column no narrower than so many characters.
   void SetLeastWidth(int column, int characters);
   void SetAlign(Align align);
@@ -147,6 +155,7 @@ class QUORVEL_API Grid : public Widget {
   std::vector<CellValue> cells_{1};  ///< column by column, so that one is easily added
   std::vector<int> least_widths_{0};
   std::map<int, std::string> row_notes_;
+  std::map<int, ValueNotes> value_notes_;    ///< by column
   std::map<int, std::string> column_names_;  ///< of columns that were given one
   CellChanges changes_;
 };

@@ -110,12 +110,10 @@ void EventSettingsPage::BindAssociations(bool available) {
   const int cameras = Id().MaxCam;
   Choices others{{cameras, "--"}};
   others.Add(Choices::Numbers(1, cameras, 0));
-  // A camera that the model lacks keeps its number in sight.
-  others.OthersRead([](int value) { return std::to_string(value + 1); });
   const std::string name = Text(txt::kEventAssociated);
   for (int i = 0; i < kAssociations; ++i) {
-    cameras_.Column(name + " " + std::to_string(i + 1), cbEvAssCam, others,
-                    OfEvents(&clsEvents::EvAssociated, i), {.empty = cameras});
+    cameras_.CameraColumn(name + " " + std::to_string(i + 1), cbEvAssCam, others,
+                          OfEvents(&clsEvents::EvAssociated, i), {.empty = cameras});
   }
 }
 

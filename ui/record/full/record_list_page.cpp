@@ -21,12 +21,10 @@ void RecordListPage::BindList() {
   MSFlGrid_RecList.SetSpokenName(Text(txt::kRecordList));
   Choices cameras = Choices::Numbers(1, Id().MaxCam, 0);
   cameras.Add(kNoCamera, Words().cnstrNone).Reads(kNoCamera, "");
-  // A camera that the model lacks keeps its number in sight.
-  cameras.OthersRead([](int value) { return std::to_string(value + 1); });
   list_.emplace(*this, MSFlGrid_RecList, Each(kPlaces), Text(txt::kIndex),
                 GridEditing::Release::kSelects);
-  list_->Column(Text(txt::kCameras), lCamera, cameras, At(&MuxData::RecSeqLst),
-                {.empty = kNoCamera});
+  list_->CameraColumn(Text(txt::kCameras), lCamera, cameras, At(&MuxData::RecSeqLst),
+                      {.empty = kNoCamera});
 }
 
 Layout RecordListPage::Contents() {

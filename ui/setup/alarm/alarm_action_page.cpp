@@ -11,14 +11,12 @@ AlarmActionPage::AlarmActionPage(Editor& editor, const AlarmFeatures& features)
   actions_.Column(Label3.Caption(), lst_ALFrz, NoYes(),
                   OfAction(&AlmAction::Freeze).OtherwiseWritten(1));
 
-  Choices camera = Choices::Numbers(1, cameras, 0);
-  // A camera that the model lacks keeps its number in sight.
-  camera.OthersRead([](int value) { return std::to_string(value + 1); });
+  const Choices camera = Choices::Numbers(1, cameras, 0);
   const std::string adjacent = Text(txt::kAdjacent);
-  actions_.Column(Text(txt::kPrimary), cbAlCamera, camera, OfAction(&AlmAction::Display0));
-  actions_.Column(adjacent + "1", cbAlCamera, camera, OfAction(&AlmAction::Display1));
-  actions_.Column(adjacent + "2", cbAlCamera, camera, OfAction(&AlmAction::Display2));
-  actions_.Column(adjacent + "3", cbAlCamera, camera, OfAction(&AlmAction::Display3));
+  actions_.CameraColumn(Text(txt::kPrimary), cbAlCamera, camera, OfAction(&AlmAction::Display0));
+  actions_.CameraColumn(adjacent + "1", cbAlCamera, camera, OfAction(&AlmAction::Display1));
+  actions_.CameraColumn(adjacent + "2", cbAlCamera, camera, OfAction(&AlmAction::Display2));
+  actions_.CameraColumn(adjacent + "3", cbAlCamera, camera, OfAction(&AlmAction::Display3));
 
   const std::string no_room = Text(kTextNoRoomForIt);
   for (Widget* const it : {static_cast<Widget*>(&lbPreset), static_cast<Widget*>(&cbPreset)}) {
