@@ -5,6 +5,8 @@
 #include <QPdfWriter>
 #include <optional>
 
+#include "muxhost/report/paper.h"
+
 namespace quorvel::muxhost {
 
 namespace {
@@ -29,17 +31,6 @@ class Application {
 
 }  // namespace
 
-QPageLayout PaperOfReports() {
-  return {QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF()};
-}
-
-std::unique_ptr<QTextDocument> DocumentOf(const std::string& html) {
-  auto document = std::make_unique<QTextDocument>();
-  document->setDefaultFont(QFont("sans-serif", 8));
-  document->setHtml(QString::fromStdString(html));
-  return document;
-}
-
 std::vector<std::uint8_t> PdfOf(const std::string& html) {
   const Application application;
   QByteArray bytes;
@@ -49,10 +40,10 @@ std::vector<std::uint8_t> PdfOf(const std::string& html) {
     QPdfWriter writer(&buffer);
     writer.setPageLayout(PaperOfReports());
     writer.setResolution(kPointsPerInch * 10);
-    const auto document = DocumentOf(html);
-    writer.setTitle(document->metaInformation(QTextDocument::DocumentTitle));
+    const ReportOnPaper report(html);
+    writer.setTitle(report.Title());
     writer.setCreator("muxhost");
-    document->print(&writer);
+    report.Print(writer);
   }
   return {bytes.begin(), bytes.end()};
 }

@@ -3,19 +3,19 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
-#include "muxhost/report/pdf.h"
+#include "muxhost/report/paper.h"
 
 namespace quorvel::muxhost {
 
 void PreviewReport(QWidget& window, const std::string& html) {
-  const auto document = DocumentOf(html);
+  const ReportOnPaper report(html);
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageLayout(PaperOfReports());
-  printer.setDocName(document->metaInformation(QTextDocument::DocumentTitle));
+  printer.setDocName(report.Title());
   QPrintPreviewDialog preview(&printer, &window);
   preview.setWindowTitle("Report");
   QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
-                   [&document](QPrinter* paper) { document->print(paper); });
+                   [&report](QPrinter* paper) { report.Print(*paper); });
   constexpr int kWidth = 900;
   constexpr int kHeight = 700;
   preview.resize(kWidth, kHeight);
