@@ -44,6 +44,9 @@ if(QUORVEL_APPS OR QUORVEL_TOOLS)
   quorvel_package(tools quorvel-tools utils ": tools"
     "quorvel, a command line for settings files, and muxhost, a host application with a
 simulated device" ${quorvel_libraries})
+  if(QUORVEL_QT)
+    set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS qt6-translations-l10n)
+  endif()
 endif()
 # The C interface, where it is built, comes with a library of its own.
 if(TARGET quorvel_c)

@@ -24,8 +24,8 @@ std::vector<BlockSetting> SettingsOf(const std::vector<Byte>& image) {
   }
 }
 
-std::string Line(const char* where, std::span<const Byte> bytes) {
-  return bytes.empty() ? std::string() : std::string(where) + ":\n" + HexBytes(bytes) + '\n';
+std::string Line(const std::string& where, std::span<const Byte> bytes) {
+  return bytes.empty() ? std::string() : where + "\n" + HexBytes(bytes) + '\n';
 }
 
 }  // namespace
@@ -46,18 +46,22 @@ BlockContents ContentsOf(const MainMenuCtrl& control, std::span<const Byte> devi
   return contents;
 }
 
-std::string InWords(const BlockContents& contents, bool has_device) {
+std::string InWords(const BlockContents& contents, bool has_device, const Speech& say) {
   const bool alike = contents.in_control == contents.in_device;
-  std::string text = alike
-                         ? Line(has_device ? "In control and device" : "In the control, as opened",
-                                contents.in_control)
-                         : Line("In the control", contents.in_control) +
-                               Line(has_device ? "In the device" : "As opened", contents.in_device);
+  std::string text;
+  if (alike) {
+    text = Line(has_device ? say("In control and device:") : say("In the control, as opened:"),
+                contents.in_control);
+  } else {
+    text = Line(say("In the control:"), contents.in_control) +
+           Line(has_device ? say("In the device:") : say("As opened:"), contents.in_device);
+  }
   for (const SettingLine& line : contents.settings) text += line.name + " = " + line.value + '\n';
   if (contents.in_control.empty()) {
-    text += "Its settings are known when the device's configuration has been downloaded.\n";
+    text +=
+        say("Its settings are known when the device's configuration has been downloaded.") + '\n';
   } else if (contents.settings.empty()) {
-    text += "No setting lives in it.\n";
+    text += say("No setting lives in it.") + '\n';
   }
   return text;
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "muxhost/texts/speech.h"
 #include "quorvel/byte.h"
 #include "quorvel/main_menu_ctrl.h"
 
@@ -22,6 +23,7 @@ struct BlockContents {
                                        int n);
 /// The same in lines of text: "In the control:", "01 02 ...", "AlarmMode = 2". Without a device,
 /// what stands in for it is what the control held at first: "As opened:".
-[[nodiscard]] std::string InWords(const BlockContents& contents, bool has_device = true);
+[[nodiscard]] std::string InWords(const BlockContents& contents, bool has_device = true,
+                                  const Speech& say = InEnglish);
 
 }  // namespace quorvel::muxhost

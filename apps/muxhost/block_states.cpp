@@ -4,6 +4,8 @@
 #include <array>
 #include <utility>
 
+#include "muxhost/texts/speech.h"
+
 namespace quorvel::muxhost {
 
 namespace {
@@ -20,9 +22,9 @@ std::optional<BlockState> StateOfSent(const Exchange& exchange, Byte block) {
 
 }  // namespace
 
-std::string_view NameOf(BlockState state) {
-  constexpr std::array<std::string_view, kBlockStates> kNames{"untouched", "changed", "sent",
-                                                              "verified", "failed"};
+const char* NameOf(BlockState state) {
+  constexpr std::array<const char*, kBlockStates> kNames{
+      ToSay("untouched"), ToSay("changed"), ToSay("sent"), ToSay("verified"), ToSay("failed")};
   return kNames.at(static_cast<std::size_t>(state));
 }
 

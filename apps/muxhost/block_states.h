@@ -3,7 +3,6 @@
 #include <map>
 #include <set>
 #include <span>
-#include <string_view>
 #include <vector>
 
 #include "muxhost/exchange.h"
@@ -20,8 +19,8 @@ enum class BlockState {
 };
 inline constexpr int kBlockStates = 5;
 
-/// "untouched", "changed", ...
-[[nodiscard]] std::string_view NameOf(BlockState state);
+/// "untouched", "changed", ...: in English, to be said in the user's language.
+[[nodiscard]] const char* NameOf(BlockState state);
 
 /// The state of every block, from what the control says of its changes and from what crosses the
 /// link.

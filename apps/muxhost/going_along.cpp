@@ -75,44 +75,44 @@ void TellClock(const MainMenuCtrl& control, const LocalTime& now, GoingAlong& al
 }
 
 /// Some models list the four fastest rates of a port, the others begin with the slowest.
-std::string RateInWords(const std::string& code, bool fast) {
+std::string RateInWords(const std::string& code, bool fast, const Speech& say) {
   constexpr std::array kRates = {"1200", "2400", "4800", "9600", "19200", "38400", "57600"};
   constexpr int kFastest = 3;
   const int place = ToNumber(code) + (fast ? kFastest : 0);
-  if (place < 0 || place >= static_cast<int>(kRates.size())) return "code " + code;
-  return std::string(kRates.at(static_cast<std::size_t>(place))) + " baud";
-}
-
-std::string FromTo(const std::string& what, const std::string& before, const std::string& now) {
-  return what + " from " + before + " to " + now;
+  if (place < 0 || place >= static_cast<int>(kRates.size())) {
+    return Fill(say("code %1"), {code});
+  }
+  return Fill(say("%1 baud"), {kRates.at(static_cast<std::size_t>(place))});
 }
 
 /// Nothing for another setting than those of the ports.
-std::optional<std::string> PortInWords(const SettingDifference& change, int model) {
+std::optional<std::string> PortInWords(const SettingDifference& change, int model,
+                                       const Speech& say) {
   const auto& [name, value, other, blocks] = change;
-  if (name == "NetworkAddr") return FromTo("the network address", other, value);
+  if (name == "NetworkAddr") {
+    return Fill(say("the network address from %1 to %2"), {other, value});
+  }
   const bool ppc = name == "BaudRatePPC";
   if (!ppc && name != "BaudRate") return std::nullopt;
   const bool fast = ppc && model < kFirstTriplexModel;
-  const std::string port = model == 0 ? "the RS232 port" : ppc ? "port 1" : "port 2";
-  return FromTo(port, RateInWords(other, fast), RateInWords(value, fast));
-}
-
-std::string Several(std::int64_t count, const char* unit) {
-  return std::to_string(count) + " " + unit + (count == 1 ? "" : "s");
+  const std::string port = model == 0 ? say("the RS232 port from %1 to %2")
+                           : ppc      ? say("port 1 from %1 to %2")
+                                      : say("port 2 from %1 to %2");
+  return Fill(port, {RateInWords(other, fast, say), RateInWords(value, fast, say)});
 }
 
 /// From two of a unit on it counts in that unit.
-std::string DurationInWords(std::int64_t seconds) {
-  constexpr std::array<std::pair<std::int64_t, const char*>, 5> kUnits = {{{365 * 86400, "year"},
-                                                                           {30 * 86400, "month"},
-                                                                           {86400, "day"},
-                                                                           {3600, "hour"},
-                                                                           {60, "minute"}}};
-  for (const auto& [length, unit] : kUnits) {
-    if (seconds >= 2 * length) return Several(seconds / length, unit);
+std::string DurationInWords(std::int64_t seconds, const Speech& say) {
+  const std::array<std::pair<std::int64_t, std::string>, 5> units = {
+      {{365 * 86400, say("%1 years")},
+       {30 * 86400, say("%1 months")},
+       {86400, say("%1 days")},
+       {3600, say("%1 hours")},
+       {60, say("%1 minutes")}}};
+  for (const auto& [length, unit] : units) {
+    if (seconds >= 2 * length) return Fill(unit, {std::to_string(seconds / length)});
   }
-  return Several(seconds, "second");
+  return Fill(seconds == 1 ? say("%1 second") : say("%1 seconds"), {std::to_string(seconds)});
 }
 
 std::int64_t Seconds(const LocalTime& at) {
@@ -125,7 +125,8 @@ std::int64_t Seconds(const LocalTime& at) {
 
 }  // namespace
 
-GoingAlong WhatGoesAlong(HostSession& session, bool all, bool macros, const LocalTime& now) {
+GoingAlong WhatGoesAlong(HostSession& session, bool all, bool macros, const LocalTime& now,
+                         const Speech& say) {
   GoingAlong along;
   const MainMenuCtrl& control = session.Control();
   const int model = session.Device().ModelCode();
@@ -140,7 +141,7 @@ GoingAlong WhatGoesAlong(HostSession& session, bool all, bool macros, const Loca
   const auto changes = control.DifferencesFrom(session.Device().Bytes());
   if (!changes) return along;
   for (const SettingDifference& change : *changes) {
-    auto words = PortInWords(change, model);
+    auto words = PortInWords(change, model, say);
     const bool goes = std::any_of(change.blocks.begin(), change.blocks.end(),
                                   [&](std::uint8_t block) { return Brings(control, all, block); });
     if (words && goes) along.ports.push_back(std::move(*words));
@@ -148,23 +149,25 @@ GoingAlong WhatGoesAlong(HostSession& session, bool all, bool macros, const Loca
   return along;
 }
 
-std::string ClockInWords(const std::optional<LocalTime>& clock, const LocalTime& now) {
-  const std::string goes = "The device's clock goes along: ";
-  if (!clock) return goes + "a time that no clock or calendar has.";
-  const std::int64_t behind = Seconds(now) - Seconds(*clock);
-  std::string distance = "as that of";
-  if (behind != 0) {
-    distance = DurationInWords(std::abs(behind)) + (behind < 0 ? " ahead of" : " behind");
+std::string ClockInWords(const std::optional<LocalTime>& clock, const LocalTime& now,
+                         const Speech& say) {
+  if (!clock) {
+    return say("The device's clock goes along: a time that no clock or calendar has.");
   }
-  return goes + DateText(clock->date) + " " +
-         TimeText(ClockFormat::kHoursMinutesSeconds, clock->time) + ", " + distance +
-         " this computer.";
+  const std::int64_t behind = Seconds(now) - Seconds(*clock);
+  const std::string sentence =
+      behind == 0  ? say("The device's clock goes along: %1, as that of this computer.")
+      : behind < 0 ? say("The device's clock goes along: %1, %2 ahead of this computer.")
+                   : say("The device's clock goes along: %1, %2 behind this computer.");
+  const std::string time =
+      DateText(clock->date) + " " + TimeText(ClockFormat::kHoursMinutesSeconds, clock->time);
+  return Fill(sentence, {time, DurationInWords(std::abs(behind), say)});
 }
 
-std::string PortsInWords(const std::vector<std::string>& ports) {
-  std::string words = "Ports change that the link may use: ";
+std::string PortsInWords(const std::vector<std::string>& ports, const Speech& say) {
+  std::string words;
   for (const std::string& port : ports) words += (&port == &ports.front() ? "" : ", ") + port;
-  return words + ".";
+  return Fill(say("Ports change that the link may use: %1."), {words});
 }
 
 }  // namespace quorvel::muxhost

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "muxhost/host_session.h"
+#include "muxhost/texts/speech.h"
 
 namespace quorvel::muxhost {
 
@@ -23,11 +24,13 @@ struct GoingAlong {
 /// What goes along with an upload of all blocks, or of the modified ones, with macros or without.
 /// `now` is this computer's time.
 [[nodiscard]] GoingAlong WhatGoesAlong(HostSession& session, bool all, bool macros,
-                                       const LocalTime& now);
+                                       const LocalTime& now, const Speech& say = InEnglish);
 
 /// "The device's clock goes along: 2026-11-23 10:42:07, 25 minutes behind this computer."
-[[nodiscard]] std::string ClockInWords(const std::optional<LocalTime>& clock, const LocalTime& now);
+[[nodiscard]] std::string ClockInWords(const std::optional<LocalTime>& clock, const LocalTime& now,
+                                       const Speech& say = InEnglish);
 /// "Ports change that the link may use: the network address from 3 to 5."
-[[nodiscard]] std::string PortsInWords(const std::vector<std::string>& ports);
+[[nodiscard]] std::string PortsInWords(const std::vector<std::string>& ports,
+                                       const Speech& say = InEnglish);
 
 }  // namespace quorvel::muxhost

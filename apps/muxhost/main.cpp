@@ -148,7 +148,8 @@ int main(int argc, char** argv) {
   const WindowOptions window(app, script_option);
   std::string language;
   app.add_option("--language", language,
-                 "Language of the component's texts: " + quorvel::muxhost::LanguageChoices() +
+                 "Language of the component's texts and of the window: " +
+                     quorvel::muxhost::LanguageChoices() +
                      "; the window's is that of the system, else it is en, unless said")
       ->type_name("LANGUAGE");
   app.set_version_flag("--version", "muxhost " + std::string(quorvel::Version()));

@@ -63,9 +63,4 @@ std::string InWords(const SettingRow& row, std::optional<std::string_view> in_fi
          (row.differs_from_device ? ", changed)" : ")");
 }
 
-std::string DiffersFrom(const SettingRow& row) {
-  if (!row.differs_from_device) return row.differs_from_factory ? "factory" : "";
-  return row.differs_from_factory ? "device, factory" : "device";
-}
-
 }  // namespace quorvel::muxhost

@@ -25,7 +25,5 @@ namespace quorvel::muxhost {
 [[nodiscard]] std::string InWords(const ReviewLine& line);
 /// The same of a setting and what it holds, or of how it differs from what a file has.
 [[nodiscard]] std::string InWords(const SettingRow& row, std::optional<std::string_view> in_file);
-/// What a setting differs from: "device", "device, factory"; empty for nothing.
-[[nodiscard]] std::string DiffersFrom(const SettingRow& row);
 
 }  // namespace quorvel::muxhost

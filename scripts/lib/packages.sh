@@ -28,7 +28,7 @@ install_missing() {
 # where public headers are concerned. The fuzz targets need the sanitizers of the second, a package
 # that it only recommends, and llvm, which names the lines of a failure.
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev libgl-dev)
-RUN_PACKAGES=(fonts-dejavu-core)
+RUN_PACKAGES=(fonts-dejavu-core qt6-translations-l10n)
 TEST_PACKAGES=(libgtest-dev clang clang-19 clang-format pkg-config python3-pip abigail-tools)
 FUZZ_PACKAGES=(clang libclang-rt-dev llvm cmake ninja-build)
 # What Debian packages are made with, and the bare system in which they are tried out.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+
 #include "muxhost/host_session.h"
 #include "quorvel/headless_platform.h"
 
@@ -22,7 +24,7 @@ TEST(BlockStates, FollowAnUploadAndWhatIsEditedAfterIt) {
   const auto shown = [&states] {
     std::string text;
     for (const int block : {2, 3, 4, 5}) {
-      text += NameOf(states.Of(static_cast<Byte>(block))).substr(0, 2);
+      text += std::string_view(NameOf(states.Of(static_cast<Byte>(block)))).substr(0, 2);
     }
     return text;
   };

@@ -11,6 +11,7 @@
 #include "muxhost/gallery/album.h"
 #include "muxhost/gallery/texts.h"
 #include "muxhost/gallery/tour.h"
+#include "muxhost/window/window_language.h"
 #include "quorvel/widget_page.h"
 
 namespace quorvel::muxhost {
@@ -114,8 +115,9 @@ void DrawGallery(int argc, char** argv, const std::string& folder, const Look& l
   if (look.dark) QApplication::setPalette(DarkPalette());
   const QDir pictures(
       QDir(QString::fromStdString(folder)).filePath(QString::fromStdString(look.name)));
-  DrawWidgetPage(pictures.filePath("widgets"), look);
   const auto texts = look.long_texts ? LongTexts(language) : language;
+  const WindowLanguage spoken(texts);
+  DrawWidgetPage(pictures.filePath("widgets"), look);
   for (const auto& [name, device] : kDevices) {
     Album album(pictures.filePath(name));
     Tour(album, device, texts).Go();

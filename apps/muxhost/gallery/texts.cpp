@@ -65,8 +65,10 @@ void MakeLonger(Dialog& dialog) {
 std::shared_ptr<const Language> LongTexts(const std::shared_ptr<const Language>& language) {
   auto longer = std::make_shared<Language>();
   for (const BuiltInEntry& entry : BuiltInTexts()) longer->texts[entry.id] = Longer(entry.english);
+  for (const std::string& text : WindowTexts()) longer->window[text] = Longer(text);
   if (language == nullptr) return longer;
   for (const auto& [id, text] : language->texts) longer->texts[id] = Longer(text);
+  for (const auto& [english, text] : language->window) longer->window[english] = Longer(text);
   return longer;
 }
 

@@ -14,6 +14,7 @@
 
 #include "muxhost/texts/languages.h"
 #include "muxhost/window/review_box.h"
+#include "muxhost/window/tr.h"
 
 namespace quorvel::muxhost {
 
@@ -76,7 +77,7 @@ void Tour::Connect(const TourDevice& device) {
   if (variant == nullptr) throw std::runtime_error("no box for the variant");
   variant->setText(device.variant);
   for (QPushButton* const button : window_.findChildren<QPushButton*>()) {
-    if (button->text() == "Connect") button->click();
+    if (button->text() == Tr("Connect")) button->click();
   }
   if (session_.Device().ModelCode() != device.model) throw std::runtime_error("not connected");
 }

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <map>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "muxhost/report/html.h"
@@ -48,8 +49,11 @@ Rows TakeAlike(Rows& rows, Alike alike) {
 
 class Report {
  public:
-  explicit Report(MainMenuCtrl& control)
-      : control_(control), settings_(control.AllSettings()), changes_(control.Review()) {
+  Report(MainMenuCtrl& control, Speech say)
+      : control_(control),
+        say_(std::move(say)),
+        settings_(control.AllSettings()),
+        changes_(control.Review()) {
     for (const ReviewLine& line : changes_) was_[Place(line.at, line.settings)] = line.old_value;
   }
 
@@ -59,9 +63,10 @@ class Report {
     const auto device = files::DeviceOf(parts);
     const std::string name = device ? device->name : "";
     html_.Raw("<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n");
-    html_.Element("title", "Settings of " + name);
+    const std::string title = Fill(say_("Settings of %1"), {name});
+    html_.Element("title", title);
     html_.Raw(std::string("<style>") + kStyle + "</style>\n</head>\n<body>\n");
-    html_.Element("h1", "Settings of " + name);
+    html_.Element("h1", title);
     WriteHead(head, parts);
     WriteContents();
     WriteChanges();
@@ -82,15 +87,18 @@ class Report {
     const auto device = files::DeviceOf(parts);
     html_.Open("table");
     if (device) {
-      Fact("Model", files::ModelInWords(device->model));
-      Fact("Cameras", std::to_string(device->cameras));
+      Fact(say_("Model"), files::ModelInWords(device->model));
+      Fact(say_("Cameras"), std::to_string(device->cameras));
     }
-    if (const auto variant = files::VariantOf(parts)) Fact("Variant", *variant);
-    Fact("Blocks", std::to_string(parts.image.size() / kBlockSize));
-    Fact("From", head.source);
-    Fact("Report of",
+    if (const auto variant = files::VariantOf(parts)) Fact(say_("Variant"), *variant);
+    Fact(say_("Blocks"), std::to_string(parts.image.size() / kBlockSize));
+    Fact(say_("From"), head.source);
+    Fact(say_("Report of"),
          DateText(head.made.date) + " " + TimeText(ClockFormat::kHoursMinutes, head.made.time));
-    Fact("Changed", changes_.empty() ? "nothing" : std::to_string(changes_.size()) + " settings");
+    const std::string count = std::to_string(changes_.size());
+    Fact(say_("Changed"), changes_.empty()       ? say_("nothing")
+                          : changes_.size() == 1 ? say_("1 setting")
+                                                 : Fill(say_("%1 settings"), {count}));
     html_.Close("table");
   }
 
@@ -104,8 +112,8 @@ class Report {
       }));
     }
   }
-  static std::string NameOf(const SettingRow& row) {
-    return row.at.item.empty() ? "Settings that no window shows" : row.at.editor;
+  [[nodiscard]] std::string NameOf(const SettingRow& row) const {
+    return row.at.item.empty() ? say_("Settings that no window shows") : row.at.editor;
   }
   void WriteContents() {
     int number = 0;
@@ -114,24 +122,25 @@ class Report {
       html_.Link(text, anchor);
       html_.Raw("&nbsp; ");
     };
-    if (!changes_.empty()) link("What was changed", "changes");
+    if (!changes_.empty()) link(say_("What was changed"), "changes");
     ForEachEditor(
         [&](Rows rows) { link(NameOf(rows.front()), "editor" + std::to_string(++number)); });
-    link("Blocks", "blocks");
+    link(say_("Blocks"), "blocks");
     html_.Close("p");
   }
 
   void WriteChanges() {
     if (changes_.empty()) return;
-    html_.Heading("h2", "What was changed", "changes");
+    html_.Heading("h2", say_("What was changed"), "changes");
     html_.Open("table");
-    Header({"Where", "Was", "Is", "Blocks"});
+    Header({say_("Where"), say_("Was"), say_("Is"), say_("Blocks")});
     for (const ReviewLine& line : changes_) {
       html_.Open("tr");
       html_.Element("td", Place(line.at, line.settings));
       html_.Element("td", line.old_value);
       html_.Element("td", kChanged + line.new_value, "changed");
-      html_.Element("td", BlocksInWords(line.blocks));
+      html_.Element("td", Fill(line.blocks.size() == 1 ? say_("block %1") : say_("blocks %1"),
+                               {Numbers(line.blocks)}));
       html_.Close("tr");
     }
     html_.Close("table");
@@ -207,7 +216,9 @@ class Report {
     html_.Open("td", "changed");
     html_.Text(kChanged + row->value);
     html_.Raw("<br>");
-    html_.Element("span", "was " + (was->second.empty() ? "empty" : was->second), "was");
+    html_.Element("span",
+                  was->second.empty() ? say_("was empty") : Fill(say_("was %1"), {was->second}),
+                  "was");
     html_.Close("td");
   }
 
@@ -217,9 +228,9 @@ class Report {
       for (const std::uint8_t block : setting.blocks) names[block].push_back(setting.name);
     }
     const auto modified = control_.ModifiedBlocks();
-    html_.Heading("h2", "Blocks", "blocks");
+    html_.Heading("h2", say_("Blocks"), "blocks");
     html_.Open("table");
-    Header({"Block", "Bytes", "Settings"});
+    Header({say_("Block"), say_("Bytes"), say_("Settings")});
     for (std::size_t at = 0; at + kBlockSize <= image.size(); at += kBlockSize) {
       const auto number = static_cast<int>(at / kBlockSize) + 1;
       const bool listed = std::ranges::find(modified, number) != modified.end();
@@ -238,6 +249,7 @@ class Report {
   }
 
   MainMenuCtrl& control_;
+  Speech say_;
   std::vector<SettingRow> settings_;
   std::vector<ReviewLine> changes_;
   std::map<std::string, std::string> was_;  ///< by place
@@ -248,7 +260,7 @@ class Report {
 
 std::string HtmlReport(MainMenuCtrl& control, const ReportHead& head) {
   if (control.Image().empty()) return {};
-  return Report(control).Write(head);
+  return Report(control, head.say).Write(head);
 }
 
 }  // namespace quorvel::muxhost

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "muxhost/texts/speech.h"
 #include "quorvel/clock_time.h"
 #include "quorvel/main_menu_ctrl.h"
 
@@ -11,6 +12,7 @@ namespace quorvel::muxhost {
 struct ReportHead {
   std::string source;  ///< where the configuration is from, in words
   LocalTime made;
+  Speech say = InEnglish;
 };
 
 /// A configuration on paper: HTML that needs nothing beside it. First whose it is and what was

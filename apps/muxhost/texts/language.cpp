@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "muxhost/script/report.h"
+#include "muxhost/texts/built_in_languages.h"
 #include "quorvel/texts.h"
 
 namespace quorvel::muxhost {
@@ -56,10 +57,25 @@ const char* Flaw(std::string_view english, std::string_view text) {
   if (Placeholders(english) != Placeholders(text)) return "has other placeholders";
   if (differ('\r')) return "has other line breaks";
   if (controls(english) != controls(text)) return "has a control character";
-  if (differ('&')) return "has other mnemonics";
   if (english.starts_with(' ') != text.starts_with(' ')) return "begins otherwise with a blank";
   if (english.ends_with(' ') != text.ends_with(' ')) return "ends otherwise with a blank";
   return nullptr;
+}
+
+/// The component's texts have the mnemonics that their places are made for.
+const char* FlawInText(std::string_view english, std::string_view text) {
+  const char* const flaw = Flaw(english, text);
+  if (flaw != nullptr) return flaw;
+  const bool same = std::ranges::count(english, '&') == std::ranges::count(text, '&');
+  return same ? nullptr : "has other mnemonics";
+}
+
+/// In the window a mnemonic may be left out, for want of a letter that is free.
+const char* FlawInWindow(std::string_view english, std::string_view text) {
+  const char* const flaw = Flaw(english, text);
+  if (flaw != nullptr) return flaw;
+  const bool more = std::ranges::count(text, '&') > std::ranges::count(english, '&');
+  return more ? "has a mnemonic too many" : nullptr;
 }
 
 const BuiltInEntry* Find(std::string_view key) {
@@ -80,7 +96,7 @@ void Take(Language& language, std::set<int>& missing, const std::string& key, co
   }
   missing.erase(entry->id);
   const auto* const text = value.get_ptr<const std::string*>();
-  const char* const flaw = text == nullptr ? "is no text" : Flaw(entry->english, *text);
+  const char* const flaw = text == nullptr ? "is no text" : FlawInText(entry->english, *text);
   if (flaw == nullptr) {
     language.texts.insert_or_assign(entry->id, *text);
   } else {
@@ -88,7 +104,43 @@ void Take(Language& language, std::set<int>& missing, const std::string& key, co
   }
 }
 
+void TakeWindow(Language& language, const Json& window) {
+  std::set<std::string, std::less<>> missing = WindowTexts();
+  for (const auto& [english, value] : window.items()) {
+    if (!WindowTexts().contains(english)) {
+      language.findings.push_back("the window has no text \"" + english + "\": it is passed over");
+      continue;
+    }
+    missing.erase(english);
+    const auto* const text = value.get_ptr<const std::string*>();
+    const char* const flaw = text == nullptr ? "is no text" : FlawInWindow(english, *text);
+    if (flaw == nullptr) {
+      language.window.insert_or_assign(english, *text);
+    } else {
+      language.findings.push_back("the window's text for \"" + english + "\" " + flaw +
+                                  ": the English one is shown");
+    }
+  }
+  if (missing.empty()) return;
+  language.findings.push_back("missing texts of the window: " + std::to_string(missing.size()) +
+                              ", such as \"" + *missing.begin() + "\"; the English ones are shown");
+}
+
 }  // namespace
+
+const std::set<std::string, std::less<>>& WindowTexts() {
+  // Each of the files that are part of the program has them all.
+  static const auto texts = [] {
+    std::set<std::string, std::less<>> keys;
+    if (BuiltInLanguages().empty()) return keys;
+    const Json file = Json::parse(BuiltInLanguages().front().json, nullptr, false);
+    const auto window = file.find("window");
+    if (window == file.end()) return keys;
+    for (const auto& [english, text] : window->items()) keys.insert(english);
+    return keys;
+  }();
+  return texts;
+}
 
 Language ReadLanguage(std::string_view json) {
   const Json file = Json::parse(ValidUtf8(json), nullptr, false);
@@ -100,6 +152,8 @@ Language ReadLanguage(std::string_view json) {
     throw std::runtime_error(R"(no {"language": "NAME", "texts": {"ID": "TEXT", ...}})");
   }
   Language language{name->get<std::string>(), {}, {}};
+  const auto code = file.find("code");
+  if (code != file.end() && code->is_string()) language.code = code->get<std::string>();
   std::set<int> missing;
   for (const BuiltInEntry& entry : BuiltInTexts()) missing.insert(entry.id);
   for (const auto& [key, value] : texts->items()) Take(language, missing, key, value);
@@ -108,6 +162,8 @@ Language ReadLanguage(std::string_view json) {
     language.findings.push_back("missing texts: " + AbbreviateRuns(ids) +
                                 "; the English ones are shown");
   }
+  const auto window = file.find("window");
+  if (window != file.end() && window->is_object()) TakeWindow(language, *window);
   return language;
 }
 

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QVBoxLayout>
 
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 #include "quorvel/settings_file.h"
 
@@ -28,19 +29,19 @@ BackupDialog::BackupDialog(HostSession& session, QWidget* parent)
     : QDialog(parent), reader_(session.NewReader()), progress_(new QProgressBar) {
   constexpr int kPatience = 3000;
   setObjectName("Backup");
-  setWindowTitle("Backup");
+  setWindowTitle(Tr("Backup"));
   auto* const column = new QVBoxLayout(this);
-  column->addWidget(new QLabel("The device's configuration is read, to be kept in a file."));
+  column->addWidget(new QLabel(Tr("The device's configuration is read, to be kept in a file.")));
   column->addWidget(progress_);
-  auto* const cancel = new QPushButton("Cancel");
-  cancel->setToolTip("Neither a backup nor the upload");
+  auto* const cancel = new QPushButton(Tr("Cancel"));
+  cancel->setToolTip(Tr("Neither a backup nor the upload"));
   column->addWidget(cancel, 0, Qt::AlignRight);
   QObject::connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
   progress_->setRange(0, 0);
   patience_.setSingleShot(true);
   patience_.setInterval(kPatience + session.Settings().latency_ms);
   QObject::connect(&patience_, &QTimer::timeout, this,
-                   [this] { Fail("the device has not answered"); });
+                   [this] { Fail(Tr("the device has not answered")); });
   reader_->on_progress = [this](int blocks, int of) {
     progress_->setRange(0, of);
     progress_->setValue(blocks);
@@ -50,7 +51,9 @@ BackupDialog::BackupDialog(HostSession& session, QWidget* parent)
     bytes_ = bytes;
     accept();
   };
-  reader_->on_failed = [this](const std::string& reason) { Fail(QString::fromStdString(reason)); };
+  reader_->on_failed = [this](const std::string& reason) {
+    Fail(Reason(QString::fromStdString(reason)));
+  };
 }
 
 std::optional<std::vector<Byte>> BackupDialog::Read() {
@@ -72,10 +75,10 @@ BackupResult BackUpDevice(QtPlatform& platform, HostSession& session, const QStr
   using Outcome = BackupResult::Outcome;
   BackupDialog dialog(session, window);
   const auto bytes = dialog.Read();
-  if (dialog.Cancelled()) return {Outcome::kCancelled, "cancelled"};
+  if (dialog.Cancelled()) return {Outcome::kCancelled, {}};
   if (!bytes) return {Outcome::kFailed, dialog.Failure()};
   if (!QDir().mkpath(folder)) {
-    return {Outcome::kFailed, QString("the folder %1 cannot be made").arg(folder)};
+    return {Outcome::kFailed, Tr("the folder %1 cannot be made").arg(folder)};
   }
   const QString file = NewFileIn(QDir(folder), NameOf(session.Device(), platform));
   try {
@@ -85,7 +88,7 @@ BackupResult BackUpDevice(QtPlatform& platform, HostSession& session, const QStr
   }
   const bool restorable = bytes->size() < kRestoreLimit;
   return {restorable ? Outcome::kWritten : Outcome::kTooLongToRestore,
-          QString("%1 bytes in %2").arg(bytes->size()).arg(file)};
+          Tr("%1 bytes in %2").arg(bytes->size()).arg(file)};
 }
 
 }  // namespace quorvel::muxhost

@@ -6,22 +6,24 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include "muxhost/window/tr.h"
+
 namespace quorvel::muxhost {
 
 BackupBox::BackupBox(QWidget* parent)
-    : QGroupBox("Before each upload", parent),
-      review_(new QCheckBox("Show what goes")),
-      wanted_(new QCheckBox("Back up the device")),
+    : QGroupBox(Tr("Before each upload"), parent),
+      review_(new QCheckBox(Tr("Show what goes"))),
+      wanted_(new QCheckBox(Tr("Back up the device"))),
       folder_(new QLineEdit),
-      change_(new QPushButton("Folder...")) {
+      change_(new QPushButton(Tr("Folder..."))) {
   review_->setChecked(true);
   review_->setToolTip(
-      "Lists the changes, in the words of the editors, and lets you take them back");
+      Tr("Lists the changes, in the words of the editors, and lets you take them back"));
   wanted_->setChecked(true);
-  wanted_->setToolTip("Restore file brings a backup back");
+  wanted_->setToolTip(Tr("Restore file brings a backup back"));
   folder_->setReadOnly(true);
-  folder_->setAccessibleName("Backup folder");
-  change_->setToolTip("Chooses where backups are kept");
+  folder_->setAccessibleName(Tr("Backup folder"));
+  change_->setToolTip(Tr("Chooses where backups are kept"));
   auto* const column = new QVBoxLayout(this);
   column->addWidget(review_);
   column->addWidget(wanted_);
@@ -42,7 +44,7 @@ void BackupBox::SetFolder(const QString& folder) {
 
 void BackupBox::AskForFolder() {
   const QString folder =
-      QFileDialog::getExistingDirectory(window(), "Where backups are kept", Folder());
+      QFileDialog::getExistingDirectory(window(), Tr("Where backups are kept"), Folder());
   if (!folder.isEmpty()) SetFolder(folder);
 }
 

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "muxhost/block_contents.h"
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -39,7 +40,7 @@ class Swatch : public QWidget {
 }  // namespace
 
 BlockGrid::BlockGrid(QWidget* parent) : QListView(parent) {
-  setAccessibleName("Blocks");
+  setAccessibleName(Tr("Blocks"));
   setFlow(LeftToRight);
   setWrapping(true);
   setResizeMode(Adjust);
@@ -100,7 +101,7 @@ BlockMapBox::BlockMapBox(HostSession& session, QWidget* parent)
     if (!grid_->hasFocus() && !grid_->underMouse()) grid_->scrollTo(cell);
   });
   contents_->setReadOnly(true);
-  contents_->setAccessibleName("What the block holds");
+  contents_->setAccessibleName(Tr("What the block holds"));
   contents_->setTabChangesFocus(true);
   auto* const row = new QHBoxLayout(this);
   row->addWidget(grid_, 1);
@@ -132,7 +133,11 @@ void BlockMapBox::Measure() {
   contents_->setFont(fixed);
   contents_->setMinimumHeight(3 * fontMetrics().lineSpacing());
   // Counts that grow move nothing.
-  const int width = fontMetrics().horizontalAdvance("untouched: 255 ");
+  int width = 0;
+  for (int i = 0; i < kBlockStates; ++i) {
+    const QString widest = Tr("%1: %2").arg(InWords(static_cast<BlockState>(i)), "255 ");
+    width = std::max(width, fontMetrics().horizontalAdvance(widest));
+  }
   for (QLabel* const count : counts_) count->setMinimumWidth(width);
 }
 
@@ -222,10 +227,12 @@ void BlockMapBox::Look(int block) {
 
 void BlockMapBox::ShowContents() {
   contents_are_old_ = false;
+  const QVariant state = model_->index(looked_at_ - 1).data(BlockModel::kStateRole);
   contents_box_->setTitle(
-      model_->index(looked_at_ - 1).data(Qt::AccessibleTextRole).toString().replace(",", ":"));
+      Tr("Block %1: %2").arg(looked_at_).arg(InWords(static_cast<BlockState>(state.toInt()))));
   const auto contents = ContentsOf(session_.Control(), session_.Device().Bytes(), looked_at_);
-  const QString text = QString::fromStdString(InWords(contents, session_.HasDevice())).trimmed();
+  const QString text =
+      QString::fromStdString(InWords(contents, session_.HasDevice(), Say)).trimmed();
   if (text == contents_->toPlainText()) return;
   contents_->setPlainText(text);
 }
@@ -237,12 +244,11 @@ void BlockMapBox::ShowCounts() {
     ++counts.at(state);
   }
   for (std::size_t i = 0; i < counts.size(); ++i) {
-    counts_.at(i)->setText(
-        QString("%1: %2").arg(InWords(static_cast<BlockState>(i))).arg(counts.at(i)));
+    counts_.at(i)->setText(Tr("%1: %2").arg(InWords(static_cast<BlockState>(i))).arg(counts.at(i)));
   }
   const auto unwritten = states_.Unwritten().size();
-  setTitle(unwritten == 0 ? QString("Blocks: none modified")
-                          : QString("Blocks: %1 modified, not yet in the device").arg(unwritten));
+  setTitle(unwritten == 0 ? Tr("Blocks: none modified")
+                          : Tr("Blocks: %1 modified, not yet in the device").arg(unwritten));
 }
 
 }  // namespace quorvel::muxhost

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -101,7 +102,7 @@ QVariant BlockModel::data(const QModelIndex& cell, int role) const {
   switch (role) {
     case kStateRole: return static_cast<int>(state);
     case Qt::DisplayRole: return number;
-    case Qt::AccessibleTextRole: return QString("Block %1, %2").arg(number).arg(InWords(state));
+    case Qt::AccessibleTextRole: return Tr("Block %1, %2").arg(number).arg(InWords(state));
     default: return {};
   }
 }

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "muxhost/window/tr.h"
+
 namespace quorvel::muxhost {
 
 namespace {
@@ -24,15 +26,21 @@ struct CommandButton {
 // By Command. Beside an editor the menu opens, and files are saved; what replaces the data, or
 // edits the same, needs it closed.
 constexpr CommandButton kButtons[] = {
-    {"Download", "Reads the device's configuration", true, true, false, true, 0, 0},
-    {"Menu", "Opens the configuration menu with its editors", false, false, true, false, 0, 1},
-    {"Zones", "Opens the editor of the cameras' active zones", false, false, true, true, 0, 2},
-    {"Upload modified", "Writes the modified blocks to the device", false, true, true, true, 1, 0},
-    {"Upload all", "Writes the whole configuration to the device", false, true, true, true, 1, 1},
-    {"Save file", "Saves the configuration, with its changes, in a file", false, false, true, false,
-     2, 0},
-    {"Restore file", "Takes the configuration from a file", true, false, false, true, 2, 1},
-    {"Defaults", "Takes the factory defaults for the device", true, true, false, true, 2, 2},
+    {ToSay("Download"), ToSay("Reads the device's configuration"), true, true, false, true, 0, 0},
+    {ToSay("Menu"), ToSay("Opens the configuration menu with its editors"), false, false, true,
+     false, 0, 1},
+    {ToSay("Zones"), ToSay("Opens the editor of the cameras' active zones"), false, false, true,
+     true, 0, 2},
+    {ToSay("Upload modified"), ToSay("Writes the modified blocks to the device"), false, true, true,
+     true, 1, 0},
+    {ToSay("Upload all"), ToSay("Writes the whole configuration to the device"), false, true, true,
+     true, 1, 1},
+    {ToSay("Save file"), ToSay("Saves the configuration, with its changes, in a file"), false,
+     false, true, false, 2, 0},
+    {ToSay("Restore file"), ToSay("Takes the configuration from a file"), true, false, false, true,
+     2, 1},
+    {ToSay("Defaults"), ToSay("Takes the factory defaults for the device"), true, true, false, true,
+     2, 2},
 };
 
 QString WhyNot(const CommandButton& about, const CommandBox::State& state) {
@@ -40,19 +48,19 @@ QString WhyNot(const CommandButton& about, const CommandBox::State& state) {
     const QString busy = CommandBox::Busy(state);
     if (!busy.isEmpty()) return busy;
   }
-  if (about.needs_device && !state.has_device) return "Connect a device first (at the left)";
+  if (about.needs_device && !state.has_device) return Tr("Connect a device first (at the left)");
   if (about.needs_link && state.has_device && !state.link_on)
-    return "The link to the device is off";
-  if (about.needs_data && !state.loaded) return "Download the device's configuration first";
+    return Tr("The link to the device is off");
+  if (about.needs_data && !state.loaded) return Tr("Download the device's configuration first");
   return {};
 }
 
 }  // namespace
 
 CommandBox::CommandBox(QWidget* parent)
-    : QGroupBox("Control", parent),
+    : QGroupBox(Tr("Control"), parent),
       surface_place_(new QVBoxLayout),
-      with_macros_(new QCheckBox("with macros")) {
+      with_macros_(new QCheckBox(Tr("with macros"))) {
   static_assert(std::size(kButtons) == kCommands);
   constexpr int kMacrosRow = 1;
   constexpr int kMacrosColumn = 2;
@@ -64,13 +72,13 @@ CommandBox::CommandBox(QWidget* parent)
   auto* const grid = new QGridLayout;
   for (std::size_t i = 0; i < kCommands; ++i) {
     const CommandButton& about = kButtons[i];
-    QPushButton* const button = buttons_.at(i) = new QPushButton(about.text);
+    QPushButton* const button = buttons_.at(i) = new QPushButton(Tr(about.text));
     button->setAutoDefault(true);
     grid->addWidget(button, about.row, about.column);
     QObject::connect(button, &QPushButton::clicked, this,
                      [this, command = static_cast<Command>(i)] { on_command(command); });
   }
-  with_macros_->setToolTip("An upload brings the macro data, too");
+  with_macros_->setToolTip(Tr("An upload brings the macro data, too"));
   grid->addWidget(with_macros_, kMacrosRow, kMacrosColumn);
   row->addLayout(grid);
   row->addStretch();
@@ -79,9 +87,9 @@ CommandBox::CommandBox(QWidget* parent)
 }
 
 QString CommandBox::Busy(const State& state) {
-  if (state.locked) return "Finish the transfer or the question that is open first";
-  if (state.waiting) return "Waiting for the device";
-  return state.others_open ? "Close the other windows first" : "";
+  if (state.locked) return Tr("Finish the transfer or the question that is open first");
+  if (state.waiting) return Tr("Waiting for the device");
+  return state.others_open ? Tr("Close the other windows first") : QString();
 }
 
 void CommandBox::Show(const State& state) {
@@ -93,10 +101,10 @@ void CommandBox::Show(const State& state) {
     QString why_not = WhyNot(kButtons[i], state);
     if (why_not.isEmpty() && static_cast<Command>(i) == Command::kUploadModified &&
         !state.modified) {
-      why_not = "No block is listed as modified; Upload all writes everything";
+      why_not = Tr("No block is listed as modified; Upload all writes everything");
     }
     buttons_.at(i)->setEnabled(why_not.isEmpty());
-    buttons_.at(i)->setToolTip(why_not.isEmpty() ? kButtons[i].tool_tip : why_not);
+    buttons_.at(i)->setToolTip(why_not.isEmpty() ? Tr(kButtons[i].tool_tip) : why_not);
   }
   with_macros_->setEnabled(ButtonOf(Command::kUploadAll)->isEnabled());
   MarkNext(state.next, had_focus);

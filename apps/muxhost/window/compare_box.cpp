@@ -9,13 +9,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "muxhost/window/tr.h"
+
 namespace quorvel::muxhost {
 
 namespace {
 
 QString Heading(const QString& what, std::size_t count) {
-  if (count == 0) return what + ": no differences.";
-  return QString("%1: %2 difference%3.").arg(what).arg(count).arg(count == 1 ? "" : "s");
+  if (count == 0) return Tr("%1: no differences.").arg(what);
+  return Tr(count, "%1: %2 difference.", "%1: %2 differences.").arg(what).arg(count);
 }
 
 }  // namespace
@@ -25,7 +27,7 @@ CompareBox::CompareBox(const QString& what, const Comparison& comparison, QWidge
   constexpr int kWidth = 640;
   constexpr int kHeight = 420;
   setObjectName("Comparison");
-  setWindowTitle("Compare");
+  setWindowTitle(Tr("Compare"));
   auto* const column = new QVBoxLayout(this);
   auto* const heading = new QLabel(Heading(what, comparison.lines.size()));
   heading->setTextFormat(Qt::PlainText);
@@ -38,11 +40,11 @@ CompareBox::CompareBox(const QString& what, const Comparison& comparison, QWidge
   lines->setLineWrapMode(QPlainTextEdit::NoWrap);
   lines->setTabChangesFocus(true);
   lines->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  lines->setAccessibleName("Differences");
+  lines->setAccessibleName(Tr("Differences"));
   column->addWidget(lines, 1);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-  QPushButton* const copy = buttons->addButton("C&opy", QDialogButtonBox::ActionRole);
-  copy->setToolTip("Puts all lines into the clipboard");
+  QPushButton* const copy = buttons->addButton(Tr("C&opy"), QDialogButtonBox::ActionRole);
+  copy->setToolTip(Tr("Puts all lines into the clipboard"));
   copy->setEnabled(!text.isEmpty());
   QObject::connect(copy, &QPushButton::clicked, this,
                    [text] { QGuiApplication::clipboard()->setText(text); });

@@ -6,6 +6,7 @@
 #include <QRegularExpressionValidator>
 #include <cmath>
 
+#include "muxhost/window/tr.h"
 #include "quorvel/identity.h"
 
 namespace quorvel::muxhost {
@@ -15,11 +16,12 @@ namespace {
 constexpr int kMostBlocks = 255;
 constexpr int kNameLength = 14;
 constexpr int kMinorsAMajor = 100;
+const QString kExchange = "exchange";
 
 }  // namespace
 
 DevicePicker::DevicePicker(const Platform& platform, QWidget* parent)
-    : QGroupBox("Simulated device", parent),
+    : QGroupBox(Tr("Simulated device"), parent),
       platform_(platform),
       model_(new QComboBox(this)),
       cameras_(new QComboBox(this)),
@@ -32,7 +34,7 @@ DevicePicker::DevicePicker(const Platform& platform, QWidget* parent)
       firmware_(new QDoubleSpinBox(this)),
       macro_row_(MakeMacroRow()),
       form_(new QFormLayout(this)),
-      connect_(new QPushButton("Connect", this)) {
+      connect_(new QPushButton(Tr("Connect"), this)) {
   const DeviceSetup usual;
   for (int code = 0; !ModelText(code).empty(); ++code) {
     const std::string text(ModelText(code));
@@ -42,14 +44,15 @@ DevicePicker::DevicePicker(const Platform& platform, QWidget* parent)
   for (const int count : {4, 9, 10, 16}) cameras_->addItem(QString::number(count), count);
   cameras_->setCurrentIndex(cameras_->findData(usual.cameras));
   blocks_->setRange(0, kMostBlocks);
-  blocks_->setSpecialValueText("as usual for the model");
+  blocks_->setSpecialValueText(Tr("as usual for the model"));
   variant_->setValidator(new QRegularExpressionValidator(QRegularExpression("[!-~]?"), variant_));
   variant_->setObjectName("variant");
-  variant_->setPlaceholderText("as from the factory");
+  variant_->setPlaceholderText(Tr("as from the factory"));
   name_->setObjectName("name");
   name_->setMaxLength(kNameLength);
-  name_->setPlaceholderText("as from the factory");
-  exchange_->addItems({"Single blocks", "Combined array"});
+  name_->setPlaceholderText(Tr("as from the factory"));
+  exchange_->addItem(Tr("Single blocks"), "Single blocks");
+  exchange_->addItem(Tr("Combined array"), "Combined array");
   const CombinedSetup usual_combined;
   firmware_->setLocale(QLocale::c());
   firmware_->setRange(0, 255.99);
@@ -57,14 +60,14 @@ DevicePicker::DevicePicker(const Platform& platform, QWidget* parent)
   firmware_->setValue(usual_combined.firmware_major +
                       static_cast<double>(usual_combined.firmware_minor) / kMinorsAMajor);
 
-  form_->addRow("Model", model_);
-  form_->addRow("Cameras", cameras_);
-  form_->addRow("Blocks", blocks_);
-  form_->addRow("Variant", variant_);
-  form_->addRow("Name", name_);
-  form_->addRow("Exchange", exchange_);
-  form_->addRow("Macros", macro_row_);
-  form_->addRow("Firmware", firmware_);
+  form_->addRow(Tr("Model"), model_);
+  form_->addRow(Tr("Cameras"), cameras_);
+  form_->addRow(Tr("Blocks"), blocks_);
+  form_->addRow(Tr("Variant"), variant_);
+  form_->addRow(Tr("Name"), name_);
+  form_->addRow(Tr("Exchange"), exchange_);
+  form_->addRow(Tr("Macros"), macro_row_);
+  form_->addRow(Tr("Firmware"), firmware_);
   form_->addRow(connect_);
   QWidget* const order[] = {exchange_, macros_, macro_size_, firmware_, connect_};
   for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
@@ -80,11 +83,11 @@ QWidget* DevicePicker::MakeMacroRow() {
   constexpr int kMacroSize = 64;
   macros_->setRange(0, kMostMacros);
   macros_->setValue(kMacros);
-  macros_->setAccessibleName("Macro records");
+  macros_->setAccessibleName(Tr("Macro records"));
   macro_size_->setRange(0, kMostBytes);
   macro_size_->setValue(kMacroSize);
-  macro_size_->setSuffix(" bytes");
-  macro_size_->setAccessibleName("Bytes of a macro record");
+  macro_size_->setSuffix(Tr(" bytes"));
+  macro_size_->setAccessibleName(Tr("Bytes of a macro record"));
   auto* const line = new QWidget;
   auto* const row = new QHBoxLayout(line);
   row->setContentsMargins(0, 0, 0, 0);
@@ -120,28 +123,28 @@ DeviceSetup DevicePicker::Setup() const {
 }
 
 void DevicePicker::AskForDefaults() {
-  setTitle("Device");
-  connect_->setText("New");
+  setTitle(Tr("Device"));
+  connect_->setText(Tr("New"));
   exchange_->setCurrentIndex(0);
   for (QWidget* const field : {static_cast<QWidget*>(blocks_), static_cast<QWidget*>(exchange_)}) {
     form_->setRowVisible(field, false);
   }
 }
 
-std::array<std::pair<const char*, QWidget*>, 9> DevicePicker::Fields() const {
+std::array<std::pair<const char*, QWidget*>, 8> DevicePicker::Fields() const {
   return {{{"model", model_},
            {"cameras", cameras_},
            {"blocks", blocks_},
            {"variant", variant_},
            {"name", name_},
-           {"exchange", exchange_},
            {"macros", macros_},
            {"macroSize", macro_size_},
            {"firmware", firmware_}}};
 }
 
 QVariantMap DevicePicker::Choice() const {
-  QVariantMap choice;
+  // The same in every language.
+  QVariantMap choice{{kExchange, exchange_->currentData()}};
   for (const auto& [name, field] : Fields()) {
     choice[name] = field->metaObject()->userProperty().read(field);
   }
@@ -152,6 +155,8 @@ void DevicePicker::Choose(const QVariantMap& choice) {
   for (const auto& [name, field] : Fields()) {
     if (choice.contains(name)) field->metaObject()->userProperty().write(field, choice[name]);
   }
+  const int exchange = exchange_->findData(choice.value(kExchange));
+  if (exchange >= 0) exchange_->setCurrentIndex(exchange);
 }
 
 void DevicePicker::ChooseDeviceOf(int model, int cameras, const QString& name) {

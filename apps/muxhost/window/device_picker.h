@@ -42,7 +42,7 @@ class DevicePicker : public QGroupBox {
  private:
   [[nodiscard]] QWidget* MakeMacroRow();
   [[nodiscard]] CombinedSetup Combined() const;
-  [[nodiscard]] std::array<std::pair<const char*, QWidget*>, 9> Fields() const;
+  [[nodiscard]] std::array<std::pair<const char*, QWidget*>, 8> Fields() const;
   /// What belongs to the combined exchange takes no space without it.
   void ShowCombined();
 

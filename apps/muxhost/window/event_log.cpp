@@ -3,6 +3,7 @@
 #include <QScrollBar>
 #include <QTime>
 
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -11,11 +12,12 @@ namespace {
 
 // Each new line has all of them laid out again.
 constexpr int kMostLines = 300;
+const QString kTime = "HH:mm:ss   ";
 
 }  // namespace
 
 EventLog::EventLog(QWidget* parent) : QListWidget(parent) {
-  setAccessibleName("Events");
+  setAccessibleName(Tr("Events"));
   setSelectionMode(ExtendedSelection);
   setWordWrap(true);
   setResizeMode(Adjust);
@@ -39,8 +41,13 @@ void EventLog::Add(const std::string& entry) {
   }
   run_ = block.about;
   run_first_ = run_last_ = block.number;
-  run_time_ = QTime::currentTime().toString("HH:mm:ss   ");
+  run_time_ = QTime::currentTime().toString(kTime);
   AddLine(run_time_ + (counts ? block.SentenceFrom(block.number) : Sentence(text)));
+}
+
+void EventLog::Tell(const QString& sentence) {
+  run_.clear();
+  AddLine(QTime::currentTime().toString(kTime) + sentence);
 }
 
 void EventLog::AddLine(const QString& text) {

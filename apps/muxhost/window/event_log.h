@@ -13,6 +13,8 @@ class EventLog : public QListWidget {
   explicit EventLog(QWidget* parent = nullptr);
   /// An entry of the session's log.
   void Add(const std::string& entry);
+  /// What the window itself has to say.
+  void Tell(const QString& sentence);
 
  private:
   void AddLine(const QString& text);

@@ -8,6 +8,8 @@
 #include <QShortcut>
 #include <algorithm>
 
+#include "muxhost/window/tr.h"
+
 namespace quorvel::muxhost {
 
 namespace {
@@ -17,12 +19,12 @@ enum Filter { kAll, kChanged, kNotFactory, kFile, kOtherFile };
 }  // namespace
 
 FindBox::FindBox(QtPlatform& platform, HostSession& session, QWidget* parent)
-    : QDockWidget("Find settings", parent),
+    : QDockWidget(Tr("Find settings"), parent),
       platform_(platform),
       model_(session),
       words_(new QLineEdit),
       filter_(new QComboBox),
-      export_(new QPushButton("E&xport as CSV...")),
+      export_(new QPushButton(Tr("E&xport as CSV..."))),
       count_(new QLabel),
       list_(new QTreeView),
       nothing_(new QLabel) {
@@ -44,17 +46,17 @@ FindBox::FindBox(QtPlatform& platform, HostSession& session, QWidget* parent)
 
 QWidget* FindBox::MakeContents() {
   words_->setObjectName("FindWords");
-  words_->setPlaceholderText("A caption, a camera's title, a name, a value, a block");
+  words_->setPlaceholderText(Tr("A caption, a camera's title, a name, a value, a block"));
   words_->setClearButtonEnabled(true);
   words_->installEventFilter(this);
   filter_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   filter_->setMinimumContentsLength(16);
-  auto* const find = new QLabel("&Find:");
+  auto* const find = new QLabel(Tr("&Find:"));
   find->setBuddy(words_);
-  words_->setAccessibleName("Find");
-  auto* const show = new QLabel("&Show:");
+  words_->setAccessibleName(Tr("Find"));
+  auto* const show = new QLabel(Tr("&Show:"));
   show->setBuddy(filter_);
-  filter_->setAccessibleName("Show");
+  filter_->setAccessibleName(Tr("Show"));
   count_->setObjectName("FindCount");
   nothing_->setObjectName("FindNothing");
   for (QLabel* const label : {count_, nothing_}) label->setTextFormat(Qt::PlainText);
@@ -77,7 +79,8 @@ QWidget* FindBox::MakeContents() {
 
 void FindBox::SetUpList() {
   list_->setModel(&model_);
-  list_->setAccessibleName("Settings");
+  list_->setAccessibleName(Tr("Settings"));
+  list_->setColumnHidden(FindModel::kInFile, true);
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
@@ -86,8 +89,8 @@ void FindBox::SetUpList() {
   list_->setTabKeyNavigation(false);
   list_->installEventFilter(this);
   list_->setContextMenuPolicy(Qt::ActionsContextMenu);
-  list_->addAction("&Open editor", this, [this] { Open(); });
-  list_->addAction("&Copy", this, [this] { Copy(); });
+  list_->addAction(Tr("&Open editor"), this, [this] { Open(); });
+  list_->addAction(Tr("&Copy"), this, [this] { Copy(); });
   QObject::connect(list_, &QTreeView::doubleClicked, this, [this] { Open(); });
 }
 
@@ -99,7 +102,8 @@ void FindBox::Measure() {
   for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column) {
     list_->setColumnWidth(column, kWidths[column] * letter);
   }
-  count_->setMinimumWidth(fontMetrics().horizontalAdvance("9999 of 9999 "));
+  count_->setMinimumWidth(
+      fontMetrics().horizontalAdvance(Tr("%1 of %2").arg(9999).arg(9999) + " "));
   const int height =
       kLines * list_->fontMetrics().lineSpacing() + list_->header()->sizeHint().height();
   for (QWidget* const it : std::initializer_list<QWidget*>{list_, nothing_}) {
@@ -145,15 +149,15 @@ void FindBox::Update() {
 void FindBox::NameFilters() {
   const QSignalBlocker quiet(filter_);
   filter_->clear();
-  filter_->addItems(
-      {"All settings", "What differs from the device", "What differs from the factory's settings"});
+  filter_->addItems({Tr("All settings"), Tr("What differs from the device"),
+                     Tr("What differs from the factory's settings")});
   if (!file_.empty()) {
     const QFileInfo file(QString::fromStdString(file_));
-    filter_->addItem("What differs from " + file.fileName());
+    filter_->addItem(Tr("What differs from %1").arg(file.fileName()));
     filter_->setItemData(kFile, file.filePath(), Qt::ToolTipRole);
   }
-  filter_->addItem(file_.empty() ? "What differs from a file..."
-                                 : "What differs from another file...");
+  filter_->addItem(file_.empty() ? Tr("What differs from a file...")
+                                 : Tr("What differs from another file..."));
   filter_->setCurrentIndex(chosen_);
 }
 
@@ -169,7 +173,7 @@ Among FindBox::Chosen() const {
 void FindBox::Choose(int filter) {
   if (filter == filter_->count() - 1) {
     FileRequest request;
-    request.title = "Compare with";
+    request.title = Say("Compare with");
     request.filter = "*.bin";
     request.must_exist = true;
     const auto path = platform_.AskFile(request);
@@ -210,7 +214,7 @@ void FindBox::MakeCurrent(int row) {
 
 void FindBox::Tell() {
   const int rows = model_.rowCount();
-  count_->setText(QString("%1 of %2").arg(rows).arg(model_.Table().Rows().size()));
+  count_->setText(Tr("%1 of %2").arg(rows).arg(model_.Table().Rows().size()));
   export_->setEnabled(rows > 0);
   nothing_->setText(WhyNone());
   if (rows == 0 && list_->hasFocus()) words_->setFocus();
@@ -219,20 +223,20 @@ void FindBox::Tell() {
 }
 
 QString FindBox::WhyNone() const {
-  if (model_.Table().Rows().empty()) return "Receive or open settings first.";
+  if (model_.Table().Rows().empty()) return Tr("Receive or open settings first.");
   const QString file = QFileInfo(QString::fromStdString(file_)).fileName();
   const std::string& cause = unreadable_.empty() ? model_.Table().Cause() : unreadable_;
   if (!cause.empty())
-    return "Not compared with " + file + ": " + QString::fromStdString(cause) + '.';
+    return Tr("Not compared with %1: %2.").arg(file, QString::fromStdString(cause));
   const bool all = Chosen() == Among::kAll;
   if (!words_->text().trimmed().isEmpty()) {
-    return all ? "No setting has all of these words."
-               : "No setting of those that differ has all of these words.";
+    return all ? Tr("No setting has all of these words.")
+               : Tr("No setting of those that differ has all of these words.");
   }
   switch (Chosen()) {
-    case Among::kChanged: return "Nothing differs from the device.";
-    case Among::kNotFactory: return "Nothing differs from the factory's settings.";
-    case Among::kNotFile: return "Nothing differs from " + file + '.';
+    case Among::kChanged: return Tr("Nothing differs from the device.");
+    case Among::kNotFactory: return Tr("Nothing differs from the factory's settings.");
+    case Among::kNotFile: return Tr("Nothing differs from %1.").arg(file);
     case Among::kAll: break;
   }
   return {};

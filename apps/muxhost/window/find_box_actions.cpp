@@ -8,6 +8,7 @@
 
 #include "muxhost/find/csv.h"
 #include "muxhost/window/find_box.h"
+#include "muxhost/window/tr.h"
 
 namespace quorvel::muxhost {
 
@@ -70,7 +71,7 @@ void FindBox::Open() {
   if (!at.item.empty() && on_open && on_open(at)) return;
   QMessageBox::information(
       this, windowTitle(),
-      at.item.empty() ? "No editor shows this setting." : "Its editor does not open now.");
+      at.item.empty() ? Tr("No editor shows this setting.") : Tr("Its editor does not open now."));
 }
 
 void FindBox::Copy() {
@@ -91,7 +92,7 @@ void FindBox::Copy() {
 
 void FindBox::Export() {
   const auto path = platform_.AskFile({.purpose = FileRequest::Purpose::kSave,
-                                       .title = "Export as CSV",
+                                       .title = Say("Export as CSV"),
                                        .default_name = "settings.csv",
                                        .filter = "*.csv",
                                        .default_extension = "csv",
@@ -100,7 +101,7 @@ void FindBox::Export() {
   const std::string csv = CsvOf(model_.Table(), model_.Shown());
   try {
     platform_.StoreFile(*path, {reinterpret_cast<const Byte*>(csv.data()), csv.size()});
-    count_->setText(QString("%1 exported").arg(model_.rowCount()));
+    count_->setText(Tr("%1 exported").arg(model_.rowCount()));
   } catch (const std::exception& error) {
     QMessageBox::warning(this, windowTitle(), QString::fromStdString(error.what()));
   }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "muxhost/review_text.h"
+#include "muxhost/window/tr.h"
 
 namespace quorvel::muxhost {
 
@@ -11,6 +12,13 @@ namespace {
 
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString Differs(const SettingRow& row) {
+  QStringList from;
+  if (row.differs_from_device) from << Tr("device");
+  if (row.differs_from_factory) from << Tr("factory");
+  return from.join(", ");
 }
 
 }  // namespace
@@ -59,11 +67,12 @@ int FindModel::columnCount(const QModelIndex& parent) const {
 
 QString FindModel::TextOf(const SettingRow& row, int column) const {
   switch (column) {
-    case kWhere: return row.at.item.empty() ? "In no editor" : Text(Place(row.at, row.settings));
+    case kWhere:
+      return row.at.item.empty() ? Tr("In no editor") : Text(Place(row.at, row.settings));
     case kValue: return Text(row.value);
     case kInFile: return Text(table_.InFile(row).value_or(row.value));
     case kBlocks: return Text(Numbers(row.blocks));
-    case kDiffers: return Text(DiffersFrom(row));
+    case kDiffers: return Differs(row);
     case kNames: return Text(NamesIn(row.settings));
     default: return {};
   }
@@ -76,8 +85,8 @@ QVariant FindModel::data(const QModelIndex& cell, int role) const {
     case Qt::DisplayRole:
     case Qt::ToolTipRole: return TextOf(row, cell.column());
     case Qt::AccessibleTextRole:
-      return TextOf(row, cell.column()) +
-             (cell.column() == kWhere && row.differs_from_device ? ", changed" : "");
+      if (cell.column() != kWhere || !row.differs_from_device) return TextOf(row, cell.column());
+      return Tr("%1, changed").arg(TextOf(row, cell.column()));
     case Qt::FontRole: {
       QFont font;
       if (row.differs_from_device) font.setBold(true);
@@ -88,11 +97,12 @@ QVariant FindModel::data(const QModelIndex& cell, int role) const {
 }
 
 QVariant FindModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  static const char* const names[kColumns] = {"Where",  "Value",        "In the file",
-                                              "Blocks", "Differs from", "Name"};
+  static const char* const names[kColumns] = {ToSay("Where"),        ToSay("Value"),
+                                              ToSay("In the file"),  ToSay("Blocks"),
+                                              ToSay("Differs from"), ToSay("Name")};
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
   if (section < 0 || section >= kColumns) return {};
-  return QString(names[section]);
+  return Tr(names[section]);
 }
 
 }  // namespace quorvel::muxhost

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -13,8 +14,8 @@ LinkBox::LinkBox(QWidget* parent)
       kind_(new QComboBox),
       at_(new QSpinBox),
       delay_(new QSpinBox),
-      arm_(new QPushButton("Arm")),
-      disarm_(new QPushButton("Disarm")),
+      arm_(new QPushButton(Tr("Arm"))),
+      disarm_(new QPushButton(Tr("Disarm"))),
       form_(new QFormLayout),
       panel_(MakePanel()) {
   heading_->setObjectName("LinkHeading");
@@ -22,8 +23,8 @@ LinkBox::LinkBox(QWidget* parent)
   heading_->setAutoRaise(true);
   heading_->setFocusPolicy(Qt::StrongFocus);
   heading_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  heading_->setText("Link");
-  heading_->setToolTip("Lets the link fail, to test how a host takes it");
+  heading_->setText(Tr("Link"));
+  heading_->setToolTip(Tr("Lets the link fail, to test how a host takes it"));
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(heading_);
@@ -41,22 +42,22 @@ QWidget* LinkBox::MakePanel() {
     const std::string name(NameOf(kind));
     kind_->addItem(QString::fromStdString(name) + ": " + InWords(kind), i);
   }
-  kind_->setAccessibleName("Fault");
-  at_->setAccessibleName("Strikes number");
+  kind_->setAccessibleName(Tr("Fault"));
+  at_->setAccessibleName(Tr("Strikes number"));
   at_->setRange(1, kMostTraffic);
-  at_->setToolTip("Strikes this reply or packet of a transfer, counted from 1");
+  at_->setToolTip(Tr("Strikes this reply or packet of a transfer, counted from 1"));
   delay_->setRange(0, kLongestDelay);
   delay_->setValue(Fault::kUsualDelay);
-  delay_->setSuffix(" ms");
+  delay_->setSuffix(Tr(" ms"));
   arm_->setToolTip(
-      "The fault strikes once, in the first transfer that gets as far. The backup before an upload"
-      " is one: switch it off to have the upload struck.");
+      Tr("The fault strikes once, in the first transfer that gets as far. The backup before an "
+         "upload is one: switch it off to have the upload struck."));
   auto* const panel = new QFrame;
   panel->setFrameStyle(QFrame::StyledPanel);
   auto* const column = new QVBoxLayout(panel);
-  form_->addRow("Fault", kind_);
-  form_->addRow("Strikes number", at_);
-  form_->addRow("Later by", delay_);
+  form_->addRow(Tr("Fault"), kind_);
+  form_->addRow(Tr("Strikes number"), at_);
+  form_->addRow(Tr("Later by"), delay_);
   column->addLayout(form_);
   auto* const row = new QHBoxLayout;
   row->addWidget(arm_);
@@ -85,7 +86,8 @@ void LinkBox::Unfold(bool unfolded) {
 
 void LinkBox::ShowPending(const std::optional<Fault>& fault) {
   // To be seen while the rest is folded up, too.
-  heading_->setText(fault ? "Link: armed, " + QString::fromStdString(Describe(*fault)) : "Link");
+  heading_->setText(fault ? Tr("Link: armed, %1").arg(QString::fromStdString(Describe(*fault)))
+                          : Tr("Link"));
   disarm_->setEnabled(fault.has_value());
 }
 

@@ -17,6 +17,7 @@
 #include "muxhost/window/interruption.h"
 #include "muxhost/window/review_box.h"
 #include "muxhost/window/side_area.h"
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -38,8 +39,8 @@ MainWindow::MainWindow(QtPlatform& platform, HostSession& session, std::unique_p
       files_(new FileMenu({platform, session, *this, memory_, *log_})),
       rows_(new QSplitter(Qt::Vertical)),
       below_(new QSplitter(Qt::Horizontal)),
-      silence_([this](const std::string& sentence) {
-        log_->Add(sentence);
+      silence_([this](const QString& sentence) {
+        log_->Tell(sentence);
         if (std::exchange(awaits_answer_, false)) NoteOutcome();
       }),
       uploader_({platform, session, *this, *backups_, *log_, silence_}) {
@@ -110,9 +111,9 @@ void MainWindow::ShowProgress(int done, int total) {
   }
   const LocalTime now = platform_.Now();
   if (!pace_) pace_.emplace().Begin(now);
-  QString progress = QString("%1 of %2").arg(done).arg(total);
+  QString progress = Tr("%1 of %2").arg(done).arg(total);
   if (const auto left = pace_->SecondsLeft(now, done, total)) {
-    progress += QString(", %1 s left").arg(*left);
+    progress = Tr("%1, %2 s left").arg(progress).arg(*left);
   }
   setWindowTitle(progress + " - muxhost");
 }
@@ -127,17 +128,18 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::AddEditMenu() {
-  QMenu* const menu = menuBar()->addMenu("&Edit");
-  undo_ = menu->addAction("Undo", QKeySequence::Undo, this, [this] {
+  QMenu* const menu = menuBar()->addMenu(Tr("&Edit"));
+  undo_ = menu->addAction(Tr("&Undo"), QKeySequence::Undo, this, [this] {
     session_.Control().Undo();
     ShowState();
   });
-  redo_ = menu->addAction("Redo", QKeySequence::Redo, this, [this] {
+  redo_ = menu->addAction(Tr("&Redo"), QKeySequence::Redo, this, [this] {
     session_.Control().Redo();
     ShowState();
   });
-  review_ = menu->addAction("Re&view changes...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
-                            this, [this] { ReviewChanges(); });
+  review_ =
+      menu->addAction(Tr("Re&view changes..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
+                      this, [this] { ReviewChanges(); });
   AddFinding(*menu);
 }
 
@@ -149,12 +151,14 @@ void MainWindow::ReviewChanges() {
 }
 
 void MainWindow::OpenAt(const SettingPosition& at) {
-  if (!session_.Control().OpenAt(at)) log_->Add("the control is not to be seen: " + at.control);
+  if (!session_.Control().OpenAt(at)) {
+    log_->Tell(Tr("The control is not to be seen: %1.").arg(QString::fromStdString(at.control)));
+  }
   ShowState();
 }
 
 void MainWindow::AddFinding(QMenu& edit) {
-  edit.addAction("&Find...", QKeySequence::Find, find_, [this] { find_->Begin(); });
+  edit.addAction(Tr("&Find..."), QKeySequence::Find, find_, [this] { find_->Begin(); });
   addDockWidget(Qt::BottomDockWidgetArea, find_);
   find_->hide();
   // What is waited for replaces the settings.
@@ -167,12 +171,13 @@ void MainWindow::AddFinding(QMenu& edit) {
 /// An editor that is open shows what it has read: nothing is taken back behind it.
 void MainWindow::ShowSteps() {
   const bool free = !IsLocked() && !OthersAreOpen(this);
-  const auto show = [free](QAction& action, const QString& verb, const std::string& step) {
-    action.setText(step.empty() ? verb : verb + " \"" + QString::fromStdString(step) + '"');
+  const auto show = [free](QAction& action, const QString& verb, const QString& what,
+                           const std::string& step) {
+    action.setText(step.empty() ? verb : what.arg(QString::fromStdString(step)));
     action.setEnabled(free && !step.empty());
   };
-  show(*undo_, "&Undo", session_.Control().UndoText());
-  show(*redo_, "&Redo", session_.Control().RedoText());
+  show(*undo_, Tr("&Undo"), Tr("&Undo \"%1\""), session_.Control().UndoText());
+  show(*redo_, Tr("&Redo"), Tr("&Redo \"%1\""), session_.Control().RedoText());
   review_->setEnabled(free && loaded_);
 }
 
@@ -202,7 +207,7 @@ QWidget* MainWindow::MakeRightSide() {
   hint_->setFont(bold);
   commands_->on_command = [this](Command command) { Do(command); };
   column->addWidget(commands_);
-  auto* const events = new QGroupBox("Events");
+  auto* const events = new QGroupBox(Tr("Events"));
   (new QVBoxLayout(events))->addWidget(log_);
   const auto divide = [](QSplitter& between, QWidget* first, int share, QWidget* second, int rest) {
     between.setChildrenCollapsible(false);
@@ -240,7 +245,7 @@ void MainWindow::Do(Command command) {
     case Command::kUploadAll: return uploader_.Upload(true, commands_->WithMacros());
     case Command::kSave: return Run(&HostSession::Save);
     case Command::kRestore:
-      if (!MayLoseChanges("Restoring a file")) return;
+      if (!MayLoseChanges(Tr("Restoring a file"))) return;
       asked_ = command;
       Run(&HostSession::Restore);
       NoteOutcome();
@@ -287,31 +292,31 @@ int MainWindow::Patience() const {
 }
 
 void MainWindow::Download() {
-  if (!MayLoseChanges("Downloading")) return;
+  if (!MayLoseChanges(Tr("Downloading"))) return;
   loaded_ = false;
   asked_ = Command::kDownload;
   const bool with_dialog = session_.Settings().comm_id == 0;
   silence_.Begin(
       Patience(), [this] { return !session_.LastExchange().arrived; },
-      with_dialog ? "the device has not answered: close the dialog to break it off"
-                  : "the device has not answered");
+      with_dialog ? Tr("The device has not answered: close the dialog to break it off.")
+                  : Tr("The device has not answered."));
   if (!with_dialog) return RunUntilAnswered(&HostSession::Download);
   Run(&HostSession::Download);
   silence_.End();
   if (!session_.LastExchange().arrived) {
-    log_->Add("the download has not come to its end: the control keeps what it had");
+    log_->Tell(Tr("The download has not come to its end: the control keeps what it had."));
   }
   NoteOutcome();
   ShowState();
 }
 
 void MainWindow::BuildDefaults() {
-  if (!MayLoseChanges("Taking the factory defaults")) return;
+  if (!MayLoseChanges(Tr("Taking the factory defaults"))) return;
   asked_ = Command::kDefaults;
   // They are there when the message that says so is closed.
   silence_.Begin(
       Patience(), [this] { return !session_.LastExchange().arrived && !IsLocked(); },
-      "the device has not answered: there are no factory defaults");
+      Tr("The device has not answered: there are no factory defaults."));
   RunUntilAnswered(&HostSession::BuildDefaults);
 }
 
@@ -356,7 +361,7 @@ Situation MainWindow::PresentSituation() const {
           blocks_->OnlyMacrosAreLeft(),
           brought_,
           missed_,
-          LackingBlocks(session_)};
+          session_.LackingBlocks()};
 }
 
 void MainWindow::ShowState() {
@@ -369,13 +374,13 @@ void MainWindow::ShowState() {
   commands_->Show(situation.commands);
   hint_->setText(step.hint);
   const QString busy = CommandBox::Busy(situation.commands);
-  const QString connects = session_.HasDevice() ? "Replaces the device by a new one"
-                                                : "Connects the device to what is open";
+  const QString connects = session_.HasDevice() ? Tr("Replaces the device by a new one")
+                                                : Tr("Connects the device to what is open");
   picker_->AllowConnect(busy.isEmpty(), busy.isEmpty() ? connects : busy);
   options_->AllowExchange(busy.isEmpty(), busy);
   link_->ShowPending(session_.PendingFault());
-  identity_->setText((session_.HasDevice() ? "" : "Without a device:  ") +
-                     Describe(session_.Device(), platform_));
+  const QString device = Describe(session_.Device(), platform_);
+  identity_->setText(session_.HasDevice() ? device : Tr("Without a device:  %1").arg(device));
   files_->Show(busy, situation.commands.loaded);
   ShowSteps();
   if (!transfer_runs_) find_->Update();
@@ -411,7 +416,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (closing_) return;
   const QScopedValueRollback<bool> closing(closing_, true);
-  if (!MayLoseChanges("Closing")) return;
+  if (!MayLoseChanges(Tr("Closing"))) return;
   if (zones_ != nullptr) zones_->Abandon();
   NotePlaces();
   // A command that waits for them in a loop of its own comes to its end.

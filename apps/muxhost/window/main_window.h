@@ -64,7 +64,7 @@ class MainWindow : public QMainWindow {
   void Connect();
   /// The device does not match the settings that are open: asks whether to go on without these.
   [[nodiscard]] bool MayGoOnWithout(const std::string& mismatch);
-  void NoteConnected(const char* what, const DevicePicker& chosen);
+  void NoteConnected(const QString& what, const DevicePicker& chosen);
   /// Asks which device; false when none is connected after that.
   [[nodiscard]] bool AskForDevice();
   /// Another control comes: nothing is known of it.

@@ -5,6 +5,7 @@
 #include "muxhost/window/desktop.h"
 #include "muxhost/window/device_box.h"
 #include "muxhost/window/main_window.h"
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -21,26 +22,28 @@ bool MainWindow::MayLoseChanges(const QString& by) {
   // Without a device there is none that could lack them, and what a file holds is not lost.
   const bool counts = session_.HasDevice() && !files_->IsKept();
   const auto changed = counts ? blocks_->States().Unwritten().size() : 0;
-  QString question;
-  if (unsaved) question = files_->Opened().Name() + " has changes that are not saved. ";
+  QStringList sentences;
+  if (unsaved) sentences << Tr("%1 has changes that are not saved.").arg(files_->Opened().Name());
   if (changed > 0) {
-    question += QString("%1 modified %2 not been sent to the device. ")
-                    .arg(changed)
-                    .arg(changed == 1 ? "block has" : "blocks have");
+    sentences << Tr(changed, "%1 modified block has not been sent to the device.",
+                    "%1 modified blocks have not been sent to the device.")
+                     .arg(changed);
   }
   // A transfer's dialog locks the window, an editor does not.
   const bool locked = IsLocked();
   if (locked) {
-    question += "A transfer or a question is still open. ";
+    sentences << Tr("A transfer or a question is still open.");
   } else if (OthersAreOpen(this)) {
-    question += "A window of the menu is open. ";
+    sentences << Tr("A window of the menu is open.");
   }
-  if (question.isEmpty()) return true;
-  question += by + (locked ? " breaks it off and loses the changes." : " loses the changes.");
+  if (sentences.isEmpty()) return true;
+  const QString loss =
+      locked ? Tr("%1 breaks it off and loses the changes.") : Tr("%1 loses the changes.");
+  sentences << loss.arg(by);
   QMessageBox::StandardButtons buttons = QMessageBox::Discard | QMessageBox::Cancel;
   if (!locked && (unsaved || changed > 0)) buttons |= QMessageBox::Save;
   const auto answer =
-      QMessageBox::question(this, windowTitle(), question, buttons,
+      QMessageBox::question(this, windowTitle(), sentences.join(' '), buttons,
                             unsaved && !locked ? QMessageBox::Save : QMessageBox::Cancel);
   return answer == QMessageBox::Save ? files_->Save() : answer == QMessageBox::Discard;
 }
@@ -60,24 +63,25 @@ void MainWindow::LeaveControl() {
 }
 
 void MainWindow::Connect() {
+  const QString connected = Tr("A device is connected to what is open.");
   try {
     SimulatedDevice device(picker_->Setup());
     if (!session_.HasDevice()) {
       const std::string mismatch = session_.ConnectToOpen(device);
-      if (mismatch.empty()) return NoteConnected("a device is connected to what is open", *picker_);
+      if (mismatch.empty()) return NoteConnected(connected, *picker_);
       if (!MayGoOnWithout(mismatch)) return;
     }
-    if (!MayLoseChanges("Connecting another device")) return;
+    if (!MayLoseChanges(Tr("Connecting another device"))) return;
     session_.Connect(std::move(device));
     PlaceSurface();
-    NoteConnected("a new device is connected", *picker_);
+    NoteConnected(Tr("A new device is connected."), *picker_);
   } catch (const std::invalid_argument& error) {
     QMessageBox::warning(this, windowTitle(), QString::fromStdString(error.what()));
   }
 }
 
-void MainWindow::NoteConnected(const char* what, const DevicePicker& chosen) {
-  log_->Add(what);
+void MainWindow::NoteConnected(const QString& what, const DevicePicker& chosen) {
+  log_->Tell(what);
   memory_.SetValue(kDevice, chosen.Choice());
   ShowState();
 }
@@ -87,9 +91,9 @@ bool MainWindow::MayGoOnWithout(const std::string& mismatch) {
                   QMessageBox::Cancel, this);
   box.setTextFormat(Qt::PlainText);
   box.setInformativeText(
-      "What is open stays as it is, and without a device. Close it and connect "
-      "the device without it?");
-  const auto* const without = box.addButton("Connect without it", QMessageBox::AcceptRole);
+      Tr("What is open stays as it is, and without a device. Close it and connect the device "
+         "without it?"));
+  const auto* const without = box.addButton(Tr("Connect without it"), QMessageBox::AcceptRole);
   box.setDefaultButton(QMessageBox::Cancel);
   box.exec();
   return box.clickedButton() == without;
@@ -114,7 +118,7 @@ bool MainWindow::AskForDevice() {
     return false;
   }
   picker_->Choose(box.Picker().Choice());
-  NoteConnected("a device is connected to what is open", *picker_);
+  NoteConnected(Tr("A device is connected to what is open."), *picker_);
   return true;
 }
 

@@ -2,8 +2,11 @@
 
 #include <QString>
 #include <cstddef>
+#include <optional>
+#include <vector>
 
 #include "muxhost/window/command_box.h"
+#include "quorvel/byte.h"
 
 namespace quorvel::muxhost {
 
@@ -20,7 +23,7 @@ struct Situation {
   std::optional<Command> brought = {};
   /// The same, of a command given last that has brought none.
   std::optional<Command> missed = {};
-  QString lacking = {};  ///< blocks of the device that the configuration lacks: "blocks 201-225"
+  std::vector<Byte> lacking = {};  ///< blocks of the device that the configuration lacks
 };
 
 /// What is sensible next.

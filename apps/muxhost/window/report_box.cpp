@@ -4,6 +4,7 @@
 #include <QPrinter>
 
 #include "muxhost/report/paper.h"
+#include "muxhost/window/tr.h"
 
 namespace quorvel::muxhost {
 
@@ -13,7 +14,7 @@ void PreviewReport(QWidget& window, const std::string& html) {
   printer.setPageLayout(PaperOfReports());
   printer.setDocName(report.Title());
   QPrintPreviewDialog preview(&printer, &window);
-  preview.setWindowTitle("Report");
+  preview.setWindowTitle(Tr("Report"));
   QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
                    [&report](QPrinter* paper) { report.Print(*paper); });
   constexpr int kWidth = 900;

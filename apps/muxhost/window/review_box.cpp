@@ -7,6 +7,7 @@
 #include <set>
 
 #include "muxhost/review_text.h"
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -25,11 +26,11 @@ QString PlaceInEditor(const ReviewLine& line) {
 }
 
 QString Heading(const ReviewLine& line) {
-  return line.at.item.empty() ? "In no editor" : QString::fromStdString(line.at.editor);
+  return line.at.item.empty() ? Tr("In no editor") : QString::fromStdString(line.at.editor);
 }
 
 QString Value(const std::string& text) {
-  return text.empty() ? QString("(empty)") : QString::fromStdString(text);
+  return text.empty() ? Tr("(empty)") : QString::fromStdString(text);
 }
 
 }  // namespace
@@ -40,15 +41,15 @@ ReviewBox::ReviewBox(HostSession& session, const std::optional<Sending>& sending
       sending_(sending),
       summary_(new QLabel),
       tree_(new QTreeWidget),
-      take_back_(new QPushButton("&Take back")),
-      open_(new QPushButton("&Open editor")),
-      send_(new QPushButton("&Go on")) {
-  setWindowTitle(sending ? "Before it is sent" : "Review changes");
+      take_back_(new QPushButton(Tr("&Take back"))),
+      open_(new QPushButton(Tr("&Open editor"))),
+      send_(new QPushButton(Tr("&Go on"))) {
+  setWindowTitle(sending ? Tr("Before it is sent") : Tr("Review changes"));
   summary_->setObjectName("ReviewSummary");
   summary_->setTextFormat(Qt::PlainText);
   summary_->setWordWrap(true);
-  tree_->setAccessibleName("Changes");
-  tree_->setHeaderLabels({"Where", "Device", "Changed to", "Blocks"});
+  tree_->setAccessibleName(Tr("Changes"));
+  tree_->setHeaderLabels({Tr("Where"), Tr("Device"), Tr("Changed to"), Tr("Blocks")});
   tree_->setAllColumnsShowFocus(true);
   tree_->setUniformRowHeights(true);
   auto* const column = new QVBoxLayout(this);
@@ -73,9 +74,9 @@ ReviewBox::ReviewBox(HostSession& session, const std::optional<Sending>& sending
 
 QLayout* ReviewBox::MakeButtons(bool sends) {
   auto* const row = new QHBoxLayout;
-  auto* const close = new QPushButton(sends ? "Cancel" : "Close");
-  take_back_->setToolTip("Sets it as the device has it (Ctrl+Backspace)");
-  open_->setToolTip("Opens its editor there (Return)");
+  auto* const close = new QPushButton(sends ? Tr("Cancel") : Tr("Close"));
+  take_back_->setToolTip(Tr("Sets it as the device has it (Ctrl+Backspace)"));
+  open_->setToolTip(Tr("Opens its editor there (Return)"));
   row->addWidget(take_back_);
   row->addWidget(open_);
   row->addStretch();
@@ -102,10 +103,9 @@ void ReviewBox::ShowLines() {
       heading->setFirstColumnSpanned(true);
       heading->setFlags(Qt::ItemIsEnabled);
     }
-    const QString blocks = QString::fromStdString(BlocksInWords(line.blocks));
-    auto* const item =
-        new QTreeWidgetItem(heading, {PlaceInEditor(line), Value(line.old_value),
-                                      Value(line.new_value), blocks.section(' ', 1)});
+    const QString blocks = QString::fromStdString(Numbers(line.blocks));
+    auto* const item = new QTreeWidgetItem(
+        heading, {PlaceInEditor(line), Value(line.old_value), Value(line.new_value), blocks});
     item->setData(kWhere, kLineRole, static_cast<int>(i));
     for (int column = 0; column < kColumns; ++column) {
       item->setToolTip(column, item->text(column));
@@ -121,11 +121,11 @@ void ReviewBox::ShowLines() {
 void ReviewBox::ShowSummary() {
   QStringList sentences;
   if (lines_.empty()) {
-    sentences << "Nothing differs from the device.";
+    sentences << Tr("Nothing differs from the device.");
   } else {
-    sentences << QString("%1 %2 from the device.")
-                     .arg(lines_.size())
-                     .arg(lines_.size() == 1 ? "line differs" : "lines differ");
+    sentences << Tr(lines_.size(), "%1 line differs from the device.",
+                    "%1 lines differ from the device.")
+                     .arg(lines_.size());
   }
   const auto listed = session_.Control().ModifiedBlocks();
   std::set<std::uint8_t> differing;
@@ -135,16 +135,18 @@ void ReviewBox::ShowSummary() {
                        [&](std::uint8_t it) { return !differing.contains(it); });
   std::ranges::sort(for_nothing);
   if (!for_nothing.empty()) {
-    sentences << QString("Nothing differs in %1, which %2 listed.")
-                     .arg(InWords("block", for_nothing))
-                     .arg(for_nothing.size() == 1 ? "is" : "are");
+    sentences << Tr(for_nothing.size(), "Nothing differs in block %1, which is listed.",
+                    "Nothing differs in blocks %1, which are listed.")
+                     .arg(InWords(for_nothing));
   }
   std::vector<std::uint8_t> behind;
   std::ranges::copy_if(differing, std::back_inserter(behind), [&](std::uint8_t it) {
     return std::ranges::find(listed, it) == listed.end();
   });
   if (!behind.empty() && sending_ && !sending_->all) {
-    sentences << QString("Not listed as modified, and not sent: %1.").arg(InWords("block", behind));
+    sentences << Tr(behind.size(), "Not listed as modified, and not sent: block %1.",
+                    "Not listed as modified, and not sent: blocks %1.")
+                     .arg(InWords(behind));
   }
   if (sending_ && !sending_->along.isEmpty()) sentences << sending_->along;
   summary_->setText(sentences.join('\n'));
@@ -167,7 +169,7 @@ void ReviewBox::TakeBack() {
   if (line == nullptr) return;
   const auto next = static_cast<std::size_t>(line - lines_.data());
   if (!session_.Control().TakeBack(*line)) {
-    summary_->setText("It cannot be taken back: only the device writes it.");
+    summary_->setText(Tr("It cannot be taken back: only the device writes it."));
     return;
   }
   ShowLines();

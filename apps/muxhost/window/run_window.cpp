@@ -6,6 +6,7 @@
 
 #include "muxhost/texts/languages.h"
 #include "muxhost/window/main_window.h"
+#include "muxhost/window/window_language.h"
 #include "quorvel/widget_page.h"
 
 namespace quorvel::muxhost {
@@ -14,6 +15,7 @@ int RunWindow(int argc, char** argv, std::shared_ptr<const Language> language) {
   const QApplication application(argc, argv);
   QApplication::setOrganizationName("Quorvel");
   QApplication::setApplicationName("muxhost");
+  const WindowLanguage spoken(language);
   QtPlatform platform;
   QObject turns;  // what is still scheduled ends with it
   HostSession session(platform, [&turns](int milliseconds, std::function<void()> task) {

@@ -4,7 +4,7 @@
 
 namespace quorvel::muxhost {
 
-SilenceWatch::SilenceWatch(std::function<void(const std::string&)> say) : say_(std::move(say)) {
+SilenceWatch::SilenceWatch(std::function<void(const QString&)> say) : say_(std::move(say)) {
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
     if (told_ || !awaits_()) return;
     told_ = true;
@@ -12,7 +12,7 @@ SilenceWatch::SilenceWatch(std::function<void(const std::string&)> say) : say_(s
   });
 }
 
-void SilenceWatch::Begin(int patience, std::function<bool()> awaits, std::string sentence) {
+void SilenceWatch::Begin(int patience, std::function<bool()> awaits, QString sentence) {
   awaits_ = std::move(awaits);
   sentence_ = std::move(sentence);
   told_ = false;

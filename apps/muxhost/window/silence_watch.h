@@ -12,18 +12,18 @@ class SilenceWatch {
   static constexpr int kUsualPatience = 3000;  ///< milliseconds
 
   /// Called with the sentence that Begin was given.
-  explicit SilenceWatch(std::function<void(const std::string& sentence)> say);
+  explicit SilenceWatch(std::function<void(const QString& sentence)> say);
 
   /// An answer may take `patience` milliseconds while `awaits` is true.
-  void Begin(int patience, std::function<bool()> awaits, std::string sentence);
+  void Begin(int patience, std::function<bool()> awaits, QString sentence);
   /// Something has crossed the link: the time begins anew.
   void Notice();
   void End() { timer_.stop(); }
 
  private:
-  std::function<void(const std::string&)> say_;
+  std::function<void(const QString&)> say_;
   std::function<bool()> awaits_;
-  std::string sentence_;
+  QString sentence_;
   QTimer timer_;
   bool told_ = false;
 };

@@ -6,6 +6,7 @@
 #include "muxhost/window/backup.h"
 #include "muxhost/window/review_box.h"
 #include "muxhost/window/send_choice.h"
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
@@ -16,7 +17,7 @@ void Uploader::Upload(bool all, bool macros) {
   if (!at_.session.Control().DeviceMismatch().empty()) return run();
   if (at_.backups.ReviewWanted() && !MayGo(all, macros)) return;
   if (all && !MayLeaveOut()) return;
-  if (!MayBring(WhatGoesAlong(at_.session, all, macros, at_.platform.Now()))) return;
+  if (!MayBring(WhatGoesAlong(at_.session, all, macros, at_.platform.Now(), Say))) return;
   if (at_.backups.Wanted() && !BackUp()) return;
   do {
     SendChoice choice(all, macros);
@@ -26,7 +27,7 @@ void Uploader::Upload(bool all, bool macros) {
     at_.silence.Begin(
         SilenceWatch::kUsualPatience + at_.session.Settings().latency_ms,
         [this] { return at_.session.LastExchange().unanswered.has_value(); },
-        "the device has not acknowledged a block: STOP and START send again");
+        Tr("The device has not acknowledged a block: STOP and START send again."));
     run();
     at_.silence.End();
   } while (WantsToSendAgain());
@@ -36,12 +37,10 @@ bool Uploader::MayGo(bool all, bool macros) {
   const LocalTime now = at_.platform.Now();
   const GoingAlong along = WhatGoesAlong(at_.session, all, macros, now);
   QStringList lines;
-  if (along.clock_goes) lines << QString::fromStdString(ClockInWords(along.clock, now));
-  if (!along.ports.empty()) lines << QString::fromStdString(PortsInWords(along.ports));
-  const QString lacking = all ? LackingBlocks(at_.session) : QString();
-  if (!lacking.isEmpty()) {
-    lines << QString("The configuration has nothing for %1 of the device.").arg(lacking);
-  }
+  if (along.clock_goes) lines << QString::fromStdString(ClockInWords(along.clock, now, Say));
+  if (!along.ports.empty()) lines << QString::fromStdString(PortsInWords(along.ports, Say));
+  const QString lacking = all ? LackingInWords(at_.session.LackingBlocks()) : QString();
+  if (!lacking.isEmpty()) lines << lacking;
   ReviewBox box(at_.session, ReviewBox::Sending{all, lines.join('\n')}, &at_.window);
   const bool goes = box.exec() == QDialog::Accepted && at_.window.isVisible();
   if (!goes && box.Wanted() && open) open(*box.Wanted());
@@ -49,21 +48,21 @@ bool Uploader::MayGo(bool all, bool macros) {
 }
 
 bool Uploader::MayLeaveOut() {
-  const QString lacking = LackingBlocks(at_.session);
+  const QString lacking = LackingInWords(at_.session.LackingBlocks());
   if (lacking.isEmpty()) return true;
   // An array may be as long as the device has said, and filled up.
-  const QString fate = at_.session.Device().IsCombined() ? "They get zero bytes, if anything."
-                                                         : "They keep what they hold.";
-  return MayGoOn(QString("The configuration has nothing for %1 of the device.").arg(lacking),
-                 fate + " Upload the rest?", "Upload the rest");
+  const QString fate = at_.session.Device().IsCombined()
+                           ? Tr("They get zero bytes, if anything. Upload the rest?")
+                           : Tr("They keep what they hold. Upload the rest?");
+  return MayGoOn(lacking, fate, Tr("Upload the rest"));
 }
 
 bool Uploader::MayBring(const GoingAlong& along) {
   if (!along.ports.empty() &&
-      !MayGoOn(QString::fromStdString(PortsInWords(along.ports)),
-               "If the link uses one of them, the device cannot be reached any more once it has "
-               "taken the change, and nothing here can take it back. Upload all the same?",
-               "Upload")) {
+      !MayGoOn(QString::fromStdString(PortsInWords(along.ports, Say)),
+               Tr("If the link uses one of them, the device cannot be reached any more once it has "
+                  "taken the change, and nothing here can take it back. Upload all the same?"),
+               Tr("Upload"))) {
     return false;
   }
   return !along.clock_goes || MayBringClock(along.clock);
@@ -73,24 +72,24 @@ bool Uploader::MayBring(const GoingAlong& along) {
 bool Uploader::MayBringAfterAll(bool all, bool macros) {
   const LocalTime now = at_.platform.Now();
   const GoingAlong along = WhatGoesAlong(at_.session, all, macros, now);
-  std::string trouble = along.ports.empty() ? "" : PortsInWords(along.ports);
+  std::string trouble = along.ports.empty() ? "" : PortsInWords(along.ports, Say);
   if (along.clock_goes) {
-    trouble += (trouble.empty() ? "" : "\n") + ClockInWords(along.clock, now);
+    trouble += (trouble.empty() ? "" : "\n") + ClockInWords(along.clock, now, Say);
   }
   return trouble.empty() ||
-         MayGoOn(QString::fromStdString(trouble), "Send it all the same?", "Send it");
+         MayGoOn(QString::fromStdString(trouble), Tr("Send it all the same?"), Tr("Send it"));
 }
 
 bool Uploader::MayBringClock(const std::optional<LocalTime>& clock) {
   if (!at_.window.isVisible()) return false;
   QMessageBox box(QMessageBox::Question, at_.window.windowTitle(),
-                  QString::fromStdString(ClockInWords(clock, at_.platform.Now())),
+                  QString::fromStdString(ClockInWords(clock, at_.platform.Now(), Say)),
                   QMessageBox::Cancel, &at_.window);
   box.setInformativeText(
-      "The device sets its clock to what is sent. It can be given the time of this computer "
-      "instead.");
-  auto* const pc_time = box.addButton("Use this computer's time", QMessageBox::AcceptRole);
-  const auto* const as_it_is = box.addButton("Send it as it is", QMessageBox::AcceptRole);
+      Tr("The device sets its clock to what is sent. It can be given the time of this computer "
+         "instead."));
+  auto* const pc_time = box.addButton(Tr("Use this computer's time"), QMessageBox::AcceptRole);
+  const auto* const as_it_is = box.addButton(Tr("Send it as it is"), QMessageBox::AcceptRole);
   box.setDefaultButton(pc_time);
   box.exec();
   if (!at_.window.isVisible()) return false;
@@ -103,25 +102,26 @@ bool Uploader::BackUp() {
       BackUpDevice(at_.platform, at_.session, at_.backups.Folder(), &at_.window);
   switch (backup.outcome) {
     case BackupResult::Outcome::kWritten:
-      at_.log.Add("backup of the device: " + backup.told.toStdString());
+      at_.log.Tell(Tr("Backup of the device: %1.").arg(backup.told));
       return at_.window.isVisible();
     case BackupResult::Outcome::kTooLongToRestore:
-      at_.log.Add("backup of the device, too long to be restored: " + backup.told.toStdString());
-      return MayGoOn("The backup of the device is too long to be restored: " + backup.told + ".",
-                     "Files of 32768 bytes or more are kept, but cannot be restored. Upload "
-                     "all the same?",
-                     "Upload");
+      at_.log.Tell(Tr("Backup of the device, too long to be restored: %1.").arg(backup.told));
+      return MayGoOn(
+          Tr("The backup of the device is too long to be restored: %1.").arg(backup.told),
+          Tr("Files of 32768 bytes or more are kept, but cannot be restored. Upload all "
+             "the same?"),
+          Tr("Upload"));
     case BackupResult::Outcome::kCancelled:
-      at_.log.Add("the backup was cancelled: nothing is uploaded");
+      at_.log.Tell(Tr("The backup was cancelled: nothing is uploaded."));
       return false;
     case BackupResult::Outcome::kFailed: break;
   }
-  at_.log.Add("no backup of the device: " + backup.told.toStdString());
-  return MayGoOn("There is no backup of the device: " + backup.told + ".", "Upload without one?",
-                 "Upload without backup");
+  at_.log.Tell(Tr("No backup of the device: %1.").arg(backup.told));
+  return MayGoOn(Tr("There is no backup of the device: %1.").arg(backup.told),
+                 Tr("Upload without one?"), Tr("Upload without backup"));
 }
 
-bool Uploader::MayGoOn(const QString& trouble, const QString& question, const char* go_on) {
+bool Uploader::MayGoOn(const QString& trouble, const QString& question, const QString& go_on) {
   if (!at_.window.isVisible()) return false;
   QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Cancel,
                   &at_.window);
@@ -136,23 +136,22 @@ bool Uploader::WantsToSendAgain() {
   const Exchange& exchange = at_.session.LastExchange();
   const bool by_blocks = exchange.array_bytes == 0 && !exchange.sent_blocks.empty();
   if (by_blocks && !exchange.end_written) {
-    const std::string where =
-        exchange.unanswered
-            ? ": block " + std::to_string(*exchange.unanswered) + " was not acknowledged"
-            : "";
-    at_.log.Add("the upload has not come to its end" + where);
+    at_.log.Tell(exchange.unanswered
+                     ? Tr("The upload has not come to its end: block %1 was not acknowledged.")
+                           .arg(*exchange.unanswered)
+                     : Tr("The upload has not come to its end."));
   }
   const QString trouble = WhatWentWrong(exchange);
   if (trouble.isEmpty() || !at_.window.isVisible()) return false;
   QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Close,
                   &at_.window);
   if (!at_.session.LinkIsOn()) {
-    box.setInformativeText("The link to the device is off. Switch it on, then upload again.");
+    box.setInformativeText(Tr("The link to the device is off. Switch it on, then upload again."));
     box.exec();
     return false;
   }
-  box.setInformativeText("Send again?");
-  const auto* const again = box.addButton("Send again", QMessageBox::AcceptRole);
+  box.setInformativeText(Tr("Send again?"));
+  const auto* const again = box.addButton(Tr("Send again"), QMessageBox::AcceptRole);
   box.exec();
   return box.clickedButton() == again && at_.window.isVisible();
 }

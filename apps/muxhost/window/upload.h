@@ -51,7 +51,7 @@ class Uploader {
   [[nodiscard]] bool MayBringClock(const std::optional<LocalTime>& clock);
   /// Asks about blocks that an upload of everything brings nothing for.
   [[nodiscard]] bool MayLeaveOut();
-  [[nodiscard]] bool MayGoOn(const QString& trouble, const QString& question, const char* go_on);
+  [[nodiscard]] bool MayGoOn(const QString& trouble, const QString& question, const QString& go_on);
   /// Tells what came of an upload; true when it is to be done again.
   [[nodiscard]] bool WantsToSendAgain();
 

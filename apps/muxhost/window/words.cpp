@@ -1,29 +1,73 @@
 #include "muxhost/window/words.h"
 
-#include <QMap>
 #include <QRegularExpression>
+#include <vector>
 
 #include "muxhost/script/report.h"
+#include "muxhost/window/tr.h"
 #include "quorvel/identity.h"
 
 namespace quorvel::muxhost {
 
 namespace {
 
-/// Events by name, with %1 for what follows the name.
-const QMap<QString, QString>& Sentences() {
-  static const QMap<QString, QString> sentences{
-      {"RequestComboBlocks", "The control asks for the whole configuration."},
-      {"SendComboBlocks", "The control hands over the whole configuration: %1."},
-      {"UploadSucceeded", "The device's configuration has arrived in the control."},
-      {"ActGridPop", "The user wants to edit the active zones of %1 cameras."},
-      {"ActGridData", "The control hands over an activity grid: %1."},
-      {"Click", "The control was clicked."},
-      {"DblClick", "The control was double-clicked."},
-      {"DownLoadData end", "The control has handed over everything."},
-  };
-  return sentences;
-}
+/// What a session says, with %1 and so on for what differs, and the sentence that tells it.
+struct Phrase {
+  const char* entry;
+  const char* sentence;
+};
+constexpr Phrase kEvents[] = {
+    {"RequestComboBlocks", ToSay("The control asks for the whole configuration.")},
+    {"SendComboBlocks %1 bytes",
+     ToSay("The control hands over the whole configuration: %1 bytes.")},
+    {"UploadSucceeded", ToSay("The device's configuration has arrived in the control.")},
+    {"ULSucceededWithStr %1 %2 %3",
+     ToSay("The configuration of %1 (model %2, %3 cameras) has arrived in one piece.")},
+    {"ActGridPop %1", ToSay("The user wants to edit the active zones of %1 cameras.")},
+    {"ActGridData %1 bytes", ToSay("The control hands over an activity grid: %1 bytes.")},
+    {"Click", ToSay("The control was clicked.")},
+    {"DblClick", ToSay("The control was double-clicked.")},
+    {"DownLoadData end", ToSay("The control has handed over everything.")},
+    {"verified 1 block", ToSay("Verified 1 block.")},
+    {"verified 1 block and the macro data", ToSay("Verified 1 block and the macro data.")},
+    {"verified %1 blocks", ToSay("Verified %1 blocks.")},
+    {"verified %1 blocks and the macro data", ToSay("Verified %1 blocks and the macro data.")},
+    {"the macro data is not as sent", ToSay("The macro data is not as sent.")},
+    {"the link is on", ToSay("The link is on.")},
+    {"the link is off", ToSay("The link is off.")},
+    {"nothing crosses the link: it is off", ToSay("Nothing crosses the link: it is off.")},
+    {"no device is connected", ToSay("No device is connected.")},
+    {"not answered: the device has no block %1",
+     ToSay("Not answered: the device has no block %1.")},
+    {"not answered: the device exchanges single blocks",
+     ToSay("Not answered: the device exchanges single blocks.")},
+    {"not written: the device refuses block %1",
+     ToSay("Not written: the device refuses block %1.")},
+    {"not written: the device does not take the array",
+     ToSay("Not written: the device does not take the array.")},
+    {"the configuration has nothing for blocks %1 of the device",
+     ToSay("The configuration has nothing for blocks %1 of the device.")},
+    {"somebody pressed cmdStop of frm_ToMux", ToSay("Somebody pressed STOP of the send dialog.")},
+    {"somebody pressed cmdStop of frm_ULFrMux",
+     ToSay("Somebody pressed STOP of the receive dialog.")},
+    {"nobody could press cmdStop of frm_ToMux",
+     ToSay("Nobody could press STOP of the send dialog.")},
+    {"nobody could press cmdStop of frm_ULFrMux",
+     ToSay("Nobody could press STOP of the receive dialog.")},
+    {"somebody closed frm_ToMux", ToSay("Somebody closed the send dialog.")},
+    {"somebody closed frm_ULFrMux", ToSay("Somebody closed the receive dialog.")},
+    {"nobody could close frm_ToMux", ToSay("Nobody could close the send dialog.")},
+    {"nobody could close frm_ULFrMux", ToSay("Nobody could close the receive dialog.")},
+};
+
+/// Why the device was not read.
+constexpr Phrase kReasons[] = {
+    {"the link is off", ToSay("the link is off")},
+    {"the device has no block %1", ToSay("the device has no block %1")},
+    {"block %1 came with %2 bytes", ToSay("block %1 came with %2 bytes")},
+    {"what came is no configuration: %1", ToSay("what came is no configuration: %1")},
+    {"the array that came is no configuration", ToSay("the array that came is no configuration")},
+};
 
 /// Entries about one block, and what they say of several.
 struct BlockSentence {
@@ -32,20 +76,33 @@ struct BlockSentence {
   const char* several;
 };
 constexpr BlockSentence kBlockSentences[] = {
-    {"RequestBlk %1", "The control asks for block %1.", "The control asks for blocks %1."},
-    {"DownLoadData %1", "The control hands over block %1.", "The control hands over blocks %1."},
-    {"block %1 is not as sent", "Block %1 is not as sent.", "Blocks %1 are not as sent."},
+    {"RequestBlk %1", ToSay("The control asks for block %1."),
+     ToSay("The control asks for blocks %1 to %2.")},
+    {"DownLoadData %1", ToSay("The control hands over block %1."),
+     ToSay("The control hands over blocks %1 to %2.")},
+    {"block %1 is not as sent", ToSay("Block %1 is not as sent."),
+     ToSay("Blocks %1 to %2 are not as sent.")},
 };
 
-QString AsSentence(const QString& words) { return words.left(1).toUpper() + words.mid(1) + "."; }
+/// An entry with `value` in the places of %1 and so on.
+QRegularExpression Pattern(QString entry, const QString& value) {
+  static const QRegularExpression places("\\\\%\\d");
+  entry = QRegularExpression::escape(entry).replace(places, value);
+  return QRegularExpression(QRegularExpression::anchoredPattern(entry));
+}
 
-/// "ULSucceededWithStr NAME MODEL CAMERAS".
-QString ArrivalSentence(const QString& entry) {
-  static const QRegularExpression pattern("^ULSucceededWithStr (.*) (\\d+) (\\d+)$");
-  const auto match = pattern.match(entry);
-  if (!match.hasMatch()) return {};
-  return QString("The configuration of %1 (model %2, %3 cameras) has arrived in one piece.")
-      .arg(match.captured(1), match.captured(2), match.captured(3));
+/// The sentence of an entry, or nothing.
+QString Told(std::span<const Phrase> phrases, const QString& entry) {
+  for (const Phrase& known : phrases) {
+    const auto match = Pattern(known.entry, "(.*)").match(entry);
+    if (!match.hasMatch()) continue;
+    std::vector<std::string> values;
+    for (int i = 1; i <= match.lastCapturedIndex(); ++i) {
+      values.push_back(match.captured(i).toStdString());
+    }
+    return QString::fromStdString(Fill(Say(known.sentence), values));
+  }
+  return {};
 }
 
 /// "the link fails: late at 3 by 300 ms".
@@ -55,47 +112,36 @@ QString FaultSentence(const QString& entry) {
   const auto kind = FaultKindOf(match.captured(1).toStdString());
   if (!kind) return {};
   const QString delay = match.captured(3);
-  return QString("The link fails at number %1: %2.")
-      .arg(match.captured(2), InWords(*kind) + (delay.isEmpty() ? "" : ", by " + delay));
-}
-
-/// "somebody pressed cmdStop of frm_ToMux".
-QString InterruptionSentence(const QString& entry) {
-  if (!entry.startsWith("somebody ") && !entry.startsWith("nobody ")) return {};
-  QString words = entry;
-  words.replace("cmdStop", "STOP")
-      .replace("frm_ToMux", "the send dialog")
-      .replace("frm_ULFrMux", "the receive dialog");
-  return AsSentence(words);
+  if (delay.isEmpty()) {
+    return Tr("The link fails at number %1: %2.").arg(match.captured(2), InWords(*kind));
+  }
+  return Tr("The link fails at number %1: %2, by %3.")
+      .arg(match.captured(2), InWords(*kind), delay);
 }
 
 }  // namespace
 
-QString InWords(const QString& what, std::span<const Byte> numbers) {
-  const QString text = QString::fromStdString(AbbreviateRuns(numbers)).replace(" ", ", ");
-  return what + (numbers.size() == 1 ? " " : "s ") + text;
+QString InWords(std::span<const Byte> numbers) {
+  return QString::fromStdString(AbbreviateRuns(numbers)).replace(" ", ", ");
 }
 
 QString InWords(FaultKind kind) {
   switch (kind) {
-    case FaultKind::kSilent: return "no answer comes";
-    case FaultKind::kShort: return "half of it arrives";
-    case FaultKind::kLong: return "8 bytes too many arrive";
-    case FaultKind::kGarbage: return "noise arrives";
-    case FaultKind::kWrong: return "its number is changed";
-    case FaultKind::kDuplicate: return "it comes twice";
-    case FaultKind::kLate: return "it takes longer";
-    case FaultKind::kDrop: return "it is lost on the way";
-    case FaultKind::kStop: return "somebody presses STOP";
-    case FaultKind::kClose: return "somebody closes the dialog";
+    case FaultKind::kSilent: return Tr("no answer comes");
+    case FaultKind::kShort: return Tr("half of it arrives");
+    case FaultKind::kLong: return Tr("8 bytes too many arrive");
+    case FaultKind::kGarbage: return Tr("noise arrives");
+    case FaultKind::kWrong: return Tr("its number is changed");
+    case FaultKind::kDuplicate: return Tr("it comes twice");
+    case FaultKind::kLate: return Tr("it takes longer");
+    case FaultKind::kDrop: return Tr("it is lost on the way");
+    case FaultKind::kStop: return Tr("somebody presses STOP");
+    case FaultKind::kClose: return Tr("somebody closes the dialog");
   }
   return {};
 }
 
-QString InWords(BlockState state) {
-  const auto name = NameOf(state);
-  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-}
+QString InWords(BlockState state) { return Tr(NameOf(state)); }
 
 QString NameOf(const SimulatedDevice& device, const Platform& platform) {
   const auto& identity = device.IdentityBytes();
@@ -105,44 +151,43 @@ QString NameOf(const SimulatedDevice& device, const Platform& platform) {
 
 QString Describe(const SimulatedDevice& device, const Platform& platform) {
   const std::string model(ModelText(device.ModelCode()));
-  return QString("%1:  %2, %3 cameras, %4 blocks, %5")
+  return Tr("%1:  %2, %3 cameras, %4 blocks, %5")
       .arg(NameOf(device, platform), QString::fromStdString(model),
            QString::number(device.IdentityBytes().at(0)), QString::number(device.BlockCount()),
-           device.IsCombined() ? "combined array" : "single blocks");
+           device.IsCombined() ? Tr("combined array") : Tr("single blocks"));
 }
 
-QString LackingBlocks(HostSession& session) {
-  const std::vector<Byte> lacking = session.LackingBlocks();
-  return lacking.empty() ? QString() : InWords("block", lacking);
+QString LackingInWords(std::span<const Byte> blocks) {
+  if (blocks.empty()) return {};
+  return Tr(blocks.size(), "The configuration has nothing for block %1 of the device.",
+            "The configuration has nothing for blocks %1 of the device.")
+      .arg(InWords(blocks));
 }
 
 QString Sentence(const QString& entry) {
-  for (const auto& make : {ArrivalSentence, FaultSentence, InterruptionSentence}) {
-    QString sentence = make(entry);
+  for (const QString& sentence : {FaultSentence(entry), Told(kEvents, entry)}) {
     if (!sentence.isEmpty()) return sentence;
   }
-  QString whole = Sentences().value(entry);
-  if (!whole.isEmpty()) return whole;
-  const QString sentence = Sentences().value(entry.section(' ', 0, 0));
-  if (!sentence.isEmpty()) return sentence.arg(entry.section(' ', 1));
-  return AsSentence(entry);  // it is in words already
+  return entry.left(1).toUpper() + entry.mid(1) + ".";  // it is in words already
+}
+
+QString Reason(const QString& reason) {
+  const QString told = Told(kReasons, reason);
+  return told.isEmpty() ? reason : told;
 }
 
 QString BlockEntry::SentenceFrom(int first) const {
   for (const BlockSentence& known : kBlockSentences) {
     if (about != known.entry) continue;
-    if (first == number) return QString(known.one).arg(number);
-    return QString(known.several).arg(QString("%1 to %2").arg(first).arg(number));
+    if (first == number) return Tr(known.one).arg(number);
+    return Tr(known.several).arg(first).arg(number);
   }
   return {};
 }
 
 BlockEntry AsBlockEntry(const QString& entry) {
   for (const BlockSentence& known : kBlockSentences) {
-    QString pattern = QRegularExpression::escape(known.entry);
-    pattern.replace(QRegularExpression::escape("%1"), "(\\d+)");
-    const auto match =
-        QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(entry);
+    const auto match = Pattern(known.entry, "(\\d+)").match(entry);
     if (match.hasMatch()) return {known.entry, match.captured(1).toInt()};
   }
   return {};
@@ -151,17 +196,19 @@ BlockEntry AsBlockEntry(const QString& entry) {
 QString WhatWentWrong(const Exchange& upload) {
   QStringList sentences;
   if (upload.array_bytes > 0 && !upload.array_taken) {
-    sentences << "The device has not taken the combined array.";
+    sentences << Tr("The device has not taken the combined array.");
   }
   if (upload.ended && !upload.end_written && upload.unanswered) {
-    sentences << QString("The device has not acknowledged block %1.").arg(*upload.unanswered);
+    sentences << Tr("The device has not acknowledged block %1.").arg(*upload.unanswered);
   }
   if (upload.read_back && !upload.read_back->differ.empty()) {
     const auto& differ = upload.read_back->differ;
-    sentences << "The device does not hold " + InWords("block", differ) + " as sent.";
+    sentences << Tr(differ.size(), "The device does not hold block %1 as sent.",
+                    "The device does not hold blocks %1 as sent.")
+                     .arg(InWords(differ));
   }
   if (upload.read_back && upload.read_back->macros_differ) {
-    sentences << "The device does not hold the macro data as sent.";
+    sentences << Tr("The device does not hold the macro data as sent.");
   }
   return sentences.join('\n');
 }

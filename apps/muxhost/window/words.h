@@ -11,8 +11,8 @@
 
 namespace quorvel::muxhost {
 
-/// "block 12"; "blocks 3, 12, 40-45".
-[[nodiscard]] QString InWords(const QString& what, std::span<const Byte> numbers);
+/// "3, 12, 40-45".
+[[nodiscard]] QString InWords(std::span<const Byte> numbers);
 
 /// What the fault does to what crosses the link: "no answer comes".
 [[nodiscard]] QString InWords(FaultKind kind);
@@ -24,12 +24,13 @@ namespace quorvel::muxhost {
 /// The device's name as text.
 [[nodiscard]] QString NameOf(const SimulatedDevice& device, const Platform& platform);
 
-/// "blocks 201-225": what the device has and the control's configuration lacks; empty when there is
-/// nothing of the kind.
-[[nodiscard]] QString LackingBlocks(HostSession& session);
+/// "The configuration has nothing for blocks 201-225 of the device."; empty without blocks.
+[[nodiscard]] QString LackingInWords(std::span<const Byte> blocks);
 
 /// An entry of the session's log as a sentence.
 [[nodiscard]] QString Sentence(const QString& entry);
+/// Why the device was not read, which its reader gives in English.
+[[nodiscard]] QString Reason(const QString& reason);
 
 /// An entry that says the same of many blocks, one after the other.
 struct BlockEntry {

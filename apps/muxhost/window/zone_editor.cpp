@@ -7,16 +7,19 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
 
 namespace {
 
-constexpr const char* kWithoutMotion = ", motion off";
-constexpr const char* kChanged = ", changed";
+QString Marked(QString name, bool without_motion, bool changed) {
+  if (without_motion) name = Tr("%1, motion off").arg(name);
+  return changed ? Tr("%1, changed").arg(name) : name;
+}
 
-QPushButton* MakeButton(const char* text, const char* tool_tip) {
+QPushButton* MakeButton(const QString& text, const QString& tool_tip) {
   auto* const button = new QPushButton(text);
   button->setToolTip(tool_tip);
   button->setAutoDefault(false);  // Return in the grid or the list presses nothing
@@ -32,13 +35,13 @@ ZoneEditor::ZoneEditor(HostSession& session, int cameras, QWidget* parent)
       cameras_(new QListWidget),
       grid_(new ZoneGrid),
       count_(new QLabel),
-      without_motion_(new QLabel("This camera does not detect motion: its zones have no effect "
-                                 "until the menu's motion detection enables it.")),
-      all_(MakeButton("All", "Makes every cell of this camera active")),
-      none_(MakeButton("None", "Makes no cell of this camera active")),
-      undo_(MakeButton("Undo", "Takes this camera's last change back (Ctrl+Z)")) {
+      without_motion_(new QLabel(Tr("This camera does not detect motion: its zones have no effect "
+                                    "until the menu's motion detection enables it."))),
+      all_(MakeButton(Tr("All"), Tr("Makes every cell of this camera active"))),
+      none_(MakeButton(Tr("None"), Tr("Makes no cell of this camera active"))),
+      undo_(MakeButton(Tr("Undo"), Tr("Takes this camera's last change back (Ctrl+Z)"))) {
   setObjectName("ZoneEditor");
-  setWindowTitle("Active zones");
+  setWindowTitle(Tr("Active zones"));
   auto* const column = new QVBoxLayout(this);
   auto* const sides = new QHBoxLayout;
   sides->addWidget(MakeCameraSide());
@@ -57,7 +60,7 @@ ZoneEditor::ZoneEditor(HostSession& session, int cameras, QWidget* parent)
 }
 
 QString ZoneEditor::NameOf(int camera) const {
-  const QString name = QString("Camera %1").arg(camera + 1);
+  const QString name = Tr("Camera %1").arg(camera + 1);
   const std::string title = session_.TitleOf(camera);
   return title.empty() ? name : name + "  " + QString::fromStdString(title);
 }
@@ -66,13 +69,13 @@ QWidget* ZoneEditor::MakeCameraSide() {
   auto* const side = new QWidget;
   auto* const column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(new QLabel("Cameras"));
+  column->addWidget(new QLabel(Tr("Cameras")));
   column->addWidget(cameras_);
-  cameras_->setAccessibleName("Cameras");
+  cameras_->setAccessibleName(Tr("Cameras"));
   constexpr int kBesideText = 40;  // the scroll bar and the list's borders
   int width = 0;
   for (int camera = 0; camera < kMostCameras; ++camera) {
-    const QString longest = NameOf(camera) + kWithoutMotion + kChanged;
+    const QString longest = Marked(NameOf(camera), true, true);
     width = std::max(width, cameras_->fontMetrics().horizontalAdvance(longest));
   }
   cameras_->setFixedWidth(width + kBesideText);
@@ -88,7 +91,7 @@ QWidget* ZoneEditor::MakeGridSide() {
   column->addWidget(without_motion_);
   column->addWidget(grid_, 1);
   auto* const how =
-      new QLabel("Click, or drag over cells. Keys: arrows, Space, Shift with arrows.");
+      new QLabel(Tr("Click, or drag over cells. Keys: arrows, Space, Shift with arrows."));
   how->setWordWrap(true);
   column->addWidget(how);
   auto* const row = new QHBoxLayout;
@@ -106,8 +109,8 @@ QWidget* ZoneEditor::MakeGridSide() {
 
 QLayout* ZoneEditor::MakeEndButtons() {
   auto* const row = new QHBoxLayout;
-  auto* const ok = MakeButton("OK", "Hands the changed zones to the control (Ctrl+Return)");
-  auto* const cancel = MakeButton("Cancel", "Changes nothing");
+  auto* const ok = MakeButton(Tr("OK"), Tr("Hands the changed zones to the control (Ctrl+Return)"));
+  auto* const cancel = MakeButton(Tr("Cancel"), Tr("Changes nothing"));
   row->addStretch();
   row->addWidget(ok);
   row->addWidget(cancel);
@@ -142,10 +145,7 @@ void ZoneEditor::ShowChosen() {
 }
 
 void ZoneEditor::ShowName(int number, bool changed) {
-  QString text = NameOf(number);
-  if (!session_.DetectsMotion(number)) text += kWithoutMotion;
-  if (changed) text += kChanged;
-  cameras_->item(number)->setText(text);
+  cameras_->item(number)->setText(Marked(NameOf(number), !session_.DetectsMotion(number), changed));
 }
 
 void ZoneEditor::ShowCells() {
@@ -153,13 +153,13 @@ void ZoneEditor::ShowCells() {
   undo_->setEnabled(camera != nullptr && !camera->before.empty());
   without_motion_->setVisible(camera != nullptr && !session_.DetectsMotion(cameras_->currentRow()));
   if (camera == nullptr) {
-    count_->setText("The control has no such camera.");
+    count_->setText(Tr("The control has no such camera."));
     return;
   }
   const int number = cameras_->currentRow();
   ShowName(number, camera->cells != camera->from_control);
-  grid_->setAccessibleName("Zones of camera " + QString::number(number + 1));
-  count_->setText(QString("%1: %2 of %3 cells active")
+  grid_->setAccessibleName(Tr("Zones of camera %1").arg(number + 1));
+  count_->setText(Tr("%1: %2 of %3 cells active")
                       .arg(NameOf(number))
                       .arg(camera->cells.ActiveCount())
                       .arg(int{ZoneCells::kCount}));
@@ -217,10 +217,12 @@ void ZoneEditor::reject() {
   grid_->EndPainting();
   const auto changed = Changed();
   if (!changed.empty()) {
-    const QString question = QString(
-                                 "The changed zones of %1 have not been handed to the control. "
-                                 "Closing loses them.")
-                                 .arg(InWords("camera", changed));
+    const QString question = Tr(changed.size(),
+                                "The changed zones of camera %1 have not been handed to the "
+                                "control. Closing loses them.",
+                                "The changed zones of cameras %1 have not been handed to the "
+                                "control. Closing loses them.")
+                                 .arg(InWords(changed));
     const auto answer =
         QMessageBox::question(this, windowTitle(), question,
                               QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel);

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "muxhost/window/tr.h"
 #include "muxhost/window/zone_model.h"
 
 namespace quorvel::muxhost {
@@ -27,7 +28,7 @@ void Dress(QHeaderView& header, int least_size) {
 ZoneGrid::ZoneGrid(QWidget* parent) : QTableView(parent), cells_(new ZoneModel(this)) {
   setModel(cells_);
   setItemDelegate(new ZonePainter(this));
-  setAccessibleName("Zones");
+  setAccessibleName(Tr("Zones"));
   setSelectionMode(NoSelection);
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);

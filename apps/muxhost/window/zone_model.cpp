@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "muxhost/window/tr.h"
+
 namespace quorvel::muxhost {
 
 void ZoneModel::SetCells(const ZoneCells& cells) {
@@ -30,10 +32,9 @@ int ZoneModel::columnCount(const QModelIndex& parent) const {
 QVariant ZoneModel::data(const QModelIndex& cell, int role) const {
   if (role == kActiveRole) return Active(cell);
   if (role != Qt::AccessibleTextRole || !cell.isValid()) return {};
-  return QString("row %1, column %2, %3")
-      .arg(cell.row() + 1)
-      .arg(cell.column() + 1)
-      .arg(Active(cell) ? "active" : "inactive");
+  const QString text =
+      Active(cell) ? Tr("row %1, column %2, active") : Tr("row %1, column %2, inactive");
+  return text.arg(cell.row() + 1).arg(cell.column() + 1);
 }
 
 QColor ZonePainter::FieldColour() { return {24, 30, 36}; }

@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
+#include <regex>
 #include <set>
 
 #include "muxhost/texts/built_in_languages.h"
@@ -77,6 +81,52 @@ Places PlacesOf(const Model& model, const std::shared_ptr<const Language>& langu
   return places;
 }
 
+/// The texts that stand in the parentheses that end an opening of `Tr(` or the like.
+Texts TextsInCall(const std::string& source, std::size_t at) {
+  Texts texts;
+  std::string text;
+  bool quoted = false, any = false;
+  for (int depth = 1; depth > 0; ++at) {
+    const char c = source.at(at);
+    if (c == '"') {
+      quoted = !quoted;
+      any = true;
+    } else if (quoted) {
+      text += source.at(c == '\\' ? ++at : at);
+    } else if (std::isspace(static_cast<unsigned char>(c)) == 0) {
+      if (any) texts.insert(text);
+      any = false;
+      text.clear();
+      depth += c == '(' ? 1 : c == ')' ? -1 : 0;
+    }
+  }
+  return texts;
+}
+
+/// What muxhost itself says in a window or a report, by source file.
+std::map<std::string, Texts> TextsOfWindow() {
+  namespace fs = std::filesystem;
+  const std::regex call("\\b(Tr|ToSay|[sS]ay_?)\\(");
+  std::map<std::string, Texts> found;
+  for (const auto& entry : fs::recursive_directory_iterator(QUORVEL_SOURCE_DIR "/apps/muxhost")) {
+    if (entry.path().extension() != ".cpp") continue;
+    std::ifstream file(entry.path());
+    const std::string source{std::istreambuf_iterator<char>(file), {}};
+    for (std::sregex_iterator it(source.begin(), source.end(), call), end; it != end; ++it) {
+      found[entry.path().filename().string()].merge(
+          TextsInCall(source, static_cast<std::size_t>(it->position() + it->length())));
+    }
+  }
+  return found;
+}
+
+char Mnemonic(const std::string& text) {
+  const auto at = text.find('&');
+  return at == std::string::npos
+             ? ' '
+             : static_cast<char>(std::toupper(static_cast<unsigned char>(text.at(at + 1))));
+}
+
 class Languages : public testing::TestWithParam<std::string> {
  protected:
   const std::shared_ptr<const Language> language_ = ChooseLanguage(GetParam(), {}).language;
@@ -88,6 +138,25 @@ TEST_P(Languages, AreComplete) {
       EXPECT_EQ(ReadLanguage(json).findings, Lines{});
     }
   }
+}
+
+TEST_P(Languages, HaveAllThatTheWindowSaysWithLettersThatTellMenusApart) {
+  Texts said, translated;
+  for (const auto& [file, texts] : TextsOfWindow()) {
+    std::map<char, char> english;
+    for (const std::string& text : texts) {
+      said.insert(text);
+      if (!language_->window.contains(text)) continue;
+      const char letter = Mnemonic(language_->window.at(text));
+      if (letter == ' ') continue;
+      const auto same = english.emplace(letter, Mnemonic(text)).first;
+      EXPECT_EQ(same->second, Mnemonic(text)) << file << ": " << text;
+    }
+  }
+  for (const auto& [text, translation] : language_->window) translated.insert(text);
+  EXPECT_EQ(translated, said);
+  EXPECT_NE(Mnemonic(language_->window.at("&File")), Mnemonic(language_->window.at("&Edit")));
+  EXPECT_EQ(language_->code, GetParam());
 }
 
 TEST_P(Languages, AreNotEnglishButWhereTheWordsAreAlike) {
@@ -152,6 +221,18 @@ TEST(ReadLanguage, PassesOverWhatWouldBreakAText) {
     if (!answer.empty()) {
       EXPECT_EQ(language.findings.front(), answer);
     }
+  }
+  const std::map<std::string, std::string> window = {
+      {R"("Cancel": "Abbrechen")", ""},
+      {R"("Close": "&Zu")", "the window's text for \"Close\" has a mnemonic too many"},
+      {R"("&Find:": "Suchen:")", ""},
+      {R"("%1 of %2": "%1")", "the window's text for \"%1 of %2\" has other placeholders"},
+      {R"("Cancle": "x")", "the window has no text \"Cancle\""}};
+  for (const auto& [text, answer] : window) {
+    const Language language =
+        ReadLanguage(R"({"language": "x", "texts": {}, "window": {)" + text + "}}");
+    EXPECT_EQ(language.window.empty(), !answer.empty()) << text;
+    EXPECT_EQ(language.findings.at(1).substr(0, answer.size()), answer);
   }
   const Lines missing =
       ReadLanguage(R"({"language": "x", "texts": {"0": "a", "2": "b"}})").findings;
