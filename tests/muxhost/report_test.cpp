@@ -45,12 +45,13 @@ std::string Unbalanced(const std::string& html) {
 TEST(Report, TellsSettingsByWindowWithWhatWasChangedAndTheBlocks) {
   const std::string html = ReportAfter(
       "device model=6 cameras=4 name=<TX>\ndownload\nset FullDwell 9\n"
-      "set CamInfo(1).title \"A&B\"\nset CamInfo(2).SignalGain 60\n");
+      "set CamInfo(1).title \"A&B\"\nset CamInfo(2).SignalGain 60\n"
+      "set CamInfo(0).ActGrid(3) 7\n");
   EXPECT_EQ(Unbalanced(html), "");
   const char* const parts[] = {
       "<title>Settings of &lt;TX&gt;</title>",
       "<tr><th>Model</th>\n<td>6 Triplex NTSC</td>\n</tr>",
-      "<tr><th>Changed</th>\n<td>3 settings</td>\n</tr>",
+      "<tr><th>Changed</th>\n<td>4 settings</td>\n</tr>",
       "<tr><td>Sequencing &gt; Fullscreen Dwell</td>\n<td>5 s</td>\n"
       "<td class=\"changed\">\u25CF 9 s</td>\n<td>block 59</td>\n</tr>",
       "<tr><th>Fullscreen Dwell</th>\n<td class=\"changed\">\u25CF 9 s<br>"
@@ -60,11 +61,17 @@ TEST(Report, TellsSettingsByWindowWithWhatWasChangedAndTheBlocks) {
       "<tr><td class=\"changed\">\u25CF 2</td>\n"
       "<td class=\"bytes\">41 26 42 20 20 20 20 20 20 20 20 20 20 00 00 00</td>\n"
       "<td class=\"names\">CamInfo(1).title</td>\n</tr>",
-      "CamEvent(0-15).EvAssociated(0)"};
+      "CamEvent(0-15).EvAssociated(0)",
+      "<tr><th>CamInfo(0).ActGrid(0-2)</th>\n<td>255 255 255</td>\n</tr>\n"
+      "<tr><th>CamInfo(0).ActGrid(3)</th>\n<td class=\"changed\">\u25CF 7<br>"
+      "<span class=\"was\">was 255</span>\n</td>\n</tr>\n"
+      "<tr><th>CamInfo(0).ActGrid(4-31)</th>\n"};
   for (const char* const part : parts) {
     EXPECT_NE(html.find(part), std::string::npos) << part;
   }
   EXPECT_EQ(ReportAfter("device\ndownload\n").find("\u25CF"), std::string::npos);
+  const std::string german = ReportAfter("language de\ndevice name=TX\ndownload\n");
+  EXPECT_NE(german.find("<h1>Einstellungen von TX</h1>"), std::string::npos);
 }
 
 TEST(Report, GathersNamesThatDifferInTheirNumbers) {

@@ -175,13 +175,48 @@ class Report {
   }
   void WriteList(Rows rows) {
     html_.Open("table");
-    for (const SettingRow& row : rows) {
+    while (!rows.empty()) {
       html_.Open("tr");
-      html_.Element("th", row.at.item.empty() ? Place(row.at, row.settings) : LabelOf(row));
-      WriteValue(&row);
+      if (rows.front().at.item.empty()) {
+        WriteArray(TakeAlike(rows, [this](const SettingRow& a, const SettingRow& b) {
+          return IsOfArray(a) && IsOfArray(b) && DifferInLastNumber(a, b);
+        }));
+      } else {
+        html_.Element("th", LabelOf(rows.front()));
+        WriteValue(&rows.front());
+        rows = rows.subspan(1);
+      }
       html_.Close("tr");
     }
     html_.Close("table");
+  }
+  /// What no editor shows is told array by array, but for what was changed.
+  [[nodiscard]] bool IsOfArray(const SettingRow& row) const {
+    return row.settings.size() == 1 && !was_.contains(Place(row.at, row.settings));
+  }
+  static bool DifferInLastNumber(const SettingRow& a, const SettingRow& b) {
+    const auto around = [](const std::string& name) {
+      const auto open = name.rfind('(');
+      const auto close = name.find(')', open);
+      return open == std::string::npos || close == std::string::npos
+                 ? std::pair(name, std::string())
+                 : std::pair(name.substr(0, open), name.substr(close));
+    };
+    return around(a.settings.front()) == around(b.settings.front());
+  }
+  void WriteArray(Rows rows) {
+    if (rows.size() == 1) {
+      html_.Element("th", Place(rows.front().at, rows.front().settings));
+      return WriteValue(&rows.front());
+    }
+    std::vector<std::string> names;
+    std::string values;
+    for (const SettingRow& row : rows) {
+      names.push_back(row.settings.front());
+      values += (values.empty() ? "" : " ") + row.value;
+    }
+    html_.Element("th", Gathered(names).front());
+    html_.Element("td", values);
   }
   static std::string LabelOf(const SettingRow& row) {
     const std::string label = LabelText(row.at.label);

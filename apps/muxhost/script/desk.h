@@ -9,6 +9,7 @@
 
 #include "muxhost/find/setting_table.h"
 #include "muxhost/host_session.h"
+#include "muxhost/texts/speech.h"
 #include "quorvel/headless_platform.h"
 
 namespace quorvel::muxhost {
@@ -50,6 +51,8 @@ struct Desk {
   std::ostream& out;
   DeskPlatform platform;
   HostSession session;
+  /// Of reports, which are in the language of the component's texts.
+  Speech say = InEnglish;
   /// Message boxes shown since the script last asked.
   std::vector<Message> messages;
   /// Makes a PDF file of HTML; a build without a window cannot.

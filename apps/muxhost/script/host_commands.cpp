@@ -115,6 +115,7 @@ void SpeakLanguage(Desk& desk, Words words) {
   const ChosenLanguage chosen = ChooseLanguage(words[1], LocalesOfEnvironment());
   for (const std::string& finding : chosen.findings) desk.out << finding << '\n';
   Speak(desk.platform, desk.session, chosen.language);
+  desk.say = SpeechIn(chosen.language);
 }
 
 namespace {

@@ -12,8 +12,9 @@ void Report(Desk& desk, Words words) {
   const bool pdf = path.ends_with(".pdf");
   if (!pdf && !path.ends_with(".html")) throw ScriptError("a report is a .html or a .pdf");
   if (pdf && !desk.make_pdf) throw ScriptError("this muxhost was built without PDF");
-  const std::string source = desk.session.HasDevice() ? "the device" : "a settings file";
-  const std::string html = HtmlReport(desk.session.Control(), {source, desk.platform.Now()});
+  const std::string source = desk.say(desk.session.HasDevice() ? "the device" : "a settings file");
+  const std::string html =
+      HtmlReport(desk.session.Control(), {source, desk.platform.Now(), desk.say});
   if (html.empty()) throw ScriptError("no configuration has arrived");
   const std::vector<std::uint8_t> bytes =
       pdf ? desk.make_pdf(html) : std::vector<std::uint8_t>(html.begin(), html.end());

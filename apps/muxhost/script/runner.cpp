@@ -16,6 +16,7 @@ namespace quorvel::muxhost {
 ScriptRunner::ScriptRunner(std::istream& in, std::ostream& out, std::ostream& err, bool echo,
                            std::shared_ptr<const Language> language)
     : in_(in), out_(out), err_(err), echo_(echo), desk_(out) {
+  desk_.say = SpeechIn(language);
   if (language != nullptr) Speak(desk_.platform, desk_.session, std::move(language));
   desk_.platform.at_modal = [this](Dialog& dialog) { return AtModal(dialog); };
 }

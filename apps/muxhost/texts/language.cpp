@@ -128,6 +128,14 @@ void TakeWindow(Language& language, const Json& window) {
 
 }  // namespace
 
+Speech SpeechIn(std::shared_ptr<const Language> language) {
+  if (language == nullptr) return InEnglish;
+  return [language = std::move(language)](const char* english) {
+    const auto text = language->window.find(english);
+    return text == language->window.end() ? InEnglish(english) : text->second;
+  };
+}
+
 const std::set<std::string, std::less<>>& WindowTexts() {
   // Each of the files that are part of the program has them all.
   static const auto texts = [] {

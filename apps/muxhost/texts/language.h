@@ -2,10 +2,13 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "muxhost/texts/speech.h"
 
 namespace quorvel::muxhost {
 
@@ -23,6 +26,9 @@ struct Language {
 /// does is passed over. Findings name the ids of such texts, of texts that are missing, and those
 /// that no text has. Throws std::runtime_error when this is no such file.
 [[nodiscard]] Language ReadLanguage(std::string_view json);
+
+/// What says the texts of the window in a language; in English without one.
+[[nodiscard]] Speech SpeechIn(std::shared_ptr<const Language> language);
 
 /// The English texts of the window that a language may translate.
 [[nodiscard]] const std::set<std::string, std::less<>>& WindowTexts();
