@@ -60,7 +60,7 @@ TEST(QtGallery, HasEveryPageOfWhatTheMenuOpens) {
   const QStringList taken = QDir(folder.path()).entryList(QDir::Files);
   for (const char* const name :
        {"frm_Alarm-1", "frm_CameraSetup-1", "frm_CameraSetup-3", "frm_ToMux-3", "frm_ULFrMux-2",
-        "menu", "menu-mnu_Factory", "mnuActGrid", "muxhost-4-sent"}) {
+        "menu", "menu-mnu_Factory", "mnuActGrid", "muxhost-4-sent", "muxhost-find"}) {
     EXPECT_TRUE(taken.contains(QString(name) + ".png")) << name;
   }
   EXPECT_FALSE(taken.contains("question.png"));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
@@ -105,6 +106,7 @@ void Tour::Go() {
   TakeChanges();
   constexpr std::size_t kZoneBytes = 32;
   session_.WriteZones(0, std::vector<Byte>(kZoneBytes, 0xA5));
+  TakeFind();
   TakeHost("3-changed");
   Send();
   TakeHost("4-sent");
@@ -203,6 +205,14 @@ void Tour::TakeChanges() {
   ReviewBox box(session_, ReviewBox::Sending{}, &window_);
   box.show();
   album_.Take(box, "review");
+}
+
+void Tour::TakeFind() {
+  auto& find = *window_.findChild<QDockWidget*>("Find");
+  find.show();
+  window_.findChild<QLineEdit*>("FindWords")->setText("Lobby");
+  TakeHost("find");
+  find.hide();
 }
 
 void Tour::TakeWhatOpens(const std::string& item) {

@@ -44,6 +44,8 @@ class Tour {
   [[nodiscard]] QWidget* OpenedWindow() const;
   /// Changes an editor, and takes its marks and what lists the changes.
   void TakeChanges();
+  /// Takes what finds settings, in the host's window.
+  void TakeFind();
   /// Does something to a modal dialog; a failure in there is thrown once the dialog has gone.
   void WithModal(std::function<void(Dialog&)> act, void (HostSession::*command)());
 
