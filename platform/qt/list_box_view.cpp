@@ -138,7 +138,7 @@ void ChoiceList::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QListView::keyPressEvent(event);
-  if (SelectedRow() >= 0 && SelectedRow() != before) on_choose(SelectedRow());
+  if (SelectedRow() >= 0 && SelectedRow() != before) on_move(SelectedRow());
 }
 
 ListBoxView::ListBoxView(VerbsUnderWay& verbs, ListBox& model, QWidget& parent)
@@ -146,6 +146,7 @@ ListBoxView::ListBoxView(VerbsUnderWay& verbs, ListBox& model, QWidget& parent)
   GetBody()->setModel(texts_);
   GetBody()->on_cancel = [this] { Refresh(Aspect::kSelection); };
   GetBody()->on_choose = [this](int item) { Act([item](ListBox& list) { list.Choose(item); }); };
+  GetBody()->on_move = [this](int item) { Act([item](ListBox& list) { list.MoveOnTo(item); }); };
   DrawAll();
 }
 

@@ -16,6 +16,8 @@ class ChoiceList : public FocusShown<QListView> {
  public:
   explicit ChoiceList(QWidget& parent);
   std::function<void(int)> on_choose;
+  /// The same, by a key that goes on from item to item.
+  std::function<void(int)> on_move;
   /// The pointer was pressed on an item, and is let go elsewhere: nothing was chosen.
   std::function<void()> on_cancel;
 

@@ -1,6 +1,7 @@
 #include "platform/qt/value_views.h"
 
 #include <QKeyEvent>
+#include <QPointer>
 #include <QWheelEvent>
 
 namespace quorvel::qt {
@@ -10,20 +11,30 @@ DropDown::DropDown(QWidget& parent) : QComboBox(&parent) {
   setSizeAdjustPolicy(AdjustToContents);
 }
 
+void DropDown::keyPressEvent(QKeyEvent* event) {
+  const QPointer<DropDown> life(this);
+  moves_ = true;
+  QComboBox::keyPressEvent(event);
+  if (life != nullptr) moves_ = false;
+}
+
 void DropDown::wheelEvent(QWheelEvent* event) {
-  if (hasFocus()) {
-    QComboBox::wheelEvent(event);
-  } else {
-    event->ignore();
-  }
+  if (!hasFocus()) return event->ignore();
+  const QPointer<DropDown> life(this);
+  moves_ = true;
+  QComboBox::wheelEvent(event);
+  if (life != nullptr) moves_ = false;
 }
 
 ComboBoxView::ComboBoxView(VerbsUnderWay& verbs, ComboBox& model, QWidget& parent)
     : ViewOf(verbs, model, new DropDown(parent)), texts_(new ChoiceTexts(model, *GetBody())) {
   GetBody()->setModel(texts_);
   // Of all signals only this one comes from the user alone, and also for the current item.
-  QObject::connect(GetBody(), &QComboBox::activated, Context(),
-                   [this](int item) { Act([item](ComboBox& box) { box.Choose(item); }); });
+  QObject::connect(GetBody(), &QComboBox::activated, Context(), [this](int item) {
+    Act([item, moves = GetBody()->Moves()](ComboBox& box) {
+      moves ? box.MoveOnTo(item) : box.Choose(item);
+    });
+  });
   DrawAll();
 }
 

@@ -15,9 +15,15 @@ namespace quorvel::qt {
 class DropDown : public QComboBox {
  public:
   explicit DropDown(QWidget& parent);
+  /// Whether an item is reached by a key or the wheel, which go on from item to item.
+  [[nodiscard]] bool Moves() const { return moves_; }
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  bool moves_ = false;
 };
 
 class ComboBoxView : public ViewOf<ComboBox, DropDown> {

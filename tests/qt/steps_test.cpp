@@ -70,6 +70,13 @@ TEST_F(QtSteps, KeysTakeBackAndPutBackInAnyControl) {
   grid.setFocus();
   Press(grid, Qt::Key_Backspace);
   EXPECT_EQ(spoken(), "100");
+
+  auto& list = Body("lstSnlGain");
+  list.setFocus();
+  QTest::keyClicks(&list, "125");
+  EXPECT_EQ(spoken(), "125. Changed from: 100");
+  Press(list, Qt::Key_Z);
+  EXPECT_EQ(spoken(), "100") << "what is typed is one step";
 }
 
 TEST_F(QtSteps, EscapeAsksBeforeAChangeIsLostAndCancelDoesNot) {

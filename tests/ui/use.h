@@ -27,7 +27,8 @@ Answer Use(Widget& widget, User& user) {
     case WidgetKind::kListBox:
     case WidgetKind::kComboBox: {
       auto& list = static_cast<ChoiceWidget&>(widget);
-      return list.Choose(user.Place(list.Count()));
+      const int item = user.Place(list.Count());
+      return user.Below(2) == 0 ? list.Choose(item) : list.MoveOnTo(item);
     }
     case WidgetKind::kSlider: {
       auto& slider = static_cast<Slider&>(widget);

@@ -35,11 +35,16 @@ void ChoiceWidget::Select(int index) {
   Redraw(Aspect::kSelection);
 }
 
-Answer ChoiceWidget::Choose(int index) {
+Answer ChoiceWidget::Choose(int index) { return Take(index, Step::kOfItsOwn); }
+
+Answer ChoiceWidget::MoveOnTo(int index) { return Take(index, Step::kGoesOn); }
+
+Answer ChoiceWidget::Take(int index, Step step) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (index < 0 || index >= Count()) return Answer::kNoSuchPlace;
-  const Gesture gesture(*this);
+  const Gesture gesture(*this,
+                        step == Step::kGoesOn ? Gesture::Kind::kGoesOn : Gesture::Kind::kOnce);
   Select(index);
   Raise(on_click);
   return refusal;

@@ -32,7 +32,7 @@ Answer TimePicker::Pick(ClockTime time) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsTime(time)) return Answer::kNotAChoice;
-  const Gesture gesture(*this);
+  const Gesture gesture(*this, Gesture::Kind::kGoesOn);  // one digit after the other
   if (format_ == ClockFormat::kHoursMinutes) time.second = 0;
   time.minute = std::min(time.minute, last_minute_);
   Put(time, true);
@@ -59,7 +59,7 @@ Answer DatePicker::Pick(const CalendarDate& date) {
   const Answer refusal = Refusal();
   if (refusal != Answer::kDone) return refusal;
   if (!IsDate(date)) return Answer::kNotAChoice;
-  const Gesture gesture(*this);
+  const Gesture gesture(*this, Gesture::Kind::kGoesOn);  // one digit after the other
   Put(date, true);
   Raise(on_change);
   return refusal;

@@ -30,6 +30,9 @@ class QUORVEL_API ChoiceWidget : public Widget {
 
   /// A click on item `index`, also on the current one.
   Answer Choose(int index);
+  /// The same by a key or the wheel, which go on from item to item: what they come to in a row is
+  /// one step of the user's.
+  Answer MoveOnTo(int index);
   Handler on_click;
   void RaiseChosen() override { Raise(on_click); }
 
@@ -37,6 +40,9 @@ class QUORVEL_API ChoiceWidget : public Widget {
   using Widget::Widget;
 
  private:
+  enum class Step { kOfItsOwn, kGoesOn };
+  Answer Take(int index, Step step);
+
   std::vector<std::string> items_;
   int current_ = kNone;
 };
