@@ -1,6 +1,7 @@
 #include "core/setting_list.h"
 
 #include <algorithm>
+#include <type_traits>
 
 #include "core/layout/blocks.h"
 #include "core/layout/setting_pass.h"
@@ -12,10 +13,10 @@ namespace {
 using layout::SettingValue;
 using layout::Slot;
 
-template <class Visitor>
+template <bool writing = false, class Visitor>
 void Show(const Configuration& of, Visitor& visitor) {
   Identity id = of.id;
-  layout::SettingWalk<false, Visitor> walk(visitor, id.MaxCam, of.blocks);
+  layout::SettingWalk<writing, Visitor> walk(visitor, id.MaxCam, of.blocks);
   layout::DescribeBlocks(walk, of.rec, id);
 }
 
@@ -42,7 +43,7 @@ SettingList::SettingList(const Configuration& of) {
   PlaceVisitor visitor([this](const Slot& slot, const auto& item, int entry) {
     std::string name = layout::FullName(item.Owner(), item.Name(), entry);
     const auto [known, is_new] = by_name_.try_emplace(std::move(name), settings_.size());
-    if (is_new) settings_.push_back({known->first, layout::ValueHeldBy(item).unit, {}});
+    if (is_new) settings_.push_back({known->first, layout::ValueHeldBy(item).unit, {}, false});
     at_place_.push_back(known->second);
     std::vector<Byte>& blocks = settings_[known->second].blocks;
     const auto block = static_cast<Byte>(slot.block);
@@ -50,6 +51,13 @@ SettingList::SettingList(const Configuration& of) {
     if (at == blocks.end() || *at != block) blocks.insert(at, block);
   });
   Show(of, visitor);
+
+  PlaceVisitor written([this](const Slot& slot, const auto& item, int entry) {
+    if (std::remove_cvref_t<decltype(item)>::kReadOnly || IsDeviceBlock(slot.block)) return;
+    const auto known = by_name_.find(layout::FullName(item.Owner(), item.Name(), entry));
+    if (known != by_name_.end()) settings_[known->second].writable = true;
+  });
+  Show<true>(of, written);
 }
 
 std::optional<std::size_t> SettingList::Find(const std::string& name) const {

@@ -18,6 +18,7 @@ struct ListedSetting {
   std::string name;
   std::string_view unit;     ///< " s"; empty for none
   std::vector<Byte> blocks;  ///< that carry it, in rising order
+  bool writable = false;     ///< false of what only the device or the decoder writes
 };
 
 /// The settings of a device, numbered in block order: what two configurations of it hold is

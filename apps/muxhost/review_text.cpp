@@ -54,7 +54,7 @@ std::string BlocksInWords(std::span<const std::uint8_t> blocks) {
 
 std::string InWords(const ReviewLine& line) {
   return Place(line.at, line.settings) + ": " + Change(line) + " (" + BlocksInWords(line.blocks) +
-         ")";
+         (line.writable ? ")" : ", which only the device writes)");
 }
 
 std::string InWords(const SettingRow& row, std::optional<std::string_view> in_file) {

@@ -38,6 +38,7 @@ struct ReviewLine {
   std::string old_value;
   std::string new_value;
   std::vector<std::uint8_t> blocks;  ///< that carry what differs, in rising order
+  bool writable = true;  ///< false where only the device writes it: TakeBack refuses the line
 };
 
 /// What a comparison with a file has found.

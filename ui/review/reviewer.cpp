@@ -50,6 +50,11 @@ MapEntry Unplaced(std::size_t setting, const SettingList& settings) {
   return entry;
 }
 
+bool AreWritable(const MapEntry& entry, const SettingList& settings) {
+  return std::ranges::all_of(entry.parts,
+                             [&](const auto& part) { return settings.At(part.setting).writable; });
+}
+
 /// Two lines of one control that read alike are one.
 bool Join(ReviewLine& line, const ReviewLine& next, const std::string& camera) {
   const bool alike = line.at.window == next.at.window && line.at.control == next.at.control &&
@@ -58,6 +63,7 @@ bool Join(ReviewLine& line, const ReviewLine& next, const std::string& camera) {
   line.at.line += ", " + camera;
   line.settings.insert(line.settings.end(), next.settings.begin(), next.settings.end());
   line.stored.insert(line.stored.end(), next.stored.begin(), next.stored.end());
+  line.writable = line.writable && next.writable;
   std::set<Byte> blocks(line.blocks.begin(), line.blocks.end());
   blocks.insert(next.blocks.begin(), next.blocks.end());
   line.blocks.assign(blocks.begin(), blocks.end());
@@ -200,9 +206,10 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
   LeaveOutWhatReadsAlike(words, was, is, meant);
   const auto add = [&](const MapEntry& entry) {
     auto [old_value, new_value] = words.Of(entry, was, is);
-    ReviewLine line{words.Place(entry, is), entry.names,
-                    StoredIn(entry, was),   std::move(old_value),
-                    std::move(new_value),   BlocksOf(entry, settings, is, &was)};
+    ReviewLine line{words.Place(entry, is),      entry.names,
+                    StoredIn(entry, was),        std::move(old_value),
+                    std::move(new_value),        BlocksOf(entry, settings, is, &was),
+                    AreWritable(entry, settings)};
     const std::string camera = std::to_string(entry.camera + 1);
     if (entry.shared && !lines.empty() && Join(lines.back(), line, camera)) return;
     lines.push_back(std::move(line));

@@ -75,7 +75,6 @@ ReviewBox::ReviewBox(HostSession& session, const std::optional<Sending>& sending
 QLayout* ReviewBox::MakeButtons(bool sends) {
   auto* const row = new QHBoxLayout;
   auto* const close = new QPushButton(sends ? Tr("Cancel") : Tr("Close"));
-  take_back_->setToolTip(Tr("Sets it as the device has it (Ctrl+Backspace)"));
   open_->setToolTip(Tr("Opens its editor there (Return)"));
   row->addWidget(take_back_);
   row->addWidget(open_);
@@ -160,7 +159,10 @@ const ReviewLine* ReviewBox::Chosen() const {
 
 void ReviewBox::ShowChosen() {
   const ReviewLine* const line = Chosen();
-  take_back_->setEnabled(line != nullptr);
+  const bool writable = line == nullptr || line->writable;
+  take_back_->setEnabled(line != nullptr && writable);
+  take_back_->setToolTip(writable ? Tr("Sets it as the device has it (Ctrl+Backspace)")
+                                  : Tr("It cannot be taken back: only the device writes it."));
   open_->setEnabled(line != nullptr && !line->at.item.empty());
 }
 
