@@ -67,7 +67,6 @@ class KeyboardAlone : public MuxhostOnScreen {
   /// The key goes down and does not come up again: the window may be gone by then.
   static void Press(const QString& key) {
     QWindow* const window = QGuiApplication::focusWindow();
-    if (window == nullptr) return;
     if (key.startsWith('"')) return QTest::keyPress(window, key.at(1).toLatin1());
     const QKeyCombination keys = QKeySequence(key)[0];
     QTest::keyPress(window, keys.key(), keys.keyboardModifiers());
@@ -81,9 +80,12 @@ class KeyboardAlone : public MuxhostOnScreen {
     }
     return all;
   }
-  /// The focus goes back to a window when the one before it has gone, as on a desktop.
+  /// The focus goes back to a window when the one before it has gone, as on a desktop: not before
+  /// one that opens in its place has had its turns to take it.
   void ActivateFront() {
-    if (QApplication::activeWindow() != nullptr || Popup() != nullptr) return;
+    constexpr int kTurns = 50;
+    turns_ = QGuiApplication::focusWindow() == nullptr ? turns_ + 1 : 0;
+    if (turns_ % kTurns != kTurns - 1) return;
     QWidget* front = QApplication::activeModalWidget();
     for (QWidget* const it : QApplication::topLevelWidgets()) {
       const bool dialog = it->isVisible() && it != &window_ && it->windowType() == Qt::Window;
@@ -95,8 +97,9 @@ class KeyboardAlone : public MuxhostOnScreen {
   void Proceed() {
     if (steps_.empty() && keys_.isEmpty()) return;
     QTimer::singleShot(1, &window_, [this] { Proceed(); });
-    if (!keys_.isEmpty()) return Press(keys_.takeFirst());
     ActivateFront();
+    if (QGuiApplication::focusWindow() == nullptr) return;
+    if (!keys_.isEmpty()) return Press(keys_.takeFirst());
     const Step& step = steps_.front();
     const bool in_window = (step.window.isEmpty() && Popup() != nullptr) ||
                            (!step.window.isEmpty() && Window().startsWith(step.window));
@@ -113,6 +116,7 @@ class KeyboardAlone : public MuxhostOnScreen {
 
   std::list<Step> steps_;
   QStringList keys_;  ///< still to be pressed, of the step before
+  int turns_ = 0;     ///< of the event loop, in which no window had the focus
 };
 
 TEST_F(KeyboardAlone, FromTheFirstKeyToAVerifiedUpload) {
