@@ -58,6 +58,7 @@ void DeviceState::Adopt(BlockImage image, ImageSource source, CombinedArray arra
   }
   history_.Clear();
   taken_.clear();
+  unsure_.clear();
   device_image_ = source == ImageSource::kDevice ? arrived_ : nullptr;
 }
 
@@ -93,9 +94,11 @@ Holdings DeviceState::Present() {
                     ImageByteCount,
                     LoadedFromFile,
                     UsePcTime,
-                    image_number_};
+                    MenuLocksKeyboard,
+                    image_number_,
+                    source_,
+                    arrived_};
   *holdings.record = Record();
-  holdings.arrived = arrived_;
   return holdings;
 }
 
@@ -118,8 +121,10 @@ void DeviceState::PutBack(Holdings holdings) noexcept {
   ImageByteCount = holdings.byte_count;
   LoadedFromFile = holdings.loaded_from_file;
   UsePcTime = holdings.use_pc_time;
+  MenuLocksKeyboard = holdings.menu_locks_keyboard;
   // An editor that opened on the other image must not write into this one.
-  if (image_number_ != std::exchange(image_number_, holdings.image_number)) ++generation_;
+  if (image_number_ != holdings.image_number) ++generation_;
+  image_number_ = holdings.image_number;
   source_ = holdings.source;
   arrived_ = std::move(holdings.arrived);
 }
@@ -138,6 +143,7 @@ bool DeviceState::GoTo(std::optional<Holdings> there) {
 
 void DeviceState::NoteTaken(int number, std::span<const Byte, kBlockSize> bytes) {
   std::ranges::copy(bytes, taken_[number].begin());
+  unsure_.erase(number);
 }
 
 void DeviceState::CompareWithTaken() noexcept {
@@ -146,6 +152,7 @@ void DeviceState::CompareWithTaken() noexcept {
   } catch (...) {
     // Without memory to compare: what may be another on the device is sent again.
     for (const auto& [number, taken] : taken_) env.blocks.AddBlk(static_cast<Byte>(number));
+    for (const int number : unsure_) env.blocks.AddBlk(static_cast<Byte>(number));
   }
 }
 
@@ -158,6 +165,9 @@ void DeviceState::PutTaken(BlockImage& image) const {
 }
 
 void DeviceState::ListWhatDiffers() {
+  for (const int number : unsure_) {
+    if (BlkImage.Counts(number)) env.blocks.AddBlk(static_cast<Byte>(number));
+  }
   if (taken_.empty()) return;
   const BlockImage now = EncodedImage();
   BlockImage taken_image = BlkImage;

@@ -92,14 +92,18 @@ class DeviceState {
   /// now. DropFlags: it does not come.
   void KeepFlags() { kept_flags_ = Flags{LoadedFromFile, UsePcTime}; }
   void DropFlags() { kept_flags_.reset(); }
+  /// Block `number` goes to the device, which may take it without saying so: until it says what it
+  /// has taken, the block stays listed where a step changes the list.
+  void NoteHandedOver(int number) { unsure_.insert(number); }
   /// The device has taken these bytes for block `number`.
   void NoteTaken(int number, std::span<const Byte, kBlockSize> bytes);
   /// Brings the list and the change marks in line with what the device has taken.
   void CompareWithTaken() noexcept;
 
+  /// Whether the device has given an image, of the model of the present one.
+  [[nodiscard]] bool KnowsDevice() const;
   /// What the device holds as far as is known: its image as it came, with what it has taken since.
-  /// Where it has given none, or one of another model or size than the present image, the present
-  /// image as it came. Only where there is an image.
+  /// Where it is not known, the present image as it came. Only where there is an image.
   [[nodiscard]] std::unique_ptr<DecodedImage> OfDevice() const;
   /// Sets settings as `stored` says (see SetStored), as one step. Of the blocks that carry them,
   /// those in which nothing differs from the device any more leave the list; where nothing differs
@@ -136,6 +140,7 @@ class DeviceState {
 
   EditHistory history_;
   TakenBlocks taken_;
+  std::set<int> unsure_;  ///< blocks of which the device may have what was handed over, or not
   int image_number_ = 0;
   int moves_ = 0;
   ImageSource source_ = ImageSource::kDevice;

@@ -35,6 +35,7 @@ struct Holdings {
   std::int32_t byte_count = 0;
   bool loaded_from_file = false;
   bool use_pc_time = false;
+  bool menu_locks_keyboard = false;
   int image_number = 0;  ///< which of the images that have arrived it is
   ImageSource source = ImageSource::kDevice;
   std::shared_ptr<const BlockImage> arrived = nullptr;  ///< the image as it came

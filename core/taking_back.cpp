@@ -16,9 +16,8 @@ constexpr int kClockBlock = 61;
 /// Thrown to leave a step that cannot be made.
 struct CannotBeSet {};
 
-/// True when two images are of devices with the same settings.
+/// True when two images are of devices with the same settings, but for what one has more blocks.
 bool AreOfOneKind(const BlockImage& one, const BlockImage& other) {
-  if (one.BlkCount() != other.BlkCount()) return false;
   const Identity a = ReadIdentity(one);
   const Identity b = ReadIdentity(other);
   return a.ModelCode == b.ModelCode && a.MaxCam == b.MaxCam;
@@ -26,6 +25,7 @@ bool AreOfOneKind(const BlockImage& one, const BlockImage& other) {
 
 /// True when a block, its clock included, is in `now` as the device has it.
 bool HasAll(const BlockImage& device, const BlockImage& now, int number, const Identity& id) {
+  if (!device.Counts(number)) return false;
   const auto had = device.Block(number);
   const auto has = now.Block(number);
   for (int at = 0; at < kBlockSize; ++at) {
@@ -37,8 +37,12 @@ bool HasAll(const BlockImage& device, const BlockImage& now, int number, const I
 
 }  // namespace
 
+bool DeviceState::KnowsDevice() const {
+  return HasImage() && device_image_ != nullptr && AreOfOneKind(*device_image_, BlkImage);
+}
+
 std::unique_ptr<DecodedImage> DeviceState::OfDevice() const {
-  const bool of_device = device_image_ != nullptr && AreOfOneKind(*device_image_, BlkImage);
+  const bool of_device = KnowsDevice();
   BlockImage image = of_device ? *device_image_ : arrived_ != nullptr ? *arrived_ : BlkImage;
   if (of_device || device_image_ == nullptr) PutTaken(image);
   auto device = std::make_unique<DecodedImage>(std::move(image));
@@ -94,14 +98,15 @@ void DeviceState::UnlistWhatDeviceHas(const std::set<Byte>& blocks) {
     constexpr std::size_t kScript = 1 + clsSubMacro::kLongest;
     const int number = kFirstMacroBlock + static_cast<int>(i);
     if (!macros.at(i).SettleLike(device->record.AllSubMacros().at(i))) continue;
-    if (!BlkImage.Counts(number)) continue;
+    if (!BlkImage.Counts(number) || !device->image.Counts(number)) continue;
     // Bytes behind its end are the device's again, too.
     std::ranges::copy(device->image.Block(number).first<kScript>(), BlkImage.Block(number).begin());
   }
   const BlockImage now = EncodedImage();
   const auto stays = [&](int number) {
     if (number == kClockBlock && UsePcTime) return true;
-    return !now.Counts(number) || !HasAll(device->image, now, number, env.identity);
+    return !now.Counts(number) || unsure_.contains(number) ||
+           !HasAll(device->image, now, number, env.identity);
   };
   bool differs = false;
   for (int number = 1; now.Counts(number) && !differs; ++number) {
@@ -115,7 +120,8 @@ void DeviceState::UnlistWhatDeviceHas(const std::set<Byte>& blocks) {
     if (!meant || stays(number)) env.blocks.AddBlk(number);
   }
   for (const Byte number : blocks) {
-    if (!now.Counts(number) || (number == kClockBlock && UsePcTime)) continue;
+    if (!now.Counts(number) || !device->image.Counts(number)) continue;
+    if (number == kClockBlock && UsePcTime) continue;
     RenewChangeMark(number, device->image.Block(number), now.Block(number), device->record,
                     BlkImage, ComboArray, env, Record());
   }

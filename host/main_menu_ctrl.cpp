@@ -155,6 +155,8 @@ std::string MainMenuCtrl::RedoText() const {
   return text;
 }
 
+bool MainMenuCtrl::KnowsDevice() const { return component_->context.device.KnowsDevice(); }
+
 std::vector<ReviewLine> MainMenuCtrl::Review() {
   std::vector<ReviewLine> lines;
   component_->Call("Review", [&, &it = *component_] { lines = it.Review(); });

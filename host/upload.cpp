@@ -274,6 +274,7 @@ void Upload::SendNextBlock() {
     dialog_.BlockGoes(number, static_cast<int>(next_), static_cast<int>(plan_.size()));
   }
   unacknowledged_ = block;
+  context_.device.NoteHandedOver(number);
   SendPacket(packet);
 }
 

@@ -144,12 +144,15 @@ class QUORVEL_API MainMenuCtrl {
   [[nodiscard]] std::string UndoText() const;
   [[nodiscard]] std::string RedoText() const;
 
+  /// Whether the device has given an image, and one of the model of the present one: what it holds
+  /// is known then, as far as it has told.
+  [[nodiscard]] bool KnowsDevice() const;
   /// What differs from the device, in the words of the editors: from its image as it came, with
-  /// what it has taken since; where it has given none, or another kind of device has, from the
-  /// present image as it came. A line for each control or cell, in the order of the menu, then by
-  /// page, control and line; what no editor shows comes last, in block order, by name and value as
-  /// Settings() tells them. Empty without an image. The texts are asked for while it is made,
-  /// unless they are known.
+  /// what it has taken since; where that is not known, from the present image as it came. Blocks
+  /// that only one of the two has do not count. A line for each control or cell, in the order of
+  /// the menu, then by page, control and line; what no editor shows comes last, in block order, by
+  /// name and value as Settings() tells them. Empty without an image. The texts are asked for while
+  /// it is made, unless they are known.
   [[nodiscard]] std::vector<ReviewLine> Review();
   /// What differs from an image or a settings file of the same model. What only one of the two has
   /// does not count.

@@ -49,7 +49,9 @@ ReviewBox::ReviewBox(HostSession& session, const std::optional<Sending>& sending
   summary_->setTextFormat(Qt::PlainText);
   summary_->setWordWrap(true);
   tree_->setAccessibleName(Tr("Changes"));
-  tree_->setHeaderLabels({Tr("Where"), Tr("Device"), Tr("Changed to"), Tr("Blocks")});
+  const bool known = session_.Control().KnowsDevice();
+  tree_->setHeaderLabels(
+      {Tr("Where"), known ? Tr("Device") : Tr("Was"), Tr("Changed to"), Tr("Blocks")});
   tree_->setAllColumnsShowFocus(true);
   tree_->setUniformRowHeights(true);
   auto* const column = new QVBoxLayout(this);
@@ -119,7 +121,14 @@ void ReviewBox::ShowLines() {
 
 void ReviewBox::ShowSummary() {
   QStringList sentences;
-  if (lines_.empty()) {
+  if (!session_.Control().KnowsDevice()) {
+    sentences << (lines_.empty()
+                      ? Tr("Nothing was changed since the settings were opened.")
+                      : Tr(lines_.size(), "%1 line was changed since the settings were opened.",
+                           "%1 lines were changed since the settings were opened.")
+                            .arg(lines_.size()));
+    if (session_.HasDevice()) sentences << Tr("The device has not been read.");
+  } else if (lines_.empty()) {
     sentences << Tr("Nothing differs from the device.");
   } else {
     sentences << Tr(lines_.size(), "%1 line differs from the device.",
