@@ -92,8 +92,8 @@ struct Reviewer::Known {
   std::shared_ptr<TextCatalogue::KnownTexts> texts = std::make_shared<TextCatalogue::KnownTexts>();
   std::optional<SettingList> settings = {};
   std::unique_ptr<UnseenEditors> present = {};
-  std::unique_ptr<UnseenEditors> other = {};
-  std::optional<SettingMap> map = {};  ///< of the present editors
+  std::vector<std::unique_ptr<UnseenEditors>> others = {};  ///< the last used is first
+  std::optional<SettingMap> map = {};                       ///< of the present editors
 };
 
 Reviewer::Reviewer(Context& context) : context_(context) {}
@@ -151,6 +151,35 @@ Side Reviewer::Other(const Configuration& other) {
   return side;
 }
 
+const UnseenEditors& Reviewer::EditorsOf(const MuxData& record) {
+  constexpr std::size_t kKept = 3;  // the device's, the factory's and a file's
+  auto& others = known_->others;
+  const auto found = std::ranges::find_if(others, [&](const auto& it) { return it->Show(record); });
+  if (found == others.end()) {
+    if (others.size() == kKept) others.pop_back();
+    others.insert(others.begin(), std::make_unique<UnseenEditors>(context_, record, known_->texts));
+  } else {
+    std::rotate(others.begin(), found, found + 1);
+  }
+  return *others.front();
+}
+
+std::vector<bool> Reviewer::Telling(const EntryWords& words, Side& was, const Side& is,
+                                    const MuxData& record) {
+  const auto& entries = known_->map->Entries();
+  std::vector<bool> meant(entries.size());
+  for (const std::size_t setting : Differing(is, was, KeptByMenu(*known_->settings, context_))) {
+    for (const std::size_t number : known_->map->Showing(setting)) {
+      const MapEntry& entry = entries.at(number);
+      if (entry.is_first && Differ(was, is, entry)) meant.at(number) = true;
+    }
+  }
+  if (std::ranges::find(meant, true) == meant.end()) return meant;
+  was.editors = &EditorsOf(record);
+  LeaveOutWhatReadsAlike(words, was, is, meant);
+  return meant;
+}
+
 /// A setting may stand behind several cells, as the end of a macro does behind all its steps: a
 /// cell that reads as it did is no line where others tell of all that differs behind it.
 void Reviewer::LeaveOutWhatReadsAlike(const EntryWords& words, const Side& was, const Side& is,
@@ -186,24 +215,14 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
   Side was = Other(other);
   const auto differing = Differing(is, was, KeptByMenu(settings, context_));
   if (differing.empty()) return {};
-  if (known_->other == nullptr || !known_->other->Show(other.rec)) {
-    known_->other = std::make_unique<UnseenEditors>(context_, other.rec, known_->texts);
-  }
-  was.editors = known_->other.get();
-
-  std::vector<bool> meant(map.Entries().size());
+  const EntryWords words(settings, context_);
+  const std::vector<bool> meant = Telling(words, was, is, other.rec);
   std::vector<MapEntry> unplaced;
   for (const std::size_t setting : differing) {
-    for (const std::size_t number : map.Showing(setting)) {
-      const MapEntry& entry = map.Entries().at(number);
-      if (entry.is_first && Differ(was, is, entry)) meant.at(number) = true;
-    }
     if (IsLeftOver(setting, map, was, is)) unplaced.push_back(Unplaced(setting, settings));
   }
   std::vector<ReviewLine> lines;
   lines.reserve(differing.size());
-  const EntryWords words(settings, context_);
-  LeaveOutWhatReadsAlike(words, was, is, meant);
   const auto add = [&](const MapEntry& entry) {
     auto [old_value, new_value] = words.Of(entry, was, is);
     ReviewLine line{words.Place(entry, is),      entry.names,
@@ -227,20 +246,24 @@ std::vector<SettingRow> Reviewer::AllSettings(const Configuration& device,
   const SettingList& settings = *known_->settings;
   const SettingMap& map = *known_->map;
   const Side is = Present();
-  const Side of_device = Other(device);
-  const Side of_factory = Other(factory);
+  Side of_device = Other(device);
+  Side of_factory = Other(factory);
   const EntryWords words(settings, context_);
+  const std::vector<bool> changed = Telling(words, of_device, is, device.rec);
+  const std::vector<bool> not_factory = Telling(words, of_factory, is, factory.rec);
   std::vector<SettingRow> rows;
-  const auto add = [&](const MapEntry& entry) {
+  const auto add = [&](const MapEntry& entry, bool from_device, bool from_factory) {
     rows.push_back({words.Place(entry, is), entry.names, StoredIn(entry, is), words.Of(entry, is),
-                    BlocksOf(entry, settings, is), Differ(is, of_device, entry),
-                    Differ(is, of_factory, entry)});
+                    BlocksOf(entry, settings, is), from_device, from_factory});
   };
-  for (const MapEntry& entry : map.Entries()) {
-    if (entry.is_first) add(entry);
+  for (std::size_t number = 0; number < map.Entries().size(); ++number) {
+    const MapEntry& entry = map.Entries()[number];
+    if (entry.is_first) add(entry, changed[number], not_factory[number]);
   }
   for (std::size_t setting = 0; setting < settings.Count(); ++setting) {
-    if (map.Showing(setting).empty()) add(Unplaced(setting, settings));
+    if (!map.Showing(setting).empty()) continue;
+    add(Unplaced(setting, settings), Differ(is, of_device, setting),
+        Differ(is, of_factory, setting));
   }
   return rows;
 }

@@ -10,6 +10,8 @@ namespace quorvel {
 
 struct Context;
 class EntryWords;
+class MuxData;
+class UnseenEditors;
 struct Side;
 
 /// Tells what of the present record differs from another, and where an installer finds each
@@ -28,7 +30,8 @@ class Reviewer {
   /// What differs from another configuration of the model. What only one of the two has does not
   /// count, and neither does the keyboard lock of a device that the menu locks by itself.
   [[nodiscard]] std::vector<ReviewLine> Review(const Configuration& other);
-  /// Every setting, compared with what the device holds and with the factory's values.
+  /// Every setting, compared with what the device holds and with the factory's values as a review
+  /// does.
   [[nodiscard]] std::vector<SettingRow> AllSettings(const Configuration& device,
                                                     const Configuration& factory);
 
@@ -38,6 +41,12 @@ class Reviewer {
   [[nodiscard]] bool IsUpToDate() const;
   [[nodiscard]] Side Present();
   [[nodiscard]] Side Other(const Configuration& other);
+  /// The editors that show another record; those of the last few are kept.
+  [[nodiscard]] const UnseenEditors& EditorsOf(const MuxData& record);
+  /// Which entries of the map tell what differs. The other side, that of `record`, gets its editors
+  /// where one does.
+  [[nodiscard]] std::vector<bool> Telling(const EntryWords& words, Side& was, const Side& is,
+                                          const MuxData& record);
   void LeaveOutWhatReadsAlike(const EntryWords& words, const Side& was, const Side& is,
                               std::vector<bool>& meant) const;
 

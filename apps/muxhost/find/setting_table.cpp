@@ -23,21 +23,11 @@ void SettingTable::CompareWith(std::optional<std::vector<Byte>> file) {
 
 void SettingTable::CompareFile() {
   cause_.clear();
-  in_file_.clear();
+  in_file_ = {};
   if (!file_) return;
   const FileReview review = session_.Control().Review(*file_);
   cause_ = review.cause;
-  for (const ReviewLine& line : review.lines) {
-    for (const std::string& name : line.settings) in_file_.emplace(name, line.old_value);
-  }
-}
-
-std::optional<std::string_view> SettingTable::InFile(const SettingRow& row) const {
-  for (const std::string& name : row.settings) {
-    const auto found = in_file_.find(name);
-    if (found != in_file_.end()) return found->second;
-  }
-  return std::nullopt;
+  in_file_ = OldValues(review.lines);
 }
 
 std::vector<std::size_t> SettingTable::List(Among among, std::string_view words) const {

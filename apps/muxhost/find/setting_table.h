@@ -1,12 +1,12 @@
 #pragma once
 
-#include <map>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "muxhost/find/old_values.h"
 #include "muxhost/find/setting_search.h"
 #include "muxhost/host_session.h"
 
@@ -33,7 +33,9 @@ class SettingTable {
   /// In the order of the menu; none without an image.
   [[nodiscard]] const std::vector<SettingRow>& Rows() const { return rows_; }
   /// What the file has for a row; nothing where it has the same.
-  [[nodiscard]] std::optional<std::string_view> InFile(const SettingRow& row) const;
+  [[nodiscard]] std::optional<std::string_view> InFile(const SettingRow& row) const {
+    return in_file_.Of(row);
+  }
   /// The numbers of rows to be listed, the nearest to the words first.
   [[nodiscard]] std::vector<std::size_t> List(Among among, std::string_view words) const;
 
@@ -55,7 +57,7 @@ class SettingTable {
   SettingSearch search_{{}};
   std::optional<std::vector<Byte>> file_;
   std::string cause_;
-  std::map<std::string, std::string, std::less<>> in_file_;  ///< values by setting
+  OldValues in_file_;
 };
 
 }  // namespace quorvel::muxhost
