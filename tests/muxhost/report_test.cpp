@@ -70,6 +70,14 @@ TEST(Report, TellsSettingsByWindowWithWhatWasChangedAndTheBlocks) {
     EXPECT_NE(html.find(part), std::string::npos) << part;
   }
   EXPECT_EQ(ReportAfter("device\ndownload\n").find("\u25CF"), std::string::npos);
+  // Two cameras that share a control and changed alike are one change, and each is marked.
+  const std::string lite = ReportAfter(
+      "device model=12 cameras=4\ndownload\nset CamEvent(0).PostEvDuration 7\n"
+      "set CamEvent(1).PostEvDuration 7\nset CamEvent(2).PostEvDuration 9\n");
+  for (const char* const camera : {"Camera 1", "Camera 2", "Camera 3"}) {
+    const std::string marked = std::string(camera) + "</th>\n<td class=\"changed\">";
+    EXPECT_NE(lite.find(marked), std::string::npos) << camera;
+  }
   const std::string german = ReportAfter("language de\ndevice name=TX\ndownload\n");
   EXPECT_NE(german.find("<h1>Einstellungen von TX</h1>"), std::string::npos);
 }

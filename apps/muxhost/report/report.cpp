@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "muxhost/find/old_values.h"
 #include "muxhost/report/html.h"
 #include "muxhost/report/setting_names.h"
 #include "muxhost/review_text.h"
@@ -53,9 +54,8 @@ class Report {
       : control_(control),
         say_(std::move(say)),
         settings_(control.AllSettings()),
-        changes_(control.Review()) {
-    for (const ReviewLine& line : changes_) was_[Place(line.at, line.settings)] = line.old_value;
-  }
+        changes_(control.Review()),
+        was_(changes_) {}
 
   std::string Write(const ReportHead& head) {
     const auto image = control_.EditedImage();
@@ -192,7 +192,7 @@ class Report {
   }
   /// What no editor shows is told array by array, but for what was changed.
   [[nodiscard]] bool IsOfArray(const SettingRow& row) const {
-    return row.settings.size() == 1 && !was_.contains(Place(row.at, row.settings));
+    return row.settings.size() == 1 && !was_.Of(row);
   }
   static bool DifferInLastNumber(const SettingRow& a, const SettingRow& b) {
     const auto around = [](const std::string& name) {
@@ -246,13 +246,13 @@ class Report {
   }
   void WriteValue(const SettingRow* row) {
     if (row == nullptr) return html_.Element("td", "");
-    const auto was = was_.find(Place(row->at, row->settings));
-    if (was == was_.end()) return html_.Element("td", row->value);
+    const auto was = was_.Of(*row);
+    if (!was) return html_.Element("td", row->value);
     html_.Open("td", "changed");
     html_.Text(kChanged + row->value);
     html_.Raw("<br>");
     html_.Element("span",
-                  was->second.empty() ? say_("was empty") : Fill(say_("was %1"), {was->second}),
+                  was->empty() ? say_("was empty") : Fill(say_("was %1"), {std::string(*was)}),
                   "was");
     html_.Close("td");
   }
@@ -287,7 +287,7 @@ class Report {
   Speech say_;
   std::vector<SettingRow> settings_;
   std::vector<ReviewLine> changes_;
-  std::map<std::string, std::string> was_;  ///< by place
+  OldValues was_;
   Html html_;
 };
 
