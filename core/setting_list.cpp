@@ -43,9 +43,11 @@ SettingList::SettingList(const Configuration& of) {
   PlaceVisitor visitor([this](const Slot& slot, const auto& item, int entry) {
     std::string name = layout::FullName(item.Owner(), item.Name(), entry);
     const auto [known, is_new] = by_name_.try_emplace(std::move(name), settings_.size());
-    if (is_new) settings_.push_back({known->first, layout::ValueHeldBy(item).unit, {}, false});
+    if (is_new) settings_.push_back({known->first, layout::ValueHeldBy(item).unit, {}, 0, false});
     at_place_.push_back(known->second);
-    std::vector<Byte>& blocks = settings_[known->second].blocks;
+    ListedSetting& setting = settings_[known->second];
+    setting.most = std::max(setting.most, slot.storable.most);
+    std::vector<Byte>& blocks = setting.blocks;
     const auto block = static_cast<Byte>(slot.block);
     const auto at = std::ranges::lower_bound(blocks, block);
     if (at == blocks.end() || *at != block) blocks.insert(at, block);

@@ -18,6 +18,7 @@ struct ListedSetting {
   std::string name;
   std::string_view unit;     ///< " s"; empty for none
   std::vector<Byte> blocks;  ///< that carry it, in rising order
+  int most = 0;              ///< the highest number that its place can hold
   bool writable = false;     ///< false of what only the device or the decoder writes
 };
 

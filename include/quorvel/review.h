@@ -26,7 +26,7 @@ struct SettingPosition {
   bool operator==(const SettingPosition&) const = default;
 };
 
-/// A control or a cell that differs from what it is compared with.
+/// A control or a cell that differs from what it is compared with, or what no editor shows.
 struct ReviewLine {
   SettingPosition at;
   /// What stands behind it: "CamInfo(2).SignalGain"; bit 3 of a mask as "Mask bit 3".
@@ -49,7 +49,7 @@ struct FileReview {
   explicit operator bool() const { return compared; }
 };
 
-/// A control or a cell and what it shows, or a setting that no editor shows.
+/// A control or a cell and what it shows, or a setting, or a bit of a mask, that no editor shows.
 struct SettingRow {
   SettingPosition at;
   std::vector<std::string> settings;  ///< as in ReviewLine

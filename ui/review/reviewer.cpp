@@ -30,26 +30,6 @@ std::vector<std::size_t> Differing(const Side& one, const Side& other,
   return settings;
 }
 
-/// True where no entry shows all of what differs of a setting.
-bool IsLeftOver(std::size_t setting, const SettingMap& map, const Side& one, const Side& other) {
-  int left = -1;
-  for (const std::size_t number : map.Showing(setting)) {
-    for (const MapEntry::Part& part : map.Entries().at(number).parts) {
-      if (part.setting == setting) left &= part.bit < 0 ? 0 : ~(1 << part.bit);
-    }
-  }
-  return Differ(one, other, setting, left) && (left != 0);
-}
-
-/// A setting that no editor shows, as an entry without a place.
-MapEntry Unplaced(std::size_t setting, const SettingList& settings) {
-  MapEntry entry;
-  entry.names = {settings.At(setting).name};
-  entry.parts = {{setting}};
-  entry.line = static_cast<std::size_t>(-1);
-  return entry;
-}
-
 bool AreWritable(const MapEntry& entry, const SettingList& settings) {
   return std::ranges::all_of(entry.parts,
                              [&](const auto& part) { return settings.At(part.setting).writable; });
@@ -213,16 +193,9 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
   const SettingMap& map = *known_->map;
   const Side is = Present();
   Side was = Other(other);
-  const auto differing = Differing(is, was, KeptByMenu(settings, context_));
-  if (differing.empty()) return {};
   const EntryWords words(settings, context_);
   const std::vector<bool> meant = Telling(words, was, is, other.rec);
-  std::vector<MapEntry> unplaced;
-  for (const std::size_t setting : differing) {
-    if (IsLeftOver(setting, map, was, is)) unplaced.push_back(Unplaced(setting, settings));
-  }
   std::vector<ReviewLine> lines;
-  lines.reserve(differing.size());
   const auto add = [&](const MapEntry& entry) {
     auto [old_value, new_value] = words.Of(entry, was, is);
     ReviewLine line{words.Place(entry, is),      entry.names,
@@ -236,7 +209,6 @@ std::vector<ReviewLine> Reviewer::Review(const Configuration& other) {
   for (std::size_t number = 0; number < meant.size(); ++number) {
     if (meant[number]) add(map.Entries()[number]);
   }
-  for (const MapEntry& entry : unplaced) add(entry);
   return lines;
 }
 
@@ -252,18 +224,11 @@ std::vector<SettingRow> Reviewer::AllSettings(const Configuration& device,
   const std::vector<bool> changed = Telling(words, of_device, is, device.rec);
   const std::vector<bool> not_factory = Telling(words, of_factory, is, factory.rec);
   std::vector<SettingRow> rows;
-  const auto add = [&](const MapEntry& entry, bool from_device, bool from_factory) {
-    rows.push_back({words.Place(entry, is), entry.names, StoredIn(entry, is), words.Of(entry, is),
-                    BlocksOf(entry, settings, is), from_device, from_factory});
-  };
   for (std::size_t number = 0; number < map.Entries().size(); ++number) {
     const MapEntry& entry = map.Entries()[number];
-    if (entry.is_first) add(entry, changed[number], not_factory[number]);
-  }
-  for (std::size_t setting = 0; setting < settings.Count(); ++setting) {
-    if (!map.Showing(setting).empty()) continue;
-    add(Unplaced(setting, settings), Differ(is, of_device, setting),
-        Differ(is, of_factory, setting));
+    if (!entry.is_first) continue;
+    rows.push_back({words.Place(entry, is), entry.names, StoredIn(entry, is), words.Of(entry, is),
+                    BlocksOf(entry, settings, is), changed[number], not_factory[number]});
   }
   return rows;
 }

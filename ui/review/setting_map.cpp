@@ -14,6 +14,9 @@ namespace quorvel {
 
 namespace {
 
+/// Between the name of a mask and the number of a bit.
+constexpr std::string_view kBit = " bit ";
+
 /// Where an entry comes in a list of all.
 using Order = std::tuple<std::size_t, int, std::size_t, int, int>;
 
@@ -36,7 +39,6 @@ std::string Tidy(std::string_view caption) {
 
 /// The number and the bit of a setting's name.
 std::optional<MapEntry::Part> PartOf(const std::string& name, const SettingList& settings) {
-  constexpr std::string_view kBit = " bit ";
   const auto at = name.find(kBit);
   const auto number = settings.Find(name.substr(0, at));
   if (!number) return std::nullopt;
@@ -152,6 +154,35 @@ SettingMap::SettingMap(const UnseenEditors& editors, const SettingList& settings
     entries_.push_back(std::move(entry));
   }
   MarkShared(editors.Surroundings().texts.GetText(txt::kCamera));
+  AddUnseen(settings);
+}
+
+/// Of a mask whose bits have controls of their own, the other bits.
+void SettingMap::AddUnseen(const SettingList& settings) {
+  for (std::size_t setting = 0; setting < settings.Count(); ++setting) {
+    const ListedSetting& it = settings.At(setting);
+    const auto add = [&](int bit) {
+      MapEntry entry;
+      entry.names = {bit < 0 ? it.name : it.name + std::string(kBit) + std::to_string(bit)};
+      entry.parts = {{setting, bit}};
+      entry.is_first = true;
+      showing_[setting].push_back(entries_.size());
+      entries_.push_back(std::move(entry));
+    };
+    int seen = 0;
+    for (const std::size_t number : showing_[setting]) {
+      for (const MapEntry::Part& part : entries_.at(number).parts) {
+        if (part.setting == setting) seen |= part.bit < 0 ? -1 : 1 << part.bit;
+      }
+    }
+    if (seen == 0) {
+      add(-1);
+      continue;
+    }
+    for (int bit = 0; it.most >> bit != 0; ++bit) {
+      if ((seen >> bit & 1) == 0) add(bit);
+    }
+  }
 }
 
 void SettingMap::MarkShared(const std::string& camera_word) {
