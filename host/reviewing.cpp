@@ -6,7 +6,6 @@
 #include "host/component.h"
 #include "host/settings_file.h"
 #include "quorvel/default_images.h"
-#include "ui/editing/editor.h"
 
 namespace quorvel {
 
@@ -87,9 +86,7 @@ bool Component::OpenAt(const SettingPosition& position) {
     menu->ActGridRequest = [this] { host_->ActGridPop(context.device.env.identity.MaxCam); };
     menu->LoadUnseen();
   }
-  const std::shared_ptr<Editor> editor = menu->Open(position.item);
-  return editor != nullptr && editor->Name() == position.window &&
-         editor->GoTo(position.control, position.row, position.column);
+  return menu->OpenAt(position);
 }
 
 }  // namespace quorvel

@@ -63,6 +63,7 @@ bool Editor::GoTo(std::string_view control, int row, int column) {
   auto* const cells = dynamic_cast<Grid*>(widget);
   const bool has_cell = cells != nullptr && row >= cells->HeaderRows() && row < cells->Rows() &&
                         column >= 0 && column < cells->Columns();
+  if (row != Grid::kNone && !has_cell) return false;
   if (has_cell && cells->Press(row, column) != Answer::kDone) return false;
   MoveFocus(*widget);
   return true;

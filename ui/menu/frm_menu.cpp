@@ -203,6 +203,20 @@ std::shared_ptr<Editor> frm_Menu::Open(std::string_view item) {
   return place == open_.end() ? nullptr : std::dynamic_pointer_cast<Editor>(place->second);
 }
 
+bool frm_Menu::OpenAt(const SettingPosition& position) {
+  const auto keep = shared_from_this();
+  const auto known = open_.find(EditorOf(position.item, context_.device.env.identity));
+  const bool was_open = known != open_.end() && known->second != nullptr;
+  const std::shared_ptr<Editor> editor = Open(position.item);
+  if (editor == nullptr) return false;
+  if (editor->Name() == position.window &&
+      editor->GoTo(position.control, position.row, position.column)) {
+    return true;
+  }
+  if (!was_open) editor->Close();
+  return false;
+}
+
 void frm_Menu::Show(std::shared_ptr<Dialog>& place) {
   place->on_closed = [this, &place] {
     place.reset();

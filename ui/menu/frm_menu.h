@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "quorvel/platform.h"
+#include "quorvel/review.h"
 #include "quorvel/widgets.h"
 #include "ui/menu/menu_editors.h"
 
@@ -28,9 +29,10 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   void Load();
   /// Sets the items up without popping the menu up.
   void LoadUnseen() { Build(); }
-  /// Opens the editor of an item as a choice of it does, or brings it to the front; a null pointer
-  /// where the menu would not.
-  [[nodiscard]] std::shared_ptr<Editor> Open(std::string_view item);
+  /// Opens an editor as a choice of its item does, or brings it to the front, and goes to a
+  /// position in it. False where the menu would not, or the editor has no such position: then
+  /// nothing stays open that was not.
+  [[nodiscard]] bool OpenAt(const SettingPosition& position);
   /// Takes menu and editors off the screen; what an open editor holds is discarded as by Cancel.
   void Unload();
 
@@ -38,6 +40,8 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   Handler ActGridRequest;
 
  private:
+  /// The editor of an item, in front; a null pointer where the menu would not open it.
+  [[nodiscard]] std::shared_ptr<Editor> Open(std::string_view item);
   /// A menu for the present image, in place of the one before.
   void Build();
   [[nodiscard]] Answer Admit();
