@@ -96,13 +96,15 @@ class EditorReader {
   }
 
  private:
-  /// "Camera 3", "Event 1"; a row that has a name of its own is called by it.
+  /// "Camera 3", "Event 1"; a row that has a name of its own is called by it. Rows with notes are
+  /// cameras, whatever their heading: the notes are the titles.
   void NameRow(const Grid& grid, MapEntry& entry) const {
     entry.names_camera = grid.HasValueNotes(entry.at.column);
     const auto number = WholeNumber(entry.at.line);
     if (!number) return;
     const std::string& head = grid.Cell(0, 0);
-    const bool of_camera = std::ranges::find(camera_words_, head) != camera_words_.end();
+    const bool of_camera =
+        grid.HasRowNotes() || std::ranges::find(camera_words_, head) != camera_words_.end();
     if (of_camera) entry.camera = *number - 1;
     entry.at.line = (of_camera ? camera_ : head) + ' ' + entry.at.line;
   }

@@ -56,6 +56,7 @@ class QUORVEL_API Grid : public Widget {
   [[nodiscard]] std::string ColumnName(int column) const;
   /// What is told of a row beside its name, such as a camera's title; it is no part of the cells.
   [[nodiscard]] const std::string& RowNote(int row) const;
+  [[nodiscard]] bool HasRowNotes() const { return !row_notes_.empty(); }
   /// What is told beside the text of one cell: in column 0 of its row, else of its value, such as
   /// the title of the camera whose number the cell holds. Nothing outside the table.
   [[nodiscard]] const std::string& CellNote(int row, int column) const;
