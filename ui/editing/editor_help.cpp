@@ -110,7 +110,7 @@ std::string Editor::HelpOf(const Widget& control, int row, int column) const {
       }
       AddLine(help, help_words_.blocks + Numbers(*setting) + ", " + name);
     }
-    if (shown.value) AddLine(help, help_words_.stored + std::to_string(*shown.value));
+    if (shown.stored) AddLine(help, help_words_.stored + std::to_string(*shown.stored));
   }
   return help;
 }

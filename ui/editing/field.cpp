@@ -105,6 +105,8 @@ void ValueField::Tell(MuxData& record, int line, ShownSetting& shown) const {
   const int standing = Standing(line);
   shown.is = TextOf(standing);
   if (Offers(standing)) shown.value = standing;
+  const bool as_filled = standing != kNone && standing == Opened(line);
+  shown.stored = as_filled ? filled_.at(static_cast<std::size_t>(line)).stored : shown.value;
   TellPlace(line, shown);
 }
 

@@ -28,6 +28,9 @@ struct ShownSetting {
   std::string is;       ///< as it reads now
   /// The device's value that the control stands at; nothing for texts, or while it is blank.
   std::optional<int> value;
+  /// As `value`; of what was not changed, what the setting held as the control was filled, also
+  /// where the control has no words for it or reads it as another value.
+  std::optional<int> stored;
   bool differs = false;  ///< from when the editor opened
 };
 
