@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <iterator>
 #include <map>
 #include <set>
@@ -107,7 +108,9 @@ void ExpectReviewed(Bench& bench, const std::vector<ShownSetting>& shown) {
     if (line == lines.end() || line->second.settings != it.settings) continue;
     if (line->second.at.column != it.column) continue;  // of one setting in two columns
     // Control characters of a title are shown by their codes.
-    const auto is_control = [](char byte) { return static_cast<unsigned char>(byte) < ' '; };
+    const auto is_control = [](char byte) {
+      return std::iscntrl(static_cast<unsigned char>(byte)) != 0;
+    };
     if (std::ranges::any_of(it.was, is_control)) continue;
     EXPECT_TRUE(line->second.old_value.starts_with(it.was)) << Names(it) << " was " << it.was;
   }

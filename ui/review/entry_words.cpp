@@ -29,8 +29,9 @@ int CameraCalled(std::string_view text) {
 /// Control characters of a device's text as \xHH: a line stays one.
 std::string InOneLine(const std::string& text) {
   std::string line;
+  constexpr char kDelete = 0x7F;
   for (const char character : text) {
-    if (static_cast<unsigned char>(character) >= ' ') {
+    if (static_cast<unsigned char>(character) >= ' ' && character != kDelete) {
       line += character;
       continue;
     }

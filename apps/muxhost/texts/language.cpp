@@ -171,7 +171,12 @@ Language ReadLanguage(std::string_view json) {
                                 "; the English ones are shown");
   }
   const auto window = file.find("window");
-  if (window != file.end() && window->is_object()) TakeWindow(language, *window);
+  if (window != file.end() && window->is_object()) {
+    TakeWindow(language, *window);
+  } else if (window != file.end()) {
+    language.findings.emplace_back(
+        "\"window\" holds no texts by name: the English ones are shown in the window");
+  }
   return language;
 }
 

@@ -19,7 +19,8 @@ QString NewFileIn(const QDir& folder, QString device) {
   device.replace(QRegularExpression("[^A-Za-z0-9_-]"), "_");
   const QString stem = device + QDateTime::currentDateTime().toString("-yyyyMMdd-HHmmss");
   QString file = stem + ".bin";
-  for (int i = 2; folder.exists(file); ++i) file = QString("%1-%2.bin").arg(stem).arg(i);
+  for (int i = 2; folder.exists(file); ++i)
+    file = QString("%1-%2.bin").arg(stem, QString::number(i));
   return folder.filePath(file);
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 QString Heading(const QString& what, std::size_t count) {
   if (count == 0) return Tr("%1: no differences.").arg(what);
-  return Tr(count, "%1: %2 difference.", "%1: %2 differences.").arg(what).arg(count);
+  return Tr(count, "%1: %2 difference.", "%1: %2 differences.").arg(what, QString::number(count));
 }
 
 }  // namespace

@@ -160,9 +160,8 @@ void ZoneEditor::ShowCells() {
   ShowName(number, camera->cells != camera->from_control);
   grid_->setAccessibleName(Tr("Zones of camera %1").arg(number + 1));
   count_->setText(Tr("%1: %2 of %3 cells active")
-                      .arg(NameOf(number))
-                      .arg(camera->cells.ActiveCount())
-                      .arg(int{ZoneCells::kCount}));
+                      .arg(NameOf(number), QString::number(camera->cells.ActiveCount()),
+                           QString::number(ZoneCells::kCount)));
 }
 
 void ZoneEditor::TakeChange(const ZoneCells& before) {

@@ -234,6 +234,8 @@ TEST(ReadLanguage, PassesOverWhatWouldBreakAText) {
     EXPECT_EQ(language.window.empty(), !answer.empty()) << text;
     EXPECT_EQ(language.findings.at(1).substr(0, answer.size()), answer);
   }
+  const Lines of_list = ReadLanguage(R"({"language": "x", "texts": {}, "window": ["a"]})").findings;
+  EXPECT_EQ(of_list.at(1).substr(0, 27), "\"window\" holds no texts by ");
   const Lines missing =
       ReadLanguage(R"({"language": "x", "texts": {"0": "a", "2": "b"}})").findings;
   EXPECT_EQ(missing.front().substr(0, 29), "missing texts: 1 3-332 1000-1");
