@@ -141,6 +141,11 @@ bool DeviceState::GoTo(std::optional<Holdings> there) {
   return true;
 }
 
+ImageOrigin DeviceState::Origin() const {
+  if (source_ == ImageSource::kDevice) return ImageOrigin::kDevice;
+  return source_ == ImageSource::kSettingsFile ? ImageOrigin::kSettingsFile : ImageOrigin::kFactory;
+}
+
 void DeviceState::NoteTaken(int number, std::span<const Byte, kBlockSize> bytes) {
   std::ranges::copy(bytes, taken_[number].begin());
   unsure_.erase(number);

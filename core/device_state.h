@@ -14,6 +14,7 @@
 #include "quorvel/block_image.h"
 #include "quorvel/clock_time.h"
 #include "quorvel/combined_array.h"
+#include "quorvel/transfer.h"
 
 namespace quorvel {
 
@@ -84,6 +85,7 @@ class DeviceState {
   [[nodiscard]] const EditHistory& History() const { return history_; }
   /// Counts the steps back and forth.
   [[nodiscard]] int Moves() const { return moves_; }
+  [[nodiscard]] ImageOrigin Origin() const;
   /// True when the image is the device's own, and there is no step to take back or do again.
   [[nodiscard]] bool IsDevicesOwn() const {
     return source_ == ImageSource::kDevice && history_.IsEmpty();

@@ -229,6 +229,7 @@ void Component::CancelTransfer() {
 ControlState Component::State() const {
   ControlState state;
   state.has_image = context.device.HasImage();
+  state.origin = context.device.Origin();
   state.combined = context.host.ComboMode;
   const bool sends = upload_.Run().UnderWay();
   const TransferRun& run = sends ? upload_.Run() : download_.Run();

@@ -25,9 +25,17 @@ enum class TransferEnd {
   kFailed,    ///< what has arrived cannot be used, or an event of the host has failed
 };
 
+/// Where a configuration has come from.
+enum class ImageOrigin {
+  kDevice,
+  kSettingsFile,
+  kFactory,  ///< the factory defaults of a model
+};
+
 /// What a control is doing.
 struct ControlState {
   bool has_image = false;                        ///< there is a configuration to edit
+  ImageOrigin origin = ImageOrigin::kDevice;     ///< of the configuration, before it was edited
   TransferKind under_way = TransferKind::kNone;  ///< a send before a receive, if dialogs run both
   bool combined = false;                         ///< the combined exchange is selected
   /// Of the transfer that is under way: blocks that have been received, or acknowledged; 1 and 1

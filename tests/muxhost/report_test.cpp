@@ -82,6 +82,22 @@ TEST(Report, TellsSettingsByWindowWithWhatWasChangedAndTheBlocks) {
   EXPECT_NE(german.find("<h1>Einstellungen von TX</h1>"), std::string::npos);
 }
 
+TEST(Report, TellsWhereTheSettingsAreFrom) {
+  const std::string file = testing::TempDir() + "quorvel_report.bin";
+  const std::string lines[][2] = {
+      {"new model=7 cameras=16\n", "the factory defaults"},
+      {"device\ndownload\n", "the device"},
+      {"device\ndownload\ndefaults\n", "the factory defaults"},
+      {"device\ndownload\nsave \"" + file + "\"\nrestore \"" + file + "\"\n", "a settings file"},
+      {"device\ndownload\ndefaults\nundo control\n", "the device"},
+      {"device\ndownload\ndefaults\nundo control\nredo control\n", "the factory defaults"},
+  };
+  for (const auto& [script, from] : lines) {
+    const std::string fact = "<tr><th>From</th>\n<td>" + from + "</td>\n</tr>";
+    EXPECT_NE(ReportAfter(script).find(fact), std::string::npos) << script;
+  }
+}
+
 TEST(Report, GathersNamesThatDifferInTheirNumbers) {
   const std::vector<std::string> names{"A(0)",      "A(1)",      "B",         "A(3)",
                                        "C(0).D(1)", "C(0).D(2)", "C(1).D(1)", "C(1).D(2)"};

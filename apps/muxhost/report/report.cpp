@@ -83,6 +83,14 @@ class Report {
     html_.Element("td", value);
     html_.Close("tr");
   }
+  [[nodiscard]] std::string Source() const {
+    switch (control_.State().origin) {
+      case ImageOrigin::kSettingsFile: return say_("a settings file");
+      case ImageOrigin::kFactory: return say_("the factory defaults");
+      case ImageOrigin::kDevice: break;
+    }
+    return say_("the device");
+  }
   void WriteHead(const ReportHead& head, const files::FileParts& parts) {
     const auto device = files::DeviceOf(parts);
     html_.Open("table");
@@ -92,7 +100,7 @@ class Report {
     }
     if (const auto variant = files::VariantOf(parts)) Fact(say_("Variant"), *variant);
     Fact(say_("Blocks"), std::to_string(parts.image.size() / kBlockSize));
-    Fact(say_("From"), head.source);
+    Fact(say_("From"), head.file.empty() ? Source() : head.file);
     Fact(say_("Report of"),
          DateText(head.made.date) + " " + TimeText(ClockFormat::kHoursMinutes, head.made.time));
     const std::string count = std::to_string(changes_.size());

@@ -10,7 +10,7 @@ namespace quorvel::muxhost {
 
 /// What stands at the top of a report.
 struct ReportHead {
-  std::string source;  ///< where the configuration is from, in words
+  std::string file;  ///< that is open; empty for none: what the control says of its configuration
   LocalTime made;
   Speech say = InEnglish;
 };

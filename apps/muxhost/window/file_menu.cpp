@@ -153,9 +153,8 @@ QString FileMenu::ProposedName(const QString& purpose, const QString& ending) {
 }
 
 std::string FileMenu::Report() {
-  const std::string source =
-      document_.IsOpen() ? document_.Name().toStdString() : Say("the device");
-  return HtmlReport(at_.session.Control(), {source, at_.platform.Now(), Say});
+  const std::string file = document_.IsOpen() ? document_.Name().toStdString() : std::string();
+  return HtmlReport(at_.session.Control(), {file, at_.platform.Now(), Say});
 }
 
 void FileMenu::SaveReport() {
