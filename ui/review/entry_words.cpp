@@ -101,11 +101,17 @@ EntryWords::EntryWords(const SettingList& settings, Context& context)
       yes_(context.texts.Constants().cnstrYes),
       no_(context.texts.Constants().cnstrNo) {}
 
+/// Of several settings each is named, by what it is in its record: "RTdate 3, RTvalid 0".
 std::string EntryWords::Listed(const MapEntry& entry, const Side& side) {
   std::string words;
-  for (const MapEntry::Part& part : entry.parts) {
+  for (std::size_t i = 0; i < entry.parts.size(); ++i) {
+    const MapEntry::Part& part = entry.parts[i];
     const layout::SettingValue& value = side.values.at(part.setting);
-    if (!words.empty()) words += ' ';
+    if (!words.empty()) words += ", ";
+    if (entry.parts.size() > 1) {
+      const std::string& name = entry.names.at(i);
+      words += name.substr(name.rfind('.') + 1) + ' ';
+    }
     words += part.bit < 0 ? value.InWords() : std::to_string(BitOf(value, part.bit));
   }
   return words;
