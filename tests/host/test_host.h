@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -92,11 +93,10 @@ class TestHost : public MainMenuEvents {
 
   /// Hands over a block of the device, asked for or not.
   void Give(int number, std::size_t length = 1 + kBlockSize) {
-    std::vector<Byte> reply{static_cast<Byte>(number)};
-    const auto block = device.Block(number);
-    reply.insert(reply.end(), block.begin(), block.end());
-    reply.resize(length);
-    control->FillDataBlk(reply);
+    std::vector<Byte> reply(std::max<std::size_t>(length, 1 + kBlockSize));
+    reply.front() = static_cast<Byte>(number);
+    std::ranges::copy(device.Block(number), reply.begin() + 1);
+    control->FillDataBlk(std::span<const Byte>(reply).first(length));
   }
 
   /// Hands over the device's image in one piece.

@@ -97,7 +97,7 @@ void FindBox::SetUpList() {
 void FindBox::Measure() {
   constexpr int kLines = 3;
   // In letters; the last column takes the rest.
-  constexpr int kWidths[] = {70, 16, 16, 8, 19};
+  constexpr int kWidths[] = {76, 26, 26, 8, 19};
   const int letter = list_->fontMetrics().averageCharWidth();
   for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column) {
     list_->setColumnWidth(column, kWidths[column] * letter);
