@@ -26,9 +26,10 @@ inline std::vector<Byte> BytesOf(const BlockImage& image) {
 
 /// The combined array around an image of 200 blocks: so many of the 8 bytes of two macro records.
 inline std::vector<Byte> ArrayOf(const BlockImage& image, std::size_t macros = 8) {
-  std::vector<Byte> array{0, 13, 0x0C, 0x80, 0, 8, 0, 4, 2, 0, 200, 5, 6};
-  array.insert(array.end(), image.Bytes().begin(), image.Bytes().end());
-  array.resize(array.size() + macros, 'M');
+  constexpr Byte kHead[] = {0, 13, 0x0C, 0x80, 0, 8, 0, 4, 2, 0, 200, 5, 6};
+  const auto bytes = image.Bytes();
+  std::vector<Byte> array(std::size(kHead) + bytes.size() + macros, 'M');
+  std::ranges::copy(bytes, std::ranges::copy(kHead, array.begin()).out);
   return array;
 }
 
