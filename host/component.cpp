@@ -94,7 +94,11 @@ void Component::Terminate() {
   send_dialog_.Over();
   upload_.Stop({});
   receive_dialog_.Close();
-  if (frmMPop != nullptr) frmMPop->Unload();
+  CloseMenu();
+}
+
+void Component::CloseMenu() {
+  if (const auto menu = std::exchange(frmMPop, nullptr)) menu->Unload();
 }
 
 void Component::Custom(std::int16_t command, std::int32_t param1, std::int32_t param2) {

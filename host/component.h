@@ -44,6 +44,8 @@ class Component : public std::enable_shared_from_this<Component> {
   void WriteProperties(PropertyBag& bag);
   /// The control is gone: no more events, no dialogs, no menu.
   void Terminate();
+  /// Menu and editors leave the screen.
+  void CloseMenu();
 
   void Custom(std::int16_t command, std::int32_t param1, std::int32_t param2);
   void CustomWithString(std::int16_t command, std::string_view text);

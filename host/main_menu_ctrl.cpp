@@ -181,6 +181,10 @@ bool MainMenuCtrl::TakeBack(const ReviewLine& line) {
   return done;
 }
 
+void MainMenuCtrl::CloseMenu() {
+  component_->Call("CloseMenu", [&it = *component_] { it.CloseMenu(); });
+}
+
 bool MainMenuCtrl::OpenAt(const SettingPosition& position) {
   bool opened = false;
   component_->Call("OpenAt", [&, &it = *component_] { opened = it.OpenAt(position); });

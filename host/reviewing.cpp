@@ -80,7 +80,7 @@ bool Component::TakeBack(const ReviewLine& line) {
 bool Component::OpenAt(const SettingPosition& position) {
   if (!HasImage() || position.item.empty()) return false;
   auto menu = frmMPop;
-  if (menu == nullptr) {
+  if (menu == nullptr || menu->IsUnloaded()) {
     menu = std::make_shared<frm_Menu>(context);
     frmMPop = menu;
     menu->ActGridRequest = [this] { host_->ActGridPop(context.device.env.identity.MaxCam); };

@@ -167,6 +167,9 @@ class QUORVEL_API MainMenuCtrl {
   /// current and the focus in its control. False when the menu would not open it, or the control is
   /// not to be seen.
   bool OpenAt(const SettingPosition& position);
+  /// Takes the menu and its editors off the screen, as before a host's own window goes. What an
+  /// open editor holds is discarded as by its CANCEL: a host asks first.
+  void CloseMenu();
 
   /// Draws the surface anew.
   void Refresh();

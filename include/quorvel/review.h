@@ -39,6 +39,7 @@ struct ReviewLine {
   std::string new_value;
   std::vector<std::uint8_t> blocks;  ///< that carry what differs, in rising order
   bool writable = true;  ///< false where only the device writes it: TakeBack refuses the line
+  bool operator==(const ReviewLine&) const = default;
 };
 
 /// What a comparison with a file has found.

@@ -170,13 +170,13 @@ TEST_F(MuxhostFiles, BeginWithFactoryDefaultsAndAreComparedWithOthers) {
   EXPECT_FALSE(window_.isWindowModified());
   SetTitle(0, "Dock");
   EXPECT_TRUE(IsMarked(true));
-  const QString saved = backups_.filePath("dock.bin");
+  const QString saved = backups_.filePath("dock.bin");  // typed without its ending
   QString proposed;
   Give("Save &as...", [&] {
     auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr) return false;
     proposed = dialog->findChild<QLineEdit*>("fileNameEdit")->text();
-    return Name(saved);
+    return Name(backups_.filePath("dock"));
   });
   const QString date = QDate::currentDate().toString(Qt::ISODate);
   EXPECT_EQ(proposed.section('/', -1), "TX16 Front_ gate " + date + ".bin");
@@ -194,6 +194,48 @@ TEST_F(MuxhostFiles, BeginWithFactoryDefaultsAndAreComparedWithOthers) {
       << shown.toStdString();
   Give("Compare &two files...", Naming(saved), Naming(other), copy);
   EXPECT_TRUE(shown.startsWith("blocks: 200 -> 225\n")) << shown.toStdString();
+}
+
+TEST_F(MuxhostFiles, ReportsAreCalledByTheirKind) {
+  Give("&Open...", Naming(FactoryFile("gate.bin")));
+  const auto choose = [this](int kind, const char* name) {
+    return [this, kind, name] {
+      auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return false;
+      emit dialog->filterSelected(dialog->nameFilters().at(kind));
+      EXPECT_TRUE(dialog->findChild<QLineEdit*>("fileNameEdit")->text().endsWith(".html"));
+      return Name(backups_.filePath(name));
+    };
+  };
+  Give("Save r&eport...", choose(1, "paper"));
+  QFile report(backups_.filePath("paper.html"));
+  ASSERT_TRUE(report.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(report.readAll().startsWith("<!DOCTYPE html>"));
+}
+
+TEST_F(MuxhostFiles, CloseWithAnOpenEditorOnlyAsTheUserSaysAndLeaveNoneBehind) {
+  Give("&Open...", Naming(FactoryFile("gate.bin")));
+  SetTitle(0, "Dock");
+  EXPECT_TRUE(IsMarked(true));
+  Choose("mnu_CSetup");
+  QWidget& editor = *OnScreen("frm_CameraSetup");
+  QTest::keyClicks(Find<QLineEdit>(&editor, "m_CameraTitle(2)"), "Yard");
+  {
+    const WhenShown question([this] {
+      QWidget* const box = QApplication::activeModalWidget();
+      EXPECT_EQ(Find<QPushButton>(box, "Save"), nullptr) << "what is typed would not be saved";
+      return Answering("Cancel")();
+    });
+    EXPECT_FALSE(window_.close());
+  }
+  EXPECT_EQ(told_,
+            "gate.bin has changes that are not saved. A window of the menu is open. Closing loses "
+            "the changes.");
+  EXPECT_TRUE(editor.isVisible());
+  const QPointer<QWidget> left(&editor);
+  const WhenShown question(Answering("Discard"));
+  EXPECT_TRUE(window_.close());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return left == nullptr || !left->isVisible(); }));
 }
 
 TEST_F(MuxhostFiles, ConnectLeavesThemOnlyWhenToldTo) {

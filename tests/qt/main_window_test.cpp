@@ -62,6 +62,21 @@ TEST_F(MuxhostWindow, TakesBackWhatWasAccepted) {
   EXPECT_EQ(steps(), "&Undo (off); &Redo \"Camera Setup\"; Re&view changes...; &Find...; ");
   EXPECT_TRUE(DeviceIsAsEdited());
   EXPECT_TRUE(session_.Control().ModifiedBlocks().empty());
+
+  // Steps within a block that was sent, and stays listed.
+  const auto expect_cell = [this](const char* text) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Cell(1) == text; })) << Cell(1) << ", not " << text;
+  };
+  session_.Control().SetSetting("CamInfo(0).title", "Gate");
+  expect_cell("Block 1, changed");
+  SendModified();
+  expect_cell("Block 1, verified");
+  session_.Control().SetSetting("CamInfo(0).title", "Yard");
+  expect_cell("Block 1, changed");
+  session_.Control().Undo();
+  expect_cell("Block 1, verified");
+  session_.Control().Redo();
+  expect_cell("Block 1, changed");
 }
 
 TEST_F(MuxhostWindow, ChangesAreReviewedAndTakenBackBeforeTheyGo) {
@@ -348,6 +363,8 @@ TEST_F(MuxhostWindow, HeadlineTellsWhereTheConfigurationComesFrom) {
   Click("Upload all", Answering("Cancel"));
   EXPECT_EQ(told_, "The configuration has nothing for blocks 201-225 of the device.");
   EXPECT_TRUE(session_.LastExchange().sent_blocks.empty());
+  session_.Control().Undo();
+  ExpectHint("Next: Menu opens the editors, such as those of the cameras.");
 }
 
 TEST_F(MuxhostWindow, PortsOfTheLinkAndAnOldClockAreToldBeforeAnUpload) {
@@ -396,17 +413,17 @@ TEST_F(MuxhostWindow, SavedFileBringsBackWhatDefaultsReplaced) {
   const QString file = folder.filePath("gate.bin");
   Download();
   ChangeZones();
-  Click("Save file", [&] { return Name(file); });
-  ASSERT_EQ(QFileInfo(file).size(), 225 * 16);
-
-  // Both ask first, as what was edited is not in the device.
+  // Both ask first, as what was edited is neither in the device nor in a file.
   for (const char* const command : {"Defaults", "Restore file"}) {
     Click(command, Pressing("Cancel"));
     EXPECT_EQ(session_.ReadZones(0), std::vector<Byte>(32, 0xA5)) << command;
   }
+  Click("Save file", [&] { return Name(file); });
+  ASSERT_EQ(QFileInfo(file).size(), 225 * 16);
+  EXPECT_EQ(window_.windowTitle(), "gate.bin[*] - muxhost");
   {
     const WhenShown told(Answering("OK"));
-    Click("Defaults", Pressing("Discard"));
+    Click("Defaults");
     ASSERT_TRUE(QTest::qWaitFor([this] { return session_.LastExchange().arrived; }));
   }
   EXPECT_NE(session_.ReadZones(0), std::vector<Byte>(32, 0xA5));

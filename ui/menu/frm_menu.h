@@ -35,6 +35,7 @@ class frm_Menu : public std::enable_shared_from_this<frm_Menu> {
   [[nodiscard]] bool OpenAt(const SettingPosition& position);
   /// Takes menu and editors off the screen; what an open editor holds is discarded as by Cancel.
   void Unload();
+  [[nodiscard]] bool IsUnloaded() const { return unloaded_; }
 
   /// The user wants to edit activity zones, and the host has a network link.
   Handler ActGridRequest;

@@ -149,6 +149,7 @@ void BlockMapBox::changeEvent(QEvent* event) {
 bool BlockMapBox::MayHaveChanges(bool editor_is_open) {
   const auto device = session_.Device().Bytes();
   auto image = session_.Control().Image();
+  auto edited = session_.Control().EditedImage();
   auto listed = session_.Control().ModifiedBlocks();
   if (image != image_) {
     contents_are_old_ = true;
@@ -156,9 +157,10 @@ bool BlockMapBox::MayHaveChanges(bool editor_is_open) {
   }
   // What an editor did last is there when it has closed.
   const bool may = std::exchange(editor_was_open_, editor_is_open) || editor_is_open ||
-                   image != image_ || listed != listed_ ||
+                   image != image_ || edited != edited_ || listed != listed_ ||
                    !std::equal(device.begin(), device.end(), device_.begin(), device_.end());
   image_ = std::move(image);
+  edited_ = std::move(edited);
   listed_ = std::move(listed);
   device_.assign(device.begin(), device.end());
   return may;

@@ -76,6 +76,7 @@ class BlockMapBox : public QGroupBox {
   std::array<QLabel*, kBlockStates> counts_{};
   std::vector<SettingDifference> differences_;
   std::vector<Byte> image_;
+  std::vector<Byte> edited_;
   std::vector<Byte> device_;
   std::vector<Byte> listed_;
   BareBlocks bare_;  ///< of the image

@@ -4,7 +4,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <stdexcept>
 
 #include "muxhost/file_name.h"
@@ -12,6 +11,7 @@
 #include "muxhost/report/report.h"
 #include "muxhost/window/compare_box.h"
 #include "muxhost/window/device_box.h"
+#include "muxhost/window/plain_box.h"
 #include "muxhost/window/report_box.h"
 #include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
@@ -79,9 +79,7 @@ void FileMenu::ListRecent() {
 }
 
 void FileMenu::Warn(const QString& trouble, const std::string& why) {
-  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Ok,
-                  &at_.window);
-  box.setTextFormat(Qt::PlainText);
+  PlainBox box(QMessageBox::Warning, trouble, QMessageBox::Ok, &at_.window);
   box.setInformativeText(QString::fromStdString(why));
   box.exec();
 }
@@ -119,7 +117,7 @@ void FileMenu::New() {
   document_.Begin(at_.session.Control(), {},
                   Tr("%1 (new)").arg(NameOf(at_.session.Device(), at_.platform)));
   at_.log.Tell(Tr("Factory defaults are open, without a device."));
-  on_opened(false);
+  on_opened();
 }
 
 void FileMenu::AskForFile() {
@@ -138,18 +136,42 @@ void FileMenu::OpenFile(const QString& path) {
   at_.memory.AddRecent(path);
   document_.Begin(at_.session.Control(), QFileInfo(path).absoluteFilePath(), {});
   at_.log.Tell(Tr("%1 is open, without a device.").arg(file));
-  on_opened(true);
+  on_opened();
   if (!answer.cause.empty()) Warn(Tr("%1 is not complete.").arg(file), answer.cause);
 }
 
 bool FileMenu::Save() { return document_.Path().isEmpty() ? SaveAs() : SaveInto(document_.Path()); }
 
-QString FileMenu::ProposedName(const QString& purpose, const QString& ending) {
+QString FileMenu::ProposedName(const QString& ending) const {
   const auto image = at_.session.Control().EditedImage();
-  QString proposed = QString::fromStdString(ProposedFileName(image, at_.platform.Now().date));
-  if (!ending.isEmpty()) proposed.replace(proposed.lastIndexOf('.'), proposed.size(), ending);
-  const QString folder = at_.memory.Folder(purpose);
-  return folder.isEmpty() ? proposed : QDir(folder).filePath(proposed);
+  const QString proposed = QString::fromStdString(ProposedFileName(image, at_.platform.Now().date));
+  return proposed.left(proposed.lastIndexOf('.')) + ending;
+}
+
+QString FileMenu::AskForNewName(const QString& title, const QString& purpose,
+                                const std::vector<Kind>& kinds) {
+  QFileDialog dialog(&at_.window, title, at_.memory.Folder(purpose));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  QStringList filters;
+  for (const Kind& kind : kinds) filters << kind.name + " (*" + kind.ending + ")";
+  dialog.setNameFilters(filters << Tr("All files") + " (*)");
+  dialog.setDefaultSuffix(kinds.front().ending);
+  dialog.selectFile(ProposedName(kinds.front().ending));
+  // A name that has the ending of one kind gets that of the next.
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+    const auto number = filters.indexOf(filter);
+    if (number < 0 || number >= static_cast<qsizetype>(kinds.size())) return;
+    const QString& ending = kinds.at(static_cast<std::size_t>(number)).ending;
+    const QString former = '.' + dialog.defaultSuffix();
+    dialog.setDefaultSuffix(ending);
+    const QString name = QFileInfo(dialog.selectedFiles().value(0)).fileName();
+    if (!name.endsWith(former, Qt::CaseInsensitive)) return;
+    dialog.selectFile(name.left(name.size() - former.size()) + ending);
+  });
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  at_.memory.NoteFolderOf(purpose, dialog.selectedFiles().front());
+  return dialog.selectedFiles().front();
 }
 
 std::string FileMenu::Report() {
@@ -158,11 +180,9 @@ std::string FileMenu::Report() {
 }
 
 void FileMenu::SaveReport() {
-  const QString path = QFileDialog::getSaveFileName(
-      &at_.window, Tr("Save a report"), ProposedName(kReports, ".pdf"),
-      QString("%1 (*.pdf);;%2 (*.html)").arg(Tr("PDF files"), Tr("HTML files")));
+  const QString path = AskForNewName(Tr("Save a report"), kReports,
+                                     {{Tr("PDF files"), ".pdf"}, {Tr("HTML files"), ".html"}});
   if (path.isEmpty()) return;
-  at_.memory.NoteFolderOf(kReports, path);
   const std::string html = Report();
   const bool is_html = path.endsWith(".html", Qt::CaseInsensitive);
   try {
@@ -175,11 +195,9 @@ void FileMenu::SaveReport() {
 }
 
 bool FileMenu::SaveAs() {
-  const QString path = QFileDialog::getSaveFileName(&at_.window, Tr("Save the settings"),
-                                                    ProposedName(kSettings), SettingsFiles());
-  if (path.isEmpty()) return false;
-  at_.memory.NoteFolderOf(kSettings, path);
-  return SaveInto(path);
+  const QString path =
+      AskForNewName(Tr("Save the settings"), kSettings, {{Tr("Settings files"), ".bin"}});
+  return !path.isEmpty() && SaveInto(path);
 }
 
 bool FileMenu::SaveInto(const QString& path) {

@@ -31,8 +31,8 @@ class FileMenu : public QObject {
 
   /// Both must be set. Asks before changes are lost by what is named; true when they may be.
   std::function<bool(const QString& by)> may_lose;
-  /// Another configuration is open, without a device: a file's, or else the factory defaults.
-  std::function<void(bool from_file)> on_opened;
+  /// Another configuration is open, without a device.
+  std::function<void()> on_opened;
 
   [[nodiscard]] Document& Opened() { return document_; }
   [[nodiscard]] bool IsUnsaved() const { return document_.IsUnsaved(at_.session.Control()); }
@@ -42,6 +42,10 @@ class FileMenu : public QObject {
   void OpenFile(const QString& path);
   /// Saves into the file that is open, or asks for one; false when nothing was saved.
   bool Save();
+  /// Asks for a file to save into, whatever is open.
+  bool SaveAs();
+  /// What a file of these settings is called by default: model, name, date and an ending.
+  [[nodiscard]] QString ProposedName(const QString& ending) const;
   /// Enables what can be done, and shows the file in the window's title. `why_not`, unless empty,
   /// is why nothing else can be opened now.
   void Show(const QString& why_not, bool loaded);
@@ -53,10 +57,16 @@ class FileMenu : public QObject {
   void ListRecent();
   void New();
   void AskForFile();
-  bool SaveAs();
   bool SaveInto(const QString& path);
-  /// What `purpose` files are saved by, in their last folder, with another ending than ".bin".
-  [[nodiscard]] QString ProposedName(const QString& purpose, const QString& ending = {});
+  /// A kind of file that can be saved.
+  struct Kind {
+    QString name;    ///< "PDF files"
+    QString ending;  ///< ".pdf"
+  };
+  /// Asks for a file to save into, by the proposed name in the last folder of `purpose`; a name
+  /// without an ending gets that of the kind that is chosen. Empty when the user would rather not.
+  [[nodiscard]] QString AskForNewName(const QString& title, const QString& purpose,
+                                      const std::vector<Kind>& kinds);
   [[nodiscard]] std::string Report();
   void SaveReport();
   void CompareWithFile();

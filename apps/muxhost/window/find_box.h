@@ -29,6 +29,8 @@ class FindBox : public QDockWidget {
   std::function<bool(const SettingPosition& at)> on_open;
   /// The box was closed with the keyboard or its button.
   std::function<void()> on_close;
+  /// What a list is to be called that is exported.
+  std::function<std::string()> name_of_export;
 
  protected:
   void showEvent(QShowEvent* event) override;

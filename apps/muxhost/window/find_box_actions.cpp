@@ -2,12 +2,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <algorithm>
 
 #include "muxhost/find/csv.h"
 #include "muxhost/window/find_box.h"
+#include "muxhost/window/plain_box.h"
 #include "muxhost/window/tr.h"
 
 namespace quorvel::muxhost {
@@ -91,19 +91,21 @@ void FindBox::Copy() {
 }
 
 void FindBox::Export() {
-  const auto path = platform_.AskFile({.purpose = FileRequest::Purpose::kSave,
-                                       .title = Say("Export as CSV"),
-                                       .default_name = "settings.csv",
-                                       .filter = "*.csv",
-                                       .default_extension = "csv",
-                                       .ask_before_overwriting = true});
+  const auto path =
+      platform_.AskFile({.purpose = FileRequest::Purpose::kSave,
+                         .title = Say("Export as CSV"),
+                         .default_name = name_of_export ? name_of_export() : std::string(),
+                         .filter = "*.csv",
+                         .default_extension = "csv",
+                         .ask_before_overwriting = true});
   if (!path) return;
   const std::string csv = CsvOf(model_.Table(), model_.Shown());
   try {
     platform_.StoreFile(*path, {reinterpret_cast<const Byte*>(csv.data()), csv.size()});
     count_->setText(Tr("%1 exported").arg(model_.rowCount()));
   } catch (const std::exception& error) {
-    QMessageBox::warning(this, windowTitle(), QString::fromStdString(error.what()));
+    PlainBox(QMessageBox::Warning, QString::fromStdString(error.what()), QMessageBox::Ok, this)
+        .exec();
   }
 }
 

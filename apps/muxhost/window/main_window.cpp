@@ -93,9 +93,8 @@ void MainWindow::AttachToSession() {
 
 void MainWindow::AttachFiles() {
   files_->may_lose = [this](const QString& by) { return MayLoseChanges(by); };
-  files_->on_opened = [this](bool from_file) {
+  files_->on_opened = [this] {
     loaded_ = true;
-    brought_ = from_file ? Command::kRestore : Command::kDefaults;
     PlaceSurface();
     ShowState();
     commands_->FocusDefault();
@@ -133,10 +132,16 @@ void MainWindow::AddEditMenu() {
     session_.Control().Undo();
     ShowState();
   });
-  redo_ = menu->addAction(Tr("&Redo"), QKeySequence::Redo, this, [this] {
+  redo_ = menu->addAction(Tr("&Redo"), this, [this] {
     session_.Control().Redo();
     ShowState();
   });
+  // As in the editors, beside what the desktop has for it.
+  QList<QKeySequence> keys{QKeySequence(Qt::CTRL | Qt::Key_Y)};
+  for (const QKeySequence& key : QKeySequence::keyBindings(QKeySequence::Redo)) {
+    if (!keys.contains(key)) keys += key;
+  }
+  redo_->setShortcuts(keys);
   review_ =
       menu->addAction(Tr("Re&view changes..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R),
                       this, [this] { ReviewChanges(); });
@@ -165,12 +170,14 @@ void MainWindow::AddFinding(QMenu& edit) {
   find_->on_open = [this](const SettingPosition& at) {
     return !awaits_answer_ && session_.Control().OpenAt(at);
   };
+  find_->name_of_export = [this] { return files_->ProposedName(".csv").toStdString(); };
   find_->on_close = [this] { commands_->FocusDefault(); };
 }
 
 /// An editor that is open shows what it has read: nothing is taken back behind it.
 void MainWindow::ShowSteps() {
-  const bool free = !IsLocked() && !OthersAreOpen(this);
+  // What is waited for replaces the settings.
+  const bool free = !IsLocked() && !OthersAreOpen(this) && !awaits_answer_;
   const auto show = [free](QAction& action, const QString& verb, const QString& what,
                            const std::string& step) {
     action.setText(step.empty() ? verb : what.arg(QString::fromStdString(step)));
@@ -243,7 +250,7 @@ void MainWindow::Do(Command command) {
     case Command::kZones: return EditZones(session_.Cameras());
     case Command::kUploadModified: return uploader_.Upload(false, commands_->WithMacros());
     case Command::kUploadAll: return uploader_.Upload(true, commands_->WithMacros());
-    case Command::kSave: return Run(&HostSession::Save);
+    case Command::kSave: files_->SaveAs(); return ShowState();
     case Command::kRestore:
       if (!MayLoseChanges(Tr("Restoring a file"))) return;
       asked_ = command;
@@ -281,8 +288,7 @@ void MainWindow::NoticeAnswer() {
 
 void MainWindow::NoteOutcome() {
   const auto asked = std::exchange(asked_, std::nullopt);
-  if (!asked) return;
-  (session_.LastExchange().arrived ? brought_ : missed_) = asked;
+  if (!session_.LastExchange().arrived) missed_ = asked;
 }
 
 int MainWindow::Patience() const {
@@ -359,7 +365,7 @@ Situation MainWindow::PresentSituation() const {
           all_listed,
           files_->IsUnsaved(),
           blocks_->OnlyMacrosAreLeft(),
-          brought_,
+          session_.Control().State().origin,
           missed_,
           session_.LackingBlocks()};
 }
@@ -421,6 +427,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   NotePlaces();
   // A command that waits for them in a loop of its own comes to its end.
   CloseLockingWindows();
+  // The user has been asked: an editor that asked again could stay behind without this window.
+  session_.Control().CloseMenu();
   event->accept();
 }
 

@@ -123,14 +123,13 @@ class MainWindow : public QMainWindow {
   std::optional<TransferPace> pace_;  ///< of the transfer that is under way
   SilenceWatch silence_;
   Uploader uploader_;
-  int zones_wanted_ = 0;            ///< cameras
-  bool loaded_ = false;             ///< the control holds a configuration
-  std::optional<Command> asked_;    ///< given last, and to bring a configuration
-  std::optional<Command> brought_;  ///< has brought the present configuration
-  std::optional<Command> missed_;   ///< given last, and has brought none
-  bool transfer_runs_ = false;      ///< a command that exchanges data with the device
-  bool awaits_answer_ = false;      ///< of a command that has returned
-  bool closing_ = false;            ///< the user is being asked whether to
+  int zones_wanted_ = 0;           ///< cameras
+  bool loaded_ = false;            ///< the control holds a configuration
+  std::optional<Command> asked_;   ///< given last, and to bring a configuration
+  std::optional<Command> missed_;  ///< given last, and has brought none
+  bool transfer_runs_ = false;     ///< a command that exchanges data with the device
+  bool awaits_answer_ = false;     ///< of a command that has returned
+  bool closing_ = false;           ///< the user is being asked whether to
 };
 
 }  // namespace quorvel::muxhost

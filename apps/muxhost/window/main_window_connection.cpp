@@ -1,10 +1,10 @@
 // How the host's window goes from one device, or file, to another.
-#include <QMessageBox>
 #include <stdexcept>
 
 #include "muxhost/window/desktop.h"
 #include "muxhost/window/device_box.h"
 #include "muxhost/window/main_window.h"
+#include "muxhost/window/plain_box.h"
 #include "muxhost/window/tr.h"
 #include "muxhost/window/words.h"
 
@@ -31,9 +31,10 @@ bool MainWindow::MayLoseChanges(const QString& by) {
   }
   // A transfer's dialog locks the window, an editor does not.
   const bool locked = IsLocked();
+  const bool others = OthersAreOpen(this);
   if (locked) {
     sentences << Tr("A transfer or a question is still open.");
-  } else if (OthersAreOpen(this)) {
+  } else if (others) {
     sentences << Tr("A window of the menu is open.");
   }
   if (sentences.isEmpty()) return true;
@@ -41,10 +42,12 @@ bool MainWindow::MayLoseChanges(const QString& by) {
       locked ? Tr("%1 breaks it off and loses the changes.") : Tr("%1 loses the changes.");
   sentences << loss.arg(by);
   QMessageBox::StandardButtons buttons = QMessageBox::Discard | QMessageBox::Cancel;
-  if (!locked && (unsaved || changed > 0)) buttons |= QMessageBox::Save;
-  const auto answer =
-      QMessageBox::question(this, windowTitle(), sentences.join(' '), buttons,
-                            unsaved && !locked ? QMessageBox::Save : QMessageBox::Cancel);
+  // What an open window holds would not be in the file.
+  const bool saves = !locked && !others && (unsaved || changed > 0);
+  if (saves) buttons |= QMessageBox::Save;
+  PlainBox box(QMessageBox::Question, sentences.join(' '), buttons, this);
+  box.setDefaultButton(saves && unsaved ? QMessageBox::Save : QMessageBox::Cancel);
+  const int answer = box.exec();
   return answer == QMessageBox::Save ? files_->Save() : answer == QMessageBox::Discard;
 }
 
@@ -56,7 +59,6 @@ void MainWindow::LeaveControl() {
   surface_ = nullptr;
   loaded_ = false;
   asked_.reset();
-  brought_.reset();
   missed_.reset();
   blocks_->Forget();
   files_->Opened().Forget();
@@ -76,7 +78,8 @@ void MainWindow::Connect() {
     PlaceSurface();
     NoteConnected(Tr("A new device is connected."), *picker_);
   } catch (const std::invalid_argument& error) {
-    QMessageBox::warning(this, windowTitle(), QString::fromStdString(error.what()));
+    PlainBox(QMessageBox::Warning, QString::fromStdString(error.what()), QMessageBox::Ok, this)
+        .exec();
   }
 }
 
@@ -87,9 +90,7 @@ void MainWindow::NoteConnected(const QString& what, const DevicePicker& chosen) 
 }
 
 bool MainWindow::MayGoOnWithout(const std::string& mismatch) {
-  QMessageBox box(QMessageBox::Warning, windowTitle(), QString::fromStdString(mismatch),
-                  QMessageBox::Cancel, this);
-  box.setTextFormat(Qt::PlainText);
+  PlainBox box(QMessageBox::Warning, QString::fromStdString(mismatch), QMessageBox::Cancel, this);
   box.setInformativeText(
       Tr("What is open stays as it is, and without a device. Close it and connect the device "
          "without it?"));
@@ -114,7 +115,7 @@ bool MainWindow::AskForDevice() {
     trouble = error.what();
   }
   if (!trouble.empty()) {
-    QMessageBox::warning(this, windowTitle(), QString::fromStdString(trouble).toHtmlEscaped());
+    PlainBox(QMessageBox::Warning, QString::fromStdString(trouble), QMessageBox::Ok, this).exec();
     return false;
   }
   picker_->Choose(box.Picker().Choice());

@@ -9,10 +9,11 @@ namespace {
 
 /// Where a configuration comes from that need not be the device's; empty for the device's own.
 QString Origin(const Situation& situation) {
-  if (situation.brought == Command::kRestore) {
+  if (situation.origin == ImageOrigin::kSettingsFile) {
     return Tr("The control holds a file's configuration");
   }
-  if (situation.brought == Command::kDefaults) return Tr("The control holds the factory defaults");
+  if (situation.origin == ImageOrigin::kFactory)
+    return Tr("The control holds the factory defaults");
   return {};
 }
 

@@ -7,6 +7,7 @@
 
 #include "muxhost/window/command_box.h"
 #include "quorvel/byte.h"
+#include "quorvel/transfer.h"
 
 namespace quorvel::muxhost {
 
@@ -19,9 +20,8 @@ struct Situation {
   bool all_listed = true;    ///< unwritten blocks are listed as modified
   bool unsaved = false;      ///< an open file was edited since it was saved
   bool only_macros = false;  ///< unwritten and failed are blocks that come with the macros alone
-  /// What has brought the configuration: kDownload, kRestore or kDefaults.
-  std::optional<Command> brought = {};
-  /// The same, of a command given last that has brought none.
+  ImageOrigin origin = ImageOrigin::kDevice;  ///< of the configuration
+  /// A command given last that was to bring a configuration and has brought none.
   std::optional<Command> missed = {};
   std::vector<Byte> lacking = {};  ///< blocks of the device that the configuration lacks
 };

@@ -179,6 +179,8 @@ void ReviewBox::TakeBack() {
   const ReviewLine* const line = Chosen();
   if (line == nullptr) return;
   const auto next = static_cast<std::size_t>(line - lines_.data());
+  // The device may have brought other settings meanwhile: what was shown is theirs no more.
+  if (session_.Control().Review() != lines_) return ShowLines();
   if (!session_.Control().TakeBack(*line)) {
     summary_->setText(Tr("It cannot be taken back: only the device writes it."));
     return;

@@ -1,9 +1,9 @@
 #include "muxhost/window/upload.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 
 #include "muxhost/window/backup.h"
+#include "muxhost/window/plain_box.h"
 #include "muxhost/window/review_box.h"
 #include "muxhost/window/send_choice.h"
 #include "muxhost/window/tr.h"
@@ -82,9 +82,9 @@ bool Uploader::MayBringAfterAll(bool all, bool macros) {
 
 bool Uploader::MayBringClock(const std::optional<LocalTime>& clock) {
   if (!at_.window.isVisible()) return false;
-  QMessageBox box(QMessageBox::Question, at_.window.windowTitle(),
-                  QString::fromStdString(ClockInWords(clock, at_.platform.Now(), Say)),
-                  QMessageBox::Cancel, &at_.window);
+  PlainBox box(QMessageBox::Question,
+               QString::fromStdString(ClockInWords(clock, at_.platform.Now(), Say)),
+               QMessageBox::Cancel, &at_.window);
   box.setInformativeText(
       Tr("The device sets its clock to what is sent. It can be given the time of this computer "
          "instead."));
@@ -123,8 +123,7 @@ bool Uploader::BackUp() {
 
 bool Uploader::MayGoOn(const QString& trouble, const QString& question, const QString& go_on) {
   if (!at_.window.isVisible()) return false;
-  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Cancel,
-                  &at_.window);
+  PlainBox box(QMessageBox::Warning, trouble, QMessageBox::Cancel, &at_.window);
   box.setInformativeText(question);
   const auto* const on = box.addButton(go_on, QMessageBox::AcceptRole);
   box.setDefaultButton(QMessageBox::Cancel);
@@ -143,8 +142,7 @@ bool Uploader::WantsToSendAgain() {
   }
   const QString trouble = WhatWentWrong(exchange);
   if (trouble.isEmpty() || !at_.window.isVisible()) return false;
-  QMessageBox box(QMessageBox::Warning, at_.window.windowTitle(), trouble, QMessageBox::Close,
-                  &at_.window);
+  PlainBox box(QMessageBox::Warning, trouble, QMessageBox::Close, &at_.window);
   if (!at_.session.LinkIsOn()) {
     box.setInformativeText(Tr("The link to the device is off. Switch it on, then upload again."));
     box.exec();
