@@ -1,5 +1,8 @@
 #include <algorithm>
+#include <deque>
+#include <map>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "ui/context.h"
@@ -320,17 +323,23 @@ class TextsField final : public Field {
     return At(line).Shown();
   }
   void TakeFrom(MuxData& record, int line) override {
-    const std::string text = setting_->Get(record, line);
+    std::string text = setting_->Get(record, line);
     At(line).Type(Editable(text));
+    taken_[line] = {boxes_(line).Text(), std::move(text)};
   }
 
  protected:
   void Fill(MuxData& record, int line) override {
     const std::string text = setting_->Get(record, line);
     At(line).Show(Editable(text));
+    taken_.erase(line);
   }
   void Write(MuxData& record, int line) override {
-    if (auto typed = At(line).Typed()) setting_->Set(record, line, std::move(*typed));
+    auto typed = At(line).Typed();
+    if (!typed) return;
+    const auto taken = taken_.find(line);
+    const bool as_taken = taken != taken_.end() && taken->second.shown == boxes_(line).Text();
+    setting_->Set(record, line, as_taken ? taken->second.stored : std::move(*typed));
   }
   void Tell(MuxData& record, int line, ShownSetting& shown) const override {
     setting_->AddNames(record, line, shown.settings);
@@ -357,8 +366,14 @@ class TextsField final : public Field {
   ControlArray<TextBox>& boxes_;
   TextSeries series_;
   NoteLine notes_;
+  /// What another record holds has blanks at its end, or bytes that no box shows.
+  struct Taken {
+    std::string shown;
+    std::string stored;
+  };
   TextRef setting_;
   std::deque<DeviceText> texts_;
+  std::map<int, Taken> taken_;  ///< by line
 };
 
 }  // namespace
