@@ -9,6 +9,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/qt/texts.h"
+
 namespace quorvel::qt {
 
 CalendarPopup::CalendarPopup(QWidget& box) : QFrame(&box, Qt::Popup) {
@@ -73,7 +75,7 @@ DateBox::DateBox(QWidget& parent) : PartsBox(parent) {
   button_.setAutoRaise(true);
   button_.setFocusPolicy(Qt::NoFocus);
   button_.setCursor(Qt::ArrowCursor);
-  button_.setAccessibleName(QStringLiteral("Calendar"));
+  button_.setAccessibleName(Tr("Calendar"));
   const int width = style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2;
   lineEdit()->setTextMargins(0, 0, width, 0);
   QObject::connect(&button_, &QToolButton::pressed, this, [this] { OpenCalendar(); });

@@ -15,8 +15,8 @@ namespace {
 
 /// The filter as the user reads it.
 QString DescribeFilter(const QString& filter) {
-  if (filter == QLatin1String("*.bin")) return QStringLiteral("Settings files (*.bin)");
-  return QStringLiteral("Files (%1)").arg(filter);
+  if (filter == QLatin1String("*.bin")) return Tr("Settings files") + " (*.bin)";
+  return Tr("Files") + QStringLiteral(" (%1)").arg(filter);
 }
 
 /// A ticked box that says that the file is only read. While it is ticked, nothing in the folder can
@@ -24,7 +24,7 @@ QString DescribeFilter(const QString& filter) {
 void AddReadOnlyBox(QFileDialog& dialog) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::ReadOnly);
-  auto* const box = new QCheckBox(QStringLiteral("Open as read-only"), &dialog);
+  auto* const box = new QCheckBox(Tr("Open as read-only"), &dialog);
   box->setObjectName(QStringLiteral("readOnlyBox"));
   box->setChecked(true);
   QObject::connect(box, &QCheckBox::toggled, &dialog,
@@ -84,7 +84,7 @@ std::optional<std::string> AskForFile(const FileRequest& request, QString& folde
       return Stored(dialog.selectedFiles().front());
     }
     QMessageBox::warning(nullptr, dialog.windowTitle(),
-                         QStringLiteral("The name of a file cannot contain * or ?."));
+                         Tr("The name of a file cannot contain * or ?."));
   }
   return std::nullopt;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <string>
 #include <string_view>
@@ -15,6 +16,9 @@ inline QString Shown(std::string_view utf8) {
 inline QString Captioned(std::string_view utf8) {
   return Shown(utf8).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
+
+/// A text of the platform's own, which a host translates with a QTranslator, in context "Quorvel".
+inline QString Tr(const char* english) { return QCoreApplication::translate("Quorvel", english); }
 
 inline std::string Stored(const QString& text) { return text.toStdString(); }
 

@@ -12,6 +12,7 @@ namespace quorvel::muxhost {
 namespace {
 
 constexpr const char* kContext = "muxhost";
+constexpr std::string_view kOfPlatform = "Quorvel";
 
 }  // namespace
 
@@ -36,7 +37,7 @@ WindowLanguage::WindowLanguage(std::shared_ptr<const Language> language) {
 
 QString WindowLanguage::Texts::translate(const char* context, const char* english,
                                          const char* /*disambiguation*/, int /*count*/) const {
-  if (context != std::string_view(kContext)) return {};
+  if (context != std::string_view(kContext) && context != kOfPlatform) return {};
   const auto text = language_->window.find(english);
   return text == language_->window.end() ? QString() : QString::fromStdString(text->second);
 }

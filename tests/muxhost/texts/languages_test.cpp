@@ -108,13 +108,16 @@ std::map<std::string, Texts> TextsOfWindow() {
   namespace fs = std::filesystem;
   const std::regex call("\\b(Tr|ToSay|[sS]ay_?)\\(");
   std::map<std::string, Texts> found;
-  for (const auto& entry : fs::recursive_directory_iterator(QUORVEL_SOURCE_DIR "/apps/muxhost")) {
-    if (entry.path().extension() != ".cpp") continue;
-    std::ifstream file(entry.path());
-    const std::string source{std::istreambuf_iterator<char>(file), {}};
-    for (std::sregex_iterator it(source.begin(), source.end(), call), end; it != end; ++it) {
-      found[entry.path().filename().string()].merge(
-          TextsInCall(source, static_cast<std::size_t>(it->position() + it->length())));
+  for (const char* const folder : {"/apps/muxhost", "/platform/qt"}) {
+    for (const auto& entry :
+         fs::recursive_directory_iterator(QUORVEL_SOURCE_DIR + std::string(folder))) {
+      if (entry.path().extension() != ".cpp") continue;
+      std::ifstream file(entry.path());
+      const std::string source{std::istreambuf_iterator<char>(file), {}};
+      for (std::sregex_iterator it(source.begin(), source.end(), call), end; it != end; ++it) {
+        found[entry.path().filename().string()].merge(
+            TextsInCall(source, static_cast<std::size_t>(it->position() + it->length())));
+      }
     }
   }
   return found;
