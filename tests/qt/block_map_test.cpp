@@ -84,5 +84,22 @@ TEST_F(MuxhostBlocks, WithoutABackupTheUploadAsksFirst) {
   EXPECT_TRUE(session_.LastExchange().read_back->AsSent());
 }
 
+TEST_F(MuxhostBlocks, AStepWithinABlockThatWasSentAndStaysListedIsSeen) {
+  Download();
+  const auto expect_cell = [this](const char* text) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Cell(1) == text; })) << Cell(1) << ", not " << text;
+  };
+  session_.Control().SetSetting("CamInfo(0).title", "Gate");
+  expect_cell("Block 1, changed");
+  SendModified();
+  expect_cell("Block 1, verified");
+  session_.Control().SetSetting("CamInfo(0).title", "Yard");
+  expect_cell("Block 1, changed");
+  session_.Control().Undo();
+  expect_cell("Block 1, verified");
+  session_.Control().Redo();
+  expect_cell("Block 1, changed");
+}
+
 }  // namespace
 }  // namespace quorvel::muxhost

@@ -62,21 +62,6 @@ TEST_F(MuxhostWindow, TakesBackWhatWasAccepted) {
   EXPECT_EQ(steps(), "&Undo (off); &Redo \"Camera Setup\"; Re&view changes...; &Find...; ");
   EXPECT_TRUE(DeviceIsAsEdited());
   EXPECT_TRUE(session_.Control().ModifiedBlocks().empty());
-
-  // Steps within a block that was sent, and stays listed.
-  const auto expect_cell = [this](const char* text) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Cell(1) == text; })) << Cell(1) << ", not " << text;
-  };
-  session_.Control().SetSetting("CamInfo(0).title", "Gate");
-  expect_cell("Block 1, changed");
-  SendModified();
-  expect_cell("Block 1, verified");
-  session_.Control().SetSetting("CamInfo(0).title", "Yard");
-  expect_cell("Block 1, changed");
-  session_.Control().Undo();
-  expect_cell("Block 1, verified");
-  session_.Control().Redo();
-  expect_cell("Block 1, changed");
 }
 
 TEST_F(MuxhostWindow, ChangesAreReviewedAndTakenBackBeforeTheyGo) {
@@ -263,7 +248,10 @@ TEST_F(MuxhostWindow, LostBlockIsNamedAndSentAgain) {
   int starts = 0;
   bool again = false;
   const auto question = [&, answer = Answering("Send again")] {
-    if (qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) == nullptr) return false;
+    const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return false;
+    EXPECT_TRUE(box->detailedText().startsWith("CamInfo(0).ActGrid(16): 165 (block 86)\n"))
+        << box->detailedText().toStdString();
     EXPECT_EQ(Cell(85) + ", " + Cell(86), "Block 85, verified, Block 86, failed");
     EXPECT_NE(session_.Device().ReadBlock(86), std::vector<Byte>(16, 0xA5));
     again = true;

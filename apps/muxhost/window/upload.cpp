@@ -1,7 +1,10 @@
 #include "muxhost/window/upload.h"
 
 #include <QPushButton>
+#include <algorithm>
+#include <set>
 
+#include "muxhost/review_text.h"
 #include "muxhost/window/backup.h"
 #include "muxhost/window/plain_box.h"
 #include "muxhost/window/review_box.h"
@@ -10,6 +13,27 @@
 #include "muxhost/window/words.h"
 
 namespace quorvel::muxhost {
+
+namespace {
+
+/// The settings in blocks that the device has not, or not as sent, as the dialogs call them.
+QString InBlocksThatFailed(HostSession& session) {
+  const Exchange& upload = session.LastExchange();
+  std::set<Byte> failed;
+  if (upload.unanswered) failed.insert(*upload.unanswered);
+  if (upload.read_back) {
+    failed.insert(upload.read_back->differ.begin(), upload.read_back->differ.end());
+  }
+  QStringList lines;
+  for (const SettingRow& row : session.Control().AllSettings()) {
+    const bool is_there =
+        std::ranges::any_of(row.blocks, [&](Byte block) { return failed.contains(block); });
+    if (is_there) lines << QString::fromStdString(InWords(row, std::nullopt));
+  }
+  return lines.join('\n');
+}
+
+}  // namespace
 
 void Uploader::Upload(bool all, bool macros) {
   if (!at_.session.HasDevice() && !connect()) return;
@@ -149,6 +173,7 @@ bool Uploader::WantsToSendAgain() {
     return false;
   }
   box.setInformativeText(Tr("Send again?"));
+  box.setDetailedText(InBlocksThatFailed(at_.session));
   const auto* const again = box.addButton(Tr("Send again"), QMessageBox::AcceptRole);
   box.exec();
   return box.clickedButton() == again && at_.window.isVisible();
