@@ -335,7 +335,9 @@ class Titles : public Dialog {
     grid.SetSize(17, 4);
     grid.SetCell(1, 1, "7", 6);
     grid.SetCell(2, 1, "--", 16);
-    grid.SetValueNotes(1, {{6, "Goods entrance of the building"}});
+    Grid::ValueNotes titles(7);
+    titles.at(6) = "Goods entrance of the building";
+    grid.SetValueNotes(1, std::make_shared<Grid::ValueNotes>(titles));
     SetLayout(Column(grid));
   }
   Grid grid{*this, "grid"};

@@ -43,12 +43,9 @@ Editor::Editor(Context& context, std::string name, int caption,
   SetPasteRefusals(Text(kTextNotAChoice), Text(kTextDoesNotFit));
   SetEditsCellWords(Text(kTextEditsCells));
   SetDisabledWords(Text(kTextNotOnThisModel));
-  SetContextWords(
-      {Text(kTextUndo), Text(kTextRedo), Text(kTextPutBack), Text(kTextPutBackToDevice)});
+  const EditorWords& words = context_.texts.OfEditors();
+  SetContextWords({words.undo, words.redo, words.put_back, words.put_back_to_device});
   choose_a_value_ = Text(kTextChooseAValue);
-  close_changed_ = Text(kTextCloseChanged);
-  change_words_ = {Text(kTextChanged), Text(kTextChangedFrom), Text(kTextChangedFromNothing)};
-  help_words_ = {Text(kTextRange), Text(kTextMostCharacters), Text(kTextStored), Text(kTextBlocks)};
 }
 
 std::vector<ShownSetting> Editor::ShownSettings() const {
@@ -127,8 +124,8 @@ bool Editor::DoubtsAreSettled() {
 
 bool Editor::MayClose() {
   if (!IsChanged() || !BelongsToImage()) return true;
-  Message question{close_changed_, context_.texts.Objects().objstWarn, Message::Buttons::kOkCancel,
-                   Message::Kind::kQuestion};
+  Message question{context_.texts.OfEditors().close_changed, context_.texts.Objects().objstWarn,
+                   Message::Buttons::kOkCancel, Message::Kind::kQuestion};
   question.ok_without_user = true;
   return context_.platform.Ask(question);
 }

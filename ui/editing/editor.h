@@ -102,15 +102,6 @@ class Editor : public Dialog, public EditorPart {
   std::vector<std::function<int()>> counted_;
   std::string store_like_this_;
   std::string choose_a_value_;
-  /// The words of HelpOf, which asks for no texts.
-  struct HelpWords {
-    std::string range, most_characters, stored, blocks;
-  };
-  HelpWords help_words_;
-  std::string close_changed_;
-  struct ChangeWords {
-    std::string plain, from, from_nothing;
-  } change_words_;
 };
 
 }  // namespace quorvel

@@ -98,19 +98,20 @@ std::string Editor::HelpOf(const Widget& control, int row, int column) const {
   DeviceState& device = context_.device;
   const Configuration present{device.Record(), device.env.identity, device.BlkImage.BlkCount()};
   const std::string& none = Words().cnstrNone;
+  const EditorWords& words = context_.texts.OfEditors();
   for (const ShownSetting& shown : ShownSettings()) {
     if (!IsAbout(shown, control, row, column)) continue;
     for (const std::string& name : shown.settings) {
       const auto setting = DescribeSetting(present, name);
       if (!setting) continue;
       if (setting->type == SettingType::kText) {
-        AddLine(help, help_words_.most_characters + std::to_string(setting->most));
+        AddLine(help, words.most_characters + std::to_string(setting->most));
       } else if (const std::string range = RangeInWords(shown, *setting, none); !range.empty()) {
-        AddLine(help, help_words_.range + range);
+        AddLine(help, words.range + range);
       }
-      AddLine(help, help_words_.blocks + Numbers(*setting) + ", " + name);
+      AddLine(help, words.blocks + Numbers(*setting) + ", " + name);
     }
-    if (shown.stored) AddLine(help, help_words_.stored + std::to_string(*shown.stored));
+    if (shown.stored) AddLine(help, words.stored + std::to_string(*shown.stored));
   }
   return help;
 }

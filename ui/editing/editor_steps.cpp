@@ -32,9 +32,10 @@ std::vector<FieldChange> EditorSteps::Changes() const {
 }
 
 ChangeMark EditorSteps::MarkOf(const FieldChange& change) const {
-  const auto& words = editor_.change_words_;
-  if (!change.was) return {{}, words.plain};
-  return {*change.was, change.was->empty() ? words.from_nothing : words.from + *change.was};
+  const EditorWords& words = editor_.context_.texts.OfEditors();
+  if (!change.was) return {{}, words.changed};
+  return {*change.was,
+          change.was->empty() ? words.changed_from_nothing : words.changed_from + *change.was};
 }
 
 void EditorSteps::MarkChanges() {

@@ -1,6 +1,7 @@
 #include "ui/editing/line_grid.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "ui/editing/editor.h"
@@ -53,9 +54,10 @@ void LineGrid::GoToStart() {
     }
   }
   if (!camera_columns_.empty()) {
-    Grid::ValueNotes titles;
+    const auto titles = std::make_shared<Grid::ValueNotes>();
+    titles->reserve(kMostCameras);
     for (int camera = 0; camera < part_.Id().MaxCam; ++camera) {
-      titles.emplace(camera, part_.TitleOf(camera));
+      titles->push_back(part_.TitleOf(camera));
     }
     for (const int column : camera_columns_) grid_.SetValueNotes(column, titles);
   }

@@ -14,6 +14,14 @@ const std::string& EntryOrNone(const std::array<std::string, N>& texts, int i) {
   return i >= 0 && i < static_cast<int>(N) ? texts[static_cast<std::size_t>(i)] : none;
 }
 
+/// A text source may call back and have the texts asked for meanwhile; the first ones stay.
+template <class Words>
+void CreateOnce(std::unique_ptr<Words>& words, const TextCatalogue& texts) {
+  if (words != nullptr) return;
+  auto created = std::make_unique<Words>(texts);
+  if (words == nullptr) words = std::move(created);
+}
+
 }  // namespace
 
 GlobalCnst::GlobalCnst(const TextCatalogue& texts)
@@ -75,6 +83,20 @@ ObjStr::ObjStr(const TextCatalogue& texts)
       objstFWarn(texts.GetText(txt::kFirstDownloadOrRestore)),
       objstMesg(texts.GetText(txt::kMessage)) {}
 
+EditorWords::EditorWords(const TextCatalogue& texts)
+    : undo(texts.GetText(kTextUndo)),
+      redo(texts.GetText(kTextRedo)),
+      put_back(texts.GetText(kTextPutBack)),
+      put_back_to_device(texts.GetText(kTextPutBackToDevice)),
+      close_changed(texts.GetText(kTextCloseChanged)),
+      changed(texts.GetText(kTextChanged)),
+      changed_from(texts.GetText(kTextChangedFrom)),
+      changed_from_nothing(texts.GetText(kTextChangedFromNothing)),
+      range(texts.GetText(kTextRange)),
+      most_characters(texts.GetText(kTextMostCharacters)),
+      stored(texts.GetText(kTextStored)),
+      blocks(texts.GetText(kTextBlocks)) {}
+
 void TextCatalogue::Follow(TextCatalogue& other, std::shared_ptr<KnownTexts> known) {
   followed_ = &other;
   known_ = std::move(known);
@@ -112,15 +134,8 @@ bool TextCatalogue::CreateTextSource(const ClassFactory& classes, std::string_vi
 
 void TextCatalogue::CreateCatalogues() {
   if (followed_ != nullptr) return followed_->CreateCatalogues();
-  // A text source may call back and have the catalogues created meanwhile; the first ones stay.
-  if (constants_ == nullptr) {
-    auto constants = std::make_unique<GlobalCnst>(*this);
-    if (constants_ == nullptr) constants_ = std::move(constants);
-  }
-  if (objects_ == nullptr) {
-    auto objects = std::make_unique<ObjStr>(*this);
-    if (objects_ == nullptr) objects_ = std::move(objects);
-  }
+  CreateOnce(constants_, *this);
+  CreateOnce(objects_, *this);
 }
 
 const GlobalCnst& TextCatalogue::Constants() {
@@ -133,6 +148,12 @@ const ObjStr& TextCatalogue::Objects() {
   if (followed_ != nullptr) return followed_->Objects();
   CreateCatalogues();
   return *objects_;
+}
+
+const EditorWords& TextCatalogue::OfEditors() {
+  if (followed_ != nullptr) return followed_->OfEditors();
+  CreateOnce(of_editors_, *this);
+  return *of_editors_;
 }
 
 }  // namespace quorvel

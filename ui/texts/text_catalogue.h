@@ -47,6 +47,15 @@ struct ObjStr {
   const std::string objstCam, objstAlarm, objstFWarn, objstMesg;
 };
 
+/// What all editors say of steps, marks and help; filled once, for the first of them.
+struct EditorWords {
+  explicit EditorWords(const TextCatalogue& texts);
+
+  const std::string undo, redo, put_back, put_back_to_device;
+  const std::string close_changed, changed, changed_from, changed_from_nothing;
+  const std::string range, most_characters, stored, blocks;
+};
+
 /// Every text that the user sees, by id. The built-in English texts can be replaced by a text
 /// source that the host offers as a class.
 class TextCatalogue {
@@ -71,6 +80,8 @@ class TextCatalogue {
   /// The catalogues, created when they are missing.
   [[nodiscard]] const GlobalCnst& Constants();
   [[nodiscard]] const ObjStr& Objects();
+  /// The same of these.
+  [[nodiscard]] const EditorWords& OfEditors();
 
  private:
   std::shared_ptr<AutomationObject> source_;
@@ -79,6 +90,7 @@ class TextCatalogue {
   std::shared_ptr<KnownTexts> known_;
   std::unique_ptr<GlobalCnst> constants_;
   std::unique_ptr<ObjStr> objects_;
+  std::unique_ptr<EditorWords> of_editors_;
 };
 
 }  // namespace quorvel

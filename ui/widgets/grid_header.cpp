@@ -31,10 +31,19 @@ std::vector<Grid::HeaderCell> Grid::Header() const {
 
 namespace {
 
-const std::string& NoteOf(const std::map<int, std::string>& notes, int key) {
-  static const std::string kNothing;
-  const auto it = notes.find(key);
-  return it == notes.end() ? kNothing : it->second;
+const std::string& Nothing() {
+  static const std::string nothing;
+  return nothing;
+}
+
+const std::string& NoteOf(const std::map<int, std::string>& notes, int row) {
+  const auto it = notes.find(row);
+  return it == notes.end() ? Nothing() : it->second;
+}
+
+const std::string& NoteOf(const Grid::ValueNotes& notes, int value) {
+  const auto place = static_cast<std::size_t>(value);
+  return value < 0 || place >= notes.size() ? Nothing() : notes[place];
 }
 
 }  // namespace
@@ -44,7 +53,7 @@ const std::string& Grid::RowNote(int row) const { return NoteOf(row_notes_, row)
 const std::string& Grid::CellNote(int row, int column) const {
   const auto notes = value_notes_.find(column);
   const bool has_value = notes != value_notes_.end() && row >= header_rows_ && row < rows_;
-  return has_value ? NoteOf(notes->second, Value(row, column))
+  return has_value ? NoteOf(*notes->second, Value(row, column))
                    : NoteOf(row_notes_, column == 0 ? row : kNone);
 }
 
@@ -55,9 +64,11 @@ void Grid::SetRowNote(int row, std::string note) {
   Redraw(Aspect::kContent);
 }
 
-void Grid::SetValueNotes(int column, ValueNotes notes) {
-  ValueNotes& there = value_notes_[column];
-  if (there == notes) return;
+void Grid::SetValueNotes(int column, std::shared_ptr<const ValueNotes> notes) {
+  static const auto nothing = std::make_shared<const ValueNotes>();
+  auto& there = value_notes_[column];
+  if (notes == nullptr) notes = nothing;
+  if (there != nullptr && *there == *notes) return;
   there = std::move(notes);
   Redraw(Aspect::kContent);
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -78,9 +79,9 @@ class QUORVEL_API Grid : public Widget {
   /// Names a column of which the header says nothing.
   void SetColumnName(int column, std::string name);
   void SetRowNote(int row, std::string note);
-  /// Notes by the value that a cell stands for.
-  using ValueNotes = std::map<int, std::string>;
-  void SetValueNotes(int column, ValueNotes notes);
+  /// Notes by the value that a cell stands for, from 0; columns may share them.
+  using ValueNotes = std::vector<std::string>;
+  void SetValueNotes(int column, std::shared_ptr<const ValueNotes> notes);
   /// Makes a column no narrower than so many characters.
   void SetLeastWidth(int column, int characters);
   void SetAlign(Align align);
@@ -156,7 +157,7 @@ class QUORVEL_API Grid : public Widget {
   std::vector<CellValue> cells_{1};  ///< column by column, so that one is easily added
   std::vector<int> least_widths_{0};
   std::map<int, std::string> row_notes_;
-  std::map<int, ValueNotes> value_notes_;    ///< by column
+  std::map<int, std::shared_ptr<const ValueNotes>> value_notes_;  ///< by column
   std::map<int, std::string> column_names_;  ///< of columns that were given one
   CellChanges changes_;
 };
