@@ -84,10 +84,10 @@ class HostSession final : public MainMenuEvents, private TransferObserver {
   void OpenMenu();
   /// Command 17: the 32 bytes of a camera's activity grid; nothing when there is no such camera.
   [[nodiscard]] std::optional<std::vector<Byte>> ReadZones(int camera);
-  /// Whether a camera detects motion, as the control holds it: otherwise its zones mean nothing. Of
-  /// a camera that there is not, it does.
   /// What the device calls a camera, from 0; UTF-8.
   [[nodiscard]] std::string TitleOf(int camera) const;
+  /// Whether a camera detects motion, as the control holds it: otherwise its zones mean nothing. Of
+  /// a camera that there is not, it does.
   [[nodiscard]] bool DetectsMotion(int camera) const;
   /// Hands an edited grid of 32 bytes to the control, which lists the blocks that change.
   void WriteZones(int camera, std::span<const Byte> zones);
